@@ -1,0 +1,88 @@
+#include "vellox/host/services/ImageProbe.h"
+
+#include <stb/stb_image.h>
+#include <tiffio.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <system_error>
+
+namespace vellox::host {
+
+namespace {
+
+// A TIFF directory of an honest image is a few kilobytes; its strip tables may be some megabytes.
+constexpr tmsize_t kMaxTiffAllocation = 64 << 20;
+
+int readBytes(void* user, char* target, int count) {
+    auto& file = *static_cast<std::ifstream*>(user);
+    file.read(target, count);
+    return static_cast<int>(file.gcount());
+}
+
+void skipBytes(void* user, int count) {
+    static_cast<std::ifstream*>(user)->seekg(count, std::ios::cur);
+}
+
+int isAtEnd(void* user) {
+    return !static_cast<std::ifstream*>(user)->good();
+}
+
+bool readRasterSize(std::ifstream& file, int& width, int& height) {
+    const stbi_io_callbacks callbacks{readBytes, skipBytes, isAtEnd};
+    int components = 0;
+    return stbi_info_from_callbacks(&callbacks, &file, &width, &height, &components) != 0;
+}
+
+// Returning 1 says that the message is dealt with and needn't go to the standard error stream.
+int dropMessage(TIFF*, void*, const char*, const char*, va_list) {
+    return 1;
+}
+
+bool readTiffSize(const std::string& path, int& width, int& height) {
+    const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
+                                                                                   TIFFOpenOptionsFree);
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxTiffAllocation);
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), dropMessage, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), dropMessage, nullptr);
+    const std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff(TIFFOpenExt(path.c_str(), "rm", options.get()),
+                                                           TIFFClose);
+    return tiff && TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &width) &&
+           TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &height);
+}
+
+bool looksLikeTiff(std::ifstream& file) {
+    std::array<char, 4> magic{};
+    file.read(magic.data(), magic.size());
+    file.clear();
+    file.seekg(0);
+    const bool little = magic[0] == 'I' && magic[1] == 'I' && (magic[2] == 42 || magic[2] == 43);
+    const bool big = magic[0] == 'M' && magic[1] == 'M' && (magic[3] == 42 || magic[3] == 43);
+    return little || big;
+}
+
+} // namespace
+
+bool readImageSize(const std::string& path, double& width, double& height) {
+    // Anything but a regular file, such as a pipe, might never answer.
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure))
+        return false;
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return false;
+    int w = 0, h = 0;
+    if (!(looksLikeTiff(file) ? readTiffSize(path, w, h) : readRasterSize(file, w, h)))
+        return false;
+    // A BMP that is stored from the top down says so with a negative height.
+    if (w <= 0 || h == 0 || h < -0x7fffffff)
+        return false;
+    width = w;
+    height = std::abs(h);
+    return true;
+}
+
+} // namespace vellox::host
