@@ -1,0 +1,227 @@
+#include "vellox/foundation/Dimension.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+
+#include <array>
+#include <boost/regex.hpp>
+
+namespace vellox {
+
+namespace {
+
+constexpr double kNoFactor = 1.0;
+
+struct UnitRow {
+    const wchar_t* text;
+    double emu;
+    double pixel;
+    double twips;
+};
+
+// Indexed by Dimension::Units. These are products of rounded ratios on purpose, and decks that exist depend
+// on them: don't mend 0.0139 to 1/72. There is no twips factor for EMU, and none is wanted.
+constexpr std::array<UnitRow, 10> kUnits{{
+    {L"px", 9525, 1, (1.0 / 150) * 1440},
+    {L"in", 914400, 150, 1440},
+    {L"mm", 0.03937 * 914400, 0.03937 * 150, 0.03937 * 1440},
+    {L"cm", 0.3937 * 914400, 0.3937 * 150, 0.3937 * 1440},
+    {L"pt", 0.0139 * 914400, 0.0139 * 150, 20},
+    {L"pi", 0.0833 * 914400, 0.0833 * 150, 0.0833 * 1440},
+    {L"%", 1, 1, 1},
+    {L"*", 1, 1, 1},
+    {L"twips", (1.0 / 1440) * 914400, (1.0 / 1440) * 150, 1},
+    {L"emus", 1, (1.0 / 914400) * 150, kNoFactor},
+}};
+
+constexpr double kEmuToPoints = 1.0 / 12700;
+constexpr double kEmuToDXA = 20.0 / 12700;
+constexpr double kEmuToHalfPoints = 2.0 / 12700;
+constexpr double kEmuToEighthsPoints = 8.0 / 12700;
+
+const UnitRow* findRow(Dimension::Units unit) {
+    return unit >= Dimension::px && unit <= Dimension::emus ? &kUnits[static_cast<std::size_t>(unit)]
+                                                            : nullptr;
+}
+
+double factor(Dimension::Units unit, double UnitRow::*column) {
+    const UnitRow* row = findRow(unit);
+    return row ? row->*column : kNoFactor;
+}
+
+struct Pieces {
+    std::wstring number;
+    std::wstring units;
+};
+
+Pieces split(const std::wstring& text) {
+    static const boost::wregex pattern(L"\\s*"
+                                       L"(?<number>-?[0-9.]*)"
+                                       L"\\s*"
+                                       L"(?<units>[a-zA-Z%*]*)"
+                                       L"\\s*");
+    boost::wsmatch match;
+    // A search that may match nothing always succeeds at the first character: what doesn't fit is ignored.
+    boost::regex_search(text, match, pattern);
+    return {toLowerString(match[L"number"].str()), match[L"units"].str()};
+}
+
+} // namespace
+
+Dimension::Dimension() : Dimension(L"1in") {}
+
+Dimension::Dimension(const std::wstring& value) : rawValue_(value) {
+    parse();
+}
+
+Dimension& Dimension::operator=(const Dimension& other) {
+    if (this != &other)
+        setRawValue(other.rawValue_);
+    return *this;
+}
+
+bool Dimension::isValid(const std::wstring& text) {
+    const Pieces pieces = split(text);
+    return !pieces.number.empty() && (pieces.units.empty() || str2dim(pieces.units) != invalid);
+}
+
+const Dimension::Units& Dimension::str2dim(const std::wstring& text) {
+    static constexpr std::array<Units, 11> values{px,      in,           mm,    cm,   pt,     pi,
+                                                  percent, proportional, twips, emus, invalid};
+    const std::wstring lower = toLowerString(text);
+    std::size_t i = 0;
+    while (i < kUnits.size() && lower != kUnits[i].text)
+        ++i;
+    return values[i];
+}
+
+const std::wstring& Dimension::dim2str(Units unit) {
+    static const std::array<std::wstring, kUnits.size()> texts = [] {
+        std::array<std::wstring, kUnits.size()> made;
+        for (std::size_t i = 0; i < made.size(); ++i)
+            made[i] = kUnits[i].text;
+        return made;
+    }();
+    static const std::wstring none;
+    return findRow(unit) ? texts[static_cast<std::size_t>(unit)] : none;
+}
+
+void Dimension::setRawValue(const std::wstring& value) {
+    if (&value != &rawValue_)
+        rawValue_ = value;
+    parse();
+}
+
+void Dimension::parse() {
+    Pieces pieces = split(rawValue_);
+    if (pieces.number == L"-")
+        raise(dom_error::invalidDimensionSign());
+    if (pieces.number.empty())
+        pieces.number = L"0";
+    units_ = str2dim(pieces.units);
+    if (units_ == invalid) {
+        if (!pieces.units.empty())
+            raise(dom_error::invalidDimensionUnits(pieces.units));
+        units_ = px;
+    }
+    rawValue_ = pieces.number + dim2str(units_);
+    numericValue_ = str2double(pieces.number);
+}
+
+double Dimension::toEMU() const {
+    return numericValue_ * factor(units_, &UnitRow::emu);
+}
+
+int Dimension::getEMUNumber() const {
+    return truncateToInt(toEMU());
+}
+
+std::wstring Dimension::getEMUValue() const {
+    return num2str(getEMUNumber());
+}
+
+double Dimension::getPointNumber() const {
+    return units_ == pt ? numericValue_ : toEMU() * kEmuToPoints;
+}
+
+std::wstring Dimension::getPointValue() const {
+    return num2str(getPointNumber());
+}
+
+double Dimension::getDXANumber() const {
+    return toEMU() * kEmuToDXA;
+}
+
+std::wstring Dimension::getDXAValue() const {
+    return num2str(getDXANumber());
+}
+
+std::wstring Dimension::getHalfPointValue() const {
+    return num2str(truncateToInt(toEMU() * kEmuToHalfPoints));
+}
+
+std::wstring Dimension::getEighthsPointValue() const {
+    return num2str(truncateToInt(toEMU() * kEmuToEighthsPoints));
+}
+
+std::wstring Dimension::getPixelValue() const {
+    return num2str(numericValue_ * factor(units_, &UnitRow::pixel));
+}
+
+std::wstring Dimension::getTwipsValue() const {
+    return num2str(truncateToInt(numericValue_ * factor(units_, &UnitRow::twips)));
+}
+
+double Dimension::getPCTNumber() const {
+    return numericValue_ * 50;
+}
+
+std::wstring Dimension::getPCTValue() const {
+    return num2str(getPCTNumber());
+}
+
+std::wstring Dimension::getPercentValue() const {
+    return num2str(numericValue_);
+}
+
+std::wstring Dimension::getProportionalValue() const {
+    return num2str(numericValue_);
+}
+
+namespace {
+
+// What two dimensions are compared by: their numbers if they share a unit, else points.
+struct Comparable {
+    double left;
+    double right;
+};
+
+Comparable toComparable(const Dimension& left, const Dimension& right) {
+    if (left.getUnits() == right.getUnits())
+        return {left.getNumericValue(), right.getNumericValue()};
+    return {left.getPointNumber(), right.getPointNumber()};
+}
+
+} // namespace
+
+bool Dimension::operator==(const Dimension& other) const {
+    const Comparable numbers = toComparable(*this, other);
+    return numbers.left == numbers.right;
+}
+
+bool Dimension::operator!=(const Dimension& other) const {
+    return !(*this == other);
+}
+
+bool Dimension::operator<(const Dimension& other) const {
+    const Comparable numbers = toComparable(*this, other);
+    return numbers.left < numbers.right;
+}
+
+bool Dimension::operator>(const Dimension& other) const {
+    const Comparable numbers = toComparable(*this, other);
+    return numbers.left > numbers.right;
+}
+
+} // namespace vellox

@@ -1,0 +1,237 @@
+#include "vellox/foundation/FileUtils.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Exception.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/host/services/FileSystem.h"
+#include "vellox/host/services/HostServices.h"
+#include "vellox/host/services/Utf8.h"
+
+#include <boost/regex.hpp>
+#include <map>
+
+namespace vellox {
+
+namespace {
+
+namespace fsys = hostfx::filesystem;
+using fsys::Path;
+
+// Runs one operation; whatever the file system layer throws becomes the one identifier.
+template <class Id, class Operation>
+auto orRaise(const Id& id, Operation operation) {
+    try {
+        return operation();
+    } catch (const fsys::FsysExceptionBase&) {
+        raise(id);
+    }
+}
+
+boost::system::error_code notFoundCode() {
+    return boost::system::error_code(2, boost::system::generic_category());
+}
+
+boost::system::error_code plainCode() {
+    return boost::system::error_code(0, boost::system::system_category());
+}
+
+bool isNetworkPath(const std::wstring& path) {
+    return path.compare(0, 2, L"\\\\") == 0;
+}
+
+const std::map<std::wstring, const wchar_t*>& getContentTypes() {
+    static const std::map<std::wstring, const wchar_t*> types{
+        {L"bmp", L"image/bmp"},
+        {L"css", L"text/css"},
+        {L"txt", L"text/plain"},
+        {L"cur", L"image/x-icon"},
+        {L"emf", L"image/x-emf"},
+        {L"eps", L"image/eps"},
+        {L"emz", L"image/x-emz"},
+        {L"gif", L"image/gif"},
+        {L"html", L"text/html"},
+        {L"jpe", L"image/jpeg"},
+        {L"jpeg", L"image/jpeg"},
+        {L"jpg", L"image/jpeg"},
+        {L"js", L"application/javascript"},
+        {L"json", L"application/json"},
+        {L"png", L"image/png"},
+        {L"psd", L"image/psd"},
+        {L"rtf", L"text/rtf"},
+        {L"svg", L"image/svg+xml"},
+        {L"tif", L"image/tiff"},
+        {L"tiff", L"image/tiff"},
+        {L"ttf", L"application/x-font-ttf"},
+    };
+    return types;
+}
+
+// The path with links and dots resolved as far as it exists; what lies beyond is resolved by its text.
+Path makeWeaklyCanonical(const Path& path) {
+    auto element = path.native().begin();
+    const auto end = path.native().end();
+    Path result;
+    if (element != end)
+        result = Path(*element++);
+    while (element != end && fsys::exists(result / Path(*element)))
+        result = result / Path(*element++);
+    if (!result.isEmpty() && !isNetworkPath(result.toGeneric()))
+        result = fsys::makeCanonical(result, Path(FileUtils::getCurrentDirectory()));
+    for (; element != end; ++element) {
+        if (*element == "..")
+            result = result.getParent();
+        else if (!element->empty() && *element != ".")
+            result = result / Path(*element);
+    }
+    return result;
+}
+
+} // namespace
+
+std::wstring FileUtils::appendPath(const std::wstring& base, const std::wstring& tail) {
+    return orRaise(dom_error::failedToCombinePaths(), [&] {
+        const Path start(base);
+        return (tail.empty() ? start : start / Path(tail)).toGeneric();
+    });
+}
+
+std::wstring FileUtils::extractFilename(const std::wstring& path) {
+    return orRaise(dom_error::failedToDetermineFilename(), [&] { return Path(path).getFilename(); });
+}
+
+std::wstring FileUtils::getFileNameExtension(const std::wstring& path) {
+    return orRaise(dom_error::failedToDetermineFilename(), [&] { return Path(path).getExtension(); });
+}
+
+std::wstring FileUtils::getFileNameStem(const std::wstring& path) {
+    return orRaise(dom_error::failedToDetermineFilename(), [&] { return Path(path).getStem(); });
+}
+
+std::wstring FileUtils::extractPath(const std::wstring& path, bool canonical) {
+    try {
+        const Path parent = Path(path).getParent();
+        return (canonical ? makeWeaklyCanonical(parent) : parent).toGeneric();
+    } catch (const fsys::FsysExceptionBase& failure) {
+        throw FileSystem(failure.what(), path, plainCode());
+    }
+}
+
+std::wstring FileUtils::normalizePath(const std::wstring& path) {
+    if (isNetworkPath(path))
+        return path;
+    try {
+        return Path(path).toGeneric();
+    } catch (const fsys::FsysExceptionBase& failure) {
+        throw FileSystem(failure.what(), path, plainCode());
+    }
+}
+
+std::wstring FileUtils::resolvePath(const std::wstring& path) {
+    if (isNetworkPath(path))
+        return path;
+    try {
+        return fsys::makeCanonical(Path(path), Path(getCurrentDirectory())).toGeneric();
+    } catch (const fsys::FsysPathNotFound& failure) {
+        throw PathNotFound(failure.what(), path, notFoundCode());
+    } catch (const fsys::FsysExceptionBase& failure) {
+        throw FileSystem(failure.what(), path, plainCode());
+    }
+}
+
+bool FileUtils::fileExists(const std::wstring& path) {
+    return orRaise(dom_error::failedToQueryFileState(), [&] { return fsys::exists(Path(path)); });
+}
+
+bool FileUtils::isReadOnlyFile(const std::wstring& path) {
+    try {
+        return fsys::lacksOwnerWrite(Path(path));
+    } catch (const fsys::FsysExceptionBase& failure) {
+        raise(dom_error::fileSystemError(L"determine read-write permissions", fromUtf8(failure.what())));
+    }
+}
+
+bool FileUtils::createDirectory(const std::wstring& path) {
+    return orRaise(dom_error::failedToCreateDirectory(), [&] {
+        const Path folder(path);
+        if (!fsys::exists(folder))
+            fsys::createDirectory(folder);
+        return true;
+    });
+}
+
+bool FileUtils::removeDirectory(const std::wstring& path) {
+    fsys::removeTree(Path(path));
+    return true;
+}
+
+bool FileUtils::removeFile(const std::wstring& path) {
+    return orRaise(dom_error::failedToCopyFile(), [&] {
+        const Path file(path);
+        if (fsys::exists(file))
+            fsys::removeTree(file);
+        return true;
+    });
+}
+
+bool FileUtils::copyFile(const std::wstring& source, const std::wstring& target, bool makeWritable) {
+    removeFile(target);
+    return orRaise(dom_error::failedToCopyFile(), [&] {
+        fsys::copyFile(Path(source), Path(target));
+        if (makeWritable)
+            fsys::addOwnerWrite(Path(target));
+        return true;
+    });
+}
+
+bool FileUtils::copyFileToFolder(const std::wstring& source, const std::wstring& folder, bool makeWritable) {
+    return copyFile(source, appendPath(folder, extractFilename(source)), makeWritable);
+}
+
+std::wstring FileUtils::getCurrentDirectory() {
+    return fromUtf8(host::getHostServices().getCurrentDirectory());
+}
+
+std::wstring FileUtils::getTempName() {
+    return fromUtf8(host::getHostServices().getTempName());
+}
+
+std::wstring FileUtils::makeTempDirectory() {
+    const std::wstring folder = getTempName();
+    if (!createDirectory(folder))
+        raise(dom_error::cannotCreateTemporaryDirectory());
+    return folder;
+}
+
+std::wstring FileUtils::getContentType(const std::wstring& path) {
+    const auto found = getContentTypes().find(toLowerString(getFileNameExtension(path)));
+    return found == getContentTypes().end() ? std::wstring() : found->second;
+}
+
+void FileUtils::validateFileName(const std::wstring& name) {
+    // The anchor binds to "nul" alone: the other names are refused anywhere in a stem. That is how names
+    // have always been checked here, and scripts rely on it.
+    static const boost::wregex reserved(L"^(nul)|(con)|(aux)|(prn)|(com[1-9])|(lpt[1-9])",
+                                        boost::regex::perl | boost::regex::icase);
+    static const boost::wregex forbidden(L".*[:<>\"/\\|?*].*");
+    const std::wstring stem = getFileNameStem(name);
+    if (boost::regex_search(stem, reserved))
+        raise(dom_error::reservedWindowsFileName(stem));
+    if (boost::regex_search(stem, forbidden))
+        raise(dom_error::reservedWindowsFileNameChar(stem));
+}
+
+bool FileUtils::unzip(const std::wstring& zipPath, const std::wstring& folder) {
+    return host::getHostServices().unzip(zipPath, folder);
+}
+
+std::wstring FileUtils::getHostRoot() {
+    return fromUtf8(host::getHostServices().getHostRoot());
+}
+
+std::wstring FileUtils::getAddondir(const std::wstring& name) {
+    const std::wstring folder = fromUtf8(host::getHostServices().findAddon(toUtf8(name)));
+    return folder.empty() ? appendPath(fromUtf8(host::getHostServices().getAddonRoot()), name) : folder;
+}
+
+} // namespace vellox

@@ -1,0 +1,238 @@
+/// @file
+/// Every message identifier of the library, as a class that knows its catalog and takes exactly the
+/// arguments that the text has blanks for. The texts stand in resources/messages; a test compares the two.
+
+#ifndef VELLOX_FOUNDATION_IDENTIFIERS_H
+#define VELLOX_FOUNDATION_IDENTIFIERS_H
+
+#include <string>
+
+#include "vellox/foundation/MsgID.h"
+
+namespace vellox {
+
+/// Errors of lengths, files and table shape.
+namespace dom_error {
+
+inline constexpr char kCatalog[] = "vellox:dom_error";
+
+/// The number of a length is a lone minus sign.
+struct VELLOX_API invalidDimensionSign : MsgID {
+    invalidDimensionSign() : MsgID(kCatalog, "invalidDimensionSign", 0) {}
+};
+/// The unit of a length isn't known.
+struct VELLOX_API invalidDimensionUnits : MsgID {
+    explicit invalidDimensionUnits(const std::wstring& units)
+        : MsgID(kCatalog, "invalidDimensionUnits", {units}) {}
+};
+/// A file name stem holds a name that Windows keeps for a device.
+struct VELLOX_API reservedWindowsFileName : MsgID {
+    explicit reservedWindowsFileName(const std::wstring& stem)
+        : MsgID(kCatalog, "reservedWindowsFileName", {stem}) {}
+};
+/// A file name stem holds a character that Windows doesn't allow.
+struct VELLOX_API reservedWindowsFileNameChar : MsgID {
+    explicit reservedWindowsFileNameChar(const std::wstring& stem)
+        : MsgID(kCatalog, "reservedWindowsFileNameChar", {stem}) {}
+};
+/// The permissions of a file can't be read.
+struct VELLOX_API fileSystemError : MsgID {
+    fileSystemError(const std::wstring& action, const std::wstring& reason)
+        : MsgID(kCatalog, "fileSystemError", {action, reason}) {}
+};
+/// A temporary folder can't be made.
+struct VELLOX_API cannotCreateTemporaryDirectory : MsgID {
+    cannotCreateTemporaryDirectory() : MsgID(kCatalog, "cannotCreateTemporaryDirectory", 0) {}
+};
+/// Two paths can't be joined.
+struct VELLOX_API failedToCombinePaths : MsgID {
+    failedToCombinePaths() : MsgID(kCatalog, "failedToCombinePaths", 0) {}
+};
+/// A file can't be copied, or can't be removed.
+struct VELLOX_API failedToCopyFile : MsgID {
+    failedToCopyFile() : MsgID(kCatalog, "failedToCopyFile", 0) {}
+};
+/// A folder can't be made.
+struct VELLOX_API failedToCreateDirectory : MsgID {
+    failedToCreateDirectory() : MsgID(kCatalog, "failedToCreateDirectory", 0) {}
+};
+/// A path has no file name.
+struct VELLOX_API failedToDetermineFilename : MsgID {
+    failedToDetermineFilename() : MsgID(kCatalog, "failedToDetermineFilename", 0) {}
+};
+/// It can't be told whether a file exists.
+struct VELLOX_API failedToQueryFileState : MsgID {
+    failedToQueryFileState() : MsgID(kCatalog, "failedToQueryFileState", 0) {}
+};
+/// The folder of a presentation's path can't be resolved.
+struct VELLOX_API invalidFilePath : MsgID {
+    explicit invalidFilePath(const std::wstring& path) : MsgID(kCatalog, "invalidFilePath", {path}) {}
+};
+/// A table row has more or fewer entries than its table has columns; rows count from 1.
+struct VELLOX_API entriesColumnsMismatch : MsgID {
+    entriesColumnsMismatch(const std::wstring& row, const std::wstring& entries, const std::wstring& columns)
+        : MsgID(kCatalog, "entriesColumnsMismatch", {row, entries, columns}) {}
+};
+
+} // namespace dom_error
+
+/// Errors of presentations and what is in them.
+namespace ppt_error {
+
+inline constexpr char kCatalog[] = "vellox:ppt_error";
+
+/// A property or format is given a value outside its vocabulary or range.
+struct VELLOX_API invalidPropertyValue : MsgID {
+    explicit invalidPropertyValue(const std::wstring& value)
+        : MsgID(kCatalog, "invalidPropertyValue", {value}) {}
+};
+/// A logical property is given what is neither logical nor a number.
+struct VELLOX_API invalidLogicalPropertyValue : MsgID {
+    invalidLogicalPropertyValue() : MsgID(kCatalog, "invalidLogicalPropertyValue", 0) {}
+};
+/// A style is given what isn't a list of formats.
+struct VELLOX_API invalidFormatStyle : MsgID {
+    invalidFormatStyle() : MsgID(kCatalog, "invalidFormatStyle", 0) {}
+};
+/// A table is made from what holds no table.
+struct VELLOX_API invalidConstructorArg : MsgID {
+    invalidConstructorArg() : MsgID(kCatalog, "invalidConstructorArg", 0) {}
+};
+/// What is to be added can't be.
+struct VELLOX_API invalidAddArg : MsgID {
+    invalidAddArg() : MsgID(kCatalog, "invalidAddArg", 0) {}
+};
+/// What is to take a place can't, or the place can't be taken.
+struct VELLOX_API invalidReplaceArg : MsgID {
+    invalidReplaceArg() : MsgID(kCatalog, "invalidReplaceArg", 0) {}
+};
+/// A slide, row or column subscript is 0; these count from 1.
+struct VELLOX_API positiveSubscript : MsgID {
+    positiveSubscript() : MsgID(kCatalog, "positiveSubscript", 0) {}
+};
+/// A slide subscript is above the number of slides.
+struct VELLOX_API badSlideSubscript : MsgID {
+    badSlideSubscript(const std::wstring& subscript, const std::wstring& slides)
+        : MsgID(kCatalog, "badSlideSubscript", {subscript, slides}) {}
+};
+/// A row subscript is above the number of rows.
+struct VELLOX_API badRowSubscript : MsgID {
+    badRowSubscript(const std::wstring& subscript, const std::wstring& rows)
+        : MsgID(kCatalog, "badRowSubscript", {subscript, rows}) {}
+};
+/// A column subscript is above the number of entries in its row.
+struct VELLOX_API badColSubscript : MsgID {
+    badColSubscript(const std::wstring& subscript, const std::wstring& columns)
+        : MsgID(kCatalog, "badColSubscript", {subscript, columns}) {}
+};
+/// A cell holds what no table cell can show; both count from 1.
+struct VELLOX_API invalidObjectForTable : MsgID {
+    invalidObjectForTable(const std::wstring& row, const std::wstring& column)
+        : MsgID(kCatalog, "invalidObjectForTable", {row, column}) {}
+};
+/// A node that already has a parent is to get another.
+struct VELLOX_API failedToAppendChild : MsgID {
+    failedToAppendChild() : MsgID(kCatalog, "failedToAppendChild", 0) {}
+};
+/// A picture that stands nowhere is to be replaced.
+struct VELLOX_API pictureCannotBeReplaced : MsgID {
+    pictureCannotBeReplaced() : MsgID(kCatalog, "pictureCannotBeReplaced", 0) {}
+};
+/// A table that stands nowhere is to be replaced.
+struct VELLOX_API tableCannotBeReplaced : MsgID {
+    tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}
+};
+/// A placeholder is used that a picture or a table has replaced.
+struct VELLOX_API placeholderWasReplacedByObject : MsgID {
+    placeholderWasReplacedByObject() : MsgID(kCatalog, "placeholderWasReplacedByObject", 0) {}
+};
+/// The template has no layout of this name.
+struct VELLOX_API invalidLayoutName : MsgID {
+    explicit invalidLayoutName(const std::wstring& layout) : MsgID(kCatalog, "invalidLayoutName", {layout}) {}
+};
+/// The template has no layout of this name under that slide master.
+struct VELLOX_API invalidLayoutOrSlideMasterName : MsgID {
+    invalidLayoutOrSlideMasterName(const std::wstring& layout, const std::wstring& master)
+        : MsgID(kCatalog, "invalidLayoutOrSlideMasterName", {layout, master}) {}
+};
+/// A file can't be opened; the argument may begin with the reason.
+struct VELLOX_API cannotOpenFile : MsgID {
+    explicit cannotOpenFile(const std::wstring& file) : MsgID(kCatalog, "cannotOpenFile", {file}) {}
+};
+/// A template can't be opened.
+struct VELLOX_API cannotOpenTemplate : MsgID {
+    explicit cannotOpenTemplate(const std::wstring& reason)
+        : MsgID(kCatalog, "cannotOpenTemplate", {reason}) {}
+};
+/// A package can be read, but isn't a presentation to build on.
+struct VELLOX_API invalidTemplate : MsgID {
+    explicit invalidTemplate(const std::wstring& package) : MsgID(kCatalog, "invalidTemplate", {package}) {}
+};
+/// A folder on the way to a presentation doesn't exist.
+struct VELLOX_API pathNotFound : MsgID {
+    explicit pathNotFound(const std::wstring& path) : MsgID(kCatalog, "pathNotFound", {path}) {}
+};
+/// A part of a package isn't XML that can be read.
+struct VELLOX_API partDOMBuildError : MsgID {
+    partDOMBuildError(const std::wstring& part, const std::wstring& reason)
+        : MsgID(kCatalog, "partDOMBuildError", {part, reason}) {}
+};
+
+} // namespace ppt_error
+
+/// Messages about the life of objects.
+namespace ppt_debug {
+
+inline constexpr char kCatalog[] = "vellox:ppt_debug";
+
+/// An object has been made.
+struct VELLOX_API objCreated : MsgID {
+    explicit objCreated(const std::wstring& object) : MsgID(kCatalog, "objCreated", {object}) {}
+};
+/// An object ends.
+struct VELLOX_API objDestroyed : MsgID {
+    explicit objDestroyed(const std::wstring& object) : MsgID(kCatalog, "objDestroyed", {object}) {}
+};
+
+} // namespace ppt_debug
+
+/// Messages about what is being done.
+namespace ppt_progress {
+
+inline constexpr char kCatalog[] = "vellox:ppt_progress";
+
+/// A presentation has taken a child.
+struct VELLOX_API appendChildMsg : MsgID {
+    explicit appendChildMsg(const std::wstring& child) : MsgID(kCatalog, "appendChildMsg", {child}) {}
+};
+/// A template is about to be read.
+struct VELLOX_API docParsingTemplateMsg : MsgID {
+    explicit docParsingTemplateMsg(const std::wstring& file)
+        : MsgID(kCatalog, "docParsingTemplateMsg", {file}) {}
+};
+
+} // namespace ppt_progress
+
+/// Messages about what was not done as asked.
+namespace ppt_warning {
+
+inline constexpr char kCatalog[] = "vellox:ppt_warning";
+
+/// The output path of an open presentation is to change.
+struct VELLOX_API cannotChangeOutputPath : MsgID {
+    cannotChangeOutputPath() : MsgID(kCatalog, "cannotChangeOutputPath", 0) {}
+};
+/// The template path of an open presentation is to change.
+struct VELLOX_API cannotChangeTemplatePath : MsgID {
+    cannotChangeTemplatePath() : MsgID(kCatalog, "cannotChangeTemplatePath", 0) {}
+};
+/// The template has no table style of this name.
+struct VELLOX_API invalidTableStyle : MsgID {
+    explicit invalidTableStyle(const std::wstring& style) : MsgID(kCatalog, "invalidTableStyle", {style}) {}
+};
+
+} // namespace ppt_warning
+
+} // namespace vellox
+
+#endif

@@ -1,0 +1,89 @@
+#include "vellox/foundation/MessageCatalog.h"
+
+#include "vellox/host/services/HostServices.h"
+#include "vellox/host/services/Utf8.h"
+
+#include <boost/format.hpp>
+#include <boost/locale/gnu_gettext.hpp>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <vector>
+
+namespace vellox {
+
+namespace {
+
+namespace gettext = boost::locale::gnu_gettext;
+using Texts = boost::locale::message_format<wchar_t>;
+
+// Languages are shipped as the library's texts are, so that a text missing from one is found in this one.
+constexpr char kSourceLanguage[] = "en";
+
+std::vector<char> readCatalogFile(const std::string& path, const std::string&) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// "vellox:ppt_error" is the file vellox-ppt_error.mo: a colon is no character for a file name.
+std::string toFileName(std::string catalog) {
+    for (char& c : catalog)
+        if (c == ':')
+            c = '-';
+    return catalog;
+}
+
+// The language of a locale named as systems name them, such as "de_AT.UTF-8".
+std::string getLanguage(const std::locale& locale) {
+    const std::string name = locale.name();
+    const std::string language = name.substr(0, name.find_first_of("_.@"));
+    return language.size() == 2 || language.size() == 3 ? language : kSourceLanguage;
+}
+
+// A locale that holds nothing but the texts of one catalog in one language.
+std::locale loadTexts(const std::string& root, const std::string& language, const std::string& catalog) {
+    gettext::messages_info info;
+    info.language = language;
+    info.encoding = "UTF-8";
+    info.paths = {root + "/resources/messages"};
+    info.domains = {gettext::messages_info::domain(toFileName(catalog))};
+    info.callback = readCatalogFile;
+    return std::locale(std::locale::classic(), gettext::create_messages_facet<wchar_t>(info));
+}
+
+const wchar_t* findText(const std::string& language, const MsgID& message) {
+    // Read once for each language and catalog; the texts stay until the process ends.
+    static std::map<std::vector<std::string>, std::locale> cache;
+    const std::vector<std::string> key{host::getHostServices().getHostRoot(), language, message.catalog};
+    auto texts = cache.find(key);
+    if (texts == cache.end())
+        texts = cache.emplace(key, loadTexts(key[0], key[1], key[2])).first;
+    return std::use_facet<Texts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
+}
+
+std::wstring fillIn(const wchar_t* text, const std::vector<std::wstring>& args) {
+    boost::wformat format(text);
+    format.exceptions(boost::io::no_error_bits);
+    for (const std::wstring& arg : args)
+        format % arg;
+    return format.str();
+}
+
+std::wstring spellOut(const MsgID& message) {
+    std::wstring text = fromUtf8(message.catalog + ":" + message.id);
+    for (const std::wstring& arg : message.args)
+        text += L" " + arg;
+    return text;
+}
+
+} // namespace
+
+std::wstring MessageCatalog::get_message(const MsgID& message, const std::locale& locale) {
+    const std::string language = getLanguage(locale);
+    const wchar_t* text = findText(language, message);
+    if (!text && language != kSourceLanguage)
+        text = findText(kSourceLanguage, message);
+    return text ? fillIn(text, message.args) : spellOut(message);
+}
+
+} // namespace vellox
