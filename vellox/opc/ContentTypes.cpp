@@ -1,0 +1,104 @@
+#include "vellox/opc/ContentTypes.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/opc/Exception.h"
+#include "vellox/opc/XercesString.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+
+namespace opc {
+
+using namespace xercesc;
+
+namespace {
+
+const XMLCh kNamespace[] = u"http://schemas.openxmlformats.org/package/2006/content-types";
+constexpr wchar_t kUnknownBytes[] = L"application/octet-stream";
+
+std::wstring getAttribute(const DOMElement& element, const XMLCh* name) {
+    return toWideString(element.getAttribute(name));
+}
+
+void appendRow(DOMDocument& document, const XMLCh* element, const XMLCh* key, const std::wstring& keyText,
+               const std::wstring& type) {
+    DOMElement* row = document.createElement(element);
+    row->setAttribute(key, XercesString(keyText));
+    row->setAttribute(u"ContentType", XercesString(type));
+    document.getDocumentElement()->appendChild(row);
+}
+
+} // namespace
+
+bool ContentType::isXml() const {
+    // An SVG image is XML too, but it goes with the other images.
+    if (boost::algorithm::starts_with(text_, L"image/"))
+        return false;
+    return boost::algorithm::ends_with(text_, L"+xml") || boost::algorithm::ends_with(text_, L"/xml");
+}
+
+void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
+    const DocumentScope document(XercesHelper::readDocumentFromStream(&parser, stream, false, {}, {}));
+    const DOMElement* root = document->getDocumentElement();
+    if (!XMLString::equals(root->getLocalName(), u"Types") ||
+        !XMLString::equals(root->getNamespaceURI(), kNamespace))
+        throw Exception("[Content_Types].xml isn't a list of content types");
+    needsWriting_ = root->getPrefix() != nullptr;
+    for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
+        const std::wstring type = getAttribute(*row, u"ContentType");
+        if (XMLString::equals(row->getLocalName(), u"Default"))
+            setDefault(getAttribute(*row, u"Extension"), type);
+        else if (XMLString::equals(row->getLocalName(), u"Override"))
+            setOverride(PartName(getAttribute(*row, u"PartName")), type);
+    }
+}
+
+void ContentTypes::write(DOMLSSerializer& serializer, OutputStream& stream) const {
+    const DocumentScope document(XercesHelper::createDocument(u"Types"));
+    document->getDocumentElement()->setAttribute(u"xmlns", kNamespace);
+    for (const Row& row : defaults_)
+        appendRow(*document, u"Default", u"Extension", row.first, row.second);
+    for (const Row& row : overrides_)
+        appendRow(*document, u"Override", u"PartName", row.first, row.second);
+    XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
+}
+
+ContentType ContentTypes::find(const PartName& name) const {
+    const auto single = overrideByName_.find(name);
+    if (single != overrideByName_.end())
+        return ContentType(overrides_[single->second].second);
+    const auto general = defaultByExtension_.find(name.getExtension());
+    return ContentType(general == defaultByExtension_.end() ? L"" : defaults_[general->second].second);
+}
+
+void ContentTypes::add(const PartName& name, const ContentType& type) {
+    const std::wstring text = type.toString().empty() ? kUnknownBytes : type.toString();
+    if (find(name).toString() == text)
+        return;
+    needsWriting_ = true;
+    const std::wstring extension = name.getExtension();
+    if (type.isXml() || extension.empty() || defaultByExtension_.count(extension) > 0)
+        setOverride(name, text);
+    else
+        setDefault(extension, text);
+}
+
+void ContentTypes::change(const PartName& name, const ContentType& type) {
+    needsWriting_ = true;
+    setOverride(name, type.toString());
+}
+
+void ContentTypes::setDefault(const std::wstring& extension, const std::wstring& type) {
+    const std::wstring key = vellox::toLowerString(extension);
+    if (defaultByExtension_.emplace(key, defaults_.size()).second)
+        defaults_.emplace_back(extension, type);
+}
+
+void ContentTypes::setOverride(const PartName& name, const std::wstring& type) {
+    const auto entry = overrideByName_.emplace(name, overrides_.size());
+    if (entry.second)
+        overrides_.emplace_back(name.toString(), type);
+    else
+        overrides_[entry.first->second].second = type;
+}
+
+} // namespace opc

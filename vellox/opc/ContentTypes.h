@@ -1,0 +1,66 @@
+/// @file
+/// The types of a package's parts: the content-type stream (ECMA-376 Part 2, 10.1.2).
+
+#ifndef VELLOX_OPC_CONTENTTYPES_H
+#define VELLOX_OPC_CONTENTTYPES_H
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "vellox/opc/PartName.h"
+#include "vellox/opc/Streams.h"
+#include "vellox/opc/XercesHelper.h"
+
+namespace opc {
+
+/// The media type of a part, as text. A value.
+class ContentType {
+public:
+    explicit ContentType(std::wstring text) : text_(std::move(text)) {}
+    const std::wstring& toString() const { return text_; }
+    /// True for XML and what is built on it, images aside.
+    bool isXml() const;
+
+private:
+    std::wstring text_;
+};
+
+/// A default for each extension, and what overrides it for single parts.
+class ContentTypes {
+public:
+    /// @throws opc::Exception if the stream isn't the list that it should be
+    void read(xercesc::DOMLSParser& namespaceAwareParser, InputStream& stream);
+    /// Writes the list with its namespace as the default one, which some readers insist on.
+    void write(xercesc::DOMLSSerializer& serializer, OutputStream& stream) const;
+
+    /// Empty for a part that the list doesn't cover.
+    ContentType find(const PartName& name) const;
+    /// Enters a new part: XML as an override, anything else as the default of its extension where that
+    /// isn't taken by another type. An empty type becomes that of unknown bytes.
+    void add(const PartName& name, const ContentType& type);
+    /// Gives a part that is listed another type.
+    void change(const PartName& name, const ContentType& type);
+
+    /// True if the stream must be written anew: something was added, or it was in a form that readers
+    /// stumble over.
+    bool needsWriting() const { return needsWriting_; }
+
+private:
+    using Row = std::pair<std::wstring, std::wstring>;
+
+    void setDefault(const std::wstring& extension, const std::wstring& type);
+    void setOverride(const PartName& name, const std::wstring& type);
+
+    // Rows in the order of the stream, and where to find them.
+    std::vector<Row> defaults_;
+    std::vector<Row> overrides_;
+    std::map<std::wstring, std::size_t> defaultByExtension_;
+    std::map<PartName, std::size_t> overrideByName_;
+    bool needsWriting_ = false;
+};
+
+} // namespace opc
+
+#endif

@@ -1,0 +1,220 @@
+#include "vellox/opc/Package.h"
+
+#include "vellox/host/services/Utf8.h"
+#include "vellox/opc/BoundedParser.h"
+#include "vellox/opc/Exception.h"
+#include "vellox/opc/PackageContents.h"
+
+#include <boost/make_shared.hpp>
+
+namespace opc {
+
+namespace {
+
+constexpr wchar_t kRelationshipType[] = L"application/vnd.openxmlformats-package.relationships+xml";
+
+xercesc::DOMLSParser* createNamespaceAwareParser() {
+    auto parser = std::make_unique<BoundedParser>();
+    parser->setNamespaceAware(true);
+    return parser.release();
+}
+
+std::string quote(const PartName& name) {
+    return vellox::toUtf8(name.toString());
+}
+
+} // namespace
+
+// RelationshipSource
+
+RelationshipSource::~RelationshipSource() = default;
+
+const std::vector<Relationship>& RelationshipSource::getRelationships() const {
+    return getTable().getAll();
+}
+
+Relationship RelationshipSource::getRelationshipByID(const std::wstring& id) const {
+    if (const Relationship* found = getTable().find(id))
+        return *found;
+    throw Exception("there is no relationship with the id \"" + vellox::toUtf8(id) + "\"");
+}
+
+Relationship RelationshipSource::createInternalRelationship(const std::wstring& type, const URI& target,
+                                                            const std::wstring& id) {
+    return getTable().addInternal(type, target, id);
+}
+
+Relationship RelationshipSource::createExternalRelationship(const std::wstring& type,
+                                                            const std::wstring& target,
+                                                            const std::wstring& id) {
+    return getTable().addExternal(type, target, id);
+}
+
+void RelationshipSource::deleteRelationship(const std::wstring& id) {
+    getTable().remove(id);
+}
+
+// Part
+
+Part::Part(boost::shared_ptr<PackageContents> contents, boost::shared_ptr<PhysicalPart> physical)
+    : contents_(std::move(contents)),
+      physical_(std::move(physical)) {}
+
+const PartName& Part::getName() const {
+    return physical_->getName();
+}
+
+ContentType Part::getContentType() const {
+    return contents_->getContentTypes().find(getName());
+}
+
+void Part::setContentType(const ContentType& type) {
+    contents_->getContentTypes().change(getName(), type);
+}
+
+InputStream& Part::getInputStream() {
+    input_ = physical_->openInput();
+    return *input_;
+}
+
+OutputStream& Part::getOutputStream() {
+    return physical_->startOutput();
+}
+
+void Part::setContentFile(const std::wstring& path) {
+    physical_->setContentFile(path);
+}
+
+RelationshipTable& Part::getTable() const {
+    return contents_->getRelationships(&getName());
+}
+
+// PackageContents
+
+PackageContents::PackageContents(boost::shared_ptr<PhysicalPackage> physical)
+    : parser_(createNamespaceAwareParser()),
+      serializer_(XercesHelper::createWriter()),
+      physical_(std::move(physical)) {}
+
+void PackageContents::open(OpenMode mode) {
+    physical_->open(mode);
+    if (mode == OpenMode::Write) {
+        types_.add(PartName(L"/a.rels"), ContentType(kRelationshipType));
+        return;
+    }
+    if (!physical_->hasContentTypeStream())
+        throw Exception("it has no [Content_Types].xml, so that it is no package");
+    types_.read(*parser_, *physical_->getContentTypeInputStream());
+    indexParts();
+}
+
+void PackageContents::indexParts() {
+    for (const auto& part : physical_->getParts())
+        if (!parts_.emplace(part->getName(), part).second)
+            throw Exception("it has two parts named " + quote(part->getName()));
+}
+
+boost::shared_ptr<PhysicalPart> PackageContents::findPart(const PartName& name) const {
+    const auto found = parts_.find(name);
+    return found == parts_.end() ? boost::shared_ptr<PhysicalPart>() : found->second;
+}
+
+boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name, const ContentType& type,
+                                                            StandardPartInfo info) {
+    if (findPart(name))
+        throw Exception("there is a part named " + quote(name) + " already");
+    types_.add(name, type);
+    return parts_[name] = physical_->createPart(name, info);
+}
+
+RelationshipTable& PackageContents::getRelationships(const PartName* source) {
+    const PartName part = source ? source->getRelationshipPartName() : PartName(L"/_rels/.rels");
+    const auto known = sources_.find(part);
+    if (known != sources_.end())
+        return known->second.table;
+    RelationshipTable table(source ? source->getFolder() : L"/");
+    try {
+        if (const auto stored = findPart(part))
+            table.read(*parser_, *stored->openInput());
+    } catch (const Exception& failure) {
+        throw Exception(quote(part) + ": " + failure.what());
+    }
+    return sources_.emplace(part, Source{part, std::move(table)}).first->second.table;
+}
+
+bool PackageContents::hasChanges() const {
+    bool changed = types_.needsWriting() || !physical_->isContentTypeStreamInPlace();
+    for (const auto& part : parts_)
+        changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
+    for (const auto& source : sources_)
+        changed = changed || source.second.table.isChanged();
+    return changed;
+}
+
+void PackageContents::saveRelationships() {
+    for (const auto& entry : sources_) {
+        const Source& source = entry.second;
+        if (!source.table.isChanged())
+            continue;
+        auto part = findPart(source.relationshipPart);
+        if (!part)
+            part = createPart(source.relationshipPart, ContentType(kRelationshipType), StandardPartInfo());
+        source.table.write(*serializer_, part->startOutput());
+    }
+}
+
+void PackageContents::save() {
+    if (!hasChanges())
+        return physical_->close(false);
+    saveRelationships();
+    if (types_.needsWriting())
+        types_.write(*serializer_, physical_->getContentTypeOutputStream());
+    physical_->close(true);
+}
+
+void PackageContents::closeUnsaved() {
+    physical_->close(false);
+}
+
+// Package
+
+Package::Package(boost::shared_ptr<PhysicalPackage> physical, bool)
+    : contents_(boost::make_shared<PackageContents>(std::move(physical))) {}
+
+Package::~Package() = default;
+
+void Package::open(OpenMode mode) {
+    mode_ = mode;
+    contents_->open(mode);
+    isOpen_ = true;
+}
+
+void Package::close(bool) {
+    if (!isOpen_)
+        return;
+    isOpen_ = false;
+    if (mode_ == OpenMode::Read)
+        contents_->closeUnsaved();
+    else
+        contents_->save();
+}
+
+bool Package::hasPart(const PartName& name) const {
+    return contents_->findPart(name) != nullptr;
+}
+
+Part Package::getPart(const PartName& name) const {
+    if (const auto part = contents_->findPart(name))
+        return Part(contents_, part);
+    throw Exception("there is no part named " + quote(name));
+}
+
+Part Package::createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info) {
+    return Part(contents_, contents_->createPart(name, type, info));
+}
+
+RelationshipTable& Package::getTable() const {
+    return contents_->getRelationships(nullptr);
+}
+
+} // namespace opc

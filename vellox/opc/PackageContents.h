@@ -1,0 +1,51 @@
+/// @file
+/// What a package and the handles on its parts share. Package.h is the front door.
+
+#ifndef VELLOX_OPC_PACKAGECONTENTS_H
+#define VELLOX_OPC_PACKAGECONTENTS_H
+
+#include <map>
+
+#include "vellox/opc/Package.h"
+
+namespace opc {
+
+class PackageContents {
+public:
+    explicit PackageContents(boost::shared_ptr<PhysicalPackage> physical);
+
+    void open(OpenMode mode);
+    /// Writes the type and relationship streams that need it, then the container.
+    void save();
+    void closeUnsaved();
+
+    /// @return an empty pointer if there is none
+    boost::shared_ptr<PhysicalPart> findPart(const PartName& name) const;
+    boost::shared_ptr<PhysicalPart> createPart(const PartName& name, const ContentType& type,
+                                               StandardPartInfo info);
+    /// The relationships of the package (no source) or of a part; read on first use.
+    RelationshipTable& getRelationships(const PartName* source);
+    ContentTypes& getContentTypes() { return types_; }
+
+private:
+    struct Source {
+        PartName relationshipPart;
+        RelationshipTable table;
+    };
+
+    void indexParts();
+    void saveRelationships();
+    bool hasChanges() const;
+
+    XercesProcess xerces_;
+    ParserScope parser_;
+    SerializerScope serializer_;
+    boost::shared_ptr<PhysicalPackage> physical_;
+    ContentTypes types_;
+    std::map<PartName, boost::shared_ptr<PhysicalPart>> parts_;
+    std::map<PartName, Source> sources_; // by the name of the relationship part
+};
+
+} // namespace opc
+
+#endif

@@ -1,0 +1,96 @@
+#include "vellox/opc/Relationship.h"
+
+#include "vellox/opc/Exception.h"
+#include "vellox/opc/XercesString.h"
+
+#include <algorithm>
+
+namespace opc {
+
+using namespace xercesc;
+
+namespace {
+
+const XMLCh kNamespace[] = u"http://schemas.openxmlformats.org/package/2006/relationships";
+
+std::wstring getAttribute(const DOMElement& element, const XMLCh* name) {
+    return toWideString(element.getAttribute(name));
+}
+
+} // namespace
+
+void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
+    const DocumentScope document(XercesHelper::readDocumentFromStream(&parser, stream, false, {}, {}));
+    const DOMElement* root = document->getDocumentElement();
+    if (!XMLString::equals(root->getLocalName(), u"Relationships") ||
+        !XMLString::equals(root->getNamespaceURI(), kNamespace))
+        throw Exception("it isn't a list of relationships");
+    for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
+        const std::wstring target = getAttribute(*row, u"Target");
+        const bool isExternal = getAttribute(*row, u"TargetMode") == L"External";
+        rows_.emplace_back(getAttribute(*row, u"Id"), getAttribute(*row, u"Type"), target,
+                           URI(isExternal ? target : resolveTarget(folder_, target)), isExternal);
+        ids_.insert(rows_.back().getID());
+    }
+}
+
+void RelationshipTable::write(DOMLSSerializer& serializer, OutputStream& stream) const {
+    const DocumentScope document(XercesHelper::createDocument(u"Relationships"));
+    DOMElement* root = document->getDocumentElement();
+    root->setAttribute(u"xmlns", kNamespace);
+    for (const Relationship& relationship : rows_) {
+        DOMElement* row = document->createElement(u"Relationship");
+        row->setAttribute(u"Id", XercesString(relationship.getID()));
+        row->setAttribute(u"Type", XercesString(relationship.getType()));
+        row->setAttribute(u"Target", XercesString(relationship.getTarget()));
+        if (relationship.isExternal())
+            row->setAttribute(u"TargetMode", u"External");
+        root->appendChild(row);
+    }
+    XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
+}
+
+const Relationship* RelationshipTable::find(const std::wstring& id) const {
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [&](const Relationship& row) { return row.getID() == id; });
+    return found == rows_.end() ? nullptr : &*found;
+}
+
+std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
+    if (!wanted.empty())
+        return wanted;
+    while (ids_.count(L"rId" + std::to_wstring(nextID_)) > 0)
+        ++nextID_;
+    return L"rId" + std::to_wstring(nextID_);
+}
+
+const Relationship& RelationshipTable::add(Relationship row) {
+    if (!ids_.insert(row.getID()).second)
+        throw Exception("a relationship with this id exists already");
+    rows_.push_back(std::move(row));
+    isChanged_ = true;
+    return rows_.back();
+}
+
+const Relationship& RelationshipTable::addInternal(const std::wstring& type, const URI& target,
+                                                   const std::wstring& id) {
+    const std::wstring name = resolveTarget(folder_, target.toString());
+    return add(Relationship(chooseID(id), type, makeRelativeTarget(folder_, name), URI(name), false));
+}
+
+const Relationship& RelationshipTable::addExternal(const std::wstring& type, const std::wstring& target,
+                                                   const std::wstring& id) {
+    const std::wstring reference = makeExternalTarget(target);
+    return add(Relationship(chooseID(id), type, reference, URI(reference), true));
+}
+
+void RelationshipTable::remove(const std::wstring& id) {
+    const auto end = std::remove_if(rows_.begin(), rows_.end(),
+                                    [&](const Relationship& row) { return row.getID() == id; });
+    isChanged_ = isChanged_ || end != rows_.end();
+    rows_.erase(end, rows_.end());
+    ids_.erase(id);
+    nextID_ = 1;
+}
+
+} // namespace opc

@@ -1,0 +1,77 @@
+/// @file
+/// Typed references from a package or a part (ECMA-376 Part 2, 9.3).
+
+#ifndef VELLOX_OPC_RELATIONSHIP_H
+#define VELLOX_OPC_RELATIONSHIP_H
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "vellox/opc/Streams.h"
+#include "vellox/opc/Uri.h"
+#include "vellox/opc/XercesHelper.h"
+
+namespace opc {
+
+/// One reference. A value.
+class Relationship {
+public:
+    Relationship(std::wstring id, std::wstring type, std::wstring target, URI targetURI, bool isExternal)
+        : id_(std::move(id)),
+          type_(std::move(type)),
+          target_(std::move(target)),
+          targetURI_(std::move(targetURI)),
+          isExternal_(isExternal) {}
+
+    const std::wstring& getID() const { return id_; }
+    const std::wstring& getType() const { return type_; }
+    /// An absolute part name, or the target as it stands if that lies outside the package.
+    const URI& getTargetURI() const { return targetURI_; }
+    /// The target as the relationship part spells it.
+    const std::wstring& getTarget() const { return target_; }
+    bool isExternal() const { return isExternal_; }
+
+private:
+    std::wstring id_;
+    std::wstring type_;
+    std::wstring target_;
+    URI targetURI_;
+    bool isExternal_;
+};
+
+/// The relationships of one source, in the order of its relationship part.
+class RelationshipTable {
+public:
+    /// @param folder the folder of the source, from which relative targets start
+    explicit RelationshipTable(std::wstring folder) : folder_(std::move(folder)) {}
+
+    /// @throws opc::Exception if the stream isn't a list of relationships
+    void read(xercesc::DOMLSParser& namespaceAwareParser, InputStream& stream);
+    void write(xercesc::DOMLSSerializer& serializer, OutputStream& stream) const;
+
+    const std::vector<Relationship>& getAll() const { return rows_; }
+    /// @return null if there is none with that id
+    const Relationship* find(const std::wstring& id) const;
+    /// An empty id asks for the first of rId1, rId2 ... that is free.
+    const Relationship& addInternal(const std::wstring& type, const URI& target, const std::wstring& id);
+    const Relationship& addExternal(const std::wstring& type, const std::wstring& target,
+                                    const std::wstring& id);
+    void remove(const std::wstring& id);
+
+    bool isChanged() const { return isChanged_; }
+
+private:
+    std::wstring chooseID(const std::wstring& wanted);
+    const Relationship& add(Relationship row);
+
+    std::wstring folder_;
+    std::vector<Relationship> rows_;
+    std::set<std::wstring> ids_;
+    unsigned nextID_ = 1; // no smaller number is free
+    bool isChanged_ = false;
+};
+
+} // namespace opc
+
+#endif

@@ -1,0 +1,60 @@
+#include "vellox/opc/XercesString.h"
+
+namespace opc {
+
+namespace {
+
+// XML 1.0, production [2].
+bool isAllowed(char32_t c) {
+    if (c < 0x20)
+        return c == 0x9 || c == 0xA || c == 0xD;
+    return c < 0xD800 || (c >= 0xE000 && c <= 0xFFFD) || (c >= 0x10000 && c <= 0x10FFFF);
+}
+
+bool isHighSurrogate(char16_t c) {
+    return c >= 0xD800 && c < 0xDC00;
+}
+
+bool isLowSurrogate(char16_t c) {
+    return c >= 0xDC00 && c < 0xE000;
+}
+
+} // namespace
+
+XercesString::XercesString(const std::wstring& text) {
+    text_.reserve(text.size());
+    for (const wchar_t wide : text) {
+        const auto c = static_cast<char32_t>(wide);
+        if (!isAllowed(c))
+            continue;
+        if (c < 0x10000) {
+            text_.push_back(static_cast<char16_t>(c));
+        } else {
+            text_.push_back(static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10)));
+            text_.push_back(static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF)));
+        }
+    }
+}
+
+std::wstring XercesString::toString() const {
+    return toWideString(text_.c_str());
+}
+
+std::wstring toWideString(const XMLCh* text) {
+    std::wstring wide;
+    for (; text && *text; ++text) {
+        char32_t c = *text;
+        if (isHighSurrogate(text[0]) && isLowSurrogate(text[1])) {
+            c = 0x10000 + ((char32_t(text[0]) - 0xD800) << 10) + (char32_t(text[1]) - 0xDC00);
+            ++text;
+        }
+        wide.push_back(static_cast<wchar_t>(c));
+    }
+    return wide;
+}
+
+std::wstring dropForbiddenCharacters(const std::wstring& text) {
+    return XercesString(text).toString();
+}
+
+} // namespace opc

@@ -1,0 +1,278 @@
+#include "vellox/opc/ZipPhysicalPackage.h"
+
+#include "vellox/host/services/Utf8.h"
+#include "vellox/opc/Exception.h"
+#include "vellox/opc/Limits.h"
+#include "vellox/opc/ZipStreamSource.h"
+
+#include <array>
+#include <boost/make_shared.hpp>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace opc {
+
+namespace {
+
+constexpr zip_uint16_t kNewEntryTime = 0;      // midnight
+constexpr zip_uint16_t kNewEntryDate = 0x0021; // of 1980-01-01, where the format's calendar begins
+
+[[noreturn]] void fail(const zip_error_t* reason) {
+    zip_error_t copy = *reason;
+    throw Exception(zip_error_strerror(&copy));
+}
+
+// An error of libzip that is ended with its scope.
+class ZipError {
+public:
+    ZipError() { zip_error_init(&error_); }
+    ZipError(const ZipError&) = delete;
+    ZipError& operator=(const ZipError&) = delete;
+    ~ZipError() { zip_error_fini(&error_); }
+    zip_error_t* get() { return &error_; }
+
+private:
+    zip_error_t error_;
+};
+
+// The bytes of one entry, inflated, with their checksum verified at the end.
+class EntryStream : public InputStream {
+public:
+    EntryStream(zip_t* archive, zip_uint64_t index) : file_(zip_fopen_index(archive, index, 0), zip_fclose) {
+        if (!file_)
+            fail(zip_get_error(archive));
+    }
+
+    std::size_t read(unsigned char* target, std::size_t count) override {
+        const zip_int64_t read = zip_fread(file_.get(), target, count);
+        if (read < 0)
+            fail(zip_file_get_error(file_.get()));
+        isDone_ = read == 0;
+        return static_cast<std::size_t>(read);
+    }
+    bool isDone() const override { return isDone_; }
+
+private:
+    std::unique_ptr<zip_file_t, decltype(&zip_fclose)> file_;
+    bool isDone_ = false;
+};
+
+// Archives from some systems have backslashes between the elements.
+std::wstring readEntryName(const char* name) {
+    std::wstring text = vellox::fromUtf8(name);
+    for (wchar_t& c : text)
+        if (c == L'\\')
+            c = L'/';
+    return text.substr(text.find_first_not_of(L'/') == 1 ? 1 : 0);
+}
+
+void checkInflation(const zip_stat_t& entry) {
+    if (entry.size > kInflationFloor && entry.size / kMaxInflation > entry.comp_size)
+        throw Exception(std::string("its entry ") + entry.name + " would inflate more than " +
+                        std::to_string(kMaxInflation) + " times");
+}
+
+// Office files with a password are compound files and no archives at all; telling so saves a riddle.
+bool isCompoundFile(std::istream& file) {
+    static constexpr std::array<unsigned char, 8> kMagic{0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
+    std::array<unsigned char, 8> start{};
+    file.clear();
+    file.seekg(0);
+    file.read(reinterpret_cast<char*>(start.data()), start.size());
+    return start == kMagic;
+}
+
+[[noreturn]] void failToOpen(const zip_error_t* reason, std::istream& file) {
+    if (isCompoundFile(file))
+        throw Exception("it is encrypted, or in an old binary format");
+    fail(reason);
+}
+
+// A link at the output path stays a link, and the file behind it is what gets replaced.
+std::string followLinks(const std::string& path) {
+    std::error_code failure;
+    const std::filesystem::path target = std::filesystem::canonical(path, failure);
+    return failure ? path : target.string();
+}
+
+} // namespace
+
+/// An entry of the archive, or one to come.
+class ZipPhysicalPackage::Entry : public PhysicalPart {
+public:
+    static constexpr long long kNew = -1;
+
+    Entry(PartName name, StandardPartInfo info, std::string entryName, zip_t* archive, long long index)
+        : PhysicalPart(std::move(name), info),
+          entryName_(std::move(entryName)),
+          archive_(archive),
+          index_(index) {}
+
+    const std::string& getEntryName() const { return entryName_; }
+    /// The entry in the target as it is in its archive, still compressed.
+    zip_source_t* makeSource(zip_t* target) const {
+        return zip_source_zip(target, archive_, static_cast<zip_uint64_t>(index_), ZIP_FL_COMPRESSED, 0, -1);
+    }
+
+protected:
+    boost::shared_ptr<InputStream> openOriginal() const override {
+        if (index_ == kNew)
+            return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>());
+        const auto place = static_cast<zip_uint64_t>(index_);
+        zip_stat_t facts;
+        if (zip_stat_index(archive_, place, 0, &facts) != 0)
+            fail(zip_get_error(archive_));
+        checkInflation(facts);
+        return boost::make_shared<EntryStream>(archive_, place);
+    }
+
+private:
+    std::string entryName_;
+    zip_t* archive_;
+    long long index_;
+};
+
+ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdIStreamAdaptor> input)
+    : input_(std::move(input)),
+      archive_(nullptr, zip_discard) {}
+
+ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdOStreamAdaptor> output, bool)
+    : output_(std::move(output)),
+      archive_(nullptr, zip_discard) {}
+
+ZipPhysicalPackage::ZipPhysicalPackage(const std::wstring& path, bool, const std::wstring&)
+    : path_(followLinks(vellox::toUtf8(path))),
+      archive_(nullptr, zip_discard) {}
+
+ZipPhysicalPackage::~ZipPhysicalPackage() = default;
+
+ZipPhysicalPackage::Archive ZipPhysicalPackage::openSource(zip_source_t* source, int flags,
+                                                           zip_error_t* error) {
+    Archive archive(source ? zip_open_from_source(source, flags, error) : nullptr, zip_discard);
+    if (!archive && source)
+        zip_source_free(source);
+    return archive;
+}
+
+ZipPhysicalPackage::Archive ZipPhysicalPackage::openForReading() const {
+    ZipError error;
+    if (input_) {
+        Archive archive =
+            openSource(makeReadSource(input_->getStream(), error.get()), ZIP_RDONLY, error.get());
+        if (!archive)
+            failToOpen(error.get(), input_->getStream());
+        return archive;
+    }
+    Archive archive =
+        openSource(zip_source_file_create(path_.c_str(), 0, -1, error.get()), ZIP_RDONLY, error.get());
+    if (!archive) {
+        std::ifstream file(path_, std::ios::binary);
+        failToOpen(error.get(), file);
+    }
+    return archive;
+}
+
+void ZipPhysicalPackage::open(OpenMode mode) {
+    if (mode == OpenMode::Write)
+        return;
+    if (input_ && !input_->getStream().good())
+        throw Exception("it doesn't exist or can't be read");
+    archive_ = openForReading();
+    listEntries();
+}
+
+void ZipPhysicalPackage::listEntries() {
+    const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
+    if (static_cast<std::uint64_t>(count) > kMaxEntries)
+        throw Exception("it has more than " + std::to_string(kMaxEntries) + " entries");
+    for (zip_int64_t i = 0; i < count; ++i) {
+        const auto index = static_cast<zip_uint64_t>(i);
+        zip_stat_t facts;
+        if (zip_stat_index(archive_.get(), index, ZIP_FL_ENC_GUESS, &facts) != 0)
+            fail(zip_get_error(archive_.get()));
+        if ((facts.valid & ZIP_STAT_ENCRYPTION_METHOD) && facts.encryption_method != ZIP_EM_NONE)
+            throw Exception(std::string("its entry ") + facts.name + " is encrypted");
+        const std::wstring name = readEntryName(facts.name);
+        if (name.empty() || name.back() == L'/')
+            continue;
+        addEntry(name, boost::make_shared<Entry>(PartName(L"/" + name), StandardPartInfo(),
+                                                 vellox::toUtf8(name), archive_.get(), i));
+        if (contentTypes_ && parts_.empty())
+            contentTypesLead_ = true;
+    }
+}
+
+boost::shared_ptr<PhysicalPart> ZipPhysicalPackage::createPart(const PartName& name, StandardPartInfo info) {
+    const auto part = boost::make_shared<Entry>(name, info, name.toEntryName(), nullptr, Entry::kNew);
+    part->startOutput();
+    parts_.push_back(part);
+    return part;
+}
+
+OutputStream& ZipPhysicalPackage::getContentTypeOutputStream() {
+    if (!contentTypes_)
+        contentTypes_ =
+            boost::make_shared<Entry>(PartName(std::wstring(L"/") + kContentTypesEntry), StandardPartInfo(),
+                                      vellox::toUtf8(kContentTypesEntry), nullptr, Entry::kNew);
+    return contentTypes_->startOutput();
+}
+
+ZipPhysicalPackage::Archive ZipPhysicalPackage::openForWriting() const {
+    ZipError error;
+    zip_source_t* source = output_ ? makeWriteSource(output_->getStream(), error.get())
+                                   : zip_source_file_create(path_.c_str(), 0, -1, error.get());
+    Archive archive = openSource(source, ZIP_CREATE | ZIP_TRUNCATE, error.get());
+    if (!archive)
+        fail(error.get());
+    return archive;
+}
+
+void ZipPhysicalPackage::close(bool save) {
+    if (save) {
+        Archive target = openForWriting();
+        if (contentTypes_)
+            writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_));
+        for (const auto& part : parts_)
+            writeEntry(target.get(), static_cast<const Entry&>(*part));
+        if (zip_close(target.get()) != 0)
+            fail(zip_get_error(target.get()));
+        target.release(); // zip_close has ended it
+        if (output_)
+            output_->close();
+    }
+    archive_.reset();
+}
+
+zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) const {
+    switch (entry.getContent()) {
+    case PhysicalPart::Content::Original:
+        return entry.makeSource(target);
+    case PhysicalPart::Content::Bytes:
+        return zip_source_buffer(target, entry.getBytes().data(), entry.getBytes().size(), 0);
+    case PhysicalPart::Content::File:
+        return zip_source_file(target, vellox::toUtf8(entry.getContentFile()).c_str(), 0, -1);
+    }
+    return nullptr;
+}
+
+void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
+    zip_source_t* source = makeSource(target, entry);
+    if (!source)
+        fail(zip_get_error(target));
+    const zip_int64_t index = zip_file_add(target, entry.getEntryName().c_str(), source, ZIP_FL_ENC_UTF_8);
+    if (index < 0) {
+        zip_source_free(source);
+        fail(zip_get_error(target));
+    }
+    if (entry.getContent() == PhysicalPart::Content::Original)
+        return;
+    const auto place = static_cast<zip_uint64_t>(index);
+    const zip_int32_t method = entry.getInfo().compressionType == 0 ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
+    if (zip_set_file_compression(target, place, method, 0) != 0 ||
+        zip_file_set_dostime(target, place, kNewEntryTime, kNewEntryDate, 0) != 0)
+        fail(zip_get_error(target));
+}
+
+} // namespace opc

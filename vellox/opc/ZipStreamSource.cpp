@@ -1,0 +1,141 @@
+#include "vellox/opc/ZipStreamSource.h"
+
+#include <cerrno>
+#include <memory>
+
+namespace opc {
+
+namespace {
+
+/// What libzip asks of a source, answered by a stream. One struct serves both directions: a command that
+/// doesn't fit the direction is answered with an error.
+struct StreamSource {
+    std::istream* input = nullptr;
+    std::ostream* output = nullptr;
+    zip_error_t error{};
+
+    ~StreamSource() { zip_error_fini(&error); }
+
+    zip_int64_t fail(int zipCode, int systemCode) {
+        zip_error_set(&error, zipCode, systemCode);
+        return -1;
+    }
+
+    zip_int64_t read(void* target, zip_uint64_t count) {
+        input->clear();
+        input->read(static_cast<char*>(target), static_cast<std::streamsize>(count));
+        return input->bad() ? fail(ZIP_ER_READ, EIO) : input->gcount();
+    }
+
+    zip_int64_t getLength() {
+        input->clear();
+        const auto here = input->tellg();
+        const zip_int64_t length = input->seekg(0, std::ios::end).tellg();
+        input->seekg(here);
+        return length;
+    }
+
+    zip_int64_t stat(zip_stat_t* result) {
+        if (!input) // A new archive doesn't exist before it is written.
+            return fail(ZIP_ER_READ, ENOENT);
+        zip_stat_init(result);
+        result->size = static_cast<zip_uint64_t>(getLength());
+        result->valid = ZIP_STAT_SIZE;
+        return sizeof *result;
+    }
+
+    zip_int64_t seek(void* arguments, zip_uint64_t length) {
+        input->clear();
+        const zip_int64_t target =
+            zip_source_seek_compute_offset(static_cast<zip_uint64_t>(input->tellg()),
+                                           static_cast<zip_uint64_t>(getLength()), arguments, length, &error);
+        if (target < 0)
+            return -1;
+        return input->seekg(target) ? 0 : fail(ZIP_ER_SEEK, EINVAL);
+    }
+
+    zip_int64_t seekWrite(void* arguments, zip_uint64_t length) {
+        const auto here = output->tellp();
+        const auto end = output->seekp(0, std::ios::end).tellp();
+        output->seekp(here);
+        const zip_int64_t target = zip_source_seek_compute_offset(
+            static_cast<zip_uint64_t>(here), static_cast<zip_uint64_t>(end), arguments, length, &error);
+        if (target < 0)
+            return -1;
+        return output->seekp(target) ? 0 : fail(ZIP_ER_SEEK, EINVAL);
+    }
+
+    zip_int64_t write(const void* bytes, zip_uint64_t count) {
+        if (!output->write(static_cast<const char*>(bytes), static_cast<std::streamsize>(count)))
+            return fail(ZIP_ER_WRITE, EIO);
+        return static_cast<zip_int64_t>(count);
+    }
+
+    zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
+        constexpr zip_int64_t reading = ZIP_SOURCE_SUPPORTS_SEEKABLE;
+        constexpr zip_int64_t writing = ZIP_SOURCE_SUPPORTS_WRITABLE;
+        switch (command) {
+        case ZIP_SOURCE_SUPPORTS:
+            return input ? reading : writing;
+        case ZIP_SOURCE_ERROR:
+            return zip_error_to_data(&error, data, length);
+        case ZIP_SOURCE_FREE:
+            delete this;
+            return 0;
+        case ZIP_SOURCE_STAT:
+            return stat(static_cast<zip_stat_t*>(data));
+        case ZIP_SOURCE_OPEN:
+            return input && input->seekg(0) ? 0 : fail(ZIP_ER_OPEN, ENOENT);
+        case ZIP_SOURCE_READ:
+            return read(data, length);
+        case ZIP_SOURCE_SEEK:
+            return seek(data, length);
+        case ZIP_SOURCE_TELL:
+            return input->tellg();
+        case ZIP_SOURCE_WRITE:
+            return write(data, length);
+        case ZIP_SOURCE_SEEK_WRITE:
+            return seekWrite(data, length);
+        case ZIP_SOURCE_TELL_WRITE:
+            return output->tellp();
+        case ZIP_SOURCE_COMMIT_WRITE:
+            return output->flush() ? 0 : fail(ZIP_ER_WRITE, EIO);
+        case ZIP_SOURCE_BEGIN_WRITE:
+        case ZIP_SOURCE_ROLLBACK_WRITE:
+        case ZIP_SOURCE_REMOVE:
+        case ZIP_SOURCE_CLOSE:
+            return 0;
+        default:
+            return fail(ZIP_ER_OPNOTSUPP, 0);
+        }
+    }
+};
+
+zip_int64_t answer(void* source, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    return static_cast<StreamSource*>(source)->answer(data, length, command);
+}
+
+zip_source_t* makeSource(std::unique_ptr<StreamSource> stream, zip_error_t* error) {
+    zip_error_init(&stream->error);
+    zip_source_t* source = zip_source_function_create(answer, stream.get(), error);
+    if (source)
+        stream.release(); // libzip ends it with ZIP_SOURCE_FREE
+    return source;
+}
+
+} // namespace
+
+zip_source_t* makeReadSource(std::istream& stream, zip_error_t* error) {
+    auto source = std::make_unique<StreamSource>();
+    source->input = &stream;
+    stream.clear();
+    return makeSource(std::move(source), error);
+}
+
+zip_source_t* makeWriteSource(std::ostream& stream, zip_error_t* error) {
+    auto source = std::make_unique<StreamSource>();
+    source->output = &stream;
+    return makeSource(std::move(source), error);
+}
+
+} // namespace opc
