@@ -1,0 +1,32 @@
+/// @file
+/// The state behind BaseDimension. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_FORMATS_BASEDIMENSIONIMPL_H
+#define VELLOX_PPT_FORMATS_BASEDIMENSIONIMPL_H
+
+#include <string>
+
+#include "vellox/ppt/formats/BaseDimension.h"
+#include "vellox/ppt/formats/FormatImpl.h"
+
+namespace vellox::ppt {
+
+class BaseDimensionImpl : public FormatImpl {
+public:
+    /// @throws invalidPropertyValue for what isn't a length
+    explicit BaseDimensionImpl(const std::wstring& value);
+    BaseDimensionImpl(const BaseDimensionImpl&) = default;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    boost::shared_ptr<Format> makeInterface() override;
+
+    const Dimension& getDimension() const { return dimension_; }
+    void setValue(const std::wstring& value);
+
+private:
+    Dimension dimension_;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,113 @@
+#include "vellox/ppt/formats/Color.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/engine/Dom.h"
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/formats/ColorTable.h"
+#include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/writers/BaseTextBoxWriter.h"
+#include "vellox/ppt/writers/TableEntryWriter.h"
+#include "vellox/ppt/writers/TextWriter.h"
+
+#include <boost/algorithm/string/trim.hpp>
+#include <boost/regex.hpp>
+
+namespace vellox::ppt {
+
+// ColorImpl
+
+class ColorImpl : public FormatImpl {
+public:
+    explicit ColorImpl(const std::wstring& value) { setValue(value); }
+
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Color"; }
+    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new Color(this)); }
+
+    const std::wstring& getValue() const { return value_; }
+    void setValue(const std::wstring& value);
+    /// Six upper-case hexadecimal digits.
+    std::wstring toHex() const;
+
+protected:
+    /// Makes this the colour of a fill.
+    void writeTo(xercesc::DOMElement* fill) const {
+        setAttribute(appendElement(fill, xml::kASrgbClr), xml::kVal, toHex());
+    }
+
+private:
+    std::wstring value_; // in lower case, without blanks around it
+};
+
+void ColorImpl::setValue(const std::wstring& value) {
+    static const boost::wregex digits(L"^#[0-9a-fA-F]{6}");
+    const std::wstring trimmed = toLowerString(boost::algorithm::trim_copy(value));
+    if (!boost::regex_match(trimmed, digits) && !findColor(trimmed))
+        raise(ppt_error::invalidPropertyValue(value));
+    value_ = trimmed;
+}
+
+std::wstring ColorImpl::toHex() const {
+    if (value_[0] == L'#')
+        return toUpperString(value_.substr(1));
+    const wchar_t* color = findColor(value_);
+    return color ? color + 1 : L"FFFFFF";
+}
+
+Color::Color() : Color(new ColorImpl(L"black")) {}
+Color::Color(const std::wstring& value) : Color(new ColorImpl(value)) {}
+Color::Color(ColorImpl* impl) : Format(impl) {}
+
+const std::wstring& Color::getValue() const {
+    return implOf<ColorImpl>(*this)->getValue();
+}
+
+void Color::setValue(const std::wstring& value) {
+    implOf<ColorImpl>(*this)->setValue(value);
+}
+
+// FontColor
+
+class FontColorImpl : public ColorImpl {
+public:
+    using ColorImpl::ColorImpl;
+
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.FontColor"; }
+    boost::shared_ptr<Format> makeInterface() override {
+        return boost::shared_ptr<Format>(new FontColor(this));
+    }
+    FormatType getFormatType() const override { return FormatType::FontColor; }
+    void applyToText(TextWriter& writer) const override { writeTo(writer.addRPrChild(xml::kASolidFill)); }
+};
+
+FontColor::FontColor() : FontColor(L"black") {}
+FontColor::FontColor(const std::wstring& value) : FontColor(new FontColorImpl(value)) {}
+FontColor::FontColor(FontColorImpl* impl) : Color(impl) {}
+
+// BackgroundColor
+
+class BackgroundColorImpl : public ColorImpl {
+public:
+    using ColorImpl::ColorImpl;
+
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.BackgroundColor"; }
+    boost::shared_ptr<Format> makeInterface() override {
+        return boost::shared_ptr<Format>(new BackgroundColor(this));
+    }
+    FormatType getFormatType() const override { return FormatType::BackgroundColor; }
+    void applyToTextBox(BaseTextBoxWriter& writer) const override {
+        writeTo(writer.addSpPrChild(xml::kASolidFill));
+    }
+    void applyToTableEntry(TableEntryWriter& writer) const override {
+        writeTo(writer.addTcPrChild(xml::kASolidFill));
+    }
+};
+
+BackgroundColor::BackgroundColor() : BackgroundColor(L"white") {}
+BackgroundColor::BackgroundColor(const std::wstring& value)
+    : BackgroundColor(new BackgroundColorImpl(value)) {}
+BackgroundColor::BackgroundColor(BackgroundColorImpl* impl) : Color(impl) {}
+
+} // namespace vellox::ppt

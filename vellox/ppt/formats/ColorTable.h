@@ -1,0 +1,17 @@
+/// @file
+/// The names of colours.
+
+#ifndef VELLOX_PPT_FORMATS_COLORTABLE_H
+#define VELLOX_PPT_FORMATS_COLORTABLE_H
+
+#include <string>
+
+namespace vellox::ppt {
+
+/// The colour of a lower-case name, as "#" and six upper-case hexadecimal digits; null for a name that isn't in
+/// the table.
+const wchar_t* findColor(const std::wstring& name);
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,254 @@
+/// @file
+/// The format properties of elements: each format as a property of its own, such as getBold(), setBold() and
+/// unsetBold(). Which class has which is said by the bases that it lists:
+///
+///                            box  paragraph  text  table  row  entry  column
+///     CharacterProperties     x       x       x                          x
+///     FontProperties         (in CharacterProperties) x     x     x     (in)
+///     BackgroundColor         x                              x     x     x
+///     HAlign                          x                            x     x
+///     VAlign                  x                                    x     x
+///     Width                                                              x
+///
+/// A getter gives an empty pointer if the element has no such format of its own; else a handle on the format
+/// that the element has, so that a change through it reaches the element, and every element that shares the
+/// format. A setter gives this element a format of its own. Values are checked as by the formats, and the
+/// element keeps what it had if one is refused.
+
+#ifndef VELLOX_PPT_FORMATS_FORMATPROPERTIES_H
+#define VELLOX_PPT_FORMATS_FORMATPROPERTIES_H
+
+#include <boost/make_shared.hpp>
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+#include "vellox/Api.h"
+#include "vellox/ppt/formats/Alignment.h"
+#include "vellox/ppt/formats/BaseDimension.h"
+#include "vellox/ppt/formats/CharacterFormats.h"
+#include "vellox/ppt/formats/Color.h"
+
+namespace vellox::ppt {
+
+class Element;
+
+/// The way of the properties to an element's style. Not for direct use.
+namespace style {
+
+/// A new handle on the element's own format of a kind; empty if there is none.
+VELLOX_API boost::shared_ptr<Format> find(const Element& element, FormatType type);
+VELLOX_API void append(Element& element, const boost::shared_ptr<Format>& format);
+VELLOX_API void unset(Element& element, FormatType type);
+
+template <class F>
+boost::shared_ptr<F> find(const Element& element, FormatType type) {
+    return boost::dynamic_pointer_cast<F>(find(element, type));
+}
+
+/// A format of this element's alone: a copy of the one that it has, put in that one's place. Empty if there is
+/// none.
+template <class F>
+boost::shared_ptr<F> findOwn(Element& element, FormatType type) {
+    const boost::shared_ptr<F> shared = find<F>(element, type);
+    const boost::shared_ptr<F> own = shared ? shared->clone() : shared;
+    append(element, own);
+    return own;
+}
+
+} // namespace style
+
+/// A property `Owner` that is one format of class F, made from one value.
+template <class Owner, class F, FormatType kType>
+class FormatProperty {
+protected:
+    boost::shared_ptr<F> find() const { return style::find<F>(static_cast<const Owner&>(*this), kType); }
+    template <class Value>
+    void set(const Value& value) {
+        style::append(static_cast<Owner&>(*this), boost::make_shared<F>(value));
+    }
+    void unset() { style::unset(static_cast<Owner&>(*this), kType); }
+};
+
+/// See BackgroundColor.
+template <class Owner>
+class BackgroundColorProperty : public FormatProperty<Owner, BackgroundColor, FormatType::BackgroundColor> {
+public:
+    boost::shared_ptr<BackgroundColor> getBackgroundColor() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setBackgroundColor(const std::wstring& color) { this->set(color); }
+    void unsetBackgroundColor() { this->unset(); }
+};
+
+/// See Bold.
+template <class Owner>
+class BoldProperty : public FormatProperty<Owner, Bold, FormatType::Bold> {
+public:
+    boost::shared_ptr<Bold> getBold() const { return this->find(); }
+    void setBold(bool bold) { this->set(bold); }
+    void unsetBold() { this->unset(); }
+};
+
+/// See FontColor.
+template <class Owner>
+class FontColorProperty : public FormatProperty<Owner, FontColor, FormatType::FontColor> {
+public:
+    boost::shared_ptr<FontColor> getFontColor() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setFontColor(const std::wstring& color) { this->set(color); }
+    void unsetFontColor() { this->unset(); }
+};
+
+/// See FontSize.
+template <class Owner>
+class FontSizeProperty : public FormatProperty<Owner, FontSize, FormatType::FontSize> {
+public:
+    boost::shared_ptr<FontSize> getFontSize() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setFontSize(const std::wstring& size) { this->set(size); }
+    void unsetFontSize() { this->unset(); }
+};
+
+/// See HAlign.
+template <class Owner>
+class HAlignProperty : public FormatProperty<Owner, HAlign, FormatType::HAlign> {
+public:
+    boost::shared_ptr<HAlign> getHAlign() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setHAlign(const std::wstring& alignment) { this->set(alignment); }
+    void unsetHAlign() { this->unset(); }
+};
+
+/// See Italic.
+template <class Owner>
+class ItalicProperty : public FormatProperty<Owner, Italic, FormatType::Italic> {
+public:
+    boost::shared_ptr<Italic> getItalic() const { return this->find(); }
+    void setItalic(bool italic) { this->set(italic); }
+    void unsetItalic() { this->unset(); }
+};
+
+/// See Subscript.
+template <class Owner>
+class SubscriptProperty : public FormatProperty<Owner, Subscript, FormatType::Subscript> {
+public:
+    boost::shared_ptr<Subscript> getSubscript() const { return this->find(); }
+    void setSubscript(bool subscript) { this->set(subscript); }
+    void unsetSubscript() { this->unset(); }
+};
+
+/// See Superscript.
+template <class Owner>
+class SuperscriptProperty : public FormatProperty<Owner, Superscript, FormatType::Superscript> {
+public:
+    boost::shared_ptr<Superscript> getSuperscript() const { return this->find(); }
+    void setSuperscript(bool superscript) { this->set(superscript); }
+    void unsetSuperscript() { this->unset(); }
+};
+
+/// See VAlign.
+template <class Owner>
+class VAlignProperty : public FormatProperty<Owner, VAlign, FormatType::VAlign> {
+public:
+    boost::shared_ptr<VAlign> getVAlign() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setVAlign(const std::wstring& alignment) { this->set(alignment); }
+    void unsetVAlign() { this->unset(); }
+};
+
+/// See ColWidth.
+template <class Owner>
+class WidthProperty : public FormatProperty<Owner, ColWidth, FormatType::ColWidth> {
+public:
+    boost::shared_ptr<ColWidth> getWidth() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setWidth(const std::wstring& width) { this->set(width); }
+    void unsetWidth() { this->unset(); }
+};
+
+/// A property that is set by a style and keeps its format when the style changes.
+template <class Owner, class F, FormatType kType>
+class StyledProperty : public FormatProperty<Owner, F, kType> {
+protected:
+    using FormatProperty<Owner, F, kType>::find;
+    using FormatProperty<Owner, F, kType>::unset;
+    void setStyle(const std::wstring& value) {
+        if (const boost::shared_ptr<F> own = style::findOwn<F>(static_cast<Owner&>(*this), kType))
+            own->setStyle(value);
+        else
+            this->set(value);
+    }
+};
+
+/// See Strike.
+template <class Owner>
+class StrikeProperty : public StyledProperty<Owner, Strike, FormatType::Strike> {
+public:
+    boost::shared_ptr<Strike> getStrike() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setStrikeStyle(const std::wstring& strike) { this->setStyle(strike); }
+    void unsetStrike() { this->unset(); }
+};
+
+/// See Underline.
+template <class Owner>
+class UnderlineProperty : public StyledProperty<Owner, Underline, FormatType::Underline> {
+public:
+    boost::shared_ptr<Underline> getUnderline() const { return this->find(); }
+    /// @throws invalidPropertyValue
+    void setUnderlineStyle(const std::wstring& underline) { this->setStyle(underline); }
+    void unsetUnderline() { this->unset(); }
+};
+
+/// The two facets of FontFamily. Unsetting the one that is left takes the format away; unlike setting, it acts
+/// on the format that elements share.
+template <class Owner>
+class FontFamilyProperty {
+public:
+    boost::shared_ptr<FontFamily> getFontFamily() const {
+        return style::find<FontFamily>(static_cast<const Owner&>(*this), FormatType::FontFamily);
+    }
+    void setFont(const std::wstring& font) { setFacet(&FontFamily::setFont, font); }
+    void unsetFont() { unsetFacet(&FontFamily::setFont); }
+    void setComplexScriptFont(const std::wstring& font) { setFacet(&FontFamily::setComplexScriptFont, font); }
+    void unsetComplexScriptFont() { unsetFacet(&FontFamily::setComplexScriptFont); }
+
+private:
+    using Setter = void (FontFamily::*)(const std::wstring&);
+
+    void setFacet(Setter setter, const std::wstring& font) {
+        Owner& owner = static_cast<Owner&>(*this);
+        boost::shared_ptr<FontFamily> family = style::findOwn<FontFamily>(owner, FormatType::FontFamily);
+        if (!family)
+            family = boost::make_shared<FontFamily>(std::wstring(), std::wstring());
+        ((*family).*setter)(font);
+        style::append(owner, family);
+    }
+    void unsetFacet(Setter setter) {
+        const boost::shared_ptr<FontFamily> family = getFontFamily();
+        if (!family)
+            return;
+        ((*family).*setter)(std::wstring());
+        if (family->getFont().empty() && family->getComplexScriptFont().empty())
+            style::unset(static_cast<Owner&>(*this), FormatType::FontFamily);
+    }
+};
+
+/// What every element that holds text has.
+template <class Owner>
+class FontProperties : public FontColorProperty<Owner>,
+                       public FontFamilyProperty<Owner>,
+                       public FontSizeProperty<Owner> {};
+
+/// What text boxes, paragraphs, texts and columns have besides.
+template <class Owner>
+class CharacterProperties : public FontProperties<Owner>,
+                            public BoldProperty<Owner>,
+                            public ItalicProperty<Owner>,
+                            public StrikeProperty<Owner>,
+                            public SubscriptProperty<Owner>,
+                            public SuperscriptProperty<Owner>,
+                            public UnderlineProperty<Owner> {};
+
+} // namespace vellox::ppt
+
+#endif

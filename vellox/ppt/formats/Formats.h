@@ -1,0 +1,43 @@
+/// @file
+/// Sets of formats.
+
+#ifndef VELLOX_PPT_FORMATS_FORMATS_H
+#define VELLOX_PPT_FORMATS_FORMATS_H
+
+#include <boost/shared_ptr.hpp>
+#include <map>
+
+#include "vellox/Api.h"
+#include "vellox/ppt/formats/FormatType.h"
+
+namespace vellox::ppt {
+
+class Format;
+
+/// At most one format of each kind. A value: a copy is another set, of the same format objects.
+class VELLOX_API Formats {
+public:
+    using Map = std::map<FormatType, boost::shared_ptr<Format>>;
+
+    Formats();
+    Formats(const Formats& other);
+    Formats& operator=(const Formats& other);
+    ~Formats();
+
+    /// Puts a format in, in the place of one of its kind if there is one. A null pointer does nothing.
+    void appendFormat(const boost::shared_ptr<Format>& format);
+    /// @return an empty pointer if there is none of the kind
+    boost::shared_ptr<Format> getFormat(FormatType type) const;
+    /// Takes a format out; does nothing if there is none of the kind.
+    void unsetFormat(FormatType type);
+    /// In the order of the kinds.
+    const Map& getMap() const;
+
+private:
+    // Made with the first format: most elements of a deck never have one.
+    boost::shared_ptr<Map> formats_;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,91 @@
+#include "vellox/ppt/messages/MessageDispatcher.h"
+
+#include "vellox/ppt/object/PPTObjectImpl.h"
+
+#include <map>
+#include <vector>
+
+namespace vellox::ppt {
+
+class MessageEventDataImpl : public PPTObjectImpl {
+public:
+    explicit MessageEventDataImpl(const Message& given) : message(given) {}
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.MessageEventData"; }
+
+    Message message;
+};
+
+class MessageDispatcherImpl : public PPTObjectImpl {
+public:
+    using Token = MessageDispatcher::ListenerToken;
+
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.MessageDispatcher"; }
+    void dispatch(const Message& message) const;
+
+    MessageFilter filter;
+    std::map<Token, MessageDispatcher::Listener>
+        listeners; // tokens grow, so that the order is that of adding
+    Token lastToken = 0;
+};
+
+void MessageDispatcherImpl::dispatch(const Message& message) const {
+    if (!message.passesFilter(filter) || listeners.empty())
+        return;
+    const MessageEventData event(message);
+    // A listener may add and remove listeners; one that is gone by its turn isn't called.
+    std::vector<Token> tokens;
+    for (const auto& entry : listeners)
+        tokens.push_back(entry.first);
+    for (const Token token : tokens) {
+        const auto found = listeners.find(token);
+        if (found == listeners.end())
+            continue;
+        const MessageDispatcher::Listener listener = found->second;
+        listener(event);
+    }
+}
+
+MessageEventData::MessageEventData(const Message& message) : PPTObject(new MessageEventDataImpl(message)) {}
+
+const MessageEventDataImpl* MessageEventData::pimpl() const {
+    return implOf<MessageEventDataImpl>(*this);
+}
+
+Message MessageEventData::getMessage() const {
+    return pimpl()->message;
+}
+
+MessageDispatcher::MessageDispatcher() : PPTObject(new MessageDispatcherImpl) {}
+
+MessageDispatcherImpl* MessageDispatcher::pimpl() {
+    return implOf<MessageDispatcherImpl>(*this);
+}
+
+const MessageDispatcherImpl* MessageDispatcher::pimpl() const {
+    return implOf<MessageDispatcherImpl>(*this);
+}
+
+MessageDispatcher MessageDispatcher::getTheDispatcher() {
+    // Never ended: objects that die in the last moments of the process still report to it.
+    static const MessageDispatcher& theDispatcher = *new MessageDispatcher;
+    return theDispatcher;
+}
+
+MessageFilter MessageDispatcher::getMessageFilter() const {
+    return pimpl()->filter;
+}
+
+void MessageDispatcher::dispatch(const Message& message) {
+    pimpl()->dispatch(message);
+}
+
+MessageDispatcher::ListenerToken MessageDispatcher::addListener(const Listener& listener) {
+    pimpl()->listeners[++pimpl()->lastToken] = listener;
+    return pimpl()->lastToken;
+}
+
+void MessageDispatcher::removeListener(ListenerToken token) {
+    pimpl()->listeners.erase(token);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,32 @@
+/// @file
+/// The state behind Element. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_OBJECT_ELEMENTIMPL_H
+#define VELLOX_PPT_OBJECT_ELEMENTIMPL_H
+
+#include "vellox/ppt/formats/Formats.h"
+#include "vellox/ppt/object/Element.h"
+#include "vellox/ppt/object/PPTNodeImpl.h"
+
+namespace vellox::ppt {
+
+class ElementImpl : public PPTNodeImpl {
+public:
+    ElementImpl() = default;
+    explicit ElementImpl(std::wstring name) : PPTNodeImpl(std::move(name)) {}
+    ElementImpl(const ElementImpl&) = default;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    const ElementImpl* asElement() const override { return this; }
+
+    const Formats& getStyle() const { return style_; }
+    Formats& style() { return style_; }
+    void setStyle(const Formats& style) { style_ = style; }
+
+private:
+    Formats style_;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,76 @@
+/// @file
+/// The state behind PPTObject. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_OBJECT_PPTOBJECTIMPL_H
+#define VELLOX_PPT_OBJECT_PPTOBJECTIMPL_H
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+#include "vellox/host/services/Wrappable.h"
+#include "vellox/ppt/object/PPTObject.h"
+
+namespace vellox::ppt {
+
+/// A counted object with an identity. The count is a plain integer: the library is used from one thread.
+class PPTObjectImpl : public objreg::factory::full::Wrappable {
+public:
+    PPTObjectImpl();
+    /// A new object: another id, no tag, no holders; its client is what the other's client gives for it.
+    PPTObjectImpl(const PPTObjectImpl& other);
+    ~PPTObjectImpl() override;
+
+    virtual const char* getFullyQualifiedHostTypeName() const;
+
+    const std::wstring& getId() const { return id_; }
+    void setId(const std::wstring& id) { id_ = id; }
+    std::wstring getTag() const;
+    void setTag(const std::wstring& tag) { tag_ = tag; }
+    const boost::shared_ptr<PPTClientImpl>& getClient() const { return client_; }
+    void setClient(const boost::shared_ptr<PPTClientImpl>& client);
+    int getRefCount() const { return refCount_; }
+
+    /// Lets handles on an object come and go while it is under construction or ending, when its count is 0
+    /// and the last of them would otherwise end it.
+    class CountGuard {
+    public:
+        explicit CountGuard(PPTObjectImpl& object) : object_(object) { ++object_.refCount_; }
+        CountGuard(const CountGuard&) = delete;
+        CountGuard& operator=(const CountGuard&) = delete;
+        ~CountGuard() { --object_.refCount_; }
+
+    private:
+        PPTObjectImpl& object_;
+    };
+
+private:
+    friend void intrusive_ptr_add_ref(PPTObjectImpl* object);
+    friend void intrusive_ptr_release(PPTObjectImpl* object);
+
+    boost::shared_ptr<PPTClientImpl> client_;
+    std::wstring id_;
+    std::wstring tag_;
+    int refCount_ = 0;
+};
+
+/// The way from a facade to its implementation, for code inside the library.
+struct ObjectAccess {
+    static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
+    static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
+};
+
+/// The implementation behind a handle whose class is known.
+template <class Impl>
+Impl* implOf(const PPTObject& handle) {
+    return static_cast<Impl*>(ObjectAccess::getImpl(handle));
+}
+
+/// The implementation behind a handle if it is of this class, else null.
+template <class Impl>
+Impl* implAs(const PPTObject& handle) {
+    return dynamic_cast<Impl*>(ObjectAccess::getImpl(handle));
+}
+
+} // namespace vellox::ppt
+
+#endif
