@@ -1,0 +1,98 @@
+#include "vellox/ppt/engine/Dom.h"
+
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/object/DomForward.h"
+
+#include <type_traits>
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+static_assert(std::is_same<::xercesc_3_2::DOMNode, XERCES_CPP_NAMESPACE_QUALIFIER DOMNode>::value,
+              "DomForward.h names another version of Xerces than the one in use");
+
+bool hasName(const DOMNode& node, const XMLCh* name) {
+    return XMLString::equals(node.getNodeName(), name);
+}
+
+namespace {
+
+DOMElement* getFirstChildElement(const DOMNode* parent) {
+    const auto* element = dynamic_cast<const DOMElement*>(parent);
+    return element ? element->getFirstElementChild() : nullptr;
+}
+
+} // namespace
+
+DOMElement* findChild(const DOMNode* parent, const XMLCh* name) {
+    DOMElement* child = getFirstChildElement(parent);
+    while (child && !hasName(*child, name))
+        child = child->getNextElementSibling();
+    return child;
+}
+
+DOMElement* findDescendant(const DOMNode* start, std::initializer_list<const XMLCh*> path) {
+    DOMElement* element = nullptr;
+    for (const XMLCh* name : path) {
+        element = findChild(start, name);
+        start = element;
+    }
+    return element;
+}
+
+DOMElement* goDownFirstChildren(DOMDocument* document, unsigned levels) {
+    DOMElement* element = document->getDocumentElement();
+    while (element && levels-- > 0)
+        element = element->getFirstElementChild();
+    return element;
+}
+
+std::vector<DOMElement*> getChildElements(const DOMNode* parent) {
+    std::vector<DOMElement*> children;
+    for (DOMElement* child = getFirstChildElement(parent); child; child = child->getNextElementSibling())
+        children.push_back(child);
+    return children;
+}
+
+std::vector<DOMElement*> getAllElements(DOMDocument* document) {
+    std::vector<DOMElement*> elements;
+    DOMTreeWalker* walker = document->createTreeWalker(document, DOMNodeFilter::SHOW_ELEMENT, nullptr, true);
+    while (DOMNode* node = walker->nextNode())
+        elements.push_back(static_cast<DOMElement*>(node));
+    return elements;
+}
+
+std::vector<DOMElement*> getElementsByName(DOMDocument* document, const XMLCh* name) {
+    std::vector<DOMElement*> elements;
+    const DOMNodeList* list = document->getElementsByTagName(name);
+    for (XMLSize_t i = 0; i < list->getLength(); ++i)
+        elements.push_back(static_cast<DOMElement*>(list->item(i)));
+    return elements;
+}
+
+std::wstring getAttribute(const DOMElement* element, const XMLCh* name) {
+    return element ? opc::toWideString(element->getAttribute(name)) : std::wstring();
+}
+
+void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& value) {
+    element->setAttribute(name, opc::XercesString(value));
+}
+
+DOMElement* appendElement(DOMElement* parent, const XMLCh* name) {
+    DOMElement* child = parent->getOwnerDocument()->createElement(name);
+    parent->appendChild(child);
+    return child;
+}
+
+DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {
+    DOMElement* child = findChild(parent, name);
+    return child ? child : appendElement(parent, name);
+}
+
+void removeNode(DOMNode* node) {
+    if (node->getParentNode())
+        node->getParentNode()->removeChild(node);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,90 @@
+#include "vellox/ppt/engine/PPTPartWriter.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/FileUtils.h"
+#include "vellox/host/services/Utf8.h"
+#include "vellox/ppt/engine/PackageNames.h"
+#include "vellox/ppt/engine/TemplateRecords.h"
+
+#include <filesystem>
+#include <set>
+
+namespace vellox::ppt {
+
+namespace {
+
+// Kinds of images that deflate would make no smaller, and only slow down.
+bool isCompressed(const std::wstring& contentType) {
+    static const std::set<std::wstring> compressed{L"image/png", L"image/jpeg", L"image/gif", L"image/x-emz"};
+    return compressed.count(contentType) > 0;
+}
+
+// A folder can be opened like a file on this system; only reading it fails, and that would be too late.
+bool isFolder(const std::wstring& path) {
+    std::error_code failure;
+    return std::filesystem::is_directory(toUtf8(path), failure);
+}
+
+} // namespace
+
+PPTPartWriter::PPTPartWriter(boost::shared_ptr<OPCPackage> package) : PartDOMWriter(std::move(package)) {}
+
+PPTPartWriter::~PPTPartWriter() = default;
+
+std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
+    std::wstring name;
+    do {
+        name = L"/ppt/slides/slide" + num2str(++slideCounter_) + L".xml";
+    } while (hasPart(name));
+    opc::Part part = createPart(name, contenttype::kSlide);
+    if (slide.layout)
+        part.createInternalRelationship(relationship::kSlideLayout, opc::URI(slide.layout->partName), {});
+    return name;
+}
+
+std::wstring PPTPartWriter::addHyperlink(const std::wstring& partName, const std::wstring& target) {
+    if (target.empty() || !hasPart(partName))
+        return {};
+    return getPart(partName).createExternalRelationship(relationship::kHyperlink, target, {}).getID();
+}
+
+std::wstring PPTPartWriter::chooseMediaName(const std::wstring& extension) const {
+    std::wstring name;
+    do {
+        name = L"/ppt/media/" + uuid_gen() + L"." + extension;
+    } while (hasPart(name));
+    return name;
+}
+
+std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::wstring& imagePath) {
+    if (!createFileInputStream(imagePath)->good() || isFolder(imagePath))
+        return {};
+    getPart(partName);
+    const std::wstring type = FileUtils::getContentType(imagePath);
+    const std::wstring name = chooseMediaName(FileUtils::getFileNameExtension(imagePath));
+    opc::Part image = isCompressed(type) ? createStoredPart(name, type) : createPart(name, type);
+    image.setContentFile(imagePath);
+    return addRelationship(partName, relationship::kImage, image.getName().toString());
+}
+
+std::wstring PPTPartWriter::addRelationship(const std::wstring& partName, const std::wstring& type,
+                                            const std::wstring& target) {
+    return getPart(partName).createInternalRelationship(type, opc::URI(target), {}).getID();
+}
+
+void PPTPartWriter::alignMainType(const std::wstring& mainPartName) {
+    const std::wstring extension = toLowerString(FileUtils::getFileNameExtension(path_));
+    opc::Part mainPart = getPart(mainPartName);
+    const std::wstring present = mainPart.getContentType().toString();
+    const wchar_t* wanted = nullptr;
+    bool isKnown = false;
+    for (const contenttype::MainType& row : contenttype::kMainTypes) {
+        isKnown = isKnown || present == row.contentType;
+        if (extension == row.extension)
+            wanted = row.contentType;
+    }
+    if (isKnown && wanted && present != wanted)
+        mainPart.setContentType(opc::ContentType(wanted));
+}
+
+} // namespace vellox::ppt

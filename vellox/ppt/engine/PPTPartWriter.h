@@ -1,0 +1,50 @@
+/// @file
+/// The parts that are particular to a presentation: slides and media.
+
+#ifndef VELLOX_PPT_ENGINE_PPTPARTWRITER_H
+#define VELLOX_PPT_ENGINE_PPTPARTWRITER_H
+
+#include <string>
+
+#include "vellox/ppt/engine/PartDOMWriter.h"
+
+namespace vellox::ppt {
+
+struct TemplateSlide;
+
+class PPTPartWriter : public PartDOMWriter {
+public:
+    explicit PPTPartWriter(boost::shared_ptr<OPCPackage> package);
+    ~PPTPartWriter() override;
+
+    /// New slides are numbered from the next number on.
+    void setSlideCounter(unsigned int slideCounter) { slideCounter_ = slideCounter; }
+
+    /// Makes the part of a new slide, "/ppt/slides/slide<n>.xml" with the next number whose name is free,
+    /// and its relationship to the slide's layout.
+    /// @return the name of the part
+    std::wstring createSlidePart(const TemplateSlide& slide);
+    /// Points from a part to a target outside the package.
+    /// @return the id of the relationship; empty if the target is, or if there is no such part
+    std::wstring addHyperlink(const std::wstring& partName, const std::wstring& target);
+    /// Puts an image file into the package, in a part of its own with a random name, and points to it from a
+    /// part. The file is read when the package is saved.
+    /// @return the id of the relationship; empty if the file can't be read
+    std::wstring addImage(const std::wstring& partName, const std::wstring& imagePath);
+    /// Points from a part to another.
+    /// @return the id of the relationship
+    std::wstring addRelationship(const std::wstring& partName, const std::wstring& type,
+                                 const std::wstring& target);
+    /// Lets the type of the main part follow the extension of the output file. Other main types, such as
+    /// those of files with macros, stay.
+    void alignMainType(const std::wstring& mainPartName);
+
+private:
+    std::wstring chooseMediaName(const std::wstring& extension) const;
+
+    unsigned int slideCounter_ = 0;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,48 @@
+/// @file
+/// The relationship types of presentations (ECMA-376 Part 1, annex on transitional relationships) and the
+/// content types of their parts.
+
+#ifndef VELLOX_PPT_ENGINE_PACKAGENAMES_H
+#define VELLOX_PPT_ENGINE_PACKAGENAMES_H
+
+namespace vellox::ppt::relationship {
+
+inline constexpr wchar_t kHyperlink[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/hyperlink";
+inline constexpr wchar_t kImage[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/image";
+inline constexpr wchar_t kOfficeDocument[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
+inline constexpr wchar_t kSlide[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slide";
+inline constexpr wchar_t kSlideLayout[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slideLayout";
+inline constexpr wchar_t kSlideMaster[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slideMaster";
+inline constexpr wchar_t kTableStyles[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/tableStyles";
+inline constexpr wchar_t kTheme[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/theme";
+
+} // namespace vellox::ppt::relationship
+
+namespace vellox::ppt::contenttype {
+
+inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
+
+/// The main part of a file with a given extension.
+struct MainType {
+    const wchar_t* extension;
+    const wchar_t* contentType;
+};
+
+/// Readers refuse a file whose main part is of another of these types than its extension says.
+inline constexpr MainType kMainTypes[] = {
+    {L"pptx", L"application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml"},
+    {L"potx", L"application/vnd.openxmlformats-officedocument.presentationml.template.main+xml"},
+    {L"ppsx", L"application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml"},
+};
+
+} // namespace vellox::ppt::contenttype
+
+#endif

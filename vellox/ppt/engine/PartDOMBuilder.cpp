@@ -1,0 +1,34 @@
+#include "vellox/ppt/engine/PartDOMBuilder.h"
+
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/host/services/Utf8.h"
+#include "vellox/opc/Exception.h"
+
+namespace vellox::ppt {
+
+// The parser comes from the package layer ready for the job: it checks well-formedness only, fetches nothing
+// and knows no namespaces.
+PartDOMBuilder::PartDOMBuilder(const OPCPackage& package)
+    : OPCPartReader(package),
+      parser_(opc::XercesHelper::createParser()) {}
+
+PartDOMBuilder::~PartDOMBuilder() = default;
+
+xercesc::DOMDocument* PartDOMBuilder::getDocument(const opc::Part& part) {
+    opc::Part source(part);
+    try {
+        return opc::XercesHelper::readDocumentFromStream(parser_.get(), source.getInputStream(), false, {},
+                                                         {});
+    } catch (const opc::Exception& failure) {
+        raise(ppt_error::partDOMBuildError(part.getName().toString(), fromUtf8(failure.what())));
+    }
+}
+
+xercesc::DOMDocument* PartDOMBuilder::getDocument(const std::wstring& partName) {
+    if (partName.empty() || !hasPart(partName))
+        return nullptr;
+    return getDocument(getPart(partName));
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,35 @@
+/// @file
+/// From a part to a DOM document.
+
+#ifndef VELLOX_PPT_ENGINE_PARTDOMBUILDER_H
+#define VELLOX_PPT_ENGINE_PARTDOMBUILDER_H
+
+#include <string>
+
+#include "vellox/opc/XercesHelper.h"
+#include "vellox/opc/XercesProcess.h"
+#include "vellox/ppt/engine/OPCPartReader.h"
+
+namespace vellox::ppt {
+
+/// Reads parts as documents without namespaces: names stay as written, prefix and all.
+class PartDOMBuilder : public OPCPartReader {
+public:
+    explicit PartDOMBuilder(const OPCPackage& package);
+    ~PartDOMBuilder() override;
+
+    /// @{ A document that the caller ends with release().
+    /// @throws partDOMBuildError with the part's name and the reason
+    xercesc::DOMDocument* getDocument(const opc::Part& part);
+    /// Null if the name is empty or there is no such part.
+    xercesc::DOMDocument* getDocument(const std::wstring& partName);
+    /// @}
+
+private:
+    opc::XercesProcess xerces_;
+    opc::ParserScope parser_;
+};
+
+} // namespace vellox::ppt
+
+#endif

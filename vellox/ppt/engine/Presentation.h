@@ -1,0 +1,115 @@
+/// @file
+/// The object that a program holds from its first line to its last.
+///
+///     #include <vellox/vellox.h>
+///     using namespace vellox::ppt;
+///
+///     Presentation deck(L"report.pptx");             // on the default template
+///     Slide slide = deck.add(L"Title and Content");  // a slide of a layout, by name
+///     slide.replace(L"Title", L"Weekly report");     // its placeholders, by name
+///     slide.add(L"Content", L"All went well.");
+///     deck.close();                                  // writes report.pptx
+
+#ifndef VELLOX_PPT_ENGINE_PRESENTATION_H
+#define VELLOX_PPT_ENGINE_PRESENTATION_H
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/tree/Paragraph.h"
+#include "vellox/ppt/tree/Slide.h"
+
+namespace vellox::ppt {
+
+class PresentationImpl;
+
+/// A presentation that is being made from a template. A handle: copies share one presentation.
+///
+/// It goes through a fixed life: made, opened (the template is read, and a copy of it stands at the output
+/// path), closed (the slides are written). Every operation that needs the template opens the presentation
+/// first, and so may throw what open() throws. There is no way back: what is changed after close() changes
+/// nothing on disk. A presentation that is opened and never closed leaves the unchanged copy of the template.
+class VELLOX_API Presentation : public PPTNode {
+public:
+    using Names = std::vector<std::wstring>;
+    using NamePairs = std::vector<std::pair<std::wstring, std::wstring>>;
+
+    /// On the default template. Without an output path the file is "untitled.pptx" in the current folder.
+    Presentation();
+    /// @{ @throws pathNotFound if a folder on the way to one of the paths doesn't exist
+    /// @throws invalidFilePath if such a folder can't be followed
+    /// @throws failedToDetermineFilename
+    explicit Presentation(const std::wstring& outputPath);
+    Presentation(const std::wstring& outputPath, const std::wstring& templatePath);
+    /// @}
+
+    /// Reads the template and puts a copy of it at the output path, in the place of what stands there. Paths
+    /// without an extension get "pptx".
+    /// @return false if the presentation was opened before
+    /// @throws cannotOpenTemplate if the template can't be copied, with the reason
+    /// @throws cannotOpenFile if the template is no package, or a damaged or encrypted one, or if the output
+    ///         can't be written; with the reason and the path
+    /// @throws invalidTemplate if the template is a package, but no presentation to build on
+    /// @throws partDOMBuildError if a part of the template can't be read, with the part and the reason
+    /// @throws reservedWindowsFileName, reservedWindowsFileNameChar for the name of the output
+    /// @throws pathNotFound if the output's folder doesn't exist
+    bool open();
+    /// Writes all slides and saves the output.
+    /// @return false if the presentation isn't open: it never was, or it is closed
+    /// @throws cannotOpenFile if the output can't be saved, with the reason and the path; the file at the
+    ///         output path is as it was then
+    bool close();
+
+    /// @{ Adds a slide of a layout: at the end, before the slide at an index from 0 (at the end if there is
+    /// none), or before a slide (at the end if that isn't one of this presentation). Where several slide
+    /// masters have a layout of the name, one of them may be named; else the one whose part name sorts first
+    /// is taken. Names are exact.
+    /// @throws invalidLayoutName
+    /// @throws invalidLayoutOrSlideMasterName in the forms with a master
+    Slide add(const std::wstring& layoutName);
+    Slide add(const std::wstring& layoutName, unsigned int index);
+    Slide add(const std::wstring& layoutName, const Slide& before);
+    Slide add(const std::wstring& layoutName, const std::wstring& masterName);
+    Slide add(const std::wstring& layoutName, const std::wstring& masterName, unsigned int index);
+    Slide add(const std::wstring& layoutName, const std::wstring& masterName, const Slide& before);
+    /// @}
+
+    /// @{ As the operations of Slide, on all slides.
+    void add(const std::wstring& name, const Paragraph& paragraph);
+    void replace(const std::wstring& name, const std::wstring& text);
+    void replace(const std::wstring& name, const Paragraph& paragraph);
+    void replace(const std::wstring& name, const HvContentPtr& content);
+    /// @}
+    /// All slides and shapes of the name, a container ahead of what it holds.
+    Children find(const std::wstring& name);
+
+    /// The names of the slide masters (of their themes), in the template's order.
+    const Names getMasterNames();
+    /// The names of a master's layouts, in the template's order; none for an unknown master.
+    const Names getLayoutNames(const std::wstring& masterName);
+    /// (name, id) of each table style of the template.
+    const NamePairs getTableStyleNames();
+
+    /// @{ As last set, with "/" as separator.
+    const std::wstring getOutputPath() const;
+    const std::wstring getTemplatePath() const;
+    /// @}
+    /// @{ Once the presentation is open this changes nothing, and warns.
+    /// @throws pathNotFound, invalidFilePath, failedToDetermineFilename as the constructors
+    void setOutputPath(const std::wstring& path);
+    void setTemplatePath(const std::wstring& path);
+    /// @}
+
+protected:
+    friend class PresentationImpl;
+    explicit Presentation(PresentationImpl* impl);
+    PresentationImpl* pimpl();
+    const PresentationImpl* pimpl() const;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,108 @@
+/// @file
+/// The state behind Presentation. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_ENGINE_PRESENTATIONIMPL_H
+#define VELLOX_PPT_ENGINE_PRESENTATIONIMPL_H
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+#include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/object/PPTNodeImpl.h"
+
+namespace vellox::ppt {
+
+class PartDOMBuilder;
+class PresentationModel;
+struct TemplateLayout;
+
+/// The life of a presentation:
+///
+///     Created --open--> Parsing --> Parsed --> Open --close--> Closed
+///        ^                 |
+///        +- TemplateInvalid+            (open may be tried again)
+///
+/// A failure while parsing that isn't the parser's own rejection leaves Parsing, and one while the output is
+/// copied leaves Parsed; such a presentation can't be opened again.
+enum class PresentationState : int {
+    Created = 0,         ///< nothing has been read
+    Parsing = 1,         ///< the template is being read
+    TemplateInvalid = 2, ///< the parser has rejected the template
+    Parsed = 3,          ///< the model stands, the output doesn't yet
+    Open = 4,            ///< the output is a copy of the template
+    Closed = 5           ///< the package has been written
+};
+
+/// The two paths of a presentation, as last set.
+struct Report {
+    virtual ~Report() = default;
+
+    bool reportFlag = true; // travels with copies; nothing acts on it
+    std::wstring templatePath;
+    std::wstring outputPath;
+};
+
+class PresentationImpl : public PPTNodeImpl {
+public:
+    PresentationImpl();
+    explicit PresentationImpl(const std::wstring& outputPath);
+    PresentationImpl(const std::wstring& outputPath, const std::wstring& templatePath);
+    /// Copies state, paths and slides, and nothing of the template.
+    PresentationImpl(const PresentationImpl& other);
+    ~PresentationImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+    /// Serves the slides of the template, and a caller who appends a node: opens first, and does nothing
+    /// once the presentation is closed.
+    void appendChild(const Child& child) override;
+
+    virtual bool open();
+    virtual bool close();
+
+    /// Makes a slide of a layout; a null master name leaves the master open.
+    boost::shared_ptr<Slide> makeSlide(const std::wstring& layoutName, const std::wstring* masterName);
+    /// @{ Puts a slide into the list, whatever the state, without a message.
+    void insertSlide(const Child& slide);
+    void insertSlideAt(const Child& slide, unsigned int index);
+    void insertSlideBefore(const Child& slide, const Slide& reference);
+    /// @}
+
+    const Report& getReport() const { return *report_; }
+    void setOutputPath(const std::wstring& path);
+    void setTemplatePath(const std::wstring& path);
+    const Presentation::Names& getMasterNames();
+    const Presentation::Names& getLayoutNames(const std::wstring& masterName);
+    const Presentation::NamePairs& getTableStyleNames();
+
+    /// @{ For the parser.
+    void setState(PresentationState state) { state_ = state; }
+    void clearSlides();
+    /// @}
+
+private:
+    void useDefaultTemplate();
+    template <class Warning>
+    void setPath(std::wstring Report::*field, const std::wstring& path);
+    template <class Warning>
+    void warnThatPathStays();
+    bool isOpenOrClosed() const;
+    void parseTemplate(const std::wstring& templateFile);
+    void readTemplate(const std::wstring& templateFile);
+    void copyToOutput(const std::wstring& outputFile);
+    void removeWorkingCopy();
+    void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
+
+    PresentationState state_ = PresentationState::Created;
+    boost::shared_ptr<Report> report_;
+    std::wstring tempTemplatePath_; // empty when there is no working copy
+    boost::shared_ptr<PartDOMBuilder> partBuilder_;
+    boost::shared_ptr<PresentationModel> model_; // empty before parsing
+    Presentation::NamePairs tableStyleNames_;
+};
+
+} // namespace vellox::ppt
+
+#endif

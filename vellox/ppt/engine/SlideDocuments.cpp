@@ -1,0 +1,137 @@
+#include "vellox/ppt/engine/SlideDocuments.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/engine/XmlNames.h"
+
+#include <set>
+#include <string>
+#include <xercesc/util/XMLChar.hpp>
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+namespace {
+
+// What is said of a layout and can't be said of a slide: readers that check a slide refuse it there.
+bool isLayoutAttribute(const XMLCh* name) {
+    static const std::set<std::u16string> names{u"matchingName", u"preserve", u"type", u"userDrawn"};
+    return names.count(name) > 0;
+}
+
+void copyAttributes(const DOMElement& from, DOMElement& to) {
+    const DOMNamedNodeMap* attributes = from.getAttributes();
+    for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
+        const DOMNode* attribute = attributes->item(i);
+        if (!isLayoutAttribute(attribute->getNodeName()))
+            to.setAttribute(attribute->getNodeName(), attribute->getNodeValue());
+    }
+}
+
+// Turns p:sldLayout into p:sld. Only the first child element comes across, p:cSld: colour map, transition,
+// timing and the like are the layout's own.
+void replaceRoot(DOMDocument& document) {
+    DOMElement* layoutRoot = document.getDocumentElement();
+    DOMElement* slideRoot = document.createElement(xml::kSld);
+    try {
+        copyAttributes(*layoutRoot, *slideRoot);
+    } catch (const DOMException&) {
+        // An attribute that can't be copied is no reason to have no slide.
+    }
+    if (DOMElement* data = layoutRoot->getFirstElementChild())
+        slideRoot->appendChild(data);
+    try {
+        document.replaceChild(slideRoot, layoutRoot);
+    } catch (const DOMException&) {
+        // Likewise: the slide then keeps the layout's root.
+    }
+}
+
+using Nodes = std::vector<DOMNode*>;
+
+void collectInherited(const DOMElement& placeholder, Nodes& condemned) {
+    if (DOMElement* xfrm = findDescendant(&placeholder, {xml::kSpPr, xml::kAXfrm}))
+        condemned.push_back(xfrm);
+    const DOMElement* body = findChild(&placeholder, xml::kTxBody);
+    if (const DOMElement* styles = findChild(body, xml::kALstStyle))
+        for (DOMNode* style = styles->getFirstChild(); style; style = style->getNextSibling())
+            condemned.push_back(style);
+    for (DOMElement* child : getChildElements(body))
+        if (hasName(*child, xml::kAP))
+            condemned.push_back(child);
+}
+
+void stripShapeTree(DOMDocument& document) {
+    Nodes condemned;
+    DOMElement* shape = goDownFirstChildren(&document, 3);
+    for (; shape; shape = shape->getNextElementSibling()) {
+        if (shape->hasAttribute(xml::kDataUid))
+            collectInherited(*shape, condemned);
+        else if (PresentationModel::classify(shape) != NodeType::None || hasName(*shape, xml::kCxnSp))
+            condemned.push_back(shape);
+    }
+    for (DOMNode* node : condemned)
+        removeNode(node);
+}
+
+bool isBlank(const DOMNode& node) {
+    const XMLCh* text = node.getNodeValue();
+    return node.getNodeType() == DOMNode::TEXT_NODE &&
+           XMLChar1_0::isAllSpaces(text, XMLString::stringLen(text));
+}
+
+// Indentation in a layout would be carried into every slide. Blanks beside elements are never content.
+void removeIndentation(DOMDocument& document) {
+    for (DOMElement* element : getAllElements(&document)) {
+        if (!element->getFirstElementChild())
+            continue;
+        for (DOMNode* child = element->getFirstChild(); child;) {
+            DOMNode* next = child->getNextSibling();
+            if (isBlank(*child))
+                element->removeChild(child);
+            child = next;
+        }
+    }
+}
+
+// Some programs write placeholders without id and name, which readers overlook in a layout but not in a
+// slide.
+void completeIdentities(DOMDocument& document, unsigned int lastShapeId) {
+    for (DOMElement* nonVisual : getElementsByName(&document, xml::kNvSpPr)) {
+        if (findChild(nonVisual, xml::kCNvPr))
+            continue;
+        DOMElement* properties = document.createElement(xml::kCNvPr);
+        setAttribute(properties, xml::kId, num2str(++lastShapeId));
+        setAttribute(properties, xml::kName, uuid_gen());
+        nonVisual->insertBefore(properties, nonVisual->getFirstChild());
+    }
+}
+
+OwnedDocument makePrototype(TemplateLayout& layout) {
+    OwnedDocument document = copyDocument(layout.document);
+    removeIndentation(*document.get());
+    replaceRoot(*document.get());
+    if (DOMElement* data = document->getDocumentElement()->getFirstElementChild())
+        data->removeAttribute(xml::kName);
+    stripShapeTree(*document.get());
+    completeIdentities(*document.get(), layout.maxShapeId);
+    return document;
+}
+
+} // namespace
+
+OwnedDocument copyDocument(const OwnedDocument& document) {
+    OwnedDocument copy(static_cast<DOMDocument*>(document->cloneNode(true)));
+    copy->setXmlStandalone(true);
+    return copy;
+}
+
+OwnedDocument makeSlideDocument(TemplateLayout& layout) {
+    // What was stripped stays in the memory of the document that it was stripped from: copies are smaller.
+    if (!layout.slidePrototype)
+        layout.slidePrototype = makePrototype(layout);
+    return copyDocument(layout.slidePrototype);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,174 @@
+#include "vellox/ppt/tree/BaseTextBox.h"
+
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
+
+namespace vellox::ppt {
+
+// BaseTextBoxImpl
+
+BaseTextBoxImpl::BaseTextBoxImpl() {
+    announceCreated(*this);
+}
+
+BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name) : ShapeImpl(name) {
+    announceCreated(*this);
+}
+
+BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+    announceCreated(*this);
+}
+
+BaseTextBoxImpl::BaseTextBoxImpl(const BaseTextBoxImpl& other) : ShapeImpl(other) {
+    announceCreated(*this);
+}
+
+BaseTextBoxImpl::~BaseTextBoxImpl() {
+    announceDestroyed(*this);
+}
+
+const char* BaseTextBoxImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.BaseTextBox";
+}
+
+PPTNodeImpl::Child BaseTextBoxImpl::makeInterface() {
+    return Child(new BaseTextBox(this));
+}
+
+PPTNodeImpl::Child BaseTextBoxImpl::clone() const {
+    return (new BaseTextBoxImpl(*this))->makeInterface();
+}
+
+NodeType BaseTextBoxImpl::getNodeType() const {
+    return NodeType::BaseTextBox;
+}
+
+bool BaseTextBoxImpl::isA(NodeType type) const {
+    return type == NodeType::BaseTextBox; // no text box counts as a Shape here
+}
+
+namespace {
+
+using Child = PPTNodeImpl::Child;
+
+Paragraph toParagraph(const Child& node) {
+    return static_cast<const Paragraph&>(*node);
+}
+
+Child freeOrClone(const Child& node) {
+    return implOf<PPTNodeImpl>(*node)->getParent() ? node->clone() : node;
+}
+
+// Turns the items of a list into paragraph nodes, in order, and those of the lists in it, which stand one
+// level deeper.
+void collectParagraphs(PPTNodeImpl::Children& target, const boost::shared_ptr<HvList>& list, bool isNested,
+                       unsigned int level) {
+    if (!list)
+        raise(ppt_error::invalidReplaceArg());
+    for (unsigned int i = 0; i < list->getSize(); ++i) {
+        const HvContentPtr item = list->getItem(i);
+        if (const auto sublist = ListContent::cast(item)) {
+            collectParagraphs(target, sublist->getValue(), true, isNested ? level + 1 : 2);
+            continue;
+        }
+        const Child node = freeOrClone(contentToParagraph(item));
+        if (isNested)
+            implOf<ParagraphImpl>(*node)->setLevel(level);
+        target.push_back(node);
+    }
+}
+
+} // namespace
+
+void BaseTextBoxImpl::addList(const boost::shared_ptr<HvList>& list) {
+    collectParagraphs(children(), list, false, 0);
+}
+
+void BaseTextBoxImpl::add(const HvContentPtr& content) {
+    if (const auto list = ListContent::cast(content))
+        addList(list->getValue());
+}
+
+Paragraph BaseTextBoxImpl::add(const Paragraph& paragraph) {
+    appendChild(paragraph.makeInterface());
+    return paragraph;
+}
+
+Paragraph BaseTextBoxImpl::add(const std::wstring& text) {
+    return add(Paragraph(text));
+}
+
+void BaseTextBoxImpl::replaceList(const boost::shared_ptr<HvList>& list) {
+    Children paragraphs;
+    collectParagraphs(paragraphs, list, false, 0);
+    setChildren(paragraphs);
+}
+
+void BaseTextBoxImpl::replace(const HvContentPtr& content) {
+    const auto list = ListContent::cast(content);
+    if (!list)
+        raise(ppt_error::invalidReplaceArg());
+    markContentReplaced();
+    replaceList(list->getValue());
+}
+
+Paragraph BaseTextBoxImpl::replace(const Paragraph& paragraph) {
+    markContentReplaced();
+    const Child node = freeOrClone(paragraph.makeInterface());
+    setChildren({node});
+    return toParagraph(node);
+}
+
+Paragraph BaseTextBoxImpl::replace(const std::wstring& text) {
+    markContentReplaced();
+    const Paragraph paragraph(text);
+    setChildren({paragraph.makeInterface()});
+    return paragraph;
+}
+
+// BaseTextBox
+
+BaseTextBox::BaseTextBox() : BaseTextBox(new BaseTextBoxImpl) {}
+BaseTextBox::BaseTextBox(const std::wstring& name) : BaseTextBox(new BaseTextBoxImpl(name)) {}
+BaseTextBox::BaseTextBox(BaseTextBoxImpl* impl) : Shape(impl) {}
+
+BaseTextBoxImpl* BaseTextBox::pimpl() {
+    return implOf<BaseTextBoxImpl>(*this);
+}
+
+const BaseTextBoxImpl* BaseTextBox::pimpl() const {
+    return implOf<BaseTextBoxImpl>(*this);
+}
+
+Paragraph BaseTextBox::add(const std::wstring& text) {
+    return pimpl()->add(text);
+}
+
+Paragraph BaseTextBox::add(const Paragraph& paragraph) {
+    return pimpl()->add(paragraph);
+}
+
+void BaseTextBox::add(const HvContentPtr& content) {
+    pimpl()->add(content);
+}
+
+Paragraph BaseTextBox::replace(const std::wstring& text) {
+    return pimpl()->replace(text);
+}
+
+Paragraph BaseTextBox::replace(const Paragraph& paragraph) {
+    return pimpl()->replace(paragraph);
+}
+
+void BaseTextBox::replace(const HvContentPtr& content) {
+    pimpl()->replace(content);
+}
+
+boost::shared_ptr<BaseTextBox> BaseTextBox::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<BaseTextBox>(node);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,41 @@
+/// @file
+/// The state behind BaseTextBox. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_BASETEXTBOXIMPL_H
+#define VELLOX_PPT_TREE_BASETEXTBOXIMPL_H
+
+#include "vellox/host/values/HvViews.h"
+#include "vellox/ppt/tree/Paragraph.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
+
+namespace vellox::ppt {
+
+class BaseTextBoxImpl : public ShapeImpl {
+public:
+    BaseTextBoxImpl();
+    explicit BaseTextBoxImpl(const std::wstring& name);
+    BaseTextBoxImpl(const std::wstring& name, const Record& record);
+    BaseTextBoxImpl(const BaseTextBoxImpl& other);
+    ~BaseTextBoxImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+    bool isA(NodeType type) const override;
+    void replace(const HvContentPtr& content) override;
+
+    /// Puts the items of a list behind the present paragraphs. Unlike all other ways in, this one doesn't
+    /// tell the paragraphs of their parent.
+    virtual void addList(const boost::shared_ptr<HvList>& list);
+    virtual void add(const HvContentPtr& content);
+    virtual Paragraph add(const Paragraph& paragraph);
+    virtual Paragraph add(const std::wstring& text);
+    virtual void replaceList(const boost::shared_ptr<HvList>& list);
+    virtual Paragraph replace(const Paragraph& paragraph);
+    virtual Paragraph replace(const std::wstring& text);
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,72 @@
+#include "vellox/ppt/tree/ExternalLink.h"
+
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/ExternalLinkImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+// ExternalLinkImpl
+
+ExternalLinkImpl::ExternalLinkImpl() {
+    announceCreated(*this);
+}
+
+ExternalLinkImpl::ExternalLinkImpl(const std::wstring& target, const std::wstring& text)
+    : TextImpl(text),
+      target_(target) {
+    announceCreated(*this);
+}
+
+ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other) : TextImpl(other), target_(other.target_) {
+    announceCreated(*this);
+}
+
+ExternalLinkImpl::~ExternalLinkImpl() {
+    announceDestroyed(*this);
+}
+
+const char* ExternalLinkImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.ExternalLink";
+}
+
+void ExternalLinkImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writeExternalLink(*this, parent);
+}
+
+PPTNodeImpl::Child ExternalLinkImpl::makeInterface() {
+    return Child(new ExternalLink(this));
+}
+
+PPTNodeImpl::Child ExternalLinkImpl::clone() const {
+    return (new ExternalLinkImpl(*this))->makeInterface();
+}
+
+NodeType ExternalLinkImpl::getNodeType() const {
+    return NodeType::ExternalLink;
+}
+
+// ExternalLink
+
+ExternalLink::ExternalLink() : ExternalLink(new ExternalLinkImpl) {}
+ExternalLink::ExternalLink(const std::wstring& target, const std::wstring& text)
+    : ExternalLink(new ExternalLinkImpl(target, text)) {}
+ExternalLink::ExternalLink(ExternalLinkImpl* impl) : Text(impl) {}
+
+ExternalLinkImpl* ExternalLink::pimpl() {
+    return implOf<ExternalLinkImpl>(*this);
+}
+
+const ExternalLinkImpl* ExternalLink::pimpl() const {
+    return implOf<ExternalLinkImpl>(*this);
+}
+
+const std::wstring& ExternalLink::getTarget() const {
+    return pimpl()->getTarget();
+}
+
+void ExternalLink::setTarget(const std::wstring& target) {
+    pimpl()->setTarget(target);
+}
+
+} // namespace vellox::ppt

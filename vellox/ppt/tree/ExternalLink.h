@@ -1,0 +1,37 @@
+/// @file
+/// Runs that link to a place outside the presentation.
+
+#ifndef VELLOX_PPT_TREE_EXTERNALLINK_H
+#define VELLOX_PPT_TREE_EXTERNALLINK_H
+
+#include <string>
+
+#include "vellox/ppt/tree/Text.h"
+
+namespace vellox::ppt {
+
+class ExternalLinkImpl;
+
+/// A run of text that is a link. It has no looks of its own beyond those of its text. A handle: copies share
+/// one link.
+class VELLOX_API ExternalLink : public Text {
+public:
+    ExternalLink();
+    /// @param target where the link leads, such as "https://example.org/report"
+    /// @param text what is shown
+    ExternalLink(const std::wstring& target, const std::wstring& text);
+
+    const std::wstring& getTarget() const;
+    /// The target isn't checked. An empty one makes a link that leads nowhere.
+    void setTarget(const std::wstring& target);
+
+protected:
+    friend class ExternalLinkImpl;
+    explicit ExternalLink(ExternalLinkImpl* impl);
+    ExternalLinkImpl* pimpl();
+    const ExternalLinkImpl* pimpl() const;
+};
+
+} // namespace vellox::ppt
+
+#endif

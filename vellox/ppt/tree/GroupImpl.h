@@ -1,0 +1,27 @@
+/// @file
+/// The state behind Group. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_GROUPIMPL_H
+#define VELLOX_PPT_TREE_GROUPIMPL_H
+
+#include "vellox/ppt/tree/ShapeImpl.h"
+
+namespace vellox::ppt {
+
+class GroupImpl : public ShapeImpl {
+public:
+    GroupImpl();
+    explicit GroupImpl(const std::wstring& name);
+    GroupImpl(const std::wstring& name, const Record& record);
+    GroupImpl(const GroupImpl& other);
+    ~GroupImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,49 @@
+/// @file
+/// The state behind Paragraph. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_PARAGRAPHIMPL_H
+#define VELLOX_PPT_TREE_PARAGRAPHIMPL_H
+
+#include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/object/Attribute.h"
+#include "vellox/ppt/object/ElementImpl.h"
+
+namespace vellox::ppt {
+
+class ParagraphImpl : public ElementImpl {
+public:
+    ParagraphImpl();
+    explicit ParagraphImpl(const BaseAttribute<unsigned int>& level);
+    /// One run of the content.
+    explicit ParagraphImpl(const HvContentPtr& content);
+    ParagraphImpl(const ParagraphImpl& other);
+    ~ParagraphImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+
+    const BaseAttribute<unsigned int>& getLevel() const { return level_; }
+    void setLevel(unsigned int level) { level_.set(level); }
+    void unsetLevel() { level_.unset(); }
+
+private:
+    BaseAttribute<unsigned int> level_;
+};
+
+/// The paragraph node for one item of a list: the caller's own object if the item is one, else a new
+/// paragraph; an empty one for what has no place in a list.
+PPTNodeImpl::Child contentToParagraph(const HvContentPtr& content);
+
+/// The node of a live Paragraph that the content holds; an empty pointer for any other content.
+PPTNodeImpl::Child getParagraphObject(const HvContentPtr& content);
+
+/// A new paragraph with one run of the content, or without any.
+PPTNodeImpl::Child makeParagraph(const HvContentPtr& content);
+PPTNodeImpl::Child makeParagraph();
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,114 @@
+#include "vellox/ppt/tree/Picture.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/InfoUtils.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+// PictureImpl
+
+PictureImpl::PictureImpl() {
+    announceCreated(*this);
+}
+
+PictureImpl::PictureImpl(const std::wstring& path) {
+    setPath(path);
+    announceCreated(*this);
+}
+
+PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+    announceCreated(*this);
+}
+
+PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture)
+    : ShapeImpl(former, takeName),
+      path_(picture.path_) {
+    const ShapeGeometry& given = picture.getGeometry();
+    if (given.cx.isSet())
+        geometry().cx = given.cx;
+    if (given.cy.isSet())
+        geometry().cy = given.cy;
+    announceCreated(*this);
+}
+
+PictureImpl::PictureImpl(const PictureImpl& other) : ShapeImpl(other), path_(other.path_) {
+    announceCreated(*this);
+}
+
+PictureImpl::~PictureImpl() {
+    announceDestroyed(*this);
+}
+
+const char* PictureImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.Picture";
+}
+
+void PictureImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writePicture(*this, parent);
+}
+
+PPTNodeImpl::Child PictureImpl::makeInterface() {
+    return Child(new Picture(this));
+}
+
+PPTNodeImpl::Child PictureImpl::clone() const {
+    return (new PictureImpl(*this))->makeInterface();
+}
+
+NodeType PictureImpl::getNodeType() const {
+    return NodeType::Picture;
+}
+
+void PictureImpl::setPath(const std::wstring& path) {
+    const ImageInfo info = InfoUtils::getImageInfo(path);
+    path_ = path;
+    geometry().cx.set(Dimension(num2str(info.getWidth())));
+    geometry().cy.set(Dimension(num2str(info.getHeight())));
+}
+
+void PictureImpl::checkReplaceable() const {
+    if (!getParent())
+        raise(ppt_error::pictureCannotBeReplaced());
+}
+
+Picture PictureImpl::replace(const Picture& picture) {
+    checkReplaceable();
+    return giveWayTo<PictureImpl>(picture, TakeName::Always);
+}
+
+// Picture
+
+Picture::Picture() : Picture(new PictureImpl) {}
+Picture::Picture(const std::wstring& path) : Picture(new PictureImpl(path)) {}
+Picture::Picture(PictureImpl* impl) : Shape(impl) {}
+
+PictureImpl* Picture::pimpl() {
+    return implOf<PictureImpl>(*this);
+}
+
+const PictureImpl* Picture::pimpl() const {
+    return implOf<PictureImpl>(*this);
+}
+
+const std::wstring& Picture::getPath() const {
+    return pimpl()->getPath();
+}
+
+void Picture::setPath(const std::wstring& path) {
+    pimpl()->setPath(path);
+}
+
+Picture Picture::replace(const Picture& picture) {
+    return pimpl()->replace(picture);
+}
+
+boost::shared_ptr<Picture> Picture::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<Picture>(node);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,42 @@
+/// @file
+/// The state behind Picture. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_PICTUREIMPL_H
+#define VELLOX_PPT_TREE_PICTUREIMPL_H
+
+#include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
+
+namespace vellox::ppt {
+
+class PictureImpl : public ShapeImpl {
+public:
+    using ShapeImpl::replace;
+
+    PictureImpl();
+    explicit PictureImpl(const std::wstring& path);
+    PictureImpl(const std::wstring& name, const Record& record);
+    /// The picture in the place of another shape.
+    PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture);
+    PictureImpl(const PictureImpl& other);
+    ~PictureImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+
+    const std::wstring& getPath() const { return path_; }
+    void setPath(const std::wstring& path);
+    Picture replace(const Picture& picture);
+    /// @throws pictureCannotBeReplaced if this picture stands nowhere
+    virtual void checkReplaceable() const;
+
+private:
+    std::wstring path_;
+};
+
+} // namespace vellox::ppt
+
+#endif

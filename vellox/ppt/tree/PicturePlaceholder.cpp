@@ -1,0 +1,84 @@
+#include "vellox/ppt/tree/PicturePlaceholder.h"
+
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/tree/PicturePlaceholderImpl.h"
+
+namespace vellox::ppt {
+
+// PicturePlaceholderImpl
+
+PicturePlaceholderImpl::PicturePlaceholderImpl() {
+    announceCreated(*this);
+}
+
+PicturePlaceholderImpl::PicturePlaceholderImpl(const std::wstring& name, const Record& record,
+                                               const std::wstring& placeholderType)
+    : BodyPlaceholderImpl(name, record, placeholderType) {
+    announceCreated(*this);
+}
+
+PicturePlaceholderImpl::PicturePlaceholderImpl(const PicturePlaceholderImpl& other)
+    : BodyPlaceholderImpl(other) {
+    announceCreated(*this);
+}
+
+PicturePlaceholderImpl::~PicturePlaceholderImpl() {
+    announceDestroyed(*this);
+}
+
+const char* PicturePlaceholderImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.PicturePlaceholder";
+}
+
+PPTNodeImpl::Child PicturePlaceholderImpl::makeInterface() {
+    return Child(new PicturePlaceholder(this));
+}
+
+PPTNodeImpl::Child PicturePlaceholderImpl::clone() const {
+    return (new PicturePlaceholderImpl(*this))->makeInterface();
+}
+
+NodeType PicturePlaceholderImpl::getNodeType() const {
+    return NodeType::PicturePlaceholder;
+}
+
+bool PicturePlaceholderImpl::isA(NodeType type) const {
+    return type == NodeType::PicturePlaceholder || BodyPlaceholderImpl::isA(type);
+}
+
+void PicturePlaceholderImpl::replace(const HvContentPtr& content) {
+    checkNotReplacedForReplace();
+    if (auto* picture = getObjectImpl<PictureImpl>(content))
+        replace(static_cast<const Picture&>(*picture->makeInterface()));
+    else
+        BodyPlaceholderImpl::replace(content);
+}
+
+Picture PicturePlaceholderImpl::replace(const Picture& picture) {
+    checkNotReplacedForReplace();
+    return giveWayTo<PictureImpl>(picture, TakeName::IfSet);
+}
+
+// PicturePlaceholder
+
+PicturePlaceholder::PicturePlaceholder() : PicturePlaceholder(new PicturePlaceholderImpl) {}
+PicturePlaceholder::PicturePlaceholder(PicturePlaceholderImpl* impl) : BodyPlaceholder(impl) {}
+
+PicturePlaceholderImpl* PicturePlaceholder::pimpl() {
+    return implOf<PicturePlaceholderImpl>(*this);
+}
+
+const PicturePlaceholderImpl* PicturePlaceholder::pimpl() const {
+    return implOf<PicturePlaceholderImpl>(*this);
+}
+
+Picture PicturePlaceholder::replace(const Picture& picture) {
+    return pimpl()->replace(picture);
+}
+
+boost::shared_ptr<PicturePlaceholder> PicturePlaceholder::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<PicturePlaceholder>(node);
+}
+
+} // namespace vellox::ppt

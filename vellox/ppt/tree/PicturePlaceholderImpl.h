@@ -1,0 +1,33 @@
+/// @file
+/// The state behind PicturePlaceholder. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_PICTUREPLACEHOLDERIMPL_H
+#define VELLOX_PPT_TREE_PICTUREPLACEHOLDERIMPL_H
+
+#include "vellox/ppt/tree/BodyPlaceholderImpl.h"
+#include "vellox/ppt/tree/Picture.h"
+
+namespace vellox::ppt {
+
+class PicturePlaceholderImpl : public BodyPlaceholderImpl {
+public:
+    using BodyPlaceholderImpl::replace;
+
+    PicturePlaceholderImpl();
+    PicturePlaceholderImpl(const std::wstring& name, const Record& record,
+                           const std::wstring& placeholderType);
+    PicturePlaceholderImpl(const PicturePlaceholderImpl& other);
+    ~PicturePlaceholderImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+    bool isA(NodeType type) const override;
+    void replace(const HvContentPtr& content) override;
+    Picture replace(const Picture& picture);
+};
+
+} // namespace vellox::ppt
+
+#endif

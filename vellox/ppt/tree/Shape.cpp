@@ -1,0 +1,168 @@
+#include "vellox/ppt/tree/Shape.h"
+
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
+
+namespace vellox::ppt {
+
+// ShapeImpl
+
+ShapeImpl::ShapeImpl() {
+    announceCreated(*this);
+}
+
+ShapeImpl::ShapeImpl(const std::wstring& name) {
+    ShapeImpl::setName(name);
+    announceCreated(*this);
+}
+
+ShapeImpl::ShapeImpl(const std::wstring& name, const Record& record)
+    : templateUid_(record->id),
+      templateShape_(record) {
+    ShapeImpl::setName(name);
+    extendId();
+    announceCreated(*this);
+}
+
+ShapeImpl::ShapeImpl(const ShapeImpl& other)
+    : ElementImpl(other),
+      contentReplaced_(other.contentReplaced_),
+      templateUid_(other.templateUid_),
+      templateShape_(other.templateShape_),
+      geometry_(other.geometry_) {
+    announceCreated(*this);
+}
+
+ShapeImpl::ShapeImpl(const ShapeImpl& former, TakeName takeName)
+    : templateUid_(former.templateUid_),
+      templateShape_(former.templateShape_),
+      geometry_(former.geometry_) {
+    if (takeName == TakeName::Always)
+        PPTNodeImpl::setName(former.getName());
+    else if (geometry_.shapeName.isSet())
+        ShapeImpl::setName(former.getName());
+    extendId();
+    announceCreated(*this);
+}
+
+ShapeImpl::~ShapeImpl() {
+    announceDestroyed(*this);
+}
+
+void ShapeImpl::extendId() {
+    if (!templateUid_.empty())
+        setId(getId() + L":" + templateUid_);
+}
+
+const char* ShapeImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.Shape";
+}
+
+PPTNodeImpl::Child ShapeImpl::makeInterface() {
+    return Child(new Shape(this));
+}
+
+PPTNodeImpl::Child ShapeImpl::clone() const {
+    return (new ShapeImpl(*this))->makeInterface();
+}
+
+NodeType ShapeImpl::getNodeType() const {
+    return NodeType::Shape;
+}
+
+void ShapeImpl::setName(const std::wstring& name) {
+    geometry_.shapeName.set(name);
+    PPTNodeImpl::setName(name);
+}
+
+void ShapeImpl::replace(const HvContentPtr&) {
+    raise(ppt_error::invalidReplaceArg());
+}
+
+PPTNodeImpl* ShapeImpl::findSlide() const {
+    PPTNodeImpl* parent = getParent();
+    if (!parent || parent->getNodeType() != NodeType::Slide)
+        return nullptr;
+    for (const Child& child : parent->getChildren())
+        if (implOf<PPTNodeImpl>(*child) == this)
+            return parent;
+    return nullptr;
+}
+
+// Shape
+
+Shape::Shape() : Shape(new ShapeImpl) {}
+Shape::Shape(const std::wstring& name) : Shape(new ShapeImpl(name)) {}
+Shape::Shape(ShapeImpl* impl) : Element(impl) {}
+
+ShapeImpl* Shape::pimpl() {
+    return implOf<ShapeImpl>(*this);
+}
+
+const ShapeImpl* Shape::pimpl() const {
+    return implOf<ShapeImpl>(*this);
+}
+
+void Shape::setName(const std::wstring& name) {
+    pimpl()->setName(name);
+}
+
+const BaseAttribute<Dimension>& Shape::getX() const {
+    return pimpl()->getGeometry().x;
+}
+
+void Shape::setX(const std::wstring& length) {
+    pimpl()->geometry().x.set(Dimension(length));
+}
+
+void Shape::unsetX() {
+    pimpl()->geometry().x.unset();
+}
+
+const BaseAttribute<Dimension>& Shape::getY() const {
+    return pimpl()->getGeometry().y;
+}
+
+void Shape::setY(const std::wstring& length) {
+    pimpl()->geometry().y.set(Dimension(length));
+}
+
+void Shape::unsetY() {
+    pimpl()->geometry().y.unset();
+}
+
+const BaseAttribute<Dimension>& Shape::getWidth() const {
+    return pimpl()->getGeometry().cx;
+}
+
+void Shape::setWidth(const std::wstring& length) {
+    pimpl()->geometry().cx.set(Dimension(length));
+}
+
+void Shape::unsetWidth() {
+    pimpl()->geometry().cx.unset();
+}
+
+const BaseAttribute<Dimension>& Shape::getHeight() const {
+    return pimpl()->getGeometry().cy;
+}
+
+void Shape::setHeight(const std::wstring& length) {
+    pimpl()->geometry().cy.set(Dimension(length));
+}
+
+void Shape::unsetHeight() {
+    pimpl()->geometry().cy.unset();
+}
+
+void Shape::replace(const HvContentPtr& content) {
+    pimpl()->replace(content);
+}
+
+boost::shared_ptr<Shape> Shape::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<Shape>(node);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,78 @@
+/// @file
+/// The state behind Shape. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_SHAPEIMPL_H
+#define VELLOX_PPT_TREE_SHAPEIMPL_H
+
+#include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/object/ElementImpl.h"
+
+namespace vellox::ppt {
+
+/// A place, a size, and the link to the template's record of the shape if it came from there.
+class ShapeImpl : public ElementImpl {
+public:
+    using Record = boost::shared_ptr<TemplateShape>;
+    /// Whose name a shape that takes another's place gets.
+    enum class TakeName { Always, IfSet };
+
+    ShapeImpl();
+    explicit ShapeImpl(const std::wstring& name);
+    ShapeImpl(const std::wstring& name, const Record& record);
+    ShapeImpl(const ShapeImpl& other);
+    /// A shape that takes the place of another: its record, its geometry, its name.
+    ShapeImpl(const ShapeImpl& former, TakeName takeName);
+    ~ShapeImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+    void setName(const std::wstring& name) override;
+    virtual void replace(const HvContentPtr& content);
+
+    const ShapeGeometry& getGeometry() const { return geometry_; }
+    ShapeGeometry& geometry() { return geometry_; }
+    const std::wstring& getTemplateUid() const { return templateUid_; }
+    const Record& getTemplateShape() const { return templateShape_; }
+    bool isContentReplaced() const { return contentReplaced_; }
+
+protected:
+    void markContentReplaced() { contentReplaced_ = true; }
+    /// Puts a new shape of class Impl, made from this one and a given one, in this one's place on its slide.
+    /// @return a handle on the new shape; the given one if this shape doesn't stand directly on a slide
+    template <class Impl, class Facade>
+    Facade giveWayTo(const Facade& given, TakeName takeName);
+
+private:
+    PPTNodeImpl* findSlide() const;
+    void extendId();
+
+    bool contentReplaced_ = false; // the paragraphs that the template's shape brought along go
+    std::wstring templateUid_;     // empty for a shape made by a caller
+    Record templateShape_;         // null for a shape made by a caller
+    ShapeGeometry geometry_;
+};
+
+template <class Impl, class Facade>
+Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
+    PPTNodeImpl* slide = findSlide();
+    if (!slide)
+        return given;
+    const Child replacement = (new Impl(*this, takeName, *implOf<Impl>(given)))->makeInterface();
+    slide->replaceChild(*makeInterface(), replacement);
+    return static_cast<const Facade&>(*replacement);
+}
+
+/// The implementation that content holds, if it is an object of this class; else null.
+template <class Impl>
+Impl* getObjectImpl(const HvContentPtr& content) {
+    const auto object = ObjectContent::getValue(content);
+    const auto handle = object ? object->getProxy() : boost::shared_ptr<PPTObject>();
+    return handle ? implAs<Impl>(*handle) : nullptr;
+}
+
+} // namespace vellox::ppt
+
+#endif

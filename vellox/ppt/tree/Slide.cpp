@@ -1,0 +1,129 @@
+#include "vellox/ppt/tree/Slide.h"
+
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/ByName.h"
+#include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+// SlideImpl
+
+SlideImpl::SlideImpl() {
+    announceCreated(*this);
+}
+
+SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
+    : ElementImpl(templateSlide->name),
+      templateSlide_(templateSlide) {
+    if (const auto& layout = templateSlide_->layout) {
+        layoutName_ = layout->name;
+        if (layout->master)
+            slideMasterName_ = layout->master->name;
+    }
+    announceCreated(*this);
+}
+
+SlideImpl::SlideImpl(const SlideImpl& other)
+    : ElementImpl(other),
+      slideMasterName_(other.slideMasterName_),
+      layoutName_(other.layoutName_),
+      templateSlide_(other.templateSlide_) {
+    announceCreated(*this);
+}
+
+SlideImpl::~SlideImpl() {
+    announceDestroyed(*this);
+}
+
+const char* SlideImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.Slide";
+}
+
+void SlideImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writeSlide(*this, parent);
+}
+
+PPTNodeImpl::Child SlideImpl::makeInterface() {
+    return Child(new Slide(this));
+}
+
+PPTNodeImpl::Child SlideImpl::clone() const {
+    return (new SlideImpl(*this))->makeInterface();
+}
+
+NodeType SlideImpl::getNodeType() const {
+    return NodeType::Slide;
+}
+
+// Slide
+
+Slide::Slide() : Slide(new SlideImpl) {}
+Slide::Slide(SlideImpl* impl) : Element(impl) {}
+
+SlideImpl* Slide::pimpl() {
+    return implOf<SlideImpl>(*this);
+}
+
+const SlideImpl* Slide::pimpl() const {
+    return implOf<SlideImpl>(*this);
+}
+
+Picture Slide::add(const Picture& picture) {
+    pimpl()->appendChild(picture.makeInterface());
+    return picture;
+}
+
+Table Slide::add(const Table& table) {
+    pimpl()->appendChild(table.makeInterface());
+    return table;
+}
+
+TextBox Slide::add(const TextBox& textBox) {
+    pimpl()->appendChild(textBox.makeInterface());
+    return textBox;
+}
+
+void Slide::add(const std::wstring& name, const std::wstring& text) {
+    addByName(*this, name, text);
+}
+
+void Slide::add(const std::wstring& name, const Paragraph& paragraph) {
+    addByName(*this, name, paragraph);
+}
+
+void Slide::replace(const std::wstring& name, const std::wstring& text) {
+    replaceByName(*this, name, text);
+}
+
+void Slide::replace(const std::wstring& name, const Paragraph& paragraph) {
+    replaceByName(*this, name, paragraph);
+}
+
+void Slide::replace(const std::wstring& name, const HvContentPtr& content) {
+    replaceByName(*this, name, content);
+}
+
+PPTNode::Children Slide::find(const std::wstring& name) const {
+    Children found;
+    findNodes(this, name, found);
+    return found;
+}
+
+const std::wstring& Slide::getLayoutName() const {
+    return pimpl()->getLayoutName();
+}
+
+const std::wstring& Slide::getSlideMasterName() const {
+    return pimpl()->getSlideMasterName();
+}
+
+void Slide::setName(const std::wstring& name) {
+    pimpl()->setName(name);
+}
+
+boost::shared_ptr<Slide> Slide::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<Slide>(node);
+}
+
+} // namespace vellox::ppt

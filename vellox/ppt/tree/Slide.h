@@ -1,0 +1,76 @@
+/// @file
+/// Slides.
+
+#ifndef VELLOX_PPT_TREE_SLIDE_H
+#define VELLOX_PPT_TREE_SLIDE_H
+
+#include <string>
+
+#include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/object/Element.h"
+#include "vellox/ppt/tree/Paragraph.h"
+#include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/Table.h"
+#include "vellox/ppt/tree/TextBox.h"
+
+namespace vellox::ppt {
+
+class SlideImpl;
+
+/// One page of a presentation, on which shapes are filled by name. Only Presentation::add() makes slides. A
+/// handle: copies share one slide.
+///
+///     Slide slide = deck.add(L"Title and Content");
+///     slide.replace(L"Title", L"Results");
+///     slide.add(L"Content", L"First point");
+///
+/// The operations by name act on every shape that bears the name, those in groups among them; a shape that
+/// doesn't take what is given is passed over, and a name that nothing bears does nothing.
+class VELLOX_API Slide : public Element {
+public:
+    /// @{ Puts this very object on the slide, on top of what is there.
+    /// @return a handle on it
+    /// @throws failedToAppendChild if it already has a parent
+    Picture add(const Picture& picture);
+    Table add(const Table& table);
+    TextBox add(const TextBox& textBox);
+    /// @}
+
+    /// Adds a new paragraph to text boxes and placeholders.
+    void add(const std::wstring& name, const std::wstring& text);
+    /// Adds a paragraph to text boxes and placeholders: the first gets the object itself unless it has a
+    /// parent, the others copies.
+    void add(const std::wstring& name, const Paragraph& paragraph);
+    /// Makes a new paragraph the only one of text boxes and placeholders.
+    void replace(const std::wstring& name, const std::wstring& text);
+    /// Makes a paragraph, or a copy of it if it already has a parent, the only one of text boxes and
+    /// placeholders.
+    void replace(const std::wstring& name, const Paragraph& paragraph);
+    /// Gives text boxes and placeholders the items of a list, placeholders that take one a Picture or a
+    /// Table, tables a Table.
+    /// @throws invalidReplaceArg for what one of the shapes doesn't take
+    void replace(const std::wstring& name, const HvContentPtr& content);
+
+    /// All shapes of the name, a group ahead of what it holds.
+    Children find(const std::wstring& name) const;
+
+    const std::wstring& getLayoutName() const;
+    const std::wstring& getSlideMasterName() const;
+    /// The name that Presentation::find() finds the slide by and that it bears in the file.
+    void setName(const std::wstring& name);
+
+    /// The node as a Slide, or an empty pointer.
+    static boost::shared_ptr<Slide> cast(const boost::shared_ptr<PPTNode>& node);
+
+protected:
+    friend class SlideImpl;
+    /// A slide of no layout, which can't be written.
+    Slide();
+    explicit Slide(SlideImpl* impl);
+    SlideImpl* pimpl();
+    const SlideImpl* pimpl() const;
+};
+
+} // namespace vellox::ppt
+
+#endif

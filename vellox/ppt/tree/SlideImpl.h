@@ -1,0 +1,38 @@
+/// @file
+/// The state behind Slide. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_SLIDEIMPL_H
+#define VELLOX_PPT_TREE_SLIDEIMPL_H
+
+#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/object/ElementImpl.h"
+
+namespace vellox::ppt {
+
+class SlideImpl : public ElementImpl {
+public:
+    SlideImpl();
+    /// A slide of a layout or of the template, still without its shapes.
+    explicit SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide);
+    SlideImpl(const SlideImpl& other);
+    ~SlideImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+
+    const std::wstring& getLayoutName() const { return layoutName_; }
+    const std::wstring& getSlideMasterName() const { return slideMasterName_; }
+    const boost::shared_ptr<TemplateSlide>& getTemplateSlide() const { return templateSlide_; }
+
+private:
+    std::wstring slideMasterName_;
+    std::wstring layoutName_;
+    boost::shared_ptr<TemplateSlide> templateSlide_; // null on a bare slide
+};
+
+} // namespace vellox::ppt
+
+#endif

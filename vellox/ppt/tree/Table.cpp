@@ -1,0 +1,226 @@
+#include "vellox/ppt/tree/Table.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+#include <algorithm>
+
+namespace vellox::ppt {
+
+// TableImpl
+
+TableImpl::TableImpl() {
+    announceCreated(*this);
+}
+
+TableImpl::TableImpl(unsigned int nCols) : nCols_(nCols) {
+    announceCreated(*this);
+}
+
+TableImpl::TableImpl(const std::wstring& name) : ShapeImpl(name) {
+    announceCreated(*this);
+}
+
+TableImpl::TableImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+    announceCreated(*this);
+}
+
+TableImpl::TableImpl(const boost::shared_ptr<HvTable>& content) {
+    if (!content)
+        raise(ppt_error::invalidConstructorArg());
+    nCols_ = content->getNCols();
+    announceCreated(*this);
+    for (unsigned int r = 0; r < content->getNRows(); ++r)
+        appendContentRow(*content, r);
+}
+
+TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table)
+    : ShapeImpl(former, takeName),
+      nCols_(table.nCols_),
+      colSpecs_(table.colSpecs_) {
+    setStyle(table.getStyle());
+    announceCreated(*this);
+    for (const Child& row : table.getChildren())
+        appendChild(row->clone());
+}
+
+TableImpl::TableImpl(const TableImpl& other)
+    : ShapeImpl(other),
+      nCols_(other.nCols_),
+      styleName_(other.styleName_),
+      colSpecs_(other.colSpecs_) {
+    announceCreated(*this);
+}
+
+TableImpl::~TableImpl() {
+    announceDestroyed(*this);
+}
+
+const char* TableImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.Table";
+}
+
+void TableImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writeTable(*this, parent);
+}
+
+PPTNodeImpl::Child TableImpl::makeInterface() {
+    return Child(new Table(this));
+}
+
+PPTNodeImpl::Child TableImpl::clone() const {
+    return (new TableImpl(*this))->makeInterface();
+}
+
+NodeType TableImpl::getNodeType() const {
+    return NodeType::Table;
+}
+
+namespace {
+
+// The paragraph node for a cell. Unlike an item of a list, an object that is no paragraph leaves the cell
+// empty instead of being described in it.
+PPTNodeImpl::Child cellToParagraph(const HvContentPtr& content) {
+    if (!content)
+        return makeParagraph();
+    switch (content->getContentType()) {
+    case HvContent::Integer:
+    case HvContent::Double:
+    case HvContent::String:
+        return makeParagraph(content);
+    case HvContent::Object:
+        if (const PPTNodeImpl::Child paragraph = getParagraphObject(content))
+            return paragraph;
+        break;
+    case HvContent::Boolean:
+    case HvContent::List:
+    case HvContent::Table:
+    case HvContent::Empty:
+    case HvContent::Unknown:
+        break;
+    }
+    return makeParagraph();
+}
+
+} // namespace
+
+void TableImpl::appendContentRow(const HvTable& content, unsigned int r) {
+    TableRow row;
+    for (unsigned int c = 0; c < nCols_; ++c) {
+        const Child node = cellToParagraph(content.getEntry(r, c));
+        TableEntry entry;
+        if (!node && !content.isEmptyEntry(r, c))
+            raise(ppt_error::invalidObjectForTable(num2str(r + 1), num2str(c + 1)));
+        if (node) {
+            const bool isTaken = implOf<PPTNodeImpl>(*node)->getParent() != nullptr;
+            entry.append(static_cast<const Paragraph&>(isTaken ? *node->clone() : *node));
+        }
+        row.append(entry);
+    }
+    append(row.makeInterface());
+}
+
+void TableImpl::growTo(std::size_t entries) {
+    nCols_ = std::max(nCols_, static_cast<unsigned int>(entries));
+}
+
+void TableImpl::append(const Child& row) {
+    appendChild(row);
+    growTo(row->getNChildren());
+}
+
+boost::shared_ptr<TableRow> TableImpl::row(unsigned int i) const {
+    return i < getChildren().size() ? TableRow::cast(getChildren()[i]) : boost::shared_ptr<TableRow>();
+}
+
+boost::shared_ptr<TableEntry> TableImpl::entry(unsigned int r, unsigned int c) const {
+    const boost::shared_ptr<TableRow> found = row(r);
+    if (!found)
+        return {};
+    const unsigned int entries = found->getNChildren();
+    if (entries != nCols_)
+        raise(dom_error::entriesColumnsMismatch(num2str(r + 1), num2str(entries), num2str(nCols_)));
+    return c < entries ? TableEntry::cast(found->getChildren()[c]) : boost::shared_ptr<TableEntry>();
+}
+
+void TableImpl::checkReplaceable() const {
+    if (!getParent())
+        raise(ppt_error::tableCannotBeReplaced());
+}
+
+void TableImpl::replace(const HvContentPtr& content) {
+    checkReplaceable();
+    if (auto* table = getObjectImpl<TableImpl>(content))
+        replace(static_cast<const Table&>(*table->makeInterface()));
+    else
+        ShapeImpl::replace(content);
+}
+
+Table TableImpl::replace(const Table& table) {
+    checkReplaceable();
+    return giveWayTo<TableImpl>(table, TakeName::Always);
+}
+
+// Table
+
+Table::Table() : Table(new TableImpl) {}
+Table::Table(unsigned int nCols) : Table(new TableImpl(nCols)) {}
+Table::Table(const std::wstring& name) : Table(new TableImpl(name)) {}
+Table::Table(const boost::shared_ptr<HvTable>& content) : Table(new TableImpl(content)) {}
+Table::Table(TableImpl* impl) : Shape(impl) {}
+
+TableImpl* Table::pimpl() {
+    return implOf<TableImpl>(*this);
+}
+
+const TableImpl* Table::pimpl() const {
+    return implOf<TableImpl>(*this);
+}
+
+unsigned int Table::getNCols() const {
+    return pimpl()->getNCols();
+}
+
+const BaseAttribute<std::wstring>& Table::getStyleName() const {
+    return pimpl()->getStyleName();
+}
+
+void Table::setStyleName(const std::wstring& styleName) {
+    pimpl()->styleName().set(styleName);
+}
+
+void Table::unsetStyleName() {
+    pimpl()->styleName().unset();
+}
+
+const Table::ColSpecs& Table::getColSpecs() const {
+    return pimpl()->getColSpecs();
+}
+
+void Table::setColSpecs(const ColSpecs& colSpecs) {
+    pimpl()->setColSpecs(colSpecs);
+}
+
+TableRow Table::append(const TableRow& row) {
+    pimpl()->append(row.makeInterface());
+    return row;
+}
+
+boost::shared_ptr<TableRow> Table::row(unsigned int i) {
+    return pimpl()->row(i);
+}
+
+boost::shared_ptr<TableEntry> Table::entry(unsigned int r, unsigned int c) {
+    return pimpl()->entry(r, c);
+}
+
+Table Table::replace(const Table& table) {
+    return pimpl()->replace(table);
+}
+
+} // namespace vellox::ppt

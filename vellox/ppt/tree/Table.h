@@ -1,0 +1,83 @@
+/// @file
+/// Tables.
+
+#ifndef VELLOX_PPT_TREE_TABLE_H
+#define VELLOX_PPT_TREE_TABLE_H
+
+#include <string>
+#include <vector>
+
+#include "vellox/host/values/HvViews.h"
+#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/tree/ColSpec.h"
+#include "vellox/ppt/tree/Shape.h"
+#include "vellox/ppt/tree/TableEntry.h"
+#include "vellox/ppt/tree/TableRow.h"
+
+namespace vellox::ppt {
+
+class TableImpl;
+
+/// Rows of entries. A handle: copies share one table. Rows and columns count from 0 here.
+///
+///     Table table(2);
+///     TableRow row;
+///     row.append(TableEntry(L"Sample"));
+///     row.append(TableEntry(L"Value"));
+///     table.append(row);
+///     slide.add(table);
+class VELLOX_API Table : public Shape, public FontProperties<Table> {
+public:
+    using ColSpecs = std::vector<boost::shared_ptr<ColSpec>>;
+
+    Table();
+    /// @param nCols the number of columns; no row or entry is made
+    explicit Table(unsigned int nCols);
+    explicit Table(const std::wstring& name);
+    /// With rows and entries for all that a table of content holds. Numbers and texts become text, a
+    /// Paragraph goes in itself, or as a copy if it already has a parent; anything else, truth values among
+    /// it, leaves its entry empty.
+    /// @throws invalidConstructorArg for an empty pointer
+    explicit Table(const boost::shared_ptr<HvTable>& content);
+
+    /// The number of entries in the widest row so far, at least what was given to the constructor.
+    unsigned int getNCols() const;
+
+    /// @{ The name of a table style of the template. Whether there is one is seen when the presentation is
+    /// closed; where there is none, an ErrorMessage says so and the table has no style.
+    const BaseAttribute<std::wstring>& getStyleName() const;
+    void setStyleName(const std::wstring& styleName);
+    void unsetStyleName();
+    /// @}
+    /// @{ Widths and formats of columns, in column order. The vector is copied, the objects in it are shared.
+    const ColSpecs& getColSpecs() const;
+    void setColSpecs(const ColSpecs& colSpecs);
+    /// @}
+
+    /// Appends this very row. Rows may have fewer entries than the table has columns.
+    /// @throws failedToAppendChild if the row already has a parent
+    TableRow append(const TableRow& row);
+    /// @return an empty pointer if there is no such row
+    boost::shared_ptr<TableRow> row(unsigned int i);
+    /// @return an empty pointer if there is no such entry
+    /// @throws entriesColumnsMismatch if the row has more or fewer entries than the table has columns
+    boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c);
+
+    using Shape::replace;
+    /// Puts a new table, made of copies of the given one's rows, in this table's place and under its name. It
+    /// has the given one's formats and column specifications, and no table style until one is set on it.
+    /// @return a handle on the new table, or the argument if this table doesn't stand directly on a slide,
+    ///         in which case nothing changes
+    /// @throws tableCannotBeReplaced if this table stands nowhere (any more)
+    Table replace(const Table& table);
+
+protected:
+    friend class TableImpl;
+    explicit Table(TableImpl* impl);
+    TableImpl* pimpl();
+    const TableImpl* pimpl() const;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,55 @@
+/// @file
+/// The state behind Table. Internal: users hold facades.
+
+#ifndef VELLOX_PPT_TREE_TABLEIMPL_H
+#define VELLOX_PPT_TREE_TABLEIMPL_H
+
+#include "vellox/ppt/tree/ShapeImpl.h"
+#include "vellox/ppt/tree/Table.h"
+
+namespace vellox::ppt {
+
+class TableImpl : public ShapeImpl {
+public:
+    TableImpl();
+    explicit TableImpl(unsigned int nCols);
+    explicit TableImpl(const std::wstring& name);
+    TableImpl(const std::wstring& name, const Record& record);
+    explicit TableImpl(const boost::shared_ptr<HvTable>& content);
+    /// The table in the place of another shape.
+    TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table);
+    TableImpl(const TableImpl& other);
+    ~TableImpl() override;
+
+    const char* getFullyQualifiedHostTypeName() const override;
+    void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
+    Child makeInterface() override;
+    Child clone() const override;
+    NodeType getNodeType() const override;
+    void replace(const HvContentPtr& content) override;
+
+    unsigned int getNCols() const { return nCols_; }
+    /// The count follows the widest row and never shrinks.
+    void growTo(std::size_t entries);
+    const BaseAttribute<std::wstring>& getStyleName() const { return styleName_; }
+    BaseAttribute<std::wstring>& styleName() { return styleName_; }
+    const Table::ColSpecs& getColSpecs() const { return colSpecs_; }
+    void setColSpecs(const Table::ColSpecs& colSpecs) { colSpecs_ = colSpecs; }
+    void append(const Child& row);
+    boost::shared_ptr<TableRow> row(unsigned int i) const;
+    boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c) const;
+    Table replace(const Table& table);
+    /// @throws tableCannotBeReplaced if this table stands nowhere
+    virtual void checkReplaceable() const;
+
+private:
+    void appendContentRow(const HvTable& content, unsigned int r);
+
+    unsigned int nCols_ = 0;
+    BaseAttribute<std::wstring> styleName_;
+    Table::ColSpecs colSpecs_; // in column order; no children, and without parents
+};
+
+} // namespace vellox::ppt
+
+#endif

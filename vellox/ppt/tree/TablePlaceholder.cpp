@@ -1,0 +1,83 @@
+#include "vellox/ppt/tree/TablePlaceholder.h"
+
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TablePlaceholderImpl.h"
+
+namespace vellox::ppt {
+
+// TablePlaceholderImpl
+
+TablePlaceholderImpl::TablePlaceholderImpl() {
+    announceCreated(*this);
+}
+
+TablePlaceholderImpl::TablePlaceholderImpl(const std::wstring& name, const Record& record,
+                                           const std::wstring& placeholderType)
+    : BodyPlaceholderImpl(name, record, placeholderType) {
+    announceCreated(*this);
+}
+
+TablePlaceholderImpl::TablePlaceholderImpl(const TablePlaceholderImpl& other) : BodyPlaceholderImpl(other) {
+    announceCreated(*this);
+}
+
+TablePlaceholderImpl::~TablePlaceholderImpl() {
+    announceDestroyed(*this);
+}
+
+const char* TablePlaceholderImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.TablePlaceholder";
+}
+
+PPTNodeImpl::Child TablePlaceholderImpl::makeInterface() {
+    return Child(new TablePlaceholder(this));
+}
+
+PPTNodeImpl::Child TablePlaceholderImpl::clone() const {
+    return (new TablePlaceholderImpl(*this))->makeInterface();
+}
+
+NodeType TablePlaceholderImpl::getNodeType() const {
+    return NodeType::TablePlaceholder;
+}
+
+bool TablePlaceholderImpl::isA(NodeType type) const {
+    return type == NodeType::TablePlaceholder || BodyPlaceholderImpl::isA(type);
+}
+
+void TablePlaceholderImpl::replace(const HvContentPtr& content) {
+    checkNotReplacedForReplace();
+    if (auto* table = getObjectImpl<TableImpl>(content))
+        replace(static_cast<const Table&>(*table->makeInterface()));
+    else
+        BodyPlaceholderImpl::replace(content);
+}
+
+Table TablePlaceholderImpl::replace(const Table& table) {
+    checkNotReplacedForReplace();
+    return giveWayTo<TableImpl>(table, TakeName::IfSet);
+}
+
+// TablePlaceholder
+
+TablePlaceholder::TablePlaceholder() : TablePlaceholder(new TablePlaceholderImpl) {}
+TablePlaceholder::TablePlaceholder(TablePlaceholderImpl* impl) : BodyPlaceholder(impl) {}
+
+TablePlaceholderImpl* TablePlaceholder::pimpl() {
+    return implOf<TablePlaceholderImpl>(*this);
+}
+
+const TablePlaceholderImpl* TablePlaceholder::pimpl() const {
+    return implOf<TablePlaceholderImpl>(*this);
+}
+
+Table TablePlaceholder::replace(const Table& table) {
+    return pimpl()->replace(table);
+}
+
+boost::shared_ptr<TablePlaceholder> TablePlaceholder::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<TablePlaceholder>(node);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,73 @@
+#include "vellox/ppt/tree/TableRow.h"
+
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/TableEntry.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TableRowImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+// TableRowImpl
+
+TableRowImpl::TableRowImpl() {
+    announceCreated(*this);
+}
+
+TableRowImpl::TableRowImpl(const TableRowImpl& other) : ElementImpl(other) {
+    announceCreated(*this);
+}
+
+TableRowImpl::~TableRowImpl() {
+    announceDestroyed(*this);
+}
+
+const char* TableRowImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.TableRow";
+}
+
+void TableRowImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writeTableRow(*this, parent);
+}
+
+PPTNodeImpl::Child TableRowImpl::makeInterface() {
+    return Child(new TableRow(this));
+}
+
+PPTNodeImpl::Child TableRowImpl::clone() const {
+    return (new TableRowImpl(*this))->makeInterface();
+}
+
+NodeType TableRowImpl::getNodeType() const {
+    return NodeType::TableRow;
+}
+
+void TableRowImpl::append(const Child& entry) {
+    appendChild(entry);
+    if (auto* table = dynamic_cast<TableImpl*>(getParent()))
+        table->growTo(getChildren().size());
+}
+
+// TableRow
+
+TableRow::TableRow() : TableRow(new TableRowImpl) {}
+TableRow::TableRow(TableRowImpl* impl) : Element(impl) {}
+
+TableRowImpl* TableRow::pimpl() {
+    return implOf<TableRowImpl>(*this);
+}
+
+const TableRowImpl* TableRow::pimpl() const {
+    return implOf<TableRowImpl>(*this);
+}
+
+TableEntry TableRow::append(const TableEntry& entry) {
+    pimpl()->append(entry.makeInterface());
+    return entry;
+}
+
+boost::shared_ptr<TableRow> TableRow::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<TableRow>(node);
+}
+
+} // namespace vellox::ppt

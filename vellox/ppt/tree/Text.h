@@ -1,0 +1,52 @@
+/// @file
+/// Runs of text.
+
+#ifndef VELLOX_PPT_TREE_TEXT_H
+#define VELLOX_PPT_TREE_TEXT_H
+
+#include <string>
+
+#include "vellox/Api.h"
+#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/object/Element.h"
+
+namespace vellox::ppt {
+
+class TextImpl;
+
+/// A piece of a paragraph that looks the same throughout. A handle: copies share one run.
+///
+/// Characters that XML can't hold, such as most control characters, stay in the content and are left out when
+/// the presentation is written.
+class VELLOX_API Text : public Element, public CharacterProperties<Text> {
+public:
+    /// An empty run.
+    Text();
+    explicit Text(const std::wstring& text);
+    /// A run set from a number, see setNumContent().
+    explicit Text(double number);
+
+    /// The text; of a number, its text.
+    const std::wstring& getTextContent() const;
+    /// Makes the run one of text, whatever it was.
+    void setTextContent(const std::wstring& text);
+    /// The number; of a text, the number that it begins with, or 0.
+    double getNumContent() const;
+    /// Makes the run one of a number, with the number's 17 significant digits as text.
+    void setNumContent(double number);
+    /// True if the run was last set from a number.
+    bool isNumContent() const;
+
+    /// The node as a Text, or an empty pointer.
+    static boost::shared_ptr<Text> cast(const boost::shared_ptr<PPTNode>& node);
+
+protected:
+    friend class TextImpl;
+    explicit Text(TextImpl* impl);
+    TextImpl* pimpl();
+    const TextImpl* pimpl() const;
+};
+
+} // namespace vellox::ppt
+
+#endif

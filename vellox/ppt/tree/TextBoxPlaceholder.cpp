@@ -1,0 +1,100 @@
+#include "vellox/ppt/tree/TextBoxPlaceholder.h"
+
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/TextBoxPlaceholderImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+// TextBoxPlaceholderImpl
+
+TextBoxPlaceholderImpl::TextBoxPlaceholderImpl() {
+    announceCreated(*this);
+}
+
+TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const std::wstring& name, const Record& record,
+                                               const std::wstring& placeholderType)
+    : BaseTextBoxImpl(name, record),
+      placeholderType_(placeholderType) {
+    announceCreated(*this);
+}
+
+TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other)
+    : BaseTextBoxImpl(other),
+      placeholderType_(other.placeholderType_) {
+    announceCreated(*this);
+}
+
+TextBoxPlaceholderImpl::~TextBoxPlaceholderImpl() {
+    announceDestroyed(*this);
+}
+
+const char* TextBoxPlaceholderImpl::getFullyQualifiedHostTypeName() const {
+    return "vellox.ppt.TextBoxPlaceholder";
+}
+
+void TextBoxPlaceholderImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
+    writer->writeTextBoxPlaceholder(*this, parent);
+}
+
+PPTNodeImpl::Child TextBoxPlaceholderImpl::makeInterface() {
+    return Child(new TextBoxPlaceholder(this));
+}
+
+PPTNodeImpl::Child TextBoxPlaceholderImpl::clone() const {
+    return (new TextBoxPlaceholderImpl(*this))->makeInterface();
+}
+
+NodeType TextBoxPlaceholderImpl::getNodeType() const {
+    return NodeType::TextBoxPlaceholder;
+}
+
+bool TextBoxPlaceholderImpl::isA(NodeType type) const {
+    return type == NodeType::TextBoxPlaceholder || BaseTextBoxImpl::isA(type);
+}
+
+void TextBoxPlaceholderImpl::checkNotReplaced() const {
+    if (!getParent())
+        raise(ppt_error::placeholderWasReplacedByObject());
+}
+
+void TextBoxPlaceholderImpl::checkNotReplacedForReplace() const {
+    checkNotReplaced();
+}
+
+void TextBoxPlaceholderImpl::checkNotReplacedForAdd() const {
+    checkNotReplaced();
+}
+
+Paragraph TextBoxPlaceholderImpl::add(const Paragraph& paragraph) {
+    checkNotReplacedForAdd();
+    return BaseTextBoxImpl::add(paragraph);
+}
+
+Paragraph TextBoxPlaceholderImpl::add(const std::wstring& text) {
+    checkNotReplacedForAdd();
+    return BaseTextBoxImpl::add(text);
+}
+
+Paragraph TextBoxPlaceholderImpl::replace(const Paragraph& paragraph) {
+    checkNotReplacedForReplace();
+    return BaseTextBoxImpl::replace(paragraph);
+}
+
+Paragraph TextBoxPlaceholderImpl::replace(const std::wstring& text) {
+    checkNotReplacedForReplace();
+    return BaseTextBoxImpl::replace(text);
+}
+
+// TextBoxPlaceholder
+
+TextBoxPlaceholder::TextBoxPlaceholder() : TextBoxPlaceholder(new TextBoxPlaceholderImpl) {}
+TextBoxPlaceholder::TextBoxPlaceholder(TextBoxPlaceholderImpl* impl) : BaseTextBox(impl) {}
+
+boost::shared_ptr<TextBoxPlaceholder> TextBoxPlaceholder::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<TextBoxPlaceholder>(node);
+}
+
+} // namespace vellox::ppt

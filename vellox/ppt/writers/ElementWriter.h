@@ -1,0 +1,81 @@
+/// @file
+/// What all writers share: the way to the driver, the search for formats, and steps through the document of
+/// the slide being written.
+
+#ifndef VELLOX_PPT_WRITERS_ELEMENTWRITER_H
+#define VELLOX_PPT_WRITERS_ELEMENTWRITER_H
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "vellox/ppt/engine/Dom.h"
+#include "vellox/ppt/formats/Format.h"
+#include "vellox/ppt/formats/FormatType.h"
+
+namespace vellox::ppt {
+
+class ElementImpl;
+class PPTPartWriter;
+class PPTWriter;
+class PresentationModel;
+struct TemplateSlide;
+
+/// Writes one element. A writer lives for the writing of one node, on the stack of the driver.
+class ElementWriter {
+public:
+    using FormatTypes = std::vector<FormatType>;
+
+    ElementWriter(const ElementImpl& element, PPTWriter& writer, xercesc::DOMNode* parentNode);
+    ElementWriter(const ElementWriter&) = delete;
+    ElementWriter& operator=(const ElementWriter&) = delete;
+    virtual ~ElementWriter();
+
+    virtual void write();
+    /// Lets one format write itself through this writer.
+    virtual void applyFormat(const Format& format);
+    /// The format of a kind that is in force for an element: its own, or that of the nearest element above
+    /// it. For what stands in a table, the row comes before the column, and both before the table.
+    virtual const Format* findFormat(const ElementImpl& node, FormatType type) const;
+    virtual bool acceptsFormat(const Format& format) const;
+    /// The kinds that this writer looks for up the tree where the element has none of its own.
+    virtual const FormatTypes& inheritedFormatTypes() const;
+
+    const ElementImpl& getElement() const { return element_; }
+    PPTWriter& getWriter() const { return writer_; }
+    xercesc::DOMNode* getParentNode() const { return parentNode_; }
+    PPTPartWriter& getPartWriter() const;
+    PresentationModel& getModel() const;
+    /// The slide being written, or null.
+    TemplateSlide* getCurrentSlide() const;
+    /// The name of its part; empty without a slide.
+    std::wstring getCurrentSlidePartName() const;
+
+    /// A new element of the slide's document, attached to nothing; null without a slide.
+    xercesc::DOMElement* createElement(const XMLCh* name) const;
+    /// @{ The element that bears a data-uid in the slide, or in its layout; null if there is none.
+    xercesc::DOMElement* findSlideElement(const std::wstring& uid) const;
+    xercesc::DOMElement* findLayoutElement(const std::wstring& uid) const;
+    /// @}
+
+protected:
+    /// Applies the element's own formats in the order of their kinds, then what it inherits in the order of
+    /// the list. Where formats append elements, this order shows in the document.
+    void applyFormats(const ElementImpl& node, const FormatTypes& inherited);
+
+private:
+    const ElementImpl& element_;
+    PPTWriter& writer_;
+    xercesc::DOMNode* parentNode_;
+};
+
+/// Removes all child elements of a name.
+void removeChildElements(xercesc::DOMElement* parent, const XMLCh* name);
+
+/// Gives a shape or a cell that has a text body, but no paragraph in it, an empty paragraph: readers demand
+/// one.
+void ensureParagraph(xercesc::DOMElement* element);
+
+} // namespace vellox::ppt
+
+#endif

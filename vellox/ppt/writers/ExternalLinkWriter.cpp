@@ -1,0 +1,21 @@
+#include "vellox/ppt/writers/ExternalLinkWriter.h"
+
+#include "vellox/ppt/engine/PPTPartWriter.h"
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/tree/ExternalLinkImpl.h"
+
+namespace vellox::ppt {
+
+ExternalLinkWriter::ExternalLinkWriter(const ExternalLinkImpl& link, PPTWriter& writer,
+                                       xercesc::DOMNode* parentNode)
+    : TextWriter(link, writer, parentNode),
+      link_(link) {}
+
+void ExternalLinkWriter::write() {
+    const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
+    // Ahead of what the formats append: this order is how links have always been written here.
+    setAttribute(addRPrChild(xml::kAHlinkClick), xml::kRId, id);
+    TextWriter::write();
+}
+
+} // namespace vellox::ppt

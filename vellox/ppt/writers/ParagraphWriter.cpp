@@ -1,0 +1,48 @@
+#include "vellox/ppt/writers/ParagraphWriter.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, DOMNode* parentNode)
+    : ElementWriter(paragraph, writer, parentNode),
+      paragraph_(paragraph) {}
+
+void ParagraphWriter::write() {
+    applyFormats(paragraph_, inheritedFormatTypes());
+    DOMElement* element = createElement(xml::kAP);
+    const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
+    if (level.isSet() && level.get() != 0)
+        setAttribute(getPPr(), xml::kLvl, num2str(level.get() - 1));
+    if (pPr_)
+        element->appendChild(pPr_);
+    for (const auto& child : paragraph_.getChildren())
+        child->acceptWriter(&getWriter(), element);
+    getParentNode()->appendChild(element);
+}
+
+void ParagraphWriter::applyFormat(const Format& format) {
+    implOf<FormatImpl>(format)->applyToParagraph(*this);
+}
+
+const ElementWriter::FormatTypes& ParagraphWriter::inheritedFormatTypes() const {
+    static const FormatTypes types{FormatType::HAlign};
+    return types;
+}
+
+DOMElement* ParagraphWriter::getPPr() {
+    if (!pPr_)
+        pPr_ = createElement(xml::kAPPr);
+    return pPr_;
+}
+
+void ParagraphWriter::setPPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
+    getPPr()->setAttribute(name, mapping.xmlValue);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,33 @@
+/// @file
+/// Paragraphs: a:p with a:pPr (ECMA-376 Part 1, 21.1.2.2).
+
+#ifndef VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
+#define VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
+
+#include "vellox/ppt/formats/SpellingTable.h"
+#include "vellox/ppt/writers/ElementWriter.h"
+
+namespace vellox::ppt {
+
+class ParagraphImpl;
+
+class ParagraphWriter : public ElementWriter {
+public:
+    ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, xercesc::DOMNode* parentNode);
+
+    void write() override;
+    void applyFormat(const Format& format) override;
+    const FormatTypes& inheritedFormatTypes() const override;
+
+    /// The paragraph's properties, made on first use; they are attached when the paragraph is written.
+    xercesc::DOMElement* getPPr();
+    void setPPrAttribute(const XMLCh* name, const ValueMapping& mapping);
+
+private:
+    const ParagraphImpl& paragraph_;
+    xercesc::DOMElement* pPr_ = nullptr;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,38 @@
+#include "vellox/ppt/writers/PictureWriter.h"
+
+#include "vellox/foundation/InfoUtils.h"
+#include "vellox/ppt/engine/PPTPartWriter.h"
+#include "vellox/ppt/engine/ShapeMakers.h"
+#include "vellox/ppt/tree/PictureImpl.h"
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+PictureWriter::PictureWriter(const PictureImpl& picture, PPTWriter& writer, DOMNode* parentNode)
+    : ShapeWriter(picture, writer, parentNode),
+      picture_(picture) {}
+
+void PictureWriter::write() {
+    TemplateSlide* slide = getCurrentSlide();
+    DOMElement* former = getSlideElement();
+    if (!slide || picture_.getPath().empty())
+        return;
+    const ImageInfo info = InfoUtils::getImageInfo(picture_.getPath());
+    const PixelSize size{info.getWidth(), info.getHeight()};
+    const std::wstring id = getPartWriter().addImage(getCurrentSlidePartName(), picture_.getPath());
+    const ShapeGeometry& geometry = picture_.getGeometry();
+    if (!former) {
+        makeFreePicture(*slide, id, geometry.shapeName, geometry);
+        return;
+    }
+    DOMNode* parent = former->getParentNode();
+    const PictureElements made =
+        getShapeType() == NodeType::Picture
+            ? makePictureForPicture(*slide, id, former, size, geometry)
+            : makePictureForPlaceholder(*slide, id, former, getLayoutElement(), size, geometry);
+    if (parent)
+        parent->replaceChild(made.pic, former);
+}
+
+} // namespace vellox::ppt

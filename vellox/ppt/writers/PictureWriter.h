@@ -1,0 +1,24 @@
+/// @file
+/// Pictures: p:pic (ECMA-376 Part 1, 19.3.1.37), free or in the place of another shape.
+
+#ifndef VELLOX_PPT_WRITERS_PICTUREWRITER_H
+#define VELLOX_PPT_WRITERS_PICTUREWRITER_H
+
+#include "vellox/ppt/writers/ShapeWriter.h"
+
+namespace vellox::ppt {
+
+class PictureImpl;
+
+class PictureWriter : public ShapeWriter {
+public:
+    PictureWriter(const PictureImpl& picture, PPTWriter& writer, xercesc::DOMNode* parentNode);
+    void write() override;
+
+private:
+    const PictureImpl& picture_;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,36 @@
+#include "vellox/ppt/writers/ShapeWriter.h"
+
+#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
+
+namespace vellox::ppt {
+
+ShapeWriter::ShapeWriter(const ShapeImpl& shape, PPTWriter& writer, xercesc::DOMNode* parentNode)
+    : ElementWriter(shape, writer, parentNode),
+      shape_(shape) {}
+
+TemplateShape* ShapeWriter::getTemplateShape() const {
+    return shape_.getTemplateShape().get();
+}
+
+xercesc::DOMElement* ShapeWriter::getSlideElement() const {
+    const TemplateShape* record = getTemplateShape();
+    return record ? findSlideElement(record->id) : nullptr;
+}
+
+NodeType ShapeWriter::getShapeType() const {
+    const TemplateShape* record = getTemplateShape();
+    return record ? record->type : NodeType::None;
+}
+
+xercesc::DOMElement* ShapeWriter::getLayoutElement() const {
+    TemplateShape* record = getTemplateShape();
+    if (!record)
+        return nullptr;
+    // On a new slide the records are the layout's own.
+    if (record->layoutShapeUid.empty())
+        record->layoutShapeUid = record->id;
+    return findLayoutElement(record->layoutShapeUid);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,35 @@
+/// @file
+/// How a shape finds its element in the slide's document and in the layout's.
+
+#ifndef VELLOX_PPT_WRITERS_SHAPEWRITER_H
+#define VELLOX_PPT_WRITERS_SHAPEWRITER_H
+
+#include "vellox/ppt/object/NodeType.h"
+#include "vellox/ppt/writers/ElementWriter.h"
+
+namespace vellox::ppt {
+
+class ShapeImpl;
+struct TemplateShape;
+
+class ShapeWriter : public ElementWriter {
+public:
+    ShapeWriter(const ShapeImpl& shape, PPTWriter& writer, xercesc::DOMNode* parentNode);
+
+    const ShapeImpl& getShape() const { return shape_; }
+    /// Null for a shape that a caller made.
+    TemplateShape* getTemplateShape() const;
+    /// Null for a shape that a caller made.
+    xercesc::DOMElement* getSlideElement() const;
+    /// What the slide's element is; None for a shape that a caller made.
+    NodeType getShapeType() const;
+    /// The layout's shape that the slide's element inherits from; null if there is none.
+    xercesc::DOMElement* getLayoutElement() const;
+
+private:
+    const ShapeImpl& shape_;
+};
+
+} // namespace vellox::ppt
+
+#endif

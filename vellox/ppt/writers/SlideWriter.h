@@ -1,0 +1,24 @@
+/// @file
+/// Slides: the parts that hold p:sld (ECMA-376 Part 1, 19.3.1.38).
+
+#ifndef VELLOX_PPT_WRITERS_SLIDEWRITER_H
+#define VELLOX_PPT_WRITERS_SLIDEWRITER_H
+
+#include "vellox/ppt/writers/ElementWriter.h"
+
+namespace vellox::ppt {
+
+class SlideImpl;
+
+class SlideWriter : public ElementWriter {
+public:
+    SlideWriter(const SlideImpl& slide, PPTWriter& writer, xercesc::DOMNode* parentNode);
+    void write() override;
+
+private:
+    const SlideImpl& slide_;
+};
+
+} // namespace vellox::ppt
+
+#endif

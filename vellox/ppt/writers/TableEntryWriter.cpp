@@ -1,0 +1,57 @@
+#include "vellox/ppt/writers/TableEntryWriter.h"
+
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, DOMNode* parentNode)
+    : ElementWriter(entry, writer, parentNode),
+      entry_(entry) {}
+
+void TableEntryWriter::write() {
+    applyFormats(entry_, inheritedFormatTypes());
+    DOMElement* cell = createElement(xml::kATc);
+    DOMElement* body = appendElement(cell, xml::kATxBody);
+    appendElement(body, xml::kABodyPr);
+    for (const auto& child : entry_.getChildren())
+        child->acceptWriter(&getWriter(), body);
+    ensureParagraph(cell);
+    if (tcPr_)
+        cell->appendChild(tcPr_);
+    getParentNode()->appendChild(cell);
+    getWriter().nextEntry();
+}
+
+void TableEntryWriter::applyFormat(const Format& format) {
+    implOf<FormatImpl>(format)->applyToTableEntry(*this);
+}
+
+const ElementWriter::FormatTypes& TableEntryWriter::inheritedFormatTypes() const {
+    static const FormatTypes types{FormatType::BackgroundColor, FormatType::VAlign};
+    return types;
+}
+
+DOMElement* TableEntryWriter::getTcPr() {
+    if (!tcPr_)
+        tcPr_ = createElement(xml::kATcPr);
+    return tcPr_;
+}
+
+void TableEntryWriter::setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
+    getTcPr()->setAttribute(name, mapping.xmlValue);
+}
+
+void TableEntryWriter::setTcPrFlag(const XMLCh* name, bool value) {
+    getTcPr()->setAttribute(name, value ? xml::kTrue : xml::kFalse);
+}
+
+DOMElement* TableEntryWriter::addTcPrChild(const XMLCh* name) {
+    return appendElement(getTcPr(), name);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,36 @@
+/// @file
+/// Table cells: a:tc (ECMA-376 Part 1, 21.1.3.16).
+
+#ifndef VELLOX_PPT_WRITERS_TABLEENTRYWRITER_H
+#define VELLOX_PPT_WRITERS_TABLEENTRYWRITER_H
+
+#include "vellox/ppt/formats/SpellingTable.h"
+#include "vellox/ppt/writers/ElementWriter.h"
+
+namespace vellox::ppt {
+
+class TableEntryImpl;
+
+class TableEntryWriter : public ElementWriter {
+public:
+    TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, xercesc::DOMNode* parentNode);
+
+    void write() override;
+    void applyFormat(const Format& format) override;
+    const FormatTypes& inheritedFormatTypes() const override;
+
+    /// The cell's properties, made on first use; they are attached when the cell is written.
+    xercesc::DOMElement* getTcPr();
+    void setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping);
+    void setTcPrFlag(const XMLCh* name, bool value);
+    /// Appends a new element to the cell's properties.
+    xercesc::DOMElement* addTcPrChild(const XMLCh* name);
+
+private:
+    const TableEntryImpl& entry_;
+    xercesc::DOMElement* tcPr_ = nullptr;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,22 @@
+#include "vellox/ppt/writers/TableRowWriter.h"
+
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/tree/TableRowImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+TableRowWriter::TableRowWriter(const TableRowImpl& row, PPTWriter& writer, xercesc::DOMNode* parentNode)
+    : ElementWriter(row, writer, parentNode),
+      row_(row) {}
+
+void TableRowWriter::write() {
+    xercesc::DOMElement* element = createElement(xml::kATr);
+    element->setAttribute(xml::kH, xml::kFalse); // as high as its text
+    for (const auto& entry : row_.getChildren())
+        entry->acceptWriter(&getWriter(), element);
+    getParentNode()->appendChild(element);
+    getWriter().nextRow();
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,104 @@
+#include "vellox/ppt/writers/TableWriter.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/engine/ShapeMakers.h"
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+namespace {
+
+// What a column without a width gets when the others leave nothing of the table's width.
+constexpr double kLeastColumnWidth = 208080.0;
+
+} // namespace
+
+TableWriter::TableWriter(const TableImpl& table, PPTWriter& writer, DOMNode* parentNode)
+    : ShapeWriter(table, writer, parentNode),
+      table_(table) {}
+
+void TableWriter::write() {
+    if (!getCurrentSlide())
+        return;
+    getWriter().enterTable(table_);
+    if (table_.getChildren().empty()) {
+        if (getShapeType() != NodeType::Picture)
+            ensureParagraph(getSlideElement());
+        return;
+    }
+    DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
+    if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
+        reportMissingStyle();
+    for (const auto& row : table_.getChildren())
+        row->acceptWriter(&getWriter(), tbl);
+    updateGrid(tbl);
+    getWriter().leaveTable();
+}
+
+DOMElement* TableWriter::makeFrame() {
+    TemplateSlide& slide = *getCurrentSlide();
+    const ShapeGeometry& geometry = table_.getGeometry();
+    DOMElement* former = getSlideElement();
+    if (!former)
+        return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols()).frame;
+    DOMNode* parent = former->getParentNode();
+    const auto make = getShapeType() == NodeType::Table ? makeTableForTable : makeTableForPlaceholder;
+    DOMElement* frame = make(slide, former, getLayoutElement(), table_.getNCols()).frame;
+    if (parent)
+        parent->replaceChild(frame, former);
+    return frame;
+}
+
+bool TableWriter::applyTableStyle(DOMElement* tbl) const {
+    const std::wstring* styleId = getModel().findTableStyleId(table_.getStyleName().get());
+    if (!styleId)
+        return false;
+    DOMElement* properties = findChild(tbl, xml::kATblPr);
+    if (!properties) {
+        properties = createElement(xml::kATblPr);
+        tbl->insertBefore(properties, tbl->getFirstChild());
+    }
+    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(*styleId));
+    return true;
+}
+
+void TableWriter::reportMissingStyle() const {
+    if (!wantsErrors())
+        return;
+    const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
+    MessageDispatcher::getTheDispatcher().dispatch(
+        ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
+}
+
+void TableWriter::updateGrid(DOMElement* tbl) const {
+    const auto& widths = getWriter().getTableContext().colWidths;
+    double sum = 0;
+    std::size_t open = 0;
+    for (const std::optional<int>& width : widths) {
+        sum += width.value_or(0);
+        open += width ? 0 : 1;
+    }
+    DOMElement* grid = findChild(tbl, xml::kATblGrid);
+    if (open == widths.size() || !grid)
+        return;
+    double total = 0;
+    for (const DOMElement* column : getChildElements(grid))
+        total += str2double(getAttribute(column, xml::kW));
+    const double each =
+        open != 0 && total > sum ? (total - sum) / static_cast<double>(open) : kLeastColumnWidth;
+    removeChildElements(grid, xml::kAGridCol);
+    for (const std::optional<int>& width : widths)
+        setAttribute(appendElement(grid, xml::kAGridCol), xml::kW,
+                     num2str(truncateToInt(width ? *width : each)));
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,58 @@
+#include "vellox/ppt/writers/TextWriter.h"
+
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/tree/TextImpl.h"
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentNode)
+    : ElementWriter(text, writer, parentNode),
+      text_(text) {}
+
+void TextWriter::write() {
+    applyFormats(text_, inheritedFormatTypes());
+    DOMElement* run = createElement(xml::kAR);
+    if (rPr_)
+        run->appendChild(rPr_);
+    appendElement(run, xml::kAT)->setTextContent(opc::XercesString(text_.getTextContent()));
+    getParentNode()->appendChild(run);
+}
+
+void TextWriter::applyFormat(const Format& format) {
+    implOf<FormatImpl>(format)->applyToText(*this);
+}
+
+const ElementWriter::FormatTypes& TextWriter::inheritedFormatTypes() const {
+    static const FormatTypes types{FormatType::Bold,       FormatType::Italic,      FormatType::FontColor,
+                                   FormatType::FontFamily, FormatType::FontSize,    FormatType::Strike,
+                                   FormatType::Subscript,  FormatType::Superscript, FormatType::Underline};
+    return types;
+}
+
+DOMElement* TextWriter::getRPr() {
+    if (!rPr_)
+        rPr_ = createElement(xml::kARPr);
+    return rPr_;
+}
+
+void TextWriter::setRPrAttribute(const XMLCh* name, const XMLCh* value) {
+    getRPr()->setAttribute(name, value);
+}
+
+void TextWriter::setRPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
+    setRPrAttribute(name, mapping.xmlValue);
+}
+
+void TextWriter::setRPrFlag(const XMLCh* name, bool value) {
+    setRPrAttribute(name, value ? xml::kTrue : xml::kFalse);
+}
+
+DOMElement* TextWriter::addRPrChild(const XMLCh* name) {
+    return appendElement(getRPr(), name);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,37 @@
+/// @file
+/// Runs of text: a:r with a:rPr and a:t (ECMA-376 Part 1, 21.1.2.3).
+
+#ifndef VELLOX_PPT_WRITERS_TEXTWRITER_H
+#define VELLOX_PPT_WRITERS_TEXTWRITER_H
+
+#include "vellox/ppt/formats/SpellingTable.h"
+#include "vellox/ppt/writers/ElementWriter.h"
+
+namespace vellox::ppt {
+
+class TextImpl;
+
+class TextWriter : public ElementWriter {
+public:
+    TextWriter(const TextImpl& text, PPTWriter& writer, xercesc::DOMNode* parentNode);
+
+    void write() override;
+    void applyFormat(const Format& format) override;
+    const FormatTypes& inheritedFormatTypes() const override;
+
+    /// The run's properties, made on first use; they are attached when the run is written.
+    xercesc::DOMElement* getRPr();
+    void setRPrAttribute(const XMLCh* name, const XMLCh* value);
+    void setRPrAttribute(const XMLCh* name, const ValueMapping& mapping);
+    void setRPrFlag(const XMLCh* name, bool value);
+    /// Appends a new element to the run's properties.
+    xercesc::DOMElement* addRPrChild(const XMLCh* name);
+
+private:
+    const TextImpl& text_;
+    xercesc::DOMElement* rPr_ = nullptr;
+};
+
+} // namespace vellox::ppt
+
+#endif
