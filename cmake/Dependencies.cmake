@@ -1,0 +1,9 @@
+# All of these are packages of Debian 12; scripts/install-packages names them.
+
+find_package(Boost 1.74 REQUIRED COMPONENTS regex locale)
+find_package(XercesC 3.2 REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip>=1.7)
+pkg_check_modules(tiff REQUIRED IMPORTED_TARGET libtiff-4>=4.5)
+pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
+find_program(MSGFMT msgfmt REQUIRED)

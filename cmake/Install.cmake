@@ -1,0 +1,32 @@
+# What find_package(vellox) and pkg-config find.
+
+include(CMakePackageConfigHelpers)
+
+install(TARGETS vellox_ppt EXPORT vellox LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(
+    DIRECTORY ${PROJECT_SOURCE_DIR}/vellox
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    FILES_MATCHING
+    PATTERN "*.h"
+    PATTERN "*Impl.h" EXCLUDE
+    PATTERN "writers" EXCLUDE
+    PATTERN "opc" EXCLUDE
+    PATTERN "binding" EXCLUDE
+)
+install(FILES ${PROJECT_SOURCE_DIR}/vellox/ppt/object/PPTClientImpl.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vellox/ppt/object
+)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vellox)
+install(EXPORT vellox NAMESPACE vellox:: FILE velloxTargets.cmake DESTINATION ${package_dir})
+configure_package_config_file(
+    ${PROJECT_SOURCE_DIR}/cmake/velloxConfig.cmake.in ${PROJECT_BINARY_DIR}/velloxConfig.cmake
+    INSTALL_DESTINATION ${package_dir}
+)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/velloxConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/velloxConfig.cmake ${PROJECT_BINARY_DIR}/velloxConfigVersion.cmake
+        DESTINATION ${package_dir}
+)
+
+configure_file(${PROJECT_SOURCE_DIR}/cmake/vellox.pc.in ${PROJECT_BINARY_DIR}/vellox.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vellox.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
