@@ -19,8 +19,8 @@ bool hasName(const DOMNode& node, const XMLCh* name) {
 namespace {
 
 DOMElement* getFirstChildElement(const DOMNode* parent) {
-    const auto* element = dynamic_cast<const DOMElement*>(parent);
-    return element ? element->getFirstElementChild() : nullptr;
+    const bool isElement = parent && parent->getNodeType() == DOMNode::ELEMENT_NODE;
+    return isElement ? static_cast<const DOMElement*>(parent)->getFirstElementChild() : nullptr;
 }
 
 } // namespace

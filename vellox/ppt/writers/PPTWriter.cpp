@@ -45,6 +45,11 @@ void PPTWriter::enterSlide(const boost::shared_ptr<TemplateSlide>& slide) {
         {slide, isNew, isNew ? OwnedDocument() : copyDocument(slide->document), slide->nextShapeId});
 }
 
+void PPTWriter::leaveSlide() {
+    currentSlide_->elementsByUid.clear();
+    currentSlide_->document.reset();
+}
+
 void PPTWriter::rollBack() {
     for (Former& former : formers_) {
         TemplateSlide& slide = *former.record;

@@ -27,6 +27,7 @@ void SlideWriter::write() {
     for (const auto& entry : record->elementsByUid)
         entry.second->removeAttribute(xml::kDataUid);
     getPartWriter().writeDocument(record->partName, record->document.get());
+    getWriter().leaveSlide();
 }
 
 } // namespace vellox::ppt

@@ -1,0 +1,86 @@
+// Whole decks, from making to file, in one process. The number of items is slides, runs, cells or bytes: a
+// cost that grows linearly shows the same items per second on every row of a benchmark.
+
+#include "benchmarks/decks.h"
+
+#include <vellox/vellox.h>
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+namespace vellox::bench {
+
+namespace {
+
+std::wstring inTempFolder(const wchar_t* name) {
+    return fromUtf8((std::filesystem::temp_directory_path() / toUtf8(name)).string());
+}
+
+const std::wstring& getOutput() {
+    static const std::wstring path = inTempFolder(L"vellox-bench.pptx");
+    return path;
+}
+
+void removeOutput() {
+    std::filesystem::remove(toUtf8(getOutput()));
+}
+
+void textDeck(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    for (auto _ : state)
+        makeTextDeck(getOutput(), slides);
+    state.SetItemsProcessed(state.iterations() * slides);
+    removeOutput();
+}
+BENCHMARK(textDeck)->Arg(5)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void styledRuns(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    for (auto _ : state)
+        makeStyledDeck(getOutput(), slides, 100);
+    state.SetItemsProcessed(state.iterations() * slides * 100);
+    removeOutput();
+}
+BENCHMARK(styledRuns)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void tables(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    for (auto _ : state)
+        makeTableDeck(getOutput(), slides);
+    state.SetItemsProcessed(state.iterations() * slides * 20 * 8);
+    removeOutput();
+}
+BENCHMARK(tables)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
+
+void pictures(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    const std::wstring image = inTempFolder(L"vellox-bench.png");
+    writePng(image, 300000);
+    for (auto _ : state)
+        makePictureDeck(getOutput(), slides, image);
+    state.SetBytesProcessed(state.iterations() * slides * 300000);
+    std::filesystem::remove(toUtf8(image));
+    removeOutput();
+}
+BENCHMARK(pictures)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
+
+// What the pictures' bytes cost by themselves.
+void copyOfPictures(benchmark::State& state) {
+    const std::wstring image = inTempFolder(L"vellox-bench.png");
+    writePng(image, 300000);
+    for (auto _ : state)
+        for (int i = 0; i < 200; ++i)
+            std::filesystem::copy_file(toUtf8(image), toUtf8(getOutput()),
+                                       std::filesystem::copy_options::overwrite_existing);
+    state.SetBytesProcessed(state.iterations() * 200 * 300000);
+    std::filesystem::remove(toUtf8(image));
+    removeOutput();
+}
+BENCHMARK(copyOfPictures)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace vellox::bench
+
+BENCHMARK_MAIN();

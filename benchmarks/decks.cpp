@@ -1,0 +1,88 @@
+#include "benchmarks/decks.h"
+
+#include <vellox/vellox.h>
+
+#include <fstream>
+#include <random>
+#include <vector>
+
+namespace vellox::bench {
+
+using namespace ppt;
+
+namespace {
+
+// The text of a slide, different on each.
+std::wstring say(const wchar_t* text, unsigned number) {
+    return text + std::to_wstring(number);
+}
+
+} // namespace
+
+void makeTextDeck(const std::wstring& output, unsigned slides) {
+    Presentation deck(output);
+    for (unsigned i = 0; i < slides; ++i) {
+        Slide slide = deck.add(L"Title and Content");
+        slide.replace(L"Title", say(L"Results of run ", i));
+        for (unsigned bullet = 0; bullet < 5; ++bullet)
+            slide.add(L"Content", say(L"The value of this quantity was measured as ", i * bullet));
+    }
+    deck.close();
+}
+
+void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide) {
+    Presentation deck(output);
+    for (unsigned i = 0; i < slides; ++i) {
+        Slide slide = deck.add(L"Title Only");
+        TextBox box(L"Runs");
+        box.setBold(true);
+        box.setFontColor(L"navy");
+        box.setFontSize(L"14pt");
+        Paragraph paragraph = box.add(L"");
+        paragraph.setItalic(true);
+        paragraph.setUnderlineStyle(L"single");
+        for (unsigned run = 0; run < runsPerSlide; ++run)
+            paragraph.append(say(L"run ", run));
+        slide.add(box);
+    }
+    deck.close();
+}
+
+void makeTableDeck(const std::wstring& output, unsigned slides) {
+    Presentation deck(output);
+    for (unsigned i = 0; i < slides; ++i) {
+        Slide slide = deck.add(L"Title Only");
+        Table table(8);
+        table.setWidth(L"25cm");
+        for (unsigned r = 0; r < 20; ++r) {
+            TableRow row;
+            for (unsigned c = 0; c < 8; ++c)
+                row.append(TableEntry(say(L"cell ", r * c)));
+            table.append(row);
+        }
+        slide.add(table);
+    }
+    deck.close();
+}
+
+void makePictureDeck(const std::wstring& output, unsigned slides, const std::wstring& image) {
+    Presentation deck(output);
+    for (unsigned i = 0; i < slides; ++i)
+        deck.add(L"Title Only").add(Picture(image));
+    deck.close();
+}
+
+void writePng(const std::wstring& path, unsigned bytes) {
+    // Signature and header of a picture of 640 by 480, then noise: what is in it plays no role here.
+    static const unsigned char kHead[] = {0x89, 'P',  'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A, 0,    0, 0,
+                                          13,   'I',  'H', 'D', 'R',  0,    0,    2,    0x80, 0, 0,
+                                          1,    0xE0, 8,   2,   0,    0,    0,    0,    0,    0, 0};
+    std::vector<unsigned char> content(kHead, kHead + sizeof kHead);
+    std::mt19937 noise(1);
+    while (content.size() < bytes)
+        content.push_back(static_cast<unsigned char>(noise()));
+    std::ofstream(toUtf8(path), std::ios::binary)
+        .write(reinterpret_cast<const char*>(content.data()), static_cast<std::streamsize>(content.size()));
+}
+
+} // namespace vellox::bench

@@ -1,0 +1,31 @@
+// Makes one deck, to be measured from outside:
+//
+//     make_deck text|styled|table|picture <slides> <output.pptx> [<image>]
+
+#include "benchmarks/decks.h"
+
+#include <vellox/vellox.h>
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+    using namespace vellox::bench;
+    if (argc < 4) {
+        std::cerr << "usage: make_deck text|styled|table|picture <slides> <output.pptx> [<image>]\n";
+        return 2;
+    }
+    const std::string kind = argv[1];
+    const auto slides = static_cast<unsigned>(std::stoul(argv[2]));
+    const std::wstring output = vellox::fromUtf8(argv[3]);
+    if (kind == "text")
+        makeTextDeck(output, slides);
+    else if (kind == "styled")
+        makeStyledDeck(output, slides, 100);
+    else if (kind == "table")
+        makeTableDeck(output, slides);
+    else if (kind == "picture" && argc > 4)
+        makePictureDeck(output, slides, vellox::fromUtf8(argv[4]));
+    else
+        return 2;
+    return 0;
+}
