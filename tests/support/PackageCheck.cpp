@@ -9,7 +9,6 @@
 #include "vellox/ppt/engine/XmlNames.h"
 
 #include <boost/make_shared.hpp>
-#include <regex>
 #include <set>
 
 namespace vellox::test {
@@ -17,6 +16,14 @@ namespace vellox::test {
 namespace {
 
 using namespace ppt;
+
+bool isExtent(const std::wstring& text) {
+    return !text.empty() && text.find_first_not_of(L"0123456789") == std::wstring::npos;
+}
+
+bool isWhole(const std::wstring& text) {
+    return isExtent(text.substr(!text.empty() && text[0] == L'-' ? 1 : 0));
+}
 
 class Check {
 public:
@@ -87,7 +94,6 @@ private:
 
     void checkAttributes(const opc::PartName& name, const xercesc::DOMElement& element,
                          const std::set<std::wstring>& ids) {
-        static const std::wregex whole(L"-?[0-9]+"), extent(L"[0-9]+");
         if (element.hasAttribute(xml::kDataUid))
             report(name, "it has a data-uid");
         for (const XMLCh* attribute : {u"r:id", u"r:embed", u"r:link"}) {
@@ -95,12 +101,11 @@ private:
             if (!id.empty() && ids.count(id) == 0)
                 report(name, "it has no relationship " + toUtf8(id));
         }
-        if (hasName(element, xml::kAOff) && !(std::regex_match(getAttribute(&element, xml::kX), whole) &&
-                                              std::regex_match(getAttribute(&element, xml::kY), whole)))
+        if (hasName(element, xml::kAOff) &&
+            !(isWhole(getAttribute(&element, xml::kX)) && isWhole(getAttribute(&element, xml::kY))))
             report(name, "a position isn't a pair of whole numbers");
         if (hasName(element, xml::kAExt) && element.hasAttribute(xml::kCx) &&
-            !(std::regex_match(getAttribute(&element, xml::kCx), extent) &&
-              std::regex_match(getAttribute(&element, xml::kCy), extent)))
+            !(isExtent(getAttribute(&element, xml::kCx)) && isExtent(getAttribute(&element, xml::kCy))))
             report(name, "a size isn't a pair of whole numbers");
     }
 

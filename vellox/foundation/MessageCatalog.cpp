@@ -62,8 +62,9 @@ const wchar_t* findText(const std::string& language, const MsgID& message) {
 }
 
 std::wstring fillIn(const wchar_t* text, const std::vector<std::wstring>& args) {
-    boost::wformat format(text);
-    format.exceptions(boost::io::no_error_bits);
+    boost::wformat format;
+    format.exceptions(boost::io::no_error_bits); // a slip in a translation must not hide the error
+    format.parse(text);
     for (const std::wstring& arg : args)
         format % arg;
     return format.str();

@@ -19,11 +19,6 @@ namespace {
 constexpr zip_uint16_t kNewEntryTime = 0;      // midnight
 constexpr zip_uint16_t kNewEntryDate = 0x0021; // of 1980-01-01, where the format's calendar begins
 
-[[noreturn]] void fail(const zip_error_t* reason) {
-    zip_error_t copy = *reason;
-    throw Exception(zip_error_strerror(&copy));
-}
-
 // An error of libzip that is ended with its scope.
 class ZipError {
 public:
@@ -36,6 +31,12 @@ public:
 private:
     zip_error_t error_;
 };
+
+[[noreturn]] void fail(const zip_error_t* reason) {
+    ZipError copy; // the text belongs to the error that it is asked of
+    zip_error_set(copy.get(), zip_error_code_zip(reason), zip_error_code_system(reason));
+    throw Exception(zip_error_strerror(copy.get()));
+}
 
 // The bytes of one entry, inflated, with their checksum verified at the end.
 class EntryStream : public InputStream {

@@ -1,0 +1,115 @@
+#include "vellox/opc/XercesHelper.h"
+
+#include "vellox/opc/Exception.h"
+#include "vellox/opc/Limits.h"
+#include "vellox/opc/XercesProcess.h"
+#include "vellox/opc/XercesString.h"
+
+#include "tests/support/Xml.h"
+
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace opc;
+
+namespace {
+
+class XercesTest : public testing::Test {
+protected:
+    DocumentScope read(const std::string& xml) {
+        StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(xml));
+        return DocumentScope(XercesHelper::readDocumentFromStream(parser_.get(), stream, false, {}, {}));
+    }
+
+    std::string failureOf(const std::string& xml) {
+        try {
+            read(xml);
+        } catch (const Exception& failure) {
+            return failure.what();
+        }
+        return "none";
+    }
+
+    std::string rewrite(const std::string& xml) {
+        std::string bytes;
+        StringOutputStream stream(bytes);
+        XercesHelper::writeDocumentToStream(serializer_.get(), read(xml).get(), stream);
+        return bytes.substr(bytes.find("?>") + 2);
+    }
+
+private:
+    XercesProcess xerces_;
+    ParserScope parser_{XercesHelper::createParser()};
+    SerializerScope serializer_{XercesHelper::createWriter()};
+};
+
+std::string toUtf16(const std::string& ascii) {
+    std::string text = "\xFF\xFE";
+    for (const char c : ascii)
+        text += {c, '\0'};
+    return text;
+}
+
+TEST_F(XercesTest, RefusesWhatIsNotWellFormedAndSaysWhere) {
+    for (const char* xml : {"", "<a>", "<a><b></a>", "<a b=1/>", "<a x='1' x='2'/>", "<a>&no;</a>",
+                            "<a>\x01</a>", "<a/><b/>", "<a\n <b/>", "<a>\xFF</a>", "no xml"})
+        EXPECT_NE(failureOf(xml), "none") << xml;
+    EXPECT_NE(failureOf("<a>\n<b></a>").find("line 2"), std::string::npos);
+    EXPECT_EQ(failureOf("<a/>"), "none"); // the parser is none the worse for it
+}
+
+TEST_F(XercesTest, RefusesDocumentTypesInEveryEncoding) {
+    const std::string bomb = "<!DOCTYPE a [<!ENTITY x 'xx'><!ENTITY y '&x;&x;'>]><a>&y;</a>";
+    for (const std::string& xml : {bomb, "<?xml version='1.0'?><!-- <!-x --><?pi ?>\n" + bomb, toUtf16(bomb),
+                                   std::string("<!DOCTYPE a SYSTEM 'file:///etc/passwd'><a/>")})
+        EXPECT_NE(failureOf(xml).find("document type"), std::string::npos) << failureOf(xml);
+    EXPECT_EQ(failureOf("<!-- <!DOCTYPE a> --><?x <!DOCTYPE ?><a>&lt;!DOCTYPE</a>"), "none");
+    EXPECT_EQ(failureOf(toUtf16("<a/>")), "none");
+}
+
+TEST_F(XercesTest, BoundsDepthAndSize) {
+    const auto nested = [](unsigned depth) {
+        std::string xml;
+        for (unsigned i = 0; i < depth; ++i)
+            xml += "<a>";
+        for (unsigned i = 0; i < depth; ++i)
+            xml += "</a>";
+        return xml;
+    };
+    EXPECT_EQ(failureOf(nested(kMaxElementDepth)), "none");
+    EXPECT_NE(failureOf(nested(kMaxElementDepth + 1)).find("deep"), std::string::npos);
+    EXPECT_NE(failureOf(nested(200000)).find("deep"), std::string::npos);
+    std::string flat = "<a>";
+    for (unsigned i = 0; i < kMaxXmlNodes; ++i)
+        flat += "<b/>";
+    EXPECT_NE(failureOf(flat + "</a>").find("elements"), std::string::npos);
+}
+
+TEST_F(XercesTest, WritesADocumentAsItStands) {
+    const std::string xml =
+        "<p:a xmlns:p=\"urn:p\"><x xmlns=\"urn:x\"><y z=\"&quot;&lt;&#xA;&#x9;&gt;\"/></x>"
+        "<a:t> blanks &amp; \xF0\x9F\x98\x80 &#xD;</a:t></p:a>";
+    EXPECT_EQ(vellox::test::canonical(rewrite(xml)), vellox::test::canonical(xml));
+    EXPECT_EQ(rewrite(toUtf16("<a>x</a>")), "<a>x</a>"); // always UTF-8
+}
+
+TEST(XercesString, DropsWhatXmlCantHold) {
+    const std::wstring forbidden{L'a',
+                                 L'\0',
+                                 wchar_t(1),
+                                 wchar_t(0x1B),
+                                 wchar_t(0xFFFE),
+                                 wchar_t(0xFFFF),
+                                 wchar_t(0xD800),
+                                 wchar_t(0x110000),
+                                 L'b'};
+    EXPECT_EQ(dropForbiddenCharacters(forbidden), L"ab");
+    const std::wstring allowed = L"\t\n\r \u007f\u0085\u05d0\u202e\ufffd\U0001F600\U0010FFFF";
+    EXPECT_EQ(dropForbiddenCharacters(allowed), allowed);
+    EXPECT_TRUE(XercesString(L"x") == L"x");
+    EXPECT_EQ(toWideString(nullptr), L"");
+}
+
+} // namespace
