@@ -3,19 +3,10 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS vellox_ppt EXPORT vellox LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(
-    DIRECTORY ${PROJECT_SOURCE_DIR}/vellox
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-    FILES_MATCHING
-    PATTERN "*.h"
-    PATTERN "*Impl.h" EXCLUDE
-    PATTERN "writers" EXCLUDE
-    PATTERN "opc" EXCLUDE
-    PATTERN "binding" EXCLUDE
-)
-install(FILES ${PROJECT_SOURCE_DIR}/vellox/ppt/object/PPTClientImpl.h
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vellox/ppt/object
-)
+foreach(header ${VELLOX_PUBLIC_HEADERS})
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+endforeach()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vellox)
 install(EXPORT vellox NAMESPACE vellox:: FILE velloxTargets.cmake DESTINATION ${package_dir})

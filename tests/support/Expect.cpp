@@ -11,8 +11,8 @@ void WarningLog::raiseWarning(const MsgID& id, const std::wstring&) {
 MessageLog::MessageLog()
     : token_(
           ppt::MessageDispatcher::getTheDispatcher().addListener([this](const ppt::MessageEventData& event) {
-              messages.push_back(event.getMessage());
-              texts.push_back(event.getMessage().formatAsText());
+              texts.push_back(event.getMessage().getText());
+              lines.push_back(event.getMessage().formatAsText());
           })) {}
 
 MessageLog::~MessageLog() {

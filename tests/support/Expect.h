@@ -42,15 +42,15 @@ public:
     std::vector<std::string> ids;
 };
 
-/// Keeps the messages that pass while it lives.
+/// Keeps the texts of the messages that pass while it lives; a message itself would keep its source alive.
 class MessageLog {
 public:
     MessageLog();
     ~MessageLog();
     MessageLog(const MessageLog&) = delete;
 
-    std::vector<ppt::Message> messages;
     std::vector<std::wstring> texts;
+    std::vector<std::wstring> lines; ///< formatted, with the source
 
 private:
     ppt::MessageDispatcher::ListenerToken token_;

@@ -30,8 +30,7 @@ std::string narrow(const std::wstring& text) {
 
 // boost::lexical_cast and streams follow the global locale, in which "1,234" may be a whole number; what is
 // read here comes from XML and from scripts, so that the classic locale has to rule.
-template <class Number>
-Number readWhole(const std::wstring& text) {
+template <class Number> Number readWhole(const std::wstring& text) {
     std::istringstream stream(narrow(text));
     stream.imbue(std::locale::classic());
     Number value = 0;

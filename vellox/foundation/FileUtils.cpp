@@ -19,8 +19,7 @@ namespace fsys = hostfx::filesystem;
 using fsys::Path;
 
 // Runs one operation; whatever the file system layer throws becomes the one identifier.
-template <class Id, class Operation>
-auto orRaise(const Id& id, Operation operation) {
+template <class Id, class Operation> auto orRaise(const Id& id, Operation operation) {
     try {
         return operation();
     } catch (const fsys::FsysExceptionBase&) {

@@ -89,8 +89,7 @@ namespace vellox {
 VELLOX_API void reportUserError(const hostfx::except::IUserException& error);
 
 /// The one way to raise an identified error: make it, tell the host, throw it.
-template <class Id>
-[[noreturn]] void raise(const Id& id) {
+template <class Id> [[noreturn]] void raise(const Id& id) {
     const hostfx::except::Exception<Id, std::exception> error(id);
     reportUserError(error);
     throw error;

@@ -40,10 +40,7 @@ public:
 
 /// Ends a Xerces object that its maker has handed over.
 struct Release {
-    template <class Object>
-    void operator()(Object* object) const {
-        object->release();
-    }
+    template <class Object> void operator()(Object* object) const { object->release(); }
 };
 
 using ParserScope = std::unique_ptr<xercesc::DOMLSParser, Release>;

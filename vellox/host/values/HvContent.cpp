@@ -8,8 +8,7 @@ namespace vellox {
 namespace {
 
 // The value that content of one class holds, or a zero value for any other.
-template <class Content, class Value>
-Value valueOr(const HvContentPtr& content, Value zero) {
+template <class Content, class Value> Value valueOr(const HvContentPtr& content, Value zero) {
     const auto* own = dynamic_cast<const Content*>(content.get());
     return own ? own->getValue() : zero;
 }

@@ -146,23 +146,20 @@ public:
 
     ObjectContent(boost::shared_ptr<HvData> data, Interface object);
     /// Content of any facade handle, for programs without a host. The content shares the object.
-    template <class Facade>
-    explicit ObjectContent(const Facade& handle);
+    template <class Facade> explicit ObjectContent(const Facade& handle);
 
     const Interface& getValue() const { return object_; }
     static boost::shared_ptr<ObjectContent> cast(const HvContentPtr& content);
     static Interface getValue(const HvContentPtr& content);
 
 private:
-    template <class Facade>
-    class Handle;
+    template <class Facade> class Handle;
 
     Interface object_;
 };
 
 /// A facade handle where an object of a host would stand.
-template <class Facade>
-class ObjectContent::Handle : public objreg::HostInterface {
+template <class Facade> class ObjectContent::Handle : public objreg::HostInterface {
 public:
     explicit Handle(const Facade& handle) : handle_(boost::make_shared<Facade>(handle)) {}
     boost::shared_ptr<ppt::PPTObject> getProxy() const override { return handle_; }

@@ -151,8 +151,7 @@ VELLOX_API HvContentPtr makeElementContent(const double* element, const DoubleCo
 VELLOX_API HvContentPtr makeElementContent(const double* element, const IntegerContent*);
 
 /// The elements of a numeric or logical array of one row, each as a content of class C.
-template <class T, class C>
-class ArrayList : public HvList {
+template <class T, class C> class ArrayList : public HvList {
 public:
     ArrayList(const hvArray* value, const T* data) : HvList(value), data_(data) {}
     HvContentPtr getItem(unsigned int i) const override {
@@ -165,8 +164,7 @@ private:
 };
 
 /// The elements of a numeric or logical array, each as a content of class C.
-template <class T, class C>
-class ArrayTable : public HvTable {
+template <class T, class C> class ArrayTable : public HvTable {
 public:
     ArrayTable(const hvArray* value, const T* data) : HvTable(value), data_(data) {}
     HvContentPtr getEntry(unsigned int r, unsigned int c) const override {

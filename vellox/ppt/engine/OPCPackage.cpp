@@ -32,8 +32,7 @@ bool OPCPackage::isFolder() const {
            std::filesystem::file_type::directory;
 }
 
-template <class Body>
-void OPCPackage::openGuarded(opc::OpenMode mode, Body makePhysicalPackage) {
+template <class Body> void OPCPackage::openGuarded(opc::OpenMode mode, Body makePhysicalPackage) {
     exceptionsAtOpen_ = std::uncaught_exceptions();
     try {
         makePhysicalPackage();

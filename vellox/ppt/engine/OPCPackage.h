@@ -38,8 +38,7 @@ public:
     boost::shared_ptr<std::istream> createFileInputStream(const std::wstring& path);
 
 private:
-    template <class Body>
-    void openGuarded(opc::OpenMode mode, Body makePhysicalPackage);
+    template <class Body> void openGuarded(opc::OpenMode mode, Body makePhysicalPackage);
     bool isFolder() const;
 
     boost::shared_ptr<std::istream> inputFile_;

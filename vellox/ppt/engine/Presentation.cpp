@@ -129,8 +129,7 @@ bool PresentationImpl::isOpenOrClosed() const {
     return state_ == PresentationState::Open || state_ == PresentationState::Closed;
 }
 
-template <class Warning>
-void PresentationImpl::warnThatPathStays() {
+template <class Warning> void PresentationImpl::warnThatPathStays() {
     const Warning id;
     // In a constructor or destructor no handle on this object can be made, as a message would need one.
     if (getClient() && wantsWarnings() && getRefCount() > 0)

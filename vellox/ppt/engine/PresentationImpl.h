@@ -84,10 +84,8 @@ public:
 
 private:
     void useDefaultTemplate();
-    template <class Warning>
-    void setPath(std::wstring Report::*field, const std::wstring& path);
-    template <class Warning>
-    void warnThatPathStays();
+    template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
+    template <class Warning> void warnThatPathStays();
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);

@@ -70,13 +70,11 @@ namespace {
 using Child = PPTNodeImpl::Child;
 using Record = ShapeImpl::Record;
 
-template <class Impl>
-Child make(const Record& record, const std::wstring& name) {
+template <class Impl> Child make(const Record& record, const std::wstring& name) {
     return (new Impl(name, record))->makeInterface();
 }
 
-template <class Impl>
-Child makePlaceholder(const Record& record, const std::wstring& name) {
+template <class Impl> Child makePlaceholder(const Record& record, const std::wstring& name) {
     return (new Impl(name, record, record->placeholderType))->makeInterface();
 }
 

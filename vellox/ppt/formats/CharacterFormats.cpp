@@ -29,8 +29,7 @@ constexpr FlagRow kSubscript{"vellox.ppt.Subscript", FormatType::Subscript, xml:
 constexpr FlagRow kSuperscript{"vellox.ppt.Superscript", FormatType::Superscript, xml::kBaseline, u"30000",
                                xml::kFalse};
 
-template <class Facade, class Impl, const FlagRow& kRow>
-class FlagImpl : public FormatImpl {
+template <class Facade, class Impl, const FlagRow& kRow> class FlagImpl : public FormatImpl {
 public:
     explicit FlagImpl(bool value) : value_(value) {}
 

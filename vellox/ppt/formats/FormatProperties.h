@@ -40,15 +40,13 @@ VELLOX_API boost::shared_ptr<Format> find(const Element& element, FormatType typ
 VELLOX_API void append(Element& element, const boost::shared_ptr<Format>& format);
 VELLOX_API void unset(Element& element, FormatType type);
 
-template <class F>
-boost::shared_ptr<F> find(const Element& element, FormatType type) {
+template <class F> boost::shared_ptr<F> find(const Element& element, FormatType type) {
     return boost::dynamic_pointer_cast<F>(find(element, type));
 }
 
 /// A format of this element's alone: a copy of the one that it has, put in that one's place. Empty if there is
 /// none.
-template <class F>
-boost::shared_ptr<F> findOwn(Element& element, FormatType type) {
+template <class F> boost::shared_ptr<F> findOwn(Element& element, FormatType type) {
     const boost::shared_ptr<F> shared = find<F>(element, type);
     const boost::shared_ptr<F> own = shared ? shared->clone() : shared;
     append(element, own);
@@ -57,152 +55,143 @@ boost::shared_ptr<F> findOwn(Element& element, FormatType type) {
 
 } // namespace style
 
-/// A property `Owner` that is one format of class F, made from one value.
-template <class Owner, class F, FormatType kType>
-class FormatProperty {
+/// A property of `Owner` that is one format of class F, made from one value. The names are long so that they
+/// hide nothing of the owner's.
+template <class Owner, class F, FormatType kType> class FormatProperty {
 protected:
-    boost::shared_ptr<F> find() const { return style::find<F>(static_cast<const Owner&>(*this), kType); }
-    template <class Value>
-    void set(const Value& value) {
+    boost::shared_ptr<F> findProperty() const {
+        return style::find<F>(static_cast<const Owner&>(*this), kType);
+    }
+    template <class Value> void setProperty(const Value& value) {
         style::append(static_cast<Owner&>(*this), boost::make_shared<F>(value));
     }
-    void unset() { style::unset(static_cast<Owner&>(*this), kType); }
+    void unsetProperty() { style::unset(static_cast<Owner&>(*this), kType); }
 };
 
 /// See BackgroundColor.
 template <class Owner>
 class BackgroundColorProperty : public FormatProperty<Owner, BackgroundColor, FormatType::BackgroundColor> {
 public:
-    boost::shared_ptr<BackgroundColor> getBackgroundColor() const { return this->find(); }
+    boost::shared_ptr<BackgroundColor> getBackgroundColor() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setBackgroundColor(const std::wstring& color) { this->set(color); }
-    void unsetBackgroundColor() { this->unset(); }
+    void setBackgroundColor(const std::wstring& color) { this->setProperty(color); }
+    void unsetBackgroundColor() { this->unsetProperty(); }
 };
 
 /// See Bold.
-template <class Owner>
-class BoldProperty : public FormatProperty<Owner, Bold, FormatType::Bold> {
+template <class Owner> class BoldProperty : public FormatProperty<Owner, Bold, FormatType::Bold> {
 public:
-    boost::shared_ptr<Bold> getBold() const { return this->find(); }
-    void setBold(bool bold) { this->set(bold); }
-    void unsetBold() { this->unset(); }
+    boost::shared_ptr<Bold> getBold() const { return this->findProperty(); }
+    void setBold(bool bold) { this->setProperty(bold); }
+    void unsetBold() { this->unsetProperty(); }
 };
 
 /// See FontColor.
 template <class Owner>
 class FontColorProperty : public FormatProperty<Owner, FontColor, FormatType::FontColor> {
 public:
-    boost::shared_ptr<FontColor> getFontColor() const { return this->find(); }
+    boost::shared_ptr<FontColor> getFontColor() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setFontColor(const std::wstring& color) { this->set(color); }
-    void unsetFontColor() { this->unset(); }
+    void setFontColor(const std::wstring& color) { this->setProperty(color); }
+    void unsetFontColor() { this->unsetProperty(); }
 };
 
 /// See FontSize.
-template <class Owner>
-class FontSizeProperty : public FormatProperty<Owner, FontSize, FormatType::FontSize> {
+template <class Owner> class FontSizeProperty : public FormatProperty<Owner, FontSize, FormatType::FontSize> {
 public:
-    boost::shared_ptr<FontSize> getFontSize() const { return this->find(); }
+    boost::shared_ptr<FontSize> getFontSize() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setFontSize(const std::wstring& size) { this->set(size); }
-    void unsetFontSize() { this->unset(); }
+    void setFontSize(const std::wstring& size) { this->setProperty(size); }
+    void unsetFontSize() { this->unsetProperty(); }
 };
 
 /// See HAlign.
-template <class Owner>
-class HAlignProperty : public FormatProperty<Owner, HAlign, FormatType::HAlign> {
+template <class Owner> class HAlignProperty : public FormatProperty<Owner, HAlign, FormatType::HAlign> {
 public:
-    boost::shared_ptr<HAlign> getHAlign() const { return this->find(); }
+    boost::shared_ptr<HAlign> getHAlign() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setHAlign(const std::wstring& alignment) { this->set(alignment); }
-    void unsetHAlign() { this->unset(); }
+    void setHAlign(const std::wstring& alignment) { this->setProperty(alignment); }
+    void unsetHAlign() { this->unsetProperty(); }
 };
 
 /// See Italic.
-template <class Owner>
-class ItalicProperty : public FormatProperty<Owner, Italic, FormatType::Italic> {
+template <class Owner> class ItalicProperty : public FormatProperty<Owner, Italic, FormatType::Italic> {
 public:
-    boost::shared_ptr<Italic> getItalic() const { return this->find(); }
-    void setItalic(bool italic) { this->set(italic); }
-    void unsetItalic() { this->unset(); }
+    boost::shared_ptr<Italic> getItalic() const { return this->findProperty(); }
+    void setItalic(bool italic) { this->setProperty(italic); }
+    void unsetItalic() { this->unsetProperty(); }
 };
 
 /// See Subscript.
 template <class Owner>
 class SubscriptProperty : public FormatProperty<Owner, Subscript, FormatType::Subscript> {
 public:
-    boost::shared_ptr<Subscript> getSubscript() const { return this->find(); }
-    void setSubscript(bool subscript) { this->set(subscript); }
-    void unsetSubscript() { this->unset(); }
+    boost::shared_ptr<Subscript> getSubscript() const { return this->findProperty(); }
+    void setSubscript(bool subscript) { this->setProperty(subscript); }
+    void unsetSubscript() { this->unsetProperty(); }
 };
 
 /// See Superscript.
 template <class Owner>
 class SuperscriptProperty : public FormatProperty<Owner, Superscript, FormatType::Superscript> {
 public:
-    boost::shared_ptr<Superscript> getSuperscript() const { return this->find(); }
-    void setSuperscript(bool superscript) { this->set(superscript); }
-    void unsetSuperscript() { this->unset(); }
+    boost::shared_ptr<Superscript> getSuperscript() const { return this->findProperty(); }
+    void setSuperscript(bool superscript) { this->setProperty(superscript); }
+    void unsetSuperscript() { this->unsetProperty(); }
 };
 
 /// See VAlign.
-template <class Owner>
-class VAlignProperty : public FormatProperty<Owner, VAlign, FormatType::VAlign> {
+template <class Owner> class VAlignProperty : public FormatProperty<Owner, VAlign, FormatType::VAlign> {
 public:
-    boost::shared_ptr<VAlign> getVAlign() const { return this->find(); }
+    boost::shared_ptr<VAlign> getVAlign() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setVAlign(const std::wstring& alignment) { this->set(alignment); }
-    void unsetVAlign() { this->unset(); }
+    void setVAlign(const std::wstring& alignment) { this->setProperty(alignment); }
+    void unsetVAlign() { this->unsetProperty(); }
 };
 
 /// See ColWidth.
-template <class Owner>
-class WidthProperty : public FormatProperty<Owner, ColWidth, FormatType::ColWidth> {
+template <class Owner> class WidthProperty : public FormatProperty<Owner, ColWidth, FormatType::ColWidth> {
 public:
-    boost::shared_ptr<ColWidth> getWidth() const { return this->find(); }
+    boost::shared_ptr<ColWidth> getWidth() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setWidth(const std::wstring& width) { this->set(width); }
-    void unsetWidth() { this->unset(); }
+    void setWidth(const std::wstring& width) { this->setProperty(width); }
+    void unsetWidth() { this->unsetProperty(); }
 };
 
 /// A property that is set by a style and keeps its format when the style changes.
 template <class Owner, class F, FormatType kType>
 class StyledProperty : public FormatProperty<Owner, F, kType> {
 protected:
-    using FormatProperty<Owner, F, kType>::find;
-    using FormatProperty<Owner, F, kType>::unset;
-    void setStyle(const std::wstring& value) {
+    void setPropertyStyle(const std::wstring& value) {
         if (const boost::shared_ptr<F> own = style::findOwn<F>(static_cast<Owner&>(*this), kType))
             own->setStyle(value);
         else
-            this->set(value);
+            this->setProperty(value);
     }
 };
 
 /// See Strike.
-template <class Owner>
-class StrikeProperty : public StyledProperty<Owner, Strike, FormatType::Strike> {
+template <class Owner> class StrikeProperty : public StyledProperty<Owner, Strike, FormatType::Strike> {
 public:
-    boost::shared_ptr<Strike> getStrike() const { return this->find(); }
+    boost::shared_ptr<Strike> getStrike() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setStrikeStyle(const std::wstring& strike) { this->setStyle(strike); }
-    void unsetStrike() { this->unset(); }
+    void setStrikeStyle(const std::wstring& strike) { this->setPropertyStyle(strike); }
+    void unsetStrike() { this->unsetProperty(); }
 };
 
 /// See Underline.
 template <class Owner>
 class UnderlineProperty : public StyledProperty<Owner, Underline, FormatType::Underline> {
 public:
-    boost::shared_ptr<Underline> getUnderline() const { return this->find(); }
+    boost::shared_ptr<Underline> getUnderline() const { return this->findProperty(); }
     /// @throws invalidPropertyValue
-    void setUnderlineStyle(const std::wstring& underline) { this->setStyle(underline); }
-    void unsetUnderline() { this->unset(); }
+    void setUnderlineStyle(const std::wstring& underline) { this->setPropertyStyle(underline); }
+    void unsetUnderline() { this->unsetProperty(); }
 };
 
 /// The two facets of FontFamily. Unsetting the one that is left takes the format away; unlike setting, it acts
 /// on the format that elements share.
-template <class Owner>
-class FontFamilyProperty {
+template <class Owner> class FontFamilyProperty {
 public:
     boost::shared_ptr<FontFamily> getFontFamily() const {
         return style::find<FontFamily>(static_cast<const Owner&>(*this), FormatType::FontFamily);

@@ -70,13 +70,11 @@ public:
     }
 };
 
-template <class Impl>
-Impl* make(const std::wstring& text) {
+template <class Impl> Impl* make(const std::wstring& text) {
     return new Impl(text, {});
 }
 
-template <class Impl>
-Impl* make(const std::wstring& text, const PPTObject& source) {
+template <class Impl> Impl* make(const std::wstring& text, const PPTObject& source) {
     return new Impl(text, boost::make_shared<PPTObject>(source));
 }
 

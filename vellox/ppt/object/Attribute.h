@@ -20,8 +20,7 @@ public:
 };
 
 /// An optional value of type T. Copies are independent.
-template <class T>
-class BaseAttribute : public Attribute {
+template <class T> class BaseAttribute : public Attribute {
 public:
     BaseAttribute() = default;
     explicit BaseAttribute(const T& value) : value_(value) {}

@@ -60,14 +60,12 @@ struct ObjectAccess {
 };
 
 /// The implementation behind a handle whose class is known.
-template <class Impl>
-Impl* implOf(const PPTObject& handle) {
+template <class Impl> Impl* implOf(const PPTObject& handle) {
     return static_cast<Impl*>(ObjectAccess::getImpl(handle));
 }
 
 /// The implementation behind a handle if it is of this class, else null.
-template <class Impl>
-Impl* implAs(const PPTObject& handle) {
+template <class Impl> Impl* implAs(const PPTObject& handle) {
     return dynamic_cast<Impl*>(ObjectAccess::getImpl(handle));
 }
 

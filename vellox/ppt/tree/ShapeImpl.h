@@ -42,8 +42,7 @@ protected:
     void markContentReplaced() { contentReplaced_ = true; }
     /// Puts a new shape of class Impl, made from this one and a given one, in this one's place on its slide.
     /// @return a handle on the new shape; the given one if this shape doesn't stand directly on a slide
-    template <class Impl, class Facade>
-    Facade giveWayTo(const Facade& given, TakeName takeName);
+    template <class Impl, class Facade> Facade giveWayTo(const Facade& given, TakeName takeName);
 
 private:
     PPTNodeImpl* findSlide() const;
@@ -55,8 +54,7 @@ private:
     ShapeGeometry geometry_;
 };
 
-template <class Impl, class Facade>
-Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
+template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
     PPTNodeImpl* slide = findSlide();
     if (!slide)
         return given;
@@ -66,8 +64,7 @@ Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
 }
 
 /// The implementation that content holds, if it is an object of this class; else null.
-template <class Impl>
-Impl* getObjectImpl(const HvContentPtr& content) {
+template <class Impl> Impl* getObjectImpl(const HvContentPtr& content) {
     const auto object = ObjectContent::getValue(content);
     const auto handle = object ? object->getProxy() : boost::shared_ptr<PPTObject>();
     return handle ? implAs<Impl>(*handle) : nullptr;

@@ -23,9 +23,12 @@ void SlideWriter::write() {
         record->partName = getPartWriter().createSlidePart(*record);
     for (const auto& child : slide_.getChildren())
         child->acceptWriter(&getWriter(), nullptr);
-    // Groups, charts and whatever else no writer has visited still bear the mark.
-    for (const auto& entry : record->elementsByUid)
+    // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
+    // and may have been stripped of its text.
+    for (const auto& entry : record->elementsByUid) {
         entry.second->removeAttribute(xml::kDataUid);
+        ensureParagraph(entry.second);
+    }
     getPartWriter().writeDocument(record->partName, record->document.get());
     getWriter().leaveSlide();
 }

@@ -1,0 +1,22 @@
+# The public headers are those that vellox.h reaches; they are installed, and tested to compile alone. None of
+# them may pull Xerces in.
+
+set(VELLOX_PUBLIC_HEADERS)
+set(queue vellox/vellox.h)
+while(queue)
+    list(POP_FRONT queue header)
+    if(header IN_LIST VELLOX_PUBLIC_HEADERS)
+        continue()
+    endif()
+    list(APPEND VELLOX_PUBLIC_HEADERS ${header})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${header})
+    file(STRINGS ${PROJECT_SOURCE_DIR}/${header} includes REGEX "^#include ")
+    foreach(include ${includes})
+        if(include MATCHES "\"(vellox/[^\"]+)\"")
+            list(APPEND queue ${CMAKE_MATCH_1})
+        elseif(include MATCHES "<xercesc|<zip|<tiff")
+            message(FATAL_ERROR "${header} is public and has ${include}")
+        endif()
+    endforeach()
+endwhile()
+list(SORT VELLOX_PUBLIC_HEADERS)
