@@ -6,6 +6,7 @@
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesString.h"
 
+#include <boost/algorithm/string/predicate.hpp>
 #include <string>
 #include <xercesc/framework/Wrapper4InputSource.hpp>
 #include <xercesc/sax/InputSource.hpp>
@@ -44,10 +45,9 @@ private:
             judgeMarkup();
         } else {
             seen_ = (seen_ + c).substr(seen_.size() >= 3 ? 1 : 0);
-            if (seen_ == "-->" && state_ == State::Comment)
-                enter(State::Between);
-            else if (state_ == State::Instruction && seen_.size() >= 2 &&
-                     seen_.substr(seen_.size() - 2) == "?>")
+            const bool isEnd =
+                state_ == State::Comment ? seen_ == "-->" : boost::algorithm::ends_with(seen_, "?>");
+            if (isEnd)
                 enter(State::Between);
         }
     }

@@ -1,7 +1,5 @@
 #include "vellox/opc/Uri.h"
 
-#include <boost/algorithm/string/classification.hpp>
-#include <boost/algorithm/string/split.hpp>
 #include <vector>
 
 namespace opc {
@@ -11,8 +9,13 @@ namespace {
 using Segments = std::vector<std::wstring>;
 
 Segments splitPath(const std::wstring& path) {
-    Segments segments;
-    boost::algorithm::split(segments, path, boost::algorithm::is_any_of(L"/"));
+    Segments segments(1);
+    for (const wchar_t c : path) {
+        if (c == L'/')
+            segments.emplace_back();
+        else
+            segments.back().push_back(c);
+    }
     return segments;
 }
 

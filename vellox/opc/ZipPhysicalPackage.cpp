@@ -239,7 +239,7 @@ void ZipPhysicalPackage::close(bool save) {
             writeEntry(target.get(), static_cast<const Entry&>(*part));
         if (zip_close(target.get()) != 0)
             fail(zip_get_error(target.get()));
-        target.release(); // zip_close has ended it
+        static_cast<void>(target.release()); // zip_close has ended it
         if (output_)
             output_->close();
     }

@@ -119,7 +119,7 @@ zip_source_t* makeSource(std::unique_ptr<StreamSource> stream, zip_error_t* erro
     zip_error_init(&stream->error);
     zip_source_t* source = zip_source_function_create(answer, stream.get(), error);
     if (source)
-        stream.release(); // libzip ends it with ZIP_SOURCE_FREE
+        static_cast<void>(stream.release()); // libzip ends it with ZIP_SOURCE_FREE
     return source;
 }
 

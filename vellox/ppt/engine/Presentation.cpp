@@ -132,7 +132,7 @@ bool PresentationImpl::isOpenOrClosed() const {
 template <class Warning> void PresentationImpl::warnThatPathStays() {
     const Warning id;
     // In a constructor or destructor no handle on this object can be made, as a message would need one.
-    if (getClient() && wantsWarnings() && getRefCount() > 0)
+    if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
         MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, *makeInterface()));
     reportWarning(id);
 }

@@ -78,6 +78,7 @@ PPTObject::~PPTObject() {
         intrusive_ptr_release(impl_);
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): counting up first is what handles it
 PPTObject& PPTObject::operator=(const PPTObject& other) {
     // The new object is counted up first: it may be the same one, or hang on the old one.
     if (other.impl_)
