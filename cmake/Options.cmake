@@ -19,6 +19,9 @@ target_compile_options(vellox_options INTERFACE -Wall -Wextra -Wpedantic -Wshado
 if(VELLOX_WERROR)
     target_compile_options(vellox_options INTERFACE -Werror)
 endif()
+if(VELLOX_FUZZ)
+    target_compile_options(vellox_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(VELLOX_SANITIZE)
     target_compile_options(
         vellox_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1
