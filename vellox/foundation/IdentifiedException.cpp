@@ -36,4 +36,8 @@ void reportWarning(const MsgID& id) {
     host::getHostServices().raiseWarning(id, MessageCatalog::get_message(id, std::locale()));
 }
 
+void reportWarningAtEnd(const MsgID& id) noexcept {
+    host::raiseWarningAtEnd(id, MessageCatalog::get_message(id, std::locale()));
+}
+
 } // namespace vellox

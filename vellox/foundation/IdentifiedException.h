@@ -97,6 +97,8 @@ template <class Id> [[noreturn]] void raise(const Id& id) {
 
 /// Gives a warning to the host, in words.
 VELLOX_API void reportWarning(const MsgID& id);
+/// The same from the end of an object, where nothing may be thrown.
+VELLOX_API void reportWarningAtEnd(const MsgID& id) noexcept;
 
 } // namespace vellox
 

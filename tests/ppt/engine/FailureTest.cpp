@@ -9,7 +9,7 @@
 #include "tests/support/DeckTest.h"
 
 #include <csignal>
-#include <filesystem>
+#include <cstdlib>
 #include <sys/resource.h>
 
 using namespace vellox;
@@ -18,17 +18,13 @@ using namespace vellox::test;
 
 namespace {
 
+/// Gives the library a temporary folder of its own, so that what it leaves there is seen.
 class FailureTest : public DeckTest {
 protected:
-    /// The library's files in the system's temporary folder.
-    static int countTemporaryFiles() {
-        int count = 0;
-        for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::temp_directory_path()))
-            count +=
-                entry.is_regular_file() && entry.path().filename().string().compare(0, 7, "vellox-") == 0;
-        return count;
-    }
-    int temporaryFilesBefore = countTemporaryFiles();
+    FailureTest() { setenv("TMPDIR", temporary.getPath().c_str(), 1); }
+    ~FailureTest() override { unsetenv("TMPDIR"); }
+
+    TempFolder temporary;
 };
 
 /// Lets no file grow beyond a size: what a full disk looks like from here.
@@ -72,7 +68,7 @@ TEST_F(FailureTest, AFullDiskAtOpenLeavesNothing) {
     EXPECT_TRUE(folder.list().empty());
     EXPECT_TRUE(deck.open()); // nothing was lost, so that it may be tried again
     deck = Presentation();
-    EXPECT_EQ(countTemporaryFiles(), temporaryFilesBefore);
+    EXPECT_TRUE(temporary.list().empty());
 }
 
 TEST_F(FailureTest, AFailureWhileWritingCanBeMended) {
@@ -203,7 +199,7 @@ TEST_F(FailureTest, BadTemplatesAreRefusedByName) {
         EXPECT_FALSE(FileUtils::fileExists(output));
     }
     deck = Presentation();
-    EXPECT_EQ(countTemporaryFiles(), temporaryFilesBefore);
+    EXPECT_TRUE(temporary.list().empty());
 }
 
 TEST_F(FailureTest, ARejectedTemplateCanBeReplacedAndABrokenOneCant) {

@@ -8,6 +8,7 @@
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
+#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -88,6 +89,14 @@ bool HostServices::getScreenPixelsPerInch(double&) const {
 HostServices& getHostServices() {
     static HostServices own;
     return installedServices ? *installedServices : own;
+}
+
+void raiseWarningAtEnd(const MsgID& id, const std::wstring& text) noexcept {
+    try {
+        getHostServices().raiseWarning(id, text);
+    } catch (...) {
+        std::fputs("vellox: a warning could not be shown\n", stderr);
+    }
 }
 
 void setHostServices(HostServices* services) {

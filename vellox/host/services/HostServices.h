@@ -65,6 +65,10 @@ public:
 /// The services in force.
 VELLOX_API HostServices& getHostServices();
 
+/// As HostServices::raiseWarning(), where nothing may be thrown because an object is ending. What the host
+/// throws becomes a line on the standard error stream.
+VELLOX_API void raiseWarningAtEnd(const MsgID& id, const std::wstring& text) noexcept;
+
 /// Puts other services in force; a null pointer brings the library's own back. The object isn't owned and
 /// must outlive all use of the library.
 VELLOX_API void setHostServices(HostServices* services);

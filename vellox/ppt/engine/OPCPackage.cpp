@@ -22,7 +22,7 @@ OPCPackage::~OPCPackage() {
         package_->close(false);
     } catch (const std::exception& failure) {
         // Nobody is left to catch this; who must know whether the file was saved calls close().
-        reportWarning(ppt_error::cannotOpenFile(fromUtf8(failure.what()) + L" " + path_));
+        reportWarningAtEnd(ppt_error::cannotOpenFile(fromUtf8(failure.what()) + L" " + path_));
     }
 }
 

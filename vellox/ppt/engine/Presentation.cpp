@@ -99,7 +99,7 @@ PresentationImpl::~PresentationImpl() {
     try {
         removeWorkingCopy();
     } catch (const hostfx::except::IMsgIDException& failure) {
-        reportWarning(failure.getMsgID());
+        reportWarningAtEnd(failure.getMsgID());
     }
 }
 

@@ -22,6 +22,7 @@ public:
     FormatImpl(const FormatImpl&) = default;
 
     const char* getFullyQualifiedHostTypeName() const override;
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeInterface(); }
     virtual boost::shared_ptr<Format> makeInterface() = 0;
     virtual FormatType getFormatType() const;
     virtual void applyToText(TextWriter& writer) const;

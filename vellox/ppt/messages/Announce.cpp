@@ -58,9 +58,9 @@ void announceDestroyed(PPTObjectImpl& object) noexcept {
     try {
         LifeMessage(id, object).send();
     } catch (const std::exception& failure) {
-        host::getHostServices().raiseWarning(id, fromUtf8(failure.what()));
+        host::raiseWarningAtEnd(id, fromUtf8(failure.what()));
     } catch (...) {
-        host::getHostServices().raiseWarning(id, L"a listener failed");
+        host::raiseWarningAtEnd(id, L"a listener failed");
     }
 }
 

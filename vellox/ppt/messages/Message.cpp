@@ -15,6 +15,11 @@ const char* MessageImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Message";
 }
 
+// All four kinds have the operations of their base.
+boost::shared_ptr<PPTObject> MessageImpl::makeHandle() {
+    return boost::shared_ptr<PPTObject>(new Message(this));
+}
+
 std::wstring MessageImpl::formatAsText() const {
     return source_ ? source_->getTag() + L" " + text_ : text_;
 }

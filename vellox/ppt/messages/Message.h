@@ -35,6 +35,7 @@ public:
     bool passesFilter(const MessageFilter& filter) const;
 
 protected:
+    friend class MessageImpl;
     explicit Message(MessageImpl* impl);
     MessageImpl* pimpl();
     const MessageImpl* pimpl() const;

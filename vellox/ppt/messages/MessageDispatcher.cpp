@@ -11,6 +11,9 @@ class MessageEventDataImpl : public PPTObjectImpl {
 public:
     explicit MessageEventDataImpl(const Message& given) : message(given) {}
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.MessageEventData"; }
+    boost::shared_ptr<PPTObject> makeHandle() override {
+        return boost::shared_ptr<PPTObject>(new MessageEventData(this));
+    }
 
     Message message;
 };
@@ -20,6 +23,9 @@ public:
     using Token = MessageDispatcher::ListenerToken;
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.MessageDispatcher"; }
+    boost::shared_ptr<PPTObject> makeHandle() override {
+        return boost::shared_ptr<PPTObject>(new MessageDispatcher(this));
+    }
     void dispatch(const Message& message) const;
 
     MessageFilter filter;
@@ -45,7 +51,9 @@ void MessageDispatcherImpl::dispatch(const Message& message) const {
     }
 }
 
-MessageEventData::MessageEventData(const Message& message) : PPTObject(new MessageEventDataImpl(message)) {}
+MessageEventData::MessageEventData(const Message& message)
+    : MessageEventData(new MessageEventDataImpl(message)) {}
+MessageEventData::MessageEventData(MessageEventDataImpl* impl) : PPTObject(impl) {}
 
 const MessageEventDataImpl* MessageEventData::pimpl() const {
     return implOf<MessageEventDataImpl>(*this);
@@ -55,7 +63,8 @@ Message MessageEventData::getMessage() const {
     return pimpl()->message;
 }
 
-MessageDispatcher::MessageDispatcher() : PPTObject(new MessageDispatcherImpl) {}
+MessageDispatcher::MessageDispatcher() : MessageDispatcher(new MessageDispatcherImpl) {}
+MessageDispatcher::MessageDispatcher(MessageDispatcherImpl* impl) : PPTObject(impl) {}
 
 MessageDispatcherImpl* MessageDispatcher::pimpl() {
     return implOf<MessageDispatcherImpl>(*this);

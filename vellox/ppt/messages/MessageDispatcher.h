@@ -30,6 +30,8 @@ public:
     Message getMessage() const;
 
 private:
+    friend class MessageEventDataImpl;
+    explicit MessageEventData(MessageEventDataImpl* impl);
     const MessageEventDataImpl* pimpl() const;
 };
 
@@ -57,7 +59,9 @@ public:
     void removeListener(ListenerToken token);
 
 private:
+    friend class MessageDispatcherImpl;
     MessageDispatcher();
+    explicit MessageDispatcher(MessageDispatcherImpl* impl);
     MessageDispatcherImpl* pimpl();
     const MessageDispatcherImpl* pimpl() const;
 };

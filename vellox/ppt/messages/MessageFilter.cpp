@@ -7,6 +7,9 @@ namespace vellox::ppt {
 class MessageFilterImpl : public PPTObjectImpl {
 public:
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.MessageFilter"; }
+    boost::shared_ptr<PPTObject> makeHandle() override {
+        return boost::shared_ptr<PPTObject>(new MessageFilter(this));
+    }
 
     BaseAttribute<std::wstring> globalFilter;
     BaseAttribute<PPTObject> sourceFilter;
@@ -16,7 +19,8 @@ public:
     bool debugMessagesPass = false;
 };
 
-MessageFilter::MessageFilter() : PPTObject(new MessageFilterImpl) {}
+MessageFilter::MessageFilter() : MessageFilter(new MessageFilterImpl) {}
+MessageFilter::MessageFilter(MessageFilterImpl* impl) : PPTObject(impl) {}
 
 MessageFilterImpl* MessageFilter::pimpl() {
     return implOf<MessageFilterImpl>(*this);

@@ -43,6 +43,8 @@ public:
     /// @}
 
 private:
+    friend class MessageFilterImpl;
+    explicit MessageFilter(MessageFilterImpl* impl);
     MessageFilterImpl* pimpl();
     const MessageFilterImpl* pimpl() const;
 };

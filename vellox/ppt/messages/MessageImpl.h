@@ -19,6 +19,7 @@ public:
           source_(std::move(source)) {}
 
     const char* getFullyQualifiedHostTypeName() const override;
+    boost::shared_ptr<PPTObject> makeHandle() override;
     virtual bool passesFilter(const MessageFilter& filter) const = 0;
 
     const std::wstring& getText() const { return text_; }

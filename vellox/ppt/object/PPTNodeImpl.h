@@ -35,6 +35,7 @@ public:
     ~PPTNodeImpl() override;
 
     const char* getFullyQualifiedHostTypeName() const override;
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeInterface(); }
 
     virtual void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const;
     /// A new facade of the node's own class.

@@ -40,6 +40,10 @@ const char* PPTObjectImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Object";
 }
 
+boost::shared_ptr<PPTObject> PPTObjectImpl::makeHandle() {
+    return boost::shared_ptr<PPTObject>(new PPTObject(ObjectAccess::makeHandle(this)));
+}
+
 std::wstring PPTObjectImpl::getTag() const {
     if (!tag_.empty())
         return tag_;

@@ -21,6 +21,8 @@ public:
     ~PPTObjectImpl() override;
 
     virtual const char* getFullyQualifiedHostTypeName() const;
+    /// A new facade of the object's own class.
+    virtual boost::shared_ptr<PPTObject> makeHandle();
 
     const std::wstring& getId() const { return id_; }
     void setId(const std::wstring& id) { id_ = id; }
@@ -57,6 +59,8 @@ private:
 struct ObjectAccess {
     static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
     static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
+    /// Makes a handle stand for nothing without releasing its object, which is ending already.
+    static void abandon(PPTObject& handle) { handle.impl_ = nullptr; }
 };
 
 /// The implementation behind a handle whose class is known.

@@ -1,0 +1,106 @@
+// Writes the page of all classes that a host language sees, from the table that adapters read.
+//
+//     bound_classes > docs/classes.md
+//     bound_classes --check docs/classes.md      says whether the page is up to date
+
+#include "vellox/host/binding/BoundClass.h"
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+using namespace vellox::ppt::hostbind;
+
+namespace {
+
+constexpr char kHead[] = R"(# The classes of vellox.ppt
+
+*This page is written by `bound_classes` from the table that adapters for host languages read.*
+
+What a host language sees: each class with its superclass, how its objects are made, its properties and its methods.
+A class has what its superclasses have. Classes stand in the package `vellox.ppt`; the words are those that arguments
+are matched by:
+
+| word | what it takes |
+|---|---|
+| char | a text |
+| logical scalar | one truth value |
+| uint32 scalar | one whole number that isn't negative |
+| double scalar | one number |
+| any | what none of the others takes |
+| a class | one object of it or of a subclass |
+| Node vector | nodes, each of its own class |
+
+*Or empty* means that the value may be the empty array: reading gives it where nothing is set, and setting it unsets.
+Subscripts count from 1.
+)";
+
+std::string removePackage(std::string text) {
+    const std::string package = std::string(kPackage) + ".";
+    for (std::size_t at; (at = text.find(package)) != std::string::npos;)
+        text.erase(at, package.size());
+    return text;
+}
+
+std::string formatSignature(const Signature& signature, const std::string& parameters) {
+    std::istringstream names(parameters);
+    std::string text;
+    for (const SignatureWord& word : signature) {
+        std::string name;
+        names >> name;
+        text += (text.empty() ? "" : ", ") + removePackage(word.getText()) + " *" +
+                name.substr(0, name.find(',')) + "*";
+    }
+    return "(" + text + ")";
+}
+
+void writeClass(const BoundClass& bound, std::ostream& page) {
+    page << "\n## " << bound.name << "\n\n" << bound.doc;
+    for (std::size_t i = 0; i < bound.superclasses.size(); ++i)
+        page << (i == 0 ? " Derives from " : " and ") << removePackage(bound.superclasses[i])
+             << (findBoundClass(bound.superclasses[i]) ? "" : " of the host");
+    page << "." << (bound.isAbstract ? " The library alone makes objects of it." : "") << "\n";
+    if (!bound.constructors.empty())
+        page << "\n";
+    for (const BoundConstructor& constructor : bound.constructors)
+        page << "- `" << bound.name << "`" << formatSignature(constructor.signature, constructor.parameters)
+             << (constructor.isHidden ? " for the library alone" : "") << "\n";
+    if (!bound.properties.empty())
+        page << "\n| property | holds | |\n|---|---|---|\n";
+    for (const BoundProperty& property : bound.properties)
+        page << "| `" << property.name << "` | " << removePackage(property.getTypeText())
+             << (property.set ? "" : ", only read") << " | " << property.doc << " |\n";
+    if (!bound.methods.empty())
+        page << "\n| method | gives | |\n|---|---|---|\n";
+    for (const BoundMethod& method : bound.methods)
+        page << "| `" << method.name << "`" << formatSignature(method.signature, method.parameters) << " | "
+             << removePackage(method.result.getText()) << " | " << method.doc
+             << (method.isStatic ? " Of the class, not of an object." : "") << " |\n";
+    for (const BoundEvent& event : bound.events)
+        page << "\nThe event `" << event.name << "`: " << event.description << ". Listeners get a "
+             << removePackage(event.payload) << ".\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::ostringstream page;
+    page << kHead;
+    for (const BoundClass& bound : getBoundClasses())
+        writeClass(bound, page);
+    if (argc == 1) {
+        std::cout << page.str();
+        return 0;
+    }
+    if (argc != 3 || std::string(argv[1]) != "--check") {
+        std::cerr << "bound_classes [--check docs/classes.md]\n";
+        return 2;
+    }
+    std::ifstream file(argv[2]);
+    std::ostringstream present;
+    present << file.rdbuf();
+    if (present.str() == page.str())
+        return 0;
+    std::cerr << argv[2] << " isn't what the class table says\n";
+    return 1;
+}

@@ -1,0 +1,89 @@
+#include "vellox/host/binding/Adapters.h"
+#include "vellox/host/binding/BoundClasses.h"
+#include "vellox/ppt/formats/Alignment.h"
+#include "vellox/ppt/formats/BaseDimension.h"
+#include "vellox/ppt/formats/CharacterFormats.h"
+#include "vellox/ppt/formats/Color.h"
+
+namespace vellox::ppt::hostbind {
+
+namespace {
+
+/// A format that is one truth value.
+template <class C> BoundClass describeLogical(const char* name, const char* doc) {
+    BoundClass bound = describe<C>(name, "Format", doc);
+    bound.constructors = {make<C>(), make<C, bool>("value")};
+    bound.properties = {property<C, &C::getValue, &C::setValue>("Value", "Whether it is so.")};
+    return bound;
+}
+
+/// A format that is one text, which a property of its own or of its superclass holds.
+template <class C>
+BoundClass describeText(const char* name, const char* superclass, const char* doc,
+                        const std::vector<BoundProperty>& properties = {}) {
+    BoundClass bound = describe<C>(name, superclass, doc);
+    bound.constructors = {make<C>(), make<C, std::wstring>("value")};
+    bound.properties = properties;
+    return bound;
+}
+
+BoundClass describeFontFamily() {
+    BoundClass bound = describe<FontFamily>("FontFamily", "Format",
+                                            "The fonts of text, \"Times New Roman\" and none by default.");
+    bound.constructors = {make<FontFamily>(), make<FontFamily, std::wstring>("font"),
+                          make<FontFamily, std::wstring, std::wstring>("font, complexScriptFont")};
+    bound.properties = {
+        property<FontFamily, &FontFamily::getFont, &FontFamily::setFont>("Font",
+                                                                         "The font for Latin scripts."),
+        property<FontFamily, &FontFamily::getComplexScriptFont, &FontFamily::setComplexScriptFont>(
+            "ComplexScriptFont", "The font for complex scripts, such as Arabic or Thai."),
+    };
+    return bound;
+}
+
+BoundClass describeColor() {
+    BoundClass bound = describeAbstract<Color>("Color", "Format", "A colour.");
+    bound.properties = {property<Color, &Color::getValue, &Color::setValue>(
+        "Value", "\"#\" and six hexadecimal digits, or a name such as \"cornflowerblue\".")};
+    return bound;
+}
+
+} // namespace
+
+std::vector<BoundClass> describeFormats() {
+    return {
+        describeAbstract<Format>("Format", "Object",
+                                 "How an element looks in one respect. One format may be in several styles."),
+        describeLogical<Bold>("Bold", "Bold text."),
+        describeLogical<Italic>("Italic", "Slanted text."),
+        describeLogical<Subscript>("Subscript", "Lowered text."),
+        describeLogical<Superscript>("Superscript", "Raised text."),
+        describeText<Strike>("Strike", "Format", "A line through text.",
+                             {property<Strike, &Strike::getStyle, &Strike::setStyle>(
+                                 "Style", "\"none\", \"single\" or \"double\".")}),
+        describeText<Underline>(
+            "Underline", "Format", "A line under text.",
+            {property<Underline, &Underline::getStyle, &Underline::setStyle>(
+                "Style", "\"none\", \"single\", \"double\", \"wavy\" and others, see the guide.")}),
+        describeFontFamily(),
+        describeColor(),
+        describeText<FontColor>("FontColor", "Color", "The colour of text, \"black\" by default."),
+        describeText<BackgroundColor>("BackgroundColor", "Color",
+                                      "The fill of a text box or a table cell, \"white\" by default."),
+        describeText<BaseDimension>(
+            "BaseDimension", "Format", "A length, \"0px\" by default.",
+            {property<BaseDimension, &BaseDimension::getValue, &BaseDimension::setValue>(
+                "Value", "A number and a unit, such as \"2.5cm\".")}),
+        describeText<FontSize>("FontSize", "BaseDimension", "The size of text, \"12pt\" by default."),
+        describeText<ColWidth>("ColWidth", "BaseDimension",
+                               "The width of a table's column, \"0.25in\" by default."),
+        describeText<HAlign>("HAlign", "Format", "The alignment of a paragraph, \"left\" by default.",
+                             {property<HAlign, &HAlign::getValue, &HAlign::setValue>(
+                                 "Value", "\"left\", \"right\", \"center\", \"justified\" and others.")}),
+        describeText<VAlign>("VAlign", "Format", "Where text is anchored, \"top\" by default.",
+                             {property<VAlign, &VAlign::getValue, &VAlign::setValue>(
+                                 "Value", "\"top\", \"middle\", \"bottom\", or with \"Centered\" behind.")}),
+    };
+}
+
+} // namespace vellox::ppt::hostbind

@@ -1,0 +1,66 @@
+#include "vellox/host/binding/BoundClasses.h"
+#include "vellox/host/binding/ContentArguments.h"
+#include "vellox/host/binding/FormatRows.h"
+#include "vellox/host/binding/ParagraphRows.h"
+#include "vellox/ppt/tree/Group.h"
+
+namespace vellox::ppt::hostbind {
+
+namespace {
+
+BoundClass describeShape() {
+    BoundClass bound = describe<Shape>("Shape", "Element", "What stands on a slide.");
+    bound.constructors = {make<Shape>()};
+    bound.properties = {
+        property<Shape, &Shape::getName, &Shape::setName>("Name", "What the shape is found by."),
+        optionalProperty<Shape, &Shape::getX, &Shape::setX, &Shape::unsetX>(
+            "X", "The left edge, from the slide's: a length."),
+        optionalProperty<Shape, &Shape::getY, &Shape::setY, &Shape::unsetY>(
+            "Y", "The top edge, from the slide's: a length."),
+        optionalProperty<Shape, &Shape::getWidth, &Shape::setWidth, &Shape::unsetWidth>("Width", "A length."),
+        optionalProperty<Shape, &Shape::getHeight, &Shape::setHeight, &Shape::unsetHeight>("Height",
+                                                                                           "A length."),
+    };
+    return bound;
+}
+
+BoundClass describeBaseTextBox() {
+    BoundClass bound = describe<BaseTextBox>("BaseTextBox", "Shape", "A shape that holds paragraphs.");
+    bound.constructors = {make<BaseTextBox>()};
+    bound.properties = makeCharacterRows<BaseTextBox>();
+    bound.properties.push_back(makeBackgroundRow<BaseTextBox>());
+    bound.properties.push_back(makeVAlignRow<BaseTextBox>());
+    bound.methods = makeParagraphRows();
+    append(bound.methods, makeContentRows());
+    return bound;
+}
+
+BoundClass describeTextBox() {
+    BoundClass bound = describe<TextBox>("TextBox", "BaseTextBox", "A text box of the user's own.");
+    bound.constructors = {make<TextBox>()};
+    bound.methods = makeParagraphRows();
+    append(bound.methods, makeContentRows());
+    return bound;
+}
+
+BoundClass describePicture() {
+    BoundClass bound =
+        describe<Picture>("Picture", "Shape", "An image from a file, in its own size unless told otherwise.");
+    bound.constructors = {make<Picture>(), make<Picture, std::wstring>("path")};
+    bound.methods = {makeReplaceRow<Picture, Picture>("picture")};
+    return bound;
+}
+
+BoundClass describeGroup() {
+    BoundClass bound = describe<Group>("Group", "Shape", "A group of shapes of a template's slide.");
+    bound.constructors = {make<Group>()};
+    return bound;
+}
+
+} // namespace
+
+std::vector<BoundClass> describeShapes() {
+    return {describeShape(), describeBaseTextBox(), describeTextBox(), describePicture(), describeGroup()};
+}
+
+} // namespace vellox::ppt::hostbind

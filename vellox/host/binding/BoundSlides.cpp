@@ -1,0 +1,134 @@
+#include "vellox/foundation/Conversions.h"
+#include "vellox/host/binding/Adapters.h"
+#include "vellox/host/binding/BoundClasses.h"
+#include "vellox/host/binding/ContentArguments.h"
+#include "vellox/ppt/engine/Presentation.h"
+
+namespace vellox::ppt::hostbind {
+
+namespace {
+
+/// A position counts from 1 here, and from 0 in the facade.
+unsigned int toIndex(const Presentation& deck, unsigned int position) {
+    if (position == 0)
+        raise(ppt_error::positiveSubscript());
+    if (position > deck.getNChildren())
+        raise(ppt_error::badSlideSubscript(num2str(position), num2str(deck.getNChildren())));
+    return position - 1;
+}
+
+Slide addAt(Presentation& deck, Wide layout, unsigned int position) {
+    return deck.add(layout, toIndex(deck, position));
+}
+
+Slide addOfMasterAt(Presentation& deck, Wide layout, Wide master, unsigned int position) {
+    return deck.add(layout, master, toIndex(deck, position));
+}
+
+TextCells getMasterNames(Presentation& deck) {
+    return {1, deck.getMasterNames()};
+}
+
+TextCells getLayoutNames(Presentation& deck, const hvArray& master) {
+    return {1, deck.getLayoutNames(StringContent::getValue(HvCell(&master).getContent()))};
+}
+
+TextCells getTableStyleNames(Presentation& deck) {
+    TextCells cells = {2, {}};
+    for (const auto& style : deck.getTableStyleNames())
+        cells.texts.insert(cells.texts.end(), {style.first, style.second});
+    return cells;
+}
+
+/// replace by name, of slides and presentations.
+template <class C> std::vector<BoundMethod> makeReplaceByNameRows() {
+    return {
+        Method<C, void(Wide, Wide)>::template row<&C::replace>(
+            "replace", "name, text", "Makes a new paragraph the only one of the shapes of a name."),
+        Method<C, void(Wide, const Paragraph&)>::template row<&C::replace>(
+            "replace", "name, paragraph", "Makes a paragraph the only one of the shapes of a name."),
+        Method<C, void(const hvArray&, const hvArray&)>::template row<&replaceAnyByName<C>>(
+            "replace", "name, content",
+            "Gives the shapes of a name the items of a list, a Picture or a Table, whichever they take."),
+    };
+}
+
+BoundMethod describeAddParagraph(BoundMethod row) {
+    row.doc = "Adds a paragraph to the text boxes and placeholders of a name; copies to all but the first.";
+    return row;
+}
+
+BoundClass describePresentation() {
+    using Deck = Presentation;
+    BoundClass bound =
+        describe<Deck>("Presentation", "Node", "A presentation, from its template to its file.");
+    bound.constructors = {make<Deck>(), make<Deck, std::wstring>("outputPath"),
+                          make<Deck, std::wstring, std::wstring>("outputPath, templatePath")};
+    bound.properties = {
+        property<Deck, &Deck::getTemplatePath, &Deck::setTemplatePath>(
+            "TemplatePath", "The template; can't be changed once the presentation is open."),
+        property<Deck, &Deck::getOutputPath, &Deck::setOutputPath>(
+            "OutputPath", "The file to be made; can't be changed once the presentation is open."),
+    };
+    bound.methods = {
+        Method<Deck, bool()>::row<&Deck::open>("open", "",
+                                               "Reads the template. False if it was open before."),
+        Method<Deck, bool()>::row<&Deck::close>(
+            "close", "", "Writes all slides and saves the file. False if it isn't open."),
+        Method<Deck, PPTNode::Children(Wide)>::row<&Deck::find>("find", "name",
+                                                                "All slides and shapes of a name."),
+        describeAddParagraph(
+            Method<Deck, void(Wide, const Paragraph&)>::row<&Deck::add>("add", "name, paragraph", "")),
+    };
+    append(bound.methods, makeReplaceByNameRows<Deck>());
+    append(
+        bound.methods,
+        {Method<Deck, Slide(Wide)>::row<&Deck::add>("add", "layout", "Adds a slide of a layout at the end."),
+         Method<Deck, Slide(Wide, Wide)>::row<&Deck::add>("add", "layout, master",
+                                                          "The same, of the layout of one slide master."),
+         Method<Deck, Slide(Wide, const Slide&)>::row<&Deck::add>("add", "layout, before",
+                                                                  "Adds a slide before a slide."),
+         Method<Deck, Slide(Wide, Wide, const Slide&)>::row<&Deck::add>(
+             "add", "layout, master, before", "The same, of the layout of one slide master."),
+         Method<Deck, Slide(Wide, unsigned int)>::row<&addAt>(
+             "add", "layout, position", "Adds a slide at a position, which counts from 1."),
+         Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
+             "add", "layout, master, position", "The same, of the layout of one slide master."),
+         Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", "",
+                                                         "The names of the slide masters."),
+         Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
+             "getLayoutNames", "master", "The names of a slide master's layouts."),
+         Method<Deck, TextCells()>::row<&getTableStyleNames>(
+             "getTableStyleNames", "", "The name and the id of each table style of the template.")});
+    return bound;
+}
+
+BoundClass describeSlide() {
+    BoundClass bound = describeAbstract<Slide>("Slide", "Element", "A slide.");
+    bound.properties = {
+        property<Slide, &Slide::getName, &Slide::setName>("Name", "What the slide is found by."),
+        readOnlyProperty<Slide, &Slide::getLayoutName>("Layout", "The name of its layout."),
+        readOnlyProperty<Slide, &Slide::getSlideMasterName>("SlideMaster", "The name of its slide master."),
+    };
+    constexpr const char* kAddObject = "Puts this very object on the slide, on top of what is there.";
+    bound.methods = {
+        Method<Slide, Picture(const Picture&)>::row<&Slide::add>("add", "picture", kAddObject),
+        Method<Slide, Table(const Table&)>::row<&Slide::add>("add", "table", kAddObject),
+        Method<Slide, TextBox(const TextBox&)>::row<&Slide::add>("add", "textBox", kAddObject),
+        Method<Slide, PPTNode::Children(Wide)>::row<&Slide::find>("find", "name", "All shapes of a name."),
+        Method<Slide, void(Wide, Wide)>::row<&Slide::add>(
+            "add", "name, text", "Adds a new paragraph to the text boxes and placeholders of a name."),
+        describeAddParagraph(
+            Method<Slide, void(Wide, const Paragraph&)>::row<&Slide::add>("add", "name, paragraph", "")),
+    };
+    append(bound.methods, makeReplaceByNameRows<Slide>());
+    return bound;
+}
+
+} // namespace
+
+std::vector<BoundClass> describeSlides() {
+    return {describePresentation(), describeSlide()};
+}
+
+} // namespace vellox::ppt::hostbind

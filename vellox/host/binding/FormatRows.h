@@ -1,0 +1,84 @@
+/// @file
+/// The format properties of element classes, as rows of the class table.
+
+#ifndef VELLOX_HOST_BINDING_FORMATROWS_H
+#define VELLOX_HOST_BINDING_FORMATROWS_H
+
+#include <vector>
+
+#include "vellox/host/binding/Adapters.h"
+
+namespace vellox::ppt::hostbind {
+
+/// A facet of an element's fonts. An empty one is one that isn't set.
+template <class C, auto kFacet> HostResult getFontFacet(const C& element) {
+    const boost::shared_ptr<FontFamily> family = element.getFontFamily();
+    if (!family || ((*family).*kFacet)().empty())
+        return Empty();
+    return ((*family).*kFacet)();
+}
+
+template <class C, auto kFacet, auto kSet, auto kUnset>
+BoundProperty fontProperty(const char* name, const char* doc) {
+    return {name,
+            SignatureWord("char"),
+            true,
+            AdaptedClassGetter<C, getFontFacet<C, kFacet>>::get,
+            UnsettingClassSetter<C, kSet, kUnset>::set,
+            doc};
+}
+
+/// What every element that holds text has.
+template <class C> std::vector<BoundProperty> makeFontRows() {
+    return {
+        fontProperty<C, &FontFamily::getFont, &C::setFont, &C::unsetFont>("Font",
+                                                                          "The font for Latin scripts."),
+        fontProperty<C, &FontFamily::getComplexScriptFont, &C::setComplexScriptFont,
+                     &C::unsetComplexScriptFont>("ComplexScriptFont",
+                                                 "The font for complex scripts, such as Arabic or Thai."),
+        formatProperty<C, &C::getFontColor, &FontColor::getValue, &C::setFontColor, &C::unsetFontColor>(
+            "FontColor", "The colour of text: \"#\" and six hexadecimal digits, or a name."),
+        formatProperty<C, &C::getFontSize, &FontSize::getValue, &C::setFontSize, &C::unsetFontSize>(
+            "FontSize", "The size of text: a length, such as \"18pt\"."),
+    };
+}
+
+/// The character set: fonts, and how a run looks besides.
+template <class C> std::vector<BoundProperty> makeCharacterRows() {
+    std::vector<BoundProperty> rows = {
+        formatProperty<C, &C::getBold, &Bold::getValue, &C::setBold, &C::unsetBold>("Bold",
+                                                                                    "Whether text is bold."),
+        formatProperty<C, &C::getItalic, &Italic::getValue, &C::setItalic, &C::unsetItalic>(
+            "Italic", "Whether text is slanted."),
+        formatProperty<C, &C::getSubscript, &Subscript::getValue, &C::setSubscript, &C::unsetSubscript>(
+            "Subscript", "Whether text is lowered."),
+        formatProperty<C, &C::getSuperscript, &Superscript::getValue, &C::setSuperscript,
+                       &C::unsetSuperscript>("Superscript", "Whether text is raised."),
+        formatProperty<C, &C::getStrike, &Strike::getStyle, &C::setStrikeStyle, &C::unsetStrike>(
+            "Strike", "The line through text: \"none\", \"single\" or \"double\"."),
+        formatProperty<C, &C::getUnderline, &Underline::getStyle, &C::setUnderlineStyle, &C::unsetUnderline>(
+            "Underline", "The line under text: \"none\", \"single\", \"double\", \"wavy\" and others."),
+    };
+    append(rows, makeFontRows<C>());
+    return rows;
+}
+
+template <class C> BoundProperty makeBackgroundRow() {
+    return formatProperty<C, &C::getBackgroundColor, &BackgroundColor::getValue, &C::setBackgroundColor,
+                          &C::unsetBackgroundColor>("BackgroundColor",
+                                                    "The fill: \"#\" and six hexadecimal digits, or a name.");
+}
+
+template <class C> BoundProperty makeHAlignRow() {
+    return formatProperty<C, &C::getHAlign, &HAlign::getValue, &C::setHAlign, &C::unsetHAlign>(
+        "HAlign", "The alignment: \"left\", \"right\", \"center\", \"justified\" and others.");
+}
+
+template <class C> BoundProperty makeVAlignRow() {
+    return formatProperty<C, &C::getVAlign, &VAlign::getValue, &C::setVAlign, &C::unsetVAlign>(
+        "VAlign", "Where text is anchored: \"top\", \"middle\", \"bottom\", or with \"Centered\" behind.");
+}
+
+} // namespace vellox::ppt::hostbind
+
+#endif

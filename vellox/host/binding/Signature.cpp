@@ -1,0 +1,120 @@
+#include "vellox/host/binding/Signature.h"
+
+#include "vellox/host/binding/PPTObjFromHostBase.h"
+
+#include <cmath>
+#include <limits>
+
+namespace vellox::ppt::hostbind {
+
+namespace {
+
+using Kind = SignatureWord::Kind;
+
+constexpr struct {
+    const char* word;
+    Kind kind;
+} kPlainWords[] = {
+    {"char", Kind::Char},
+    {"logical scalar", Kind::Logical},
+    {"uint32 scalar", Kind::Uint32},
+    {"double scalar", Kind::Double},
+    {"any", Kind::Any},
+    {"void", Kind::Void},
+    {"char or double scalar", Kind::Compound},
+};
+
+bool isNumericScalar(const hvArray& value) {
+    const int code = value.getClassCode();
+    return code >= HvDoubleClass && code <= HvLastIntegerClass && value.getNElements() == 1;
+}
+
+bool isWholeUint32(double number) {
+    return number >= 0 && number <= std::numeric_limits<unsigned int>::max() && std::floor(number) == number;
+}
+
+} // namespace
+
+SignatureWord::SignatureWord(const std::string& word) : kind_(Kind::Object), text_(word) {
+    for (const auto& plain : kPlainWords) {
+        if (word == plain.word) {
+            kind_ = plain.kind;
+            return;
+        }
+    }
+    const std::string list = "list of ";
+    const std::string vector = " vector";
+    const std::size_t start = word.compare(0, list.size(), list) == 0 ? list.size() : 0;
+    const std::size_t end = word.find(vector);
+    if (start > 0 || end != std::string::npos)
+        kind_ = Kind::Compound;
+    className_ =
+        std::string(kPackage) + "." + word.substr(start, end == std::string::npos ? end : end - start);
+    text_ = word.substr(0, start) + className_ + (end == std::string::npos ? "" : vector);
+}
+
+bool SignatureWord::matches(const hvArray& value) const {
+    const int code = value.getClassCode();
+    switch (kind_) {
+    case Kind::Char:
+        return code == HvCharClass;
+    case Kind::Logical:
+        return code == HvLogicalClass && value.getNElements() == 1;
+    case Kind::Uint32:
+        return code == HvUint32Class && value.getNElements() == 1;
+    case Kind::Double:
+        return code == HvDoubleClass && value.getNElements() == 1;
+    case Kind::Object:
+        return PPTObjFromHostBase(value, className_).hasImpl();
+    case Kind::Any:
+    case Kind::Void:
+    case Kind::Compound:
+        break;
+    }
+    return false;
+}
+
+bool SignatureWord::matchesConverted(const hvArray& value) const {
+    if (matches(value))
+        return true;
+    if (!isNumericScalar(value))
+        return false;
+    return kind_ == Kind::Double || (kind_ == Kind::Uint32 && isWholeUint32(value.getDouble()));
+}
+
+namespace {
+
+enum class Fit { Exact, Converted, WithAny };
+
+bool fits(const SignatureWord& word, const hvArray& value, Fit fit) {
+    switch (fit) {
+    case Fit::Exact:
+        return word.matches(value);
+    case Fit::Converted:
+        return word.matchesConverted(value);
+    case Fit::WithAny:
+        break;
+    }
+    return word.getKind() == Kind::Any || word.matchesConverted(value);
+}
+
+bool fits(const Signature& signature, const Arguments& arguments, Fit fit) {
+    if (signature.size() != arguments.count)
+        return false;
+    for (std::size_t i = 0; i < signature.size(); ++i)
+        if (!fits(signature[i], arguments[i], fit))
+            return false;
+    return true;
+}
+
+} // namespace
+
+int findOverload(const std::vector<const Signature*>& signatures, const Arguments& arguments) {
+    for (const Fit fit : {Fit::Exact, Fit::Converted, Fit::WithAny})
+        for (std::size_t i = 0; i < signatures.size(); ++i)
+            if (fits(*signatures[i], arguments, fit))
+                return static_cast<int>(i);
+    return -1;
+}
+
+} // namespace vellox::ppt::hostbind
