@@ -1,8 +1,12 @@
-# What find_package(vellox) and pkg-config find.
+# What find_package(vellox) and pkg-config find. There are three components: what runs, what programs are built with,
+# and the Python package.
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS vellox_ppt EXPORT vellox LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
+install(TARGETS vellox_ppt EXPORT vellox LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT
+                                                                                     development
+)
 foreach(header ${VELLOX_PUBLIC_HEADERS})
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})

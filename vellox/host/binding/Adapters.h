@@ -276,7 +276,10 @@ BoundProperty formatProperty(const char* name, const char* doc) {
 /// @param superclass without its package
 template <class C> BoundClass describe(const char* name, const char* superclass, const char* doc) {
     const auto isInstance = [](const PPTObject& object) {
-        return dynamic_cast<const C*>(&object) != nullptr;
+        if constexpr (std::is_same<C, PPTObject>::value)
+            return (static_cast<void>(object), true);
+        else
+            return dynamic_cast<const C*>(&object) != nullptr;
     };
     return {name, {std::string(kPackage) + "." + superclass}, false, doc, isInstance, {}, {}, {}, {}};
 }

@@ -36,6 +36,11 @@ objreg::HostInterface& BindingRegistry::announce(const ObjectPtr& object) {
 
 void BindingRegistry::announceForConstructor(const ObjectPtr& object, objreg::HostInterface& hostObject) {
     PPTObjectImpl* impl = implOf<PPTObjectImpl>(*object);
+    objreg::HostInterface* former = impl->getHostInterface();
+    if (former && former != &hostObject) {
+        former->retract();
+        intrusive_ptr_release(impl); // for the handle that was abandoned there; `object` holds on
+    }
     impl->setHostInterface(&hostObject);
     // Presentations report their progress while they have a client.
     if (implAs<PresentationImpl>(*object) && !impl->getClient())
@@ -48,6 +53,14 @@ void BindingRegistry::remove(const ObjectPtr& object, const objreg::HostInterfac
         return;
     impl->setHostInterface(nullptr);
     impl->setClient({});
+}
+
+bool BindingRegistry::isUnderConstruction(const PPTObject& object) {
+    return implOf<PPTObjectImpl>(object)->getLife() == PPTObjectImpl::Life::UnderConstruction;
+}
+
+bool BindingRegistry::isEnding(const PPTObject& object) {
+    return implOf<PPTObjectImpl>(object)->getLife() == PPTObjectImpl::Life::Ending;
 }
 
 void BindingRegistry::abandon(PPTObject& handle) noexcept {

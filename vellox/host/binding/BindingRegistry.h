@@ -18,13 +18,20 @@ public:
     /// class. A host must be in force.
     static objreg::HostInterface& announce(const ObjectPtr& object);
 
-    /// Ties an object to the host object that is being made for it.
+    /// Ties an object to the host object that is being made for it. Another one that a listener got while the
+    /// object was under construction is retracted.
     static void announceForConstructor(const ObjectPtr& object, objreg::HostInterface& hostObject);
 
     /// For a host that drops its object: unties the pair. The object of the library lives on if somebody holds
     /// it, and gets a new host object when it is announced again. Does nothing if another host object has
     /// taken over.
     static void remove(const ObjectPtr& object, const objreg::HostInterface& hostObject);
+
+    /// @{ Whether a listener hears of an object that isn't whole: nothing may fail while one is under construction,
+    /// and of one that is ending only what PPTObject itself has may be read.
+    static bool isUnderConstruction(const PPTObject& object);
+    static bool isEnding(const PPTObject& object);
+    /// @}
 
     /// Makes a handle stand for nothing without releasing what it stood for. For a host object whose object
     /// ends, in HostInterface::retract().

@@ -22,8 +22,8 @@ void dispatch(const Message& message) {
 // A message that may be kept by a listener, about an object that may be gone right after.
 class LifeMessage {
 public:
-    LifeMessage(const MsgID& id, PPTObjectImpl& object)
-        : guard_(object),
+    LifeMessage(const MsgID& id, PPTObjectImpl& object, PPTObjectImpl::Life life)
+        : guard_(object, life),
           message_(id, ObjectAccess::makeHandle(&object)) {}
     LifeMessage(const LifeMessage&) = delete;
     LifeMessage& operator=(const LifeMessage&) = delete;
@@ -36,7 +36,7 @@ public:
     void keepSource() { mustForget_ = false; }
 
 private:
-    PPTObjectImpl::CountGuard guard_; // outlives the message's handle on the object
+    PPTObjectImpl::LifeGuard guard_; // outlives the message's handle on the object
     DebugMessage message_;
     bool mustForget_ = true;
 };
@@ -46,7 +46,8 @@ private:
 void announceCreated(PPTObjectImpl& object) {
     if (!getFilter().getDebugMessagesPass())
         return;
-    LifeMessage message(ppt_debug::objCreated(object.getTag()), object);
+    LifeMessage message(ppt_debug::objCreated(object.getTag()), object,
+                        PPTObjectImpl::Life::UnderConstruction);
     message.send();
     message.keepSource();
 }
@@ -56,7 +57,7 @@ void announceDestroyed(PPTObjectImpl& object) noexcept {
         return;
     const ppt_debug::objDestroyed id(object.getTag());
     try {
-        LifeMessage(id, object).send();
+        LifeMessage(id, object, PPTObjectImpl::Life::Ending).send();
     } catch (const std::exception& failure) {
         host::raiseWarningAtEnd(id, fromUtf8(failure.what()));
     } catch (...) {

@@ -32,14 +32,25 @@ public:
     void setClient(const boost::shared_ptr<PPTClientImpl>& client);
     int getRefCount() const { return refCount_; }
 
+    /// What listeners may be told of: an object that isn't whole yet, or not any more.
+    enum class Life : char { Whole, UnderConstruction, Ending };
+    Life getLife() const { return life_; }
+
     /// Lets handles on an object come and go while it is under construction or ending, when its count is 0
     /// and the last of them would otherwise end it.
-    class CountGuard {
+    class LifeGuard {
     public:
-        explicit CountGuard(PPTObjectImpl& object) : object_(object) { ++object_.refCount_; }
-        CountGuard(const CountGuard&) = delete;
-        CountGuard& operator=(const CountGuard&) = delete;
-        ~CountGuard() { --object_.refCount_; }
+        LifeGuard(PPTObjectImpl& object, Life life) : object_(object) {
+            ++object_.refCount_;
+            object_.life_ = life;
+        }
+        LifeGuard(const LifeGuard&) = delete;
+        LifeGuard& operator=(const LifeGuard&) = delete;
+        ~LifeGuard() {
+            --object_.refCount_;
+            if (object_.life_ == Life::UnderConstruction)
+                object_.life_ = Life::Whole;
+        }
 
     private:
         PPTObjectImpl& object_;
@@ -53,6 +64,7 @@ private:
     std::wstring id_;
     std::wstring tag_;
     int refCount_ = 0;
+    Life life_ = Life::Whole;
 };
 
 /// The way from a facade to its implementation, for code inside the library.

@@ -16,11 +16,6 @@ PictureImpl::PictureImpl() {
     announceCreated(*this);
 }
 
-PictureImpl::PictureImpl(const std::wstring& path) {
-    setPath(path);
-    announceCreated(*this);
-}
-
 PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
     announceCreated(*this);
 }
@@ -84,7 +79,9 @@ Picture PictureImpl::replace(const Picture& picture) {
 // Picture
 
 Picture::Picture() : Picture(new PictureImpl) {}
-Picture::Picture(const std::wstring& path) : Picture(new PictureImpl(path)) {}
+Picture::Picture(const std::wstring& path) : Picture(new PictureImpl) {
+    pimpl()->setPath(path);
+}
 Picture::Picture(PictureImpl* impl) : Shape(impl) {}
 
 PictureImpl* Picture::pimpl() {

@@ -14,7 +14,6 @@ public:
     using ShapeImpl::replace;
 
     PictureImpl();
-    explicit PictureImpl(const std::wstring& path);
     PictureImpl(const std::wstring& name, const Record& record);
     /// The picture in the place of another shape.
     PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture);

@@ -30,15 +30,6 @@ TableImpl::TableImpl(const std::wstring& name, const Record& record) : ShapeImpl
     announceCreated(*this);
 }
 
-TableImpl::TableImpl(const boost::shared_ptr<HvTable>& content) {
-    if (!content)
-        raise(ppt_error::invalidConstructorArg());
-    nCols_ = content->getNCols();
-    announceCreated(*this);
-    for (unsigned int r = 0; r < content->getNRows(); ++r)
-        appendContentRow(*content, r);
-}
-
 TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table)
     : ShapeImpl(former, takeName),
       nCols_(table.nCols_),
@@ -109,6 +100,11 @@ PPTNodeImpl::Child cellToParagraph(const HvContentPtr& content) {
 
 } // namespace
 
+void TableImpl::appendContent(const HvTable& content) {
+    for (unsigned int r = 0; r < content.getNRows(); ++r)
+        appendContentRow(content, r);
+}
+
 void TableImpl::appendContentRow(const HvTable& content, unsigned int r) {
     TableRow row;
     for (unsigned int c = 0; c < nCols_; ++c) {
@@ -168,10 +164,23 @@ Table TableImpl::replace(const Table& table) {
 
 // Table
 
+namespace {
+
+TableImpl* makeForContent(const boost::shared_ptr<HvTable>& content) {
+    if (!content)
+        raise(ppt_error::invalidConstructorArg());
+    return new TableImpl(content->getNCols());
+}
+
+} // namespace
+
 Table::Table() : Table(new TableImpl) {}
 Table::Table(unsigned int nCols) : Table(new TableImpl(nCols)) {}
 Table::Table(const std::wstring& name) : Table(new TableImpl(name)) {}
-Table::Table(const boost::shared_ptr<HvTable>& content) : Table(new TableImpl(content)) {}
+Table::Table(const boost::shared_ptr<HvTable>& content) : Table(makeForContent(content)) {
+    // Content may fail. The table is whole by then, so that a listener that has heard of it holds no ruin.
+    pimpl()->appendContent(*content);
+}
 Table::Table(TableImpl* impl) : Shape(impl) {}
 
 TableImpl* Table::pimpl() {

@@ -15,7 +15,6 @@ public:
     explicit TableImpl(unsigned int nCols);
     explicit TableImpl(const std::wstring& name);
     TableImpl(const std::wstring& name, const Record& record);
-    explicit TableImpl(const boost::shared_ptr<HvTable>& content);
     /// The table in the place of another shape.
     TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table);
     TableImpl(const TableImpl& other);
@@ -36,6 +35,9 @@ public:
     const Table::ColSpecs& getColSpecs() const { return colSpecs_; }
     void setColSpecs(const Table::ColSpecs& colSpecs) { colSpecs_ = colSpecs; }
     void append(const Child& row);
+    /// Appends a row for each of the content's.
+    /// @throws invalidObjectForTable for content that no cell can show
+    void appendContent(const HvTable& content);
     boost::shared_ptr<TableRow> row(unsigned int i) const;
     boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c) const;
     Table replace(const Table& table);

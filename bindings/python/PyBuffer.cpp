@@ -1,0 +1,113 @@
+#include "bindings/python/PyBuffer.h"
+
+#include "bindings/python/PyErrors.h"
+#include "vellox/host/values/hvArray.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace vellox::ppt::python {
+
+namespace {
+
+template <class T> double readAs(const char* element) {
+    T value;
+    std::memcpy(&value, element, sizeof value); // elements needn't be aligned
+    return static_cast<double>(value);
+}
+
+double readHalf(const char* element) {
+    return PyFloat_Unpack2(element, PY_LITTLE_ENDIAN);
+}
+
+/// How the elements of a format are read. Formats name C types, whose sizes depend on a prefix; so the size is
+/// part of the key.
+constexpr struct {
+    const char* formats;
+    std::size_t size;
+    int code;
+    double (*read)(const char* element);
+} kReaders[] = {
+    {"?", 1, HvLogicalClass, readAs<std::uint8_t>},
+    {"bhilqn", 1, 8, readAs<std::int8_t>},
+    {"BHILQN", 1, 9, readAs<std::uint8_t>},
+    {"bhilqn", 2, 10, readAs<std::int16_t>},
+    {"BHILQN", 2, 11, readAs<std::uint16_t>},
+    {"bhilqn", 4, 12, readAs<std::int32_t>},
+    {"BHILQN", 4, HvUint32Class, readAs<std::uint32_t>},
+    {"bhilqn", 8, 14, readAs<std::int64_t>},
+    {"BHILQN", 8, HvLastIntegerClass, readAs<std::uint64_t>},
+    {"e", 2, HvSingleClass, readHalf},
+    {"f", 4, HvSingleClass, readAs<float>},
+    {"d", 8, HvDoubleClass, readAs<double>},
+    {"g", sizeof(long double), HvDoubleClass, readAs<long double>},
+};
+
+/// The letter of a format of one element in this machine's byte order; 0 for any other format.
+char getLetter(const char* format) {
+    if (!format)
+        return 'B';
+    const char* native = PY_LITTLE_ENDIAN ? "@=<" : "@=>!";
+    if (*format != 0 && std::strchr(native, *format))
+        ++format;
+    return std::strlen(format) == 1 ? *format : '\0';
+}
+
+} // namespace
+
+PyBuffer::PyBuffer(PyObject* object) {
+    // The bytes of an encoded text are no numbers to show.
+    if (!PyObject_CheckBuffer(object) || PyBytes_Check(object) || PyByteArray_Check(object))
+        return;
+    if (PyObject_GetBuffer(object, &view_, PyBUF_FULL_RO) < 0) {
+        PyErr_Clear(); // some arrays, such as those of dates, can't be opened
+        return;
+    }
+    isOpen_ = true;
+    const char letter = getLetter(view_.format);
+    for (const auto& row : kReaders) {
+        if (letter != 0 && std::strchr(row.formats, letter) &&
+            row.size == static_cast<std::size_t>(view_.itemsize)) {
+            code_ = row.code;
+            read_ = row.read;
+        }
+    }
+    for (int i = 0; i < view_.ndim; ++i)
+        shape_.push_back(static_cast<std::size_t>(view_.shape[i]));
+}
+
+PyBuffer::~PyBuffer() {
+    if (isOpen_)
+        PyBuffer_Release(&view_);
+}
+
+/// Calls use(number) for each element, column after column.
+template <class Use> void PyBuffer::visit(Use use) const {
+    Py_ssize_t indices[2] = {0, 0};
+    const std::size_t rows = shape_.size() == 2 ? shape_[0] : 1;
+    const std::size_t columns = shape_.empty() ? 1 : shape_.back();
+    Py_ssize_t& row = indices[0];
+    Py_ssize_t& column = shape_.size() == 2 ? indices[1] : indices[0];
+    for (std::size_t c = 0; c < columns; ++c) {
+        for (std::size_t r = 0; r < rows; ++r) {
+            row = static_cast<Py_ssize_t>(r);
+            column = static_cast<Py_ssize_t>(c);
+            use(read_(static_cast<const char*>(PyBuffer_GetPointer(&view_, indices))));
+        }
+    }
+}
+
+std::vector<double> PyBuffer::readNumbers() const {
+    std::vector<double> numbers;
+    visit([&](double number) { numbers.push_back(number); });
+    return numbers;
+}
+
+std::unique_ptr<bool[]> PyBuffer::readLogicals() const {
+    std::unique_ptr<bool[]> logicals(new bool[static_cast<std::size_t>(view_.len) + 1]);
+    bool* next = logicals.get();
+    visit([&](double number) { *next++ = number != 0; });
+    return logicals;
+}
+
+} // namespace vellox::ppt::python

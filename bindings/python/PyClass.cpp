@@ -1,0 +1,184 @@
+#include "bindings/python/PyClass.h"
+
+#include "bindings/python/PyCall.h"
+#include "bindings/python/PyClassSystem.h"
+#include "bindings/python/PyConveniences.h"
+#include "bindings/python/PyInstance.h"
+#include "bindings/python/PyListeners.h"
+#include "bindings/python/PyMethod.h"
+#include "bindings/python/PyResults.h"
+#include "bindings/python/PyTerms.h"
+#include "vellox/host/binding/BindingRegistry.h"
+
+#include <structmember.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+namespace vellox::ppt::python {
+
+using namespace hostbind;
+
+// PyClass
+
+PyClass::PyClass(const BoundClass& boundClass)
+    : bound(boundClass),
+      fullName(boundClass.getFullName()),
+      doc(describeClass(boundClass)) {}
+
+bool PyClass::isRoot() const {
+    return std::strcmp(bound.name, "Object") == 0;
+}
+
+// Type slots: the life of an object
+
+namespace {
+
+PyObject* newObject(PyTypeObject* type, PyObject*, PyObject*) {
+    return guarded<PyObject*>(nullptr, [&] { return allocateInstance(type).release(); });
+}
+
+void deallocate(PyObject* self) {
+    clearInstance(self);
+    freeInstance(self);
+}
+
+ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
+    const bool isForUsers =
+        !pyClass.bound.constructors.empty() && !pyClass.bound.constructors.front().isHidden;
+    if (!isForUsers)
+        throw PythonError(PyExc_TypeError,
+                          pyClass.fullName + ": the library alone makes objects of this class");
+    Reading reading;
+    reading.rowsAreTables = true;
+    const PyCall call(PySequence_Fast_ITEMS(arguments), static_cast<std::size_t>(PyTuple_GET_SIZE(arguments)),
+                      reading);
+    const std::size_t chosen =
+        call.select(pyClass.constructorSignatures, pyClass.fullName, formatConstructors(pyClass.bound));
+    const BoundConstructor& constructor = pyClass.bound.constructors[chosen];
+    return constructor.make ? constructor.make(call.getArguments()) : ObjectPtr();
+}
+
+int initObject(PyObject* self, PyObject* arguments, PyObject* keywords) {
+    return guarded<int>(-1, [&] {
+        const PyClass& pyClass = PyClassSystem::get().getClassOf(Py_TYPE(self));
+        if (keywords && PyDict_GET_SIZE(keywords) > 0)
+            throw PythonError(PyExc_TypeError, pyClass.fullName + " takes no keyword arguments");
+        LibraryCall call;
+        const ObjectPtr made = construct(pyClass, arguments);
+        PySlot& slot = slotOf(self);
+        slot.drop(); // of an object that is made once more
+        if (made) {
+            slot.hold(pyClass, made);
+            BindingRegistry::announceForConstructor(made, slot);
+        }
+        call.finish();
+        return 0;
+    });
+}
+
+PyObject* represent(PyObject* self) {
+    return guarded<PyObject*>(nullptr, [&] {
+        const PPTObject* facade = slotOf(self).getFacade();
+        if (!facade)
+            return PyUnicode_FromFormat("<%s>", Py_TYPE(self)->tp_name);
+        return PyUnicode_FromFormat("<%s, tag %R>", Py_TYPE(self)->tp_name, toPython(facade->getTag()).get());
+    });
+}
+
+// Properties
+
+PyObject* getProperty(PyObject* self, void* closure) {
+    return guarded<PyObject*>(nullptr, [&] {
+        const auto& property = *static_cast<const PyProperty*>(closure);
+        const PPTObject& facade = requireFacade(self, *property.owner, Use::ReadOfRoot);
+        return toPython(property.row->get(facade)).release();
+    });
+}
+
+/// @param value null for a property that is to be deleted, which empties it as None does
+int setProperty(PyObject* self, PyObject* value, void* closure) {
+    return guarded<int>(-1, [&] {
+        const auto& property = *static_cast<const PyProperty*>(closure);
+        PPTObject& facade = requireFacade(self, *property.owner, Use::Any);
+        const PyValue given(value ? value : Py_None);
+        if (!property.row->takes(given))
+            throw PythonError(PyExc_TypeError, property.owner->fullName + "." + property.row->name +
+                                                   " takes " + getTypeName(*property.row) + ", not " +
+                                                   given.getClassName());
+        LibraryCall call;
+        property.row->set(facade, given);
+        call.finish();
+        return 0;
+    });
+}
+
+} // namespace
+
+// PyClassBuilder
+
+void PyClassBuilder::declareSuperclass(const std::string& fullName) {
+    // Python has no need of what other hosts have their objects derive from.
+    if (findBoundClass(fullName))
+        base_ = PyClassSystem::get().findType(fullName);
+}
+
+void PyClassBuilder::declareConstructor(const BoundConstructor& constructor) {
+    class_.constructorSignatures.push_back(&constructor.signature);
+}
+
+void PyClassBuilder::declareProperty(const BoundProperty& property) {
+    PyProperty& added = class_.properties.emplace_back(PyProperty{&class_, &property});
+    class_.getSets.push_back(
+        {property.name, getProperty, property.set ? setProperty : nullptr, property.doc, &added});
+}
+
+void PyClassBuilder::declareMethod(const BoundMethod& method) {
+    const auto isSame = [&](const char* name) { return std::strcmp(name, method.name) == 0; };
+    if (std::none_of(methodNames_.begin(), methodNames_.end(), isSame))
+        methodNames_.push_back(method.name);
+}
+
+void PyClassBuilder::declareEvent(const BoundEvent&) {
+    hasListeners_ = true;
+}
+
+void PyClassBuilder::makeType() {
+    static PyMemberDef members[] = {
+        {"__weaklistoffset__", T_PYSSIZET, offsetof(PyInstanceHead, weakReferences), READONLY, nullptr}, {}};
+    std::vector<PyType_Slot> slots;
+    if (hasListeners_)
+        slots = getListeningSlots();
+    else
+        slots.push_back({Py_tp_dealloc, reinterpret_cast<void*>(deallocate)});
+    if (!base_)
+        slots.insert(slots.end(), {{Py_tp_new, reinterpret_cast<void*>(newObject)},
+                                   {Py_tp_init, reinterpret_cast<void*>(initObject)},
+                                   {Py_tp_repr, reinterpret_cast<void*>(represent)},
+                                   {Py_tp_members, members}});
+    PyMethodDef* methods = hasListeners_ ? getListeningMethods() : findConveniences(class_.bound);
+    if (methods)
+        slots.push_back({Py_tp_methods, methods});
+    class_.getSets.push_back({});
+    slots.insert(slots.end(), {{Py_tp_doc, const_cast<char*>(class_.doc.c_str())},
+                               {Py_tp_getset, class_.getSets.data()},
+                               {0, nullptr}});
+    const std::size_t size = hasListeners_ ? sizeof(PyListeningInstance) : sizeof(PyInstance);
+    const unsigned int flags =
+        Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | (hasListeners_ ? Py_TPFLAGS_HAVE_GC : 0);
+    PyType_Spec spec = {class_.fullName.c_str(), static_cast<int>(size), 0, flags, slots.data()};
+    PyObject* type = PyType_FromSpecWithBases(&spec, reinterpret_cast<PyObject*>(base_));
+    class_.type = reinterpret_cast<PyTypeObject*>(checked(type).release());
+    addMethods();
+}
+
+void PyClassBuilder::addMethods() {
+    for (const char* name : methodNames_) {
+        const PyRef method = makeMethod(class_, name);
+        if (PyObject_SetAttrString(reinterpret_cast<PyObject*>(class_.type), name, method.get()) < 0)
+            throw PythonError();
+    }
+}
+
+} // namespace vellox::ppt::python

@@ -1,0 +1,79 @@
+/// @file
+/// Python as a host: its types, its objects, its listeners.
+
+#ifndef BINDINGS_PYTHON_PYCLASSSYSTEM_H
+#define BINDINGS_PYTHON_PYCLASSSYSTEM_H
+
+#include <algorithm>
+#include <deque>
+#include <optional>
+#include <unordered_map>
+
+#include "bindings/python/PyClass.h"
+#include "bindings/python/PyErrors.h"
+#include "vellox/host/binding/HostClassSystem.h"
+
+namespace vellox::ppt::python {
+
+/// There is one, which is never ended: Python objects outlive all static objects.
+class PyClassSystem : public hostbind::HostClassSystem {
+public:
+    static PyClassSystem& get();
+
+    /// Adds all types to the module.
+    void addTypes(PyObject* module) const;
+    /// The type of all objects; also that of what stands for nothing.
+    PyTypeObject* getRootType() const { return classes_.front().type; }
+    PyTypeObject* findType(const std::string& fullName) const;
+    /// The bound class of a type, or of what a user's type derives from.
+    const PyClass& getClassOf(PyTypeObject* type) const;
+    /// The object that makeInstance() made, if it was called since this was called last. It has no holder yet.
+    PyRef takeMade() { return std::exchange(made_, PyRef()); }
+
+    /// Keeps an object that has listeners though no user holds it; none lets go of it.
+    void keepListening(const PyRef& object) { listening_ = object; }
+    /// From here on no listener is called: the interpreter is ending.
+    void end();
+    bool isEnding() const { return isEnding_; }
+
+    bool hasPackage(const std::string& fullName) const override;
+    void addPackage(const hostbind::HostPackageInfo& package) override;
+    void addClass(const hostbind::BoundClass& bound) override;
+    void keepLoaded() override;
+    objreg::HostInterface& makeInstance(const hostbind::BoundClass& bound,
+                                        const hostbind::ObjectPtr& object) override;
+    bool isValid(const objreg::HostInterface& hostObject) const override;
+    void fireEvent(objreg::HostInterface& hostObject, const hostbind::BoundEvent& event,
+                   const MessageEventData& payload) override;
+    void translateException() override;
+
+private:
+    friend class LibraryCall;
+
+    std::deque<PyClass> classes_;
+    std::unordered_map<PyTypeObject*, const PyClass*> byType_;
+    PyRef made_;
+    PyRef listening_;
+    std::optional<PythonError> failure_; // of a listener that heard of an object under construction
+    bool isEnding_ = false;
+};
+
+/// A call from Python into the library. What a listener raises while an object is under construction waits until
+/// the library has come to the end of the call: the object is whole then, and whoever got hold of it may use it.
+class LibraryCall {
+public:
+    LibraryCall();
+    ~LibraryCall();
+    LibraryCall(const LibraryCall&) = delete;
+    LibraryCall& operator=(const LibraryCall&) = delete;
+
+    /// Raises what waits.
+    void finish();
+
+private:
+    std::optional<PythonError> outer_;
+};
+
+} // namespace vellox::ppt::python
+
+#endif

@@ -1,0 +1,96 @@
+#include "bindings/python/PyInstance.h"
+
+#include "bindings/python/PyClass.h"
+#include "bindings/python/PyClassSystem.h"
+#include "bindings/python/PyErrors.h"
+#include "vellox/host/binding/BindingRegistry.h"
+
+#include <new>
+
+namespace vellox::ppt::python {
+
+using hostbind::BindingRegistry;
+
+// PySlot
+
+PySlot::~PySlot() {
+    drop();
+}
+
+void PySlot::hold(const PyClass& pyClass, ObjectPtr proxy) {
+    class_ = &pyClass;
+    proxy_ = std::move(proxy);
+}
+
+void PySlot::drop() {
+    if (!proxy_)
+        return;
+    BindingRegistry::remove(proxy_, *this);
+    // The object may end here, and listeners hear of that.
+    const ErrorKept kept;
+    ObjectPtr().swap(proxy_);
+}
+
+void PySlot::retract() noexcept {
+    BindingRegistry::abandon(*proxy_);
+    proxy_.reset();
+}
+
+// Instances
+
+bool isInstance(PyObject* object) {
+    return PyObject_TypeCheck(object, PyClassSystem::get().getRootType());
+}
+
+PyRef allocateInstance(PyTypeObject* type) {
+    PyRef made = checked(type->tp_alloc(type, 0));
+    new (&slotOf(made.get())) PySlot(made.get());
+    return made;
+}
+
+void clearInstance(PyObject* self) {
+    if (reinterpret_cast<PyInstanceHead*>(self)->weakReferences)
+        PyObject_ClearWeakRefs(self);
+    slotOf(self).~PySlot();
+}
+
+void freeInstance(PyObject* self) {
+    PyTypeObject* type = Py_TYPE(self);
+    type->tp_free(self);
+    Py_DECREF(type);
+}
+
+PySlot* findSlot(PyObject* object) {
+    PySlot& slot = slotOf(object);
+    return slot.getFacade() && !BindingRegistry::isEnding(*slot.getFacade()) ? &slot : nullptr;
+}
+
+PPTObject& requireFacade(PyObject* self, const PyClass& owner, Use use) {
+    const PySlot& slot = slotOf(self);
+    PPTObject* facade = slot.getFacade();
+    if (!facade)
+        throw PythonError(PyExc_RuntimeError, std::string("this ") + Py_TYPE(self)->tp_name +
+                                                  (slot.getClass() ? " has ended"
+                                                                   : " isn't made yet: call "
+                                                                     "super().__init__()"));
+    // The Python class of an object may claim more than what the object holds.
+    PyTypeObject* held = slot.getClass()->type;
+    if (held != owner.type && !PyType_IsSubtype(held, owner.type))
+        throw PythonError(PyExc_TypeError, std::string(held->tp_name) + " is no " + owner.type->tp_name);
+    if (BindingRegistry::isEnding(*facade) && !(use == Use::ReadOfRoot && owner.isRoot()))
+        throw PythonError(PyExc_RuntimeError, std::string("this ") + Py_TYPE(self)->tp_name +
+                                                  " is ending: only Tag and Id are left");
+    return *facade;
+}
+
+PyRef toPython(const ObjectPtr& object) {
+    PyClassSystem& host = PyClassSystem::get();
+    if (!object)
+        return allocateInstance(host.getRootType());
+    auto& slot = static_cast<PySlot&>(BindingRegistry::announce(object));
+    if (PyRef made = host.takeMade())
+        return made;
+    return PyRef::share(slot.getOwner());
+}
+
+} // namespace vellox::ppt::python

@@ -1,0 +1,32 @@
+/// @file
+/// The rows of the class table in the terms of Python, for docstrings, errors and stubs. Nothing here needs
+/// Python.
+
+#ifndef BINDINGS_PYTHON_PYTERMS_H
+#define BINDINGS_PYTHON_PYTERMS_H
+
+#include <string>
+#include <vector>
+
+#include "vellox/host/binding/BoundClass.h"
+
+namespace vellox::ppt::python {
+
+/// A word as a type, such as "str" or "list[Node]".
+std::string getTypeName(const hostbind::SignatureWord& word);
+/// The type of what a property holds, such as "str | None".
+std::string getTypeName(const hostbind::BoundProperty& property);
+/// Names and types of parameters, such as "text: str, level: int".
+std::string formatParameters(const hostbind::Signature& signature, const char* parameters);
+/// Such as "add(text: str) -> Paragraph".
+std::string formatMethod(const hostbind::BoundMethod& method);
+/// Such as "Paragraph(text: str)", one line for each constructor.
+std::string formatConstructors(const hostbind::BoundClass& bound);
+/// All overloads with what they do, a paragraph each.
+std::string describeOverloads(const std::vector<const hostbind::BoundMethod*>& overloads);
+/// What a class is, and how its objects are made.
+std::string describeClass(const hostbind::BoundClass& bound);
+
+} // namespace vellox::ppt::python
+
+#endif

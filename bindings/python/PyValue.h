@@ -1,0 +1,94 @@
+/// @file
+/// A Python object as the library reads host values.
+
+#ifndef BINDINGS_PYTHON_PYVALUE_H
+#define BINDINGS_PYTHON_PYVALUE_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bindings/python/PyRef.h"
+#include "vellox/host/values/hvArray.h"
+
+namespace vellox::ppt::python {
+
+/// What the reading of a value depends on besides the value.
+struct Reading {
+    bool rowsAreTables = false; ///< a list of equally long lists is a table, else a row of rows
+    bool textOfUnknown = false; ///< what isn't known otherwise stands for its text
+    unsigned int depth = 0;     ///< how many lists this value stands in
+};
+
+/// A view of a Python object, which it doesn't own; made on the stack for the time of a call. Elements of lists
+/// and arrays are converted once, when they are first asked for.
+///
+/// | Python                                  | host class                                    |
+/// |-----------------------------------------|-----------------------------------------------|
+/// | None                                    | double, empty                                 |
+/// | bool                                    | logical                                       |
+/// | int, what has `__index__`               | int32, beyond its range double                |
+/// | float, what has `__float__`             | double                                        |
+/// | str, what has `__fspath__`              | char                                          |
+/// | list, tuple                             | cells, of one row                             |
+/// | buffers, such as arrays of NumPy        | logical, the integer class, single or double  |
+/// | arrays of anything else                 | cells of the array's shape                    |
+/// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
+/// | objects of the library                  | object                                        |
+class PyValue : public hvArray {
+public:
+    /// @throws PythonError for an object that fails to give what it promises
+    explicit PyValue(PyObject* object, const Reading& reading = {});
+    ~PyValue() override;
+    PyValue(const PyValue&) = delete;
+    PyValue& operator=(const PyValue&) = delete;
+
+    int getClassCode() const override { return code_; }
+    std::string getClassName() const override;
+    unsigned int getNDimensions() const override { return nDimensions_; }
+    std::size_t getDimension(unsigned int i) const override;
+
+    double getDouble() const override;
+    int getInteger() const override;
+    bool getLogical() const override;
+    std::wstring getString() const override;
+    const bool* getLogicals() const override;
+    const double* getDoubles() const override;
+    const hvArray* getCell(std::size_t i) const override;
+    boost::shared_ptr<objreg::HostInterface> getObject(std::size_t i) const override;
+
+private:
+    struct Elements;
+
+    /// @{ One kind of object each; false if it isn't of the kind.
+    bool readPlain();
+    bool readList();
+    bool readBuffer(PyObject* object);
+    bool readFrame();
+    bool readArray();
+    bool readNumberLike();
+    bool readPath();
+    /// @}
+    void readUnknown();
+
+    void setScalar(int code, double number);
+    void setInteger(PyObject* number);
+    void setText(PyRef text);
+    void setShape(std::size_t rows, std::size_t columns);
+    void readTableRows(const PyRef& rows);
+    void readItems(PyObject* array);
+    Elements& elements();
+
+    PyObject* object_;
+    Reading reading_;
+    int code_;
+    unsigned int nDimensions_ = 2;
+    std::size_t dimensions_[2] = {1, 1};
+    double number_ = 0;
+    PyRef text_;
+    std::unique_ptr<Elements> elements_;
+};
+
+} // namespace vellox::ppt::python
+
+#endif

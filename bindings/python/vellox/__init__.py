@@ -1,0 +1,1 @@
+"""PowerPoint decks by program. Everything is in vellox.ppt."""

@@ -1,0 +1,15 @@
+# Which Python the package is for, and where it is installed.
+
+# Debian's own, unless another is asked for: one in front of it on the path may know none of Debian's packages.
+if(NOT DEFINED Python3_EXECUTABLE AND EXISTS /usr/bin/python3)
+    set(Python3_EXECUTABLE /usr/bin/python3)
+endif()
+find_package(Python3 COMPONENTS Interpreter)
+
+# Where Debian's Python looks: below /usr in a folder for all its versions, elsewhere in one for each.
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set(default_python_dir lib/python3/dist-packages)
+else()
+    set(default_python_dir lib/python${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR}/dist-packages)
+endif()
+set(VELLOX_PYTHON_DIR ${default_python_dir} CACHE STRING "Where the Python package is installed, below the prefix")

@@ -1,0 +1,218 @@
+"""Values of Python, NumPy and pandas on their way into the library, and back."""
+import datetime
+import decimal
+import enum
+import pathlib
+
+import numpy as np
+import pandas as pd
+import pytest
+
+import vellox.ppt as ppt
+
+
+class Color(str, enum.Enum):
+    RED = "red"
+
+
+class Count(enum.IntEnum):
+    TWO = 2
+
+
+class Path:
+    def __fspath__(self):
+        return "from a path"
+
+
+def show(value):
+    """The texts of a box that takes a value, with the level of each paragraph."""
+    box = ppt.TextBox()
+    box.replace(value)
+    return [(p.Level or 1, "".join(str(t.Content) for t in p.Children)) for p in box.Children]
+
+
+def cells(value):
+    table = ppt.Table(value)
+    rows = len(table.Children)
+    return [
+        ["".join(str(t.Content) for p in table.entry(r, c).Children for t in p.Children)
+         for c in range(1, table.NCols + 1)]
+        for r in range(1, rows + 1)
+    ]
+
+
+def raises(identifier, function, *arguments):
+    with pytest.raises(ppt.Error) as caught:
+        function(*arguments)
+    assert caught.value.identifier == identifier
+
+
+@pytest.mark.parametrize(
+    "value, content",
+    [
+        ("text", "text"),
+        ("", ""),
+        ("Grüße, 世界 🎈", "Grüße, 世界 🎈"),
+        (np.str_("numpy"), "numpy"),
+        (Color.RED, "red"),
+        (Path(), "from a path"),
+        (pathlib.PurePosixPath("a/b"), "a/b"),
+        (True, 1.0),
+        (np.True_, 1.0),
+        (7, 7.0),
+        (-3, -3.0),
+        (2**31, 2.0**31),
+        (2**64, 2.0**64),
+        (Count.TWO, 2.0),
+        (np.int8(-5), -5.0),
+        (np.uint64(2**63), 2.0**63),
+        (0.25, 0.25),
+        (np.float32(0.5), 0.5),
+        (np.float16(1.5), 1.5),
+        (np.longdouble(2.5), 2.5),
+        (decimal.Decimal("1.25"), 1.25),
+        (np.array(4.5), 4.5),
+        (np.array([[6]], np.int16), 6.0),
+    ],
+)
+def test_scalars_become_content(value, content):
+    text = ppt.Text()
+    text.Content = value
+    assert text.Content == content and type(text.Content) is type(content)
+
+
+@pytest.mark.parametrize("value", [[1, 2], object(), {}, b"bytes", 1j, np.array([1, 2]), ppt.Text()])
+def test_other_values_are_no_content(value):
+    raises("vellox:ppt_error:invalidPropertyValue", setattr, ppt.Text(), "Content", value)
+
+
+@pytest.mark.parametrize("value, bold", [(True, True), (2, True), (0, False), (0.0, False), (np.bool_(1), True),
+                                         (np.array([3, 0]), True), (None, None), ([], None)])
+def test_logical_properties(value, bold):
+    paragraph = ppt.Paragraph("x")
+    paragraph.Bold = False
+    paragraph.Bold = value
+    assert paragraph.Bold is bold
+    for refused in ("yes", [True], np.array([True, False])):
+        raises("vellox:ppt_error:invalidLogicalPropertyValue", setattr, paragraph, "Bold", refused)
+
+
+def test_optional_properties_are_emptied_by_none_and_del():
+    shape = ppt.TextBox()
+    assert shape.X is None
+    shape.X = "2in"
+    assert shape.X == "2in"
+    del shape.X
+    assert shape.X is None
+    paragraph = ppt.Paragraph("x")
+    paragraph.Level = np.uint8(3)
+    assert paragraph.Level == 3
+    for refused in (10, 0, 1.5, "2", True):
+        raises("vellox:ppt_error:invalidPropertyValue", setattr, paragraph, "Level", refused)
+    paragraph.Level = None
+    assert paragraph.Level is None
+    with pytest.raises(TypeError, match="Shape.X takes str | None, not int"):
+        shape.X = 3
+    with pytest.raises(AttributeError):
+        ppt.Table(2).NCols = 3
+
+
+@pytest.mark.parametrize(
+    "value, shown",
+    [
+        ("one", [(1, "one")]),
+        (["a", ["b", ("c", 2)], 3.5], [(1, "a"), (2, "b"), (3, "c"), (3, "2.0"), (1, "3.5")]),
+        ((True, None, 4), [(1, ""), (1, ""), (1, "4.0")]),
+        (np.array([1, 2], np.int64), [(1, "1.0"), (1, "2.0")]),
+        (np.arange(6.0)[::-2], [(1, "5.0"), (1, "3.0"), (1, "1.0")]),
+        (np.array(["x", "y"]), [(1, "x"), (1, "y")]),
+        (np.array([3, 4], ">i4"), [(1, "3.0"), (1, "4.0")]),
+        (memoryview(np.array([2**40, 1])), [(1, str(2.0**40)), (1, "1.0")]),
+        (pd.Series([1.5, 2.5]), [(1, "1.5"), (1, "2.5")]),
+        (np.array(["2026-03-01"], "M8[D]"), [(1, "2026-03-01")]),
+        (["a", np.array(["b", "c"])], [(1, "a"), (2, "b"), (2, "c")]),
+        ([], None),
+        (None, None),
+    ],
+)
+def test_lists_become_paragraphs(value, shown):
+    if shown is None:
+        raises("vellox:ppt_error:invalidReplaceArg", show, value)
+        return
+    assert show(value) == shown
+
+
+def test_lists_that_hold_themselves_are_refused():
+    endless = ["a"]
+    endless.append(endless)
+    with pytest.raises(ValueError, match="nested too deeply"):
+        show(endless)
+
+
+class Failing:
+    def __array__(self):
+        raise KeyError("no array today")
+
+
+def test_what_values_raise_reaches_the_caller():
+    with pytest.raises(KeyError, match="no array today"):
+        show(Failing())
+    with pytest.raises(KeyError, match="no array today"):
+        cells([["a", "b"], ["c", Failing()]])
+    with pytest.raises(OverflowError):
+        show([10**400])
+
+
+@pytest.mark.parametrize(
+    "value, texts",
+    [
+        ([["a", 1], [2.5, None]], [["a", "1.0"], ["2.5", ""]]),
+        ((("a",), ("b",)), [["a"], ["b"]]),
+        (np.arange(6).reshape(2, 3), [["0.0", "1.0", "2.0"], ["3.0", "4.0", "5.0"]]),
+        (np.arange(6.0).reshape(2, 3).T, [["0.0", "3.0"], ["1.0", "4.0"], ["2.0", "5.0"]]),
+        (np.arange(24).reshape(4, 6)[::2, 1::3], [["1.0", "4.0"], ["13.0", "16.0"]]),
+        (np.array([[True, False], [False, True]]), [["", ""], ["", ""]]),
+        (np.array([["x", 1], [None, 2.5]], object), [["x", "1.0"], ["", "2.5"]]),
+        (np.array([["x", "y"], ["z", "w"]]), [["x", "y"], ["z", "w"]]),
+        (
+            pd.DataFrame({"name": ["A", "B"], "value": [1, 2.5], "at": [datetime.date(2026, 3, 1), None]}),
+            [["name", "value", "at"], ["A", "1.0", "2026-03-01"], ["B", "2.5", ""]],
+        ),
+        (pd.DataFrame({1: [True], 2: [pd.NA]}), [["1", "2"], ["", "<NA>"]]),
+        (pd.DataFrame({"t": pd.to_datetime(["2026-03-01"])}), [["t"], ["2026-03-01T00:00:00.000000000"]]),
+    ],
+)
+def test_tables(value, texts):
+    assert cells(value) == texts
+
+
+@pytest.mark.parametrize("value", [[], [["a", "b"]], [["a", "b"], ["c"]], [1, 2], None, np.zeros((2, 2, 2)),
+                                   np.zeros((0, 3)), pd.DataFrame(), "text", [[], []]])
+def test_what_is_no_table(value):
+    raises("vellox:ppt_error:invalidConstructorArg", ppt.Table, value)
+
+
+def test_lists_of_objects():
+    table = ppt.Table([["a", "b"], ["c", "d"]])
+    columns = [ppt.ColSpec("1in"), ppt.ColSpec()]
+    table.ColSpecs = columns
+    assert all(mine is theirs for mine, theirs in zip(columns, table.ColSpecs))
+    table.ColSpecs = columns[1]
+    assert table.ColSpecs == columns[1:]
+    raises("vellox:ppt_error:invalidPropertyValue", setattr, table, "ColSpecs", [columns[0], ppt.Bold()])
+    paragraph = ppt.Paragraph("x")
+    bold = ppt.Bold(True)
+    paragraph.Style = (bold, "no format", ppt.FontColor("red"))
+    assert bold in paragraph.Style and len(paragraph.Style) == 2 and paragraph.FontColor == "red"
+    raises("vellox:ppt_error:invalidFormatStyle", setattr, paragraph, "Style", "bold")
+    paragraph.Style = None
+    assert paragraph.Style == []
+
+
+def test_overloads_take_numbers_as_they_want_them():
+    assert ppt.Table(3).NCols == ppt.Table(3.0).NCols == ppt.Table(np.uint16(3)).NCols == 3
+    assert ppt.Paragraph(2.5, 2).Level == ppt.Paragraph("x", np.float64(2)).Level == 2
+    assert ppt.Paragraph(3).Children[0].Content == 3.0
+    for arguments in [("x", 1.5), ("x", -1), (["x"],), ("x", 1, 2), ("a",) * 9]:
+        with pytest.raises(TypeError, match=r"Paragraph\(text: str, level: int\)"):
+            ppt.Paragraph(*arguments)

@@ -1,0 +1,50 @@
+"""Whole decks: the same from Python as from C++, and from what numbers are kept in."""
+import os
+import pathlib
+import re
+import runpy
+import subprocess
+import sys
+import zipfile
+
+import numpy as np
+import pandas as pd
+
+import vellox.ppt as ppt
+
+EXAMPLES = pathlib.Path(__file__).parents[3] / "examples"
+UUID = re.compile(rb"[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}", re.IGNORECASE)
+
+
+def read_parts(path):
+    """All parts by name, without the numbers that are drawn anew each time."""
+    with zipfile.ZipFile(path) as package:
+        return {UUID.sub(b"uuid", name.encode()): UUID.sub(b"uuid", package.read(name)) for name in package.namelist()}
+
+
+def test_the_demo_is_the_same_from_python(tmp_path, monkeypatch):
+    subprocess.run([os.environ["VELLOX_DEMO"], tmp_path / "cpp.pptx"], check=True, stdout=subprocess.DEVNULL)
+    monkeypatch.setattr(sys, "argv", ["demo.py", str(tmp_path / "python.pptx")])
+    runpy.run_path(str(EXAMPLES / "demo.py"), run_name="__main__")
+    expected, made = read_parts(tmp_path / "cpp.pptx"), read_parts(tmp_path / "python.pptx")
+    assert made.keys() == expected.keys()
+    assert [name for name in made if made[name] != expected[name]] == []
+
+
+def get_rows(xml):
+    return [re.findall("<a:t>([^<]*)</a:t>", row) for row in re.findall("<a:tr .*?</a:tr>", xml, re.DOTALL)]
+
+
+def test_tables_of_numpy_and_pandas(tmp_path):
+    path = tmp_path / "deck.pptx"
+    numbers = np.round(np.linspace(0, 1, 15).reshape(3, 5).T[::2], 3)
+    frame = pd.DataFrame({"run": ["a", "b"], "flow": [1.25, np.nan], "count": [3, 2**40]})
+    with ppt.Presentation(path) as deck:
+        for data in (numbers, frame):
+            slide = deck.add("Title and Table")
+            slide.replace("Table", ppt.Table(data))
+    parts = {name: data.decode() for name, data in read_parts(path).items() if name.endswith(b".xml")}
+    first, second = (get_rows(parts[f"ppt/slides/slide{number}.xml".encode()]) for number in (1, 2))
+    assert [[float(text) for text in row] for row in first] == numbers.tolist()
+    assert second[0] == ["run", "flow", "count"] and second[1] == ["a", "1.25", "3"]
+    assert second[2][0] == "b" and float(second[2][2]) == 2**40

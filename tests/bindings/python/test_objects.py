@@ -1,0 +1,213 @@
+"""Identity and life of objects, and what they refuse."""
+import copy
+import gc
+import pickle
+import subprocess
+import sys
+import weakref
+
+import pytest
+
+import vellox.ppt as ppt
+
+
+def test_one_python_object_for_each_object(deck):
+    slide = deck.deck.add("Title and Content")
+    title = slide.find("Title")[0]
+    assert slide.Children[0] is title and title.Parent is slide and slide.Parent is deck.deck
+    assert deck.deck.Children[0] is slide
+    box = ppt.TextBox()
+    paragraph = box.add("text")
+    assert slide.add(box) is box and box.Parent is slide and slide.Children[-1] is box
+    assert paragraph.Parent is box and box.Children[0] is paragraph
+    assert paragraph.Children[0].Parent is paragraph
+    copied = title.replace(paragraph)
+    assert copied is not paragraph and copied.Parent is title
+    names = {type(child).__name__ for child in slide.Children}
+    assert names == {"TextBoxPlaceholder", "ContentPlaceholder", "TextBox"}
+    picture_side = deck.deck.add("Title and Table").find("Table")[0]
+    table = picture_side.replace(ppt.Table([["a", "b"], ["c", "d"]]))
+    assert type(table) is ppt.Table and table.Parent is deck.deck.Children[1]
+    first, second = deck.texts()
+    assert first.count("text") == 2 and {"a", "b", "c", "d"} <= set(second)
+
+
+def test_a_dropped_object_lives_on_in_the_tree():
+    box = ppt.TextBox()
+    box.add("one").Tag = "mark"
+    gc.collect()
+    assert box.Children[0].Tag == "mark"
+    seen = weakref.ref(box.Children[0])
+    assert seen() is None
+    kept = box.Children[0]
+    assert weakref.ref(kept)() is box.Children[0]
+    del box
+    assert kept.Parent is None and kept.Tag == "mark" and kept.Children[0].Content == "one"
+
+
+def test_nodes_stand_in_one_place():
+    paragraph, entry = ppt.Paragraph("x"), ppt.TableEntry()
+    entry.append(paragraph)
+    with pytest.raises(ppt.BadValueError) as caught:
+        ppt.TableEntry().append(paragraph)
+    assert caught.value.identifier == "vellox:ppt_error:failedToAppendChild"
+
+
+class Note(ppt.TextBox):
+    """A user's class."""
+
+    def __init__(self, text, *, size="12pt"):
+        super().__init__()
+        self.text = text
+        self.add(text).FontSize = size
+
+    def add(self, text):
+        return super().add("Note: " + text)
+
+
+def test_users_derive_classes(deck):
+    slide = deck.deck.add("Blank")
+    note = Note("read me", size="9pt")
+    note.Width, note.Height = "3in", "1in"
+    assert slide.add(note) is note and slide.Children[0].text == "read me"
+    assert note.Children[0].FontSize == "9pt" and "Note" in repr(note)
+    assert "Note: read me" in deck.texts()[0]
+    cycle = Note("cycle")
+    cycle.itself = cycle
+    seen = weakref.ref(cycle)
+    del cycle
+    gc.collect()
+    assert seen() is None
+
+
+def test_an_object_that_isnt_made_is_refused():
+    class Lazy(ppt.TextBox):
+        def __init__(self):
+            pass
+
+    for use in (lambda o: o.X, lambda o: o.add("x"), lambda o: setattr(o, "X", "1in")):
+        with pytest.raises(RuntimeError, match="isn't made yet"):
+            use(Lazy())
+    for use in (lambda: ppt.Presentation().add("Blank", Lazy()), lambda: ppt.Paragraph(ppt.Text.__new__(ppt.Text))):
+        with pytest.raises(TypeError):
+            use()
+    assert repr(Lazy()).endswith("Lazy>")
+    empty = ppt.Null.DefaultObjectArrayElement()
+    assert type(empty) is ppt.Null and type(ppt.Null()) is ppt.Null
+    box = ppt.TextBox()
+    box.add("first")
+    box.__init__()  # makes it once more
+    assert box.Children == []
+
+
+def test_classes_that_the_library_alone_makes_objects_of():
+    for name in ("Object", "Node", "Element", "Format", "Color", "Message", "Slide", "BodyPlaceholder",
+                 "ContentPlaceholder", "MessageDispatcher"):
+        with pytest.raises(TypeError, match="the library alone"):
+            getattr(ppt, name)()
+
+
+def test_a_class_that_claims_too_much_is_refused():
+    class Both(ppt.TextBox, ppt.Table):
+        pass
+
+    both = Both()
+    for use in (lambda: ppt.Table.NCols.__get__(both), lambda: both.row(1), lambda: ppt.Table.row(both, 1),
+                lambda: ppt.Table.row(ppt.TextBox(), 1), lambda: ppt.Table.row(3, 1), lambda: ppt.Table.row()):
+        with pytest.raises(TypeError):
+            use()
+
+
+def test_objects_are_no_bags():
+    box = ppt.TextBox()
+    with pytest.raises(AttributeError):
+        box.Widht = "2in"
+    assert not hasattr(box, "__dict__")
+    assert {"Width", "BackgroundColor", "add", "Children", "Tag"} <= set(dir(box))
+    for refused in (copy.copy, pickle.dumps):
+        with pytest.raises(TypeError):
+            refused(box)
+    for call in (lambda: ppt.TextBox(x=1), lambda: box.add(text="x")):
+        with pytest.raises(TypeError, match="no keyword arguments"):
+            call()
+
+
+def test_nothing_crashes_after_close(deck):
+    presentation = deck.deck
+    slide = presentation.add("Title and Content")
+    title, content = slide.Children
+    assert presentation.close() and not presentation.close()
+    slide.replace("Title", "late")
+    content.add("late")
+    title.X = "1in"
+    slide.add(ppt.TextBox())
+    for use in (lambda: presentation.add("Blank"), presentation.open, lambda: presentation.find("Title")):
+        try:
+            use()
+        except ppt.Error:
+            pass
+    del presentation, deck
+    assert slide.Name == "" and title.Parent is slide
+    content.replace(ppt.Table([["a", "b"], ["c", "d"]]))
+    with pytest.raises(ppt.StateError):
+        content.add("too late")
+
+
+def test_subscripts_count_from_one(deck):
+    table = ppt.Table([["a", "b"], ["c", "d"]])
+    assert table.entry(1, 2).Children[0].Children[0].Content == "b" and len(table.row(2).Children) == 2
+    first, second = deck.deck.add("Blank"), deck.deck.add("Blank")
+    assert deck.deck.add("Blank", 1) is deck.deck.Children[0] and deck.deck.Children[1:] == [first, second]
+    for call, identifier, arguments in (
+        (lambda: table.row(0), "positiveSubscript", ()),
+        (lambda: table.row(3), "badRowSubscript", ("3", "2")),
+        (lambda: table.entry(1, 3), "badColSubscript", ("3", "2")),
+        (lambda: table.entry(1, 0), "positiveSubscript", ()),
+        (lambda: deck.deck.add("Blank", 9), "badSlideSubscript", ("9", "3")),
+    ):
+        with pytest.raises(IndexError) as caught:
+            call()
+        assert caught.value.identifier == "vellox:ppt_error:" + identifier
+        assert caught.value.arguments == arguments
+        assert all(argument in str(caught.value) for argument in arguments)
+
+
+EXIT = """
+import sys
+import vellox.ppt as ppt
+deck = ppt.Presentation(sys.argv[1])
+box = ppt.TextBox()
+deck.add("Blank").add(box)
+heard = []
+dispatcher = ppt.MessageDispatcher.getTheDispatcher()
+dispatcher.Filter.DebugMessagesPass = True
+dispatcher.Filter.SourceFilter = box
+dispatcher.addListener(lambda event: heard.append(event.Message.Source))
+if sys.argv[2] == "drop":
+    del dispatcher
+sys.kept = [deck, box, heard]
+"""
+
+
+@pytest.mark.parametrize("mode", ["keep", "drop"])
+def test_the_interpreter_ends_cleanly(tmp_path, mode):
+    script = [sys.executable, "-X", "dev", "-W", "error", "-c", EXIT, str(tmp_path / "deck.pptx"), mode]
+    ended = subprocess.run(script, capture_output=True, text=True, check=False)
+    assert (ended.returncode, ended.stdout, ended.stderr) == (0, "", "")
+
+
+def test_other_interpreters_are_refused():
+    script = """
+import _xxsubinterpreters as interpreters
+other = interpreters.create()
+interpreters.run_string(other, '''
+try:
+    import vellox.ppt
+except ImportError as refused:
+    assert "main interpreter" in str(refused)
+else:
+    raise SystemError
+''')
+interpreters.destroy(other)
+"""
+    subprocess.run([sys.executable, "-c", script], check=True)
