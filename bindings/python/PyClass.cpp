@@ -25,7 +25,8 @@ using namespace hostbind;
 PyClass::PyClass(const BoundClass& boundClass)
     : bound(boundClass),
       fullName(boundClass.getFullName()),
-      doc(describeClass(boundClass)) {}
+      doc(describeClass(boundClass)),
+      constructorsText(formatConstructors(boundClass)) {}
 
 bool PyClass::isRoot() const {
     return std::strcmp(bound.name, "Object") == 0;
@@ -55,7 +56,7 @@ ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const PyCall call(PySequence_Fast_ITEMS(arguments), static_cast<std::size_t>(PyTuple_GET_SIZE(arguments)),
                       reading);
     const std::size_t chosen =
-        call.select(pyClass.constructorSignatures, pyClass.fullName, formatConstructors(pyClass.bound));
+        call.select(pyClass.constructorSignatures, pyClass.fullName, pyClass.constructorsText);
     const BoundConstructor& constructor = pyClass.bound.constructors[chosen];
     return constructor.make ? constructor.make(call.getArguments()) : ObjectPtr();
 }

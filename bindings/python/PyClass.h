@@ -27,6 +27,7 @@ struct PyClass {
     PyTypeObject* type = nullptr;
     std::string fullName;
     std::string doc;
+    std::string constructorsText;
     std::vector<const hostbind::Signature*> constructorSignatures;
     std::deque<PyProperty> properties;
     std::vector<PyGetSetDef> getSets;
