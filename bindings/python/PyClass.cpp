@@ -68,11 +68,9 @@ int initObject(PyObject* self, PyObject* arguments, PyObject* keywords) {
             throw PythonError(PyExc_TypeError, pyClass.fullName + " takes no keyword arguments");
         LibraryCall call;
         const ObjectPtr made = construct(pyClass, arguments);
-        PySlot& slot = slotOf(self);
-        slot.drop(); // of an object that is made once more
         if (made) {
-            slot.hold(pyClass, made);
-            BindingRegistry::announceForConstructor(made, slot);
+            slotOf(self).hold(pyClass, made); // an object that is made once more lets go of the former one
+            BindingRegistry::announceForConstructor(made, slotOf(self));
         }
         call.finish();
         return 0;

@@ -104,7 +104,8 @@ void PyClassSystem::end() {
 LibraryCall::LibraryCall() : outer_(std::exchange(PyClassSystem::get().failure_, std::nullopt)) {}
 
 LibraryCall::~LibraryCall() {
-    PyClassSystem::get().failure_ = std::move(outer_);
+    // What nobody heard of, because the call failed in another way, ends last: Python code may run then.
+    outer_.swap(PyClassSystem::get().failure_);
 }
 
 void LibraryCall::finish() {

@@ -18,6 +18,8 @@ PySlot::~PySlot() {
 }
 
 void PySlot::hold(const PyClass& pyClass, ObjectPtr proxy) {
+    while (proxy_) // a listener that hears of the end may make another one
+        drop();
     class_ = &pyClass;
     proxy_ = std::move(proxy);
 }

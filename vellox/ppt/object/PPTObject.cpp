@@ -62,8 +62,12 @@ void intrusive_ptr_add_ref(PPTObjectImpl* object) {
 }
 
 void intrusive_ptr_release(PPTObjectImpl* object) {
-    if (--object->refCount_ == 0)
-        delete object;
+    if (--object->refCount_ > 0)
+        return;
+    // Handles that come and go while it ends, of listeners say, don't end it once more.
+    object->life_ = PPTObjectImpl::Life::Ending;
+    ++object->refCount_;
+    delete object;
 }
 
 // PPTObject
