@@ -64,6 +64,15 @@ PyBuffer::PyBuffer(PyObject* object) {
         return;
     }
     isOpen_ = true;
+    if (view_.ndim > 0 && !view_.strides) { // asked for, but not always given
+        // A single date of NumPy gives its bytes in this way, an array of ctypes its elements.
+        if (!view_.shape || PyObject_HasAttrString(object, "dtype"))
+            return;
+        strides_.resize(static_cast<std::size_t>(view_.ndim));
+        PyBuffer_FillContiguousStrides(view_.ndim, view_.shape, strides_.data(),
+                                       static_cast<int>(view_.itemsize), 'C');
+        view_.strides = strides_.data();
+    }
     const char letter = getLetter(view_.format);
     for (const auto& row : kReaders) {
         if (letter != 0 && std::strchr(row.formats, letter) &&

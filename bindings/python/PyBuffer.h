@@ -34,6 +34,7 @@ private:
     template <class Use> void visit(Use use) const;
 
     Py_buffer view_ = {};
+    std::vector<Py_ssize_t> strides_; // of a view that came without
     bool isOpen_ = false;
     double (*read_)(const char* element) = nullptr;
     int code_ = 0;

@@ -92,7 +92,10 @@ PyObject* getProperty(PyObject* self, void* closure) {
     return guarded<PyObject*>(nullptr, [&] {
         const auto& property = *static_cast<const PyProperty*>(closure);
         const PPTObject& facade = requireFacade(self, *property.owner, Use::ReadOfRoot);
-        return toPython(property.row->get(facade)).release();
+        LibraryCall call;
+        PyRef value = toPython(property.row->get(facade));
+        call.finish();
+        return value.release();
     });
 }
 

@@ -90,9 +90,8 @@ PyRef toPython(const ObjectPtr& object) {
     if (!object)
         return allocateInstance(host.getRootType());
     auto& slot = static_cast<PySlot&>(BindingRegistry::announce(object));
-    if (PyRef made = host.takeMade())
-        return made;
-    return PyRef::share(slot.getOwner());
+    PyRef made = host.takeMade();
+    return made.get() == slot.getOwner() ? made : PyRef::share(slot.getOwner());
 }
 
 } // namespace vellox::ppt::python

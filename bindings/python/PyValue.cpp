@@ -204,7 +204,11 @@ void PyValue::readItems(PyObject* array) {
         elements().shape = shape; // such an array counts as empty: nothing more is read
         return;
     }
-    setShape(shape.size() == 2 ? shape[0] : 1, shape.empty() ? 1 : shape.back());
+    if (shape.empty()) { // one element, such as a date
+        setText(checked(PyObject_Str(makeReadable(array).get())));
+        return;
+    }
+    setShape(shape.size() == 2 ? shape[0] : 1, shape.back());
     const PyRef flat = checked(PyObject_CallMethod(makeReadable(array).get(), "ravel", "s", "F"));
     const PyRef list = checked(PyObject_CallMethod(flat.get(), "tolist", nullptr));
     const PyRef items = checked(PySequence_Tuple(list.get()));

@@ -1,4 +1,5 @@
 """Values of Python, NumPy and pandas on their way into the library, and back."""
+import ctypes
 import datetime
 import decimal
 import enum
@@ -73,6 +74,7 @@ def raises(identifier, function, *arguments):
         (decimal.Decimal("1.25"), 1.25),
         (np.array(4.5), 4.5),
         (np.array([[6]], np.int16), 6.0),
+        (np.datetime64("2026-03-01"), "2026-03-01"),
     ],
 )
 def test_scalars_become_content(value, content):
@@ -128,6 +130,7 @@ def test_optional_properties_are_emptied_by_none_and_del():
         (np.array(["x", "y"]), [(1, "x"), (1, "y")]),
         (np.array([3, 4], ">i4"), [(1, "3.0"), (1, "4.0")]),
         (memoryview(np.array([2**40, 1])), [(1, str(2.0**40)), (1, "1.0")]),
+        ((ctypes.c_short * 2)(-1, 2), [(1, "-1.0"), (1, "2.0")]),
         (pd.Series([1.5, 2.5]), [(1, "1.5"), (1, "2.5")]),
         (np.array(["2026-03-01"], "M8[D]"), [(1, "2026-03-01")]),
         (["a", np.array(["b", "c"])], [(1, "a"), (2, "b"), (2, "c")]),
