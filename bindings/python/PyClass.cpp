@@ -91,9 +91,9 @@ PyObject* represent(PyObject* self) {
 PyObject* getProperty(PyObject* self, void* closure) {
     return guarded<PyObject*>(nullptr, [&] {
         const auto& property = *static_cast<const PyProperty*>(closure);
-        const PPTObject& facade = requireFacade(self, *property.owner, Use::ReadOfRoot);
+        const ObjectPtr facade = requireFacade(self, *property.owner, Use::ReadOfRoot);
         LibraryCall call;
-        PyRef value = toPython(property.row->get(facade));
+        PyRef value = toPython(property.row->get(*facade));
         call.finish();
         return value.release();
     });
@@ -103,14 +103,14 @@ PyObject* getProperty(PyObject* self, void* closure) {
 int setProperty(PyObject* self, PyObject* value, void* closure) {
     return guarded<int>(-1, [&] {
         const auto& property = *static_cast<const PyProperty*>(closure);
-        PPTObject& facade = requireFacade(self, *property.owner, Use::Any);
+        const ObjectPtr facade = requireFacade(self, *property.owner, Use::Any);
         const PyValue given(value ? value : Py_None);
         if (!property.row->takes(given))
             throw PythonError(PyExc_TypeError, property.owner->fullName + "." + property.row->name +
                                                    " takes " + getTypeName(*property.row) + ", not " +
                                                    given.getClassName());
         LibraryCall call;
-        property.row->set(facade, given);
+        property.row->set(*facade, given);
         call.finish();
         return 0;
     });

@@ -78,12 +78,18 @@ bool PyClassSystem::isValid(const objreg::HostInterface& hostObject) const {
 
 void PyClassSystem::fireEvent(objreg::HostInterface& hostObject, const BoundEvent&,
                               const MessageEventData& payload) {
+    const auto source = payload.getMessage().getSource();
+    const bool isMade = source && BindingRegistry::isUnderConstruction(*source);
+    // A listener that makes objects of its own doesn't hear of their lives, or it would never come to an end.
+    if (isListenerRunning_ && (isMade || (source && BindingRegistry::isEnding(*source))))
+        return;
+    const bool former = std::exchange(isListenerRunning_, true);
     try {
         callListeners(static_cast<PySlot&>(hostObject).getOwner(), payload);
+        isListenerRunning_ = former;
     } catch (const PythonError& failure) {
-        const auto source = payload.getMessage().getSource();
-        const bool isUnderConstruction = source && BindingRegistry::isUnderConstruction(*source);
-        if (!isUnderConstruction)
+        isListenerRunning_ = former;
+        if (!isMade)
             throw;
         if (!failure_)
             failure_ = failure;

@@ -55,6 +55,7 @@ private:
     PyRef made_;
     PyRef listening_;
     std::optional<PythonError> failure_; // of a listener that heard of an object under construction
+    bool isListenerRunning_ = false;
     bool isEnding_ = false;
 };
 

@@ -67,9 +67,9 @@ PySlot* findSlot(PyObject* object) {
     return slot.getFacade() && !BindingRegistry::isEnding(*slot.getFacade()) ? &slot : nullptr;
 }
 
-PPTObject& requireFacade(PyObject* self, const PyClass& owner, Use use) {
+ObjectPtr requireFacade(PyObject* self, const PyClass& owner, Use use) {
     const PySlot& slot = slotOf(self);
-    PPTObject* facade = slot.getFacade();
+    ObjectPtr facade = slot.getProxy();
     if (!facade)
         throw PythonError(PyExc_RuntimeError, std::string("this ") + Py_TYPE(self)->tp_name +
                                                   (slot.getClass() ? " has ended"
@@ -82,14 +82,19 @@ PPTObject& requireFacade(PyObject* self, const PyClass& owner, Use use) {
     if (BindingRegistry::isEnding(*facade) && !(use == Use::ReadOfRoot && owner.isRoot()))
         throw PythonError(PyExc_RuntimeError, std::string("this ") + Py_TYPE(self)->tp_name +
                                                   " is ending: only Tag and Id are left");
-    return *facade;
+    return facade;
 }
 
 PyRef toPython(const ObjectPtr& object) {
     PyClassSystem& host = PyClassSystem::get();
     if (!object)
         return allocateInstance(host.getRootType());
-    auto& slot = static_cast<PySlot&>(BindingRegistry::announce(object));
+    auto* existing = static_cast<PySlot*>(&BindingRegistry::announce(object));
+    if (Py_REFCNT(existing->getOwner()) == 0) { // it is just being dropped, and what ends with it asks
+        BindingRegistry::remove(existing->getProxy(), *existing);
+        existing = static_cast<PySlot*>(&BindingRegistry::announce(object));
+    }
+    const PySlot& slot = *existing;
     PyRef made = host.takeMade();
     return made.get() == slot.getOwner() ? made : PyRef::share(slot.getOwner());
 }

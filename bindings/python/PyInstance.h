@@ -71,8 +71,9 @@ void freeInstance(PyObject* self);
 enum class Use { Any, ReadOfRoot };
 
 /// The facade of a Python object, which a bound member of a class is about to use.
+/// It is held for the time of the call: a listener may make the Python object let go of it.
 /// @throws PythonError for an object that holds nothing, or that is of another class
-PPTObject& requireFacade(PyObject* self, const PyClass& owner, Use use);
+ObjectPtr requireFacade(PyObject* self, const PyClass& owner, Use use);
 
 /// The Python object of an object of the library, of its own class: the one that there is or a new one. A null
 /// pointer stands for a Null.

@@ -47,13 +47,13 @@ const Overloads& overloadsOf(PyObject* method) {
 }
 
 /// The facade that a method is called on; null for a static method.
-PPTObject* takeSelf(const Overloads& overloads, PyObject* const*& objects, std::size_t& count) {
+ObjectPtr takeSelf(const Overloads& overloads, PyObject* const*& objects, std::size_t& count) {
     if (overloads.isStatic())
-        return nullptr;
+        return {};
     if (count == 0 || !isInstance(*objects))
         throw PythonError(PyExc_TypeError, overloads.qualifiedName + " wants an object of its class first");
     --count;
-    return &requireFacade(*objects++, overloads.owner, Use::Any);
+    return requireFacade(*objects++, overloads.owner, Use::Any);
 }
 
 PyObject* callMethod(PyObject* callable, PyObject* const* objects, std::size_t flags, PyObject* keywords) {
@@ -62,12 +62,12 @@ PyObject* callMethod(PyObject* callable, PyObject* const* objects, std::size_t f
         if (keywords && PyTuple_GET_SIZE(keywords) > 0)
             throw PythonError(PyExc_TypeError, overloads.qualifiedName + " takes no keyword arguments");
         auto count = static_cast<std::size_t>(PyVectorcall_NARGS(flags));
-        PPTObject* self = takeSelf(overloads, objects, count);
+        const ObjectPtr self = takeSelf(overloads, objects, count);
         const PyCall arguments(objects, count);
         const std::size_t chosen =
             arguments.select(overloads.signatures, overloads.qualifiedName, overloads.doc);
         LibraryCall call;
-        PyRef result = toPython(overloads.methods[chosen]->invoke(self, arguments.getArguments()));
+        PyRef result = toPython(overloads.methods[chosen]->invoke(self.get(), arguments.getArguments()));
         call.finish();
         return result.release();
     });

@@ -12,6 +12,18 @@ PyRef checked(PyObject* object) {
     return PyRef::take(object);
 }
 
+namespace {
+
+/// Lone surrogates stand for bytes that are no text, as in some names of files, and can't go into any document.
+template <class Unit> std::wstring copyCharacters(PyObject* text, const Unit* units, std::size_t length) {
+    for (std::size_t i = 0; i < length; ++i)
+        if (units[i] >= 0xD800 && units[i] <= 0xDFFF && !PyUnicode_AsUTF8(text))
+            throw PythonError();
+    return {units, units + length};
+}
+
+} // namespace
+
 std::wstring toWide(PyObject* text) {
     if (PyUnicode_READY(text) < 0)
         throw PythonError();
@@ -20,9 +32,9 @@ std::wstring toWide(PyObject* text) {
     case PyUnicode_1BYTE_KIND:
         return {PyUnicode_1BYTE_DATA(text), PyUnicode_1BYTE_DATA(text) + length};
     case PyUnicode_2BYTE_KIND:
-        return {PyUnicode_2BYTE_DATA(text), PyUnicode_2BYTE_DATA(text) + length};
+        return copyCharacters(text, PyUnicode_2BYTE_DATA(text), length);
     default:
-        return {PyUnicode_4BYTE_DATA(text), PyUnicode_4BYTE_DATA(text) + length};
+        return copyCharacters(text, PyUnicode_4BYTE_DATA(text), length);
     }
 }
 

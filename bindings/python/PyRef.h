@@ -47,6 +47,7 @@ private:
 PyRef checked(PyObject* object);
 
 /// @{ Texts. Both sides hold whole code points.
+/// @throws PythonError for a text with lone surrogates
 std::wstring toWide(PyObject* text);
 PyRef toPython(const std::wstring& text);
 /// @}

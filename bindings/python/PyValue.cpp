@@ -16,7 +16,7 @@ namespace {
 constexpr int kUnknownClass = 0;
 constexpr int kInt32Class = 12;
 /// Lists in lists beyond this are taken for ones that hold themselves.
-constexpr unsigned int kDeepestList = 100;
+constexpr unsigned int kDeepestList = 1000;
 
 bool fitsInt(double number) {
     return number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
@@ -41,6 +41,8 @@ PyValue::PyValue(PyObject* object, const Reading& reading)
     : object_(object),
       reading_(reading),
       code_(kUnknownClass) {
+    if (reading_.depth > kDeepestList)
+        throw PythonError(PyExc_ValueError, "lists are nested too deeply");
     if (!(readPlain() || readList() || readBuffer(object_) || readFrame() || readArray() ||
           readNumberLike() || readPath()))
         readUnknown();
@@ -73,8 +75,6 @@ bool PyValue::readPlain() {
 bool PyValue::readList() {
     if (!isList(object_))
         return false;
-    if (reading_.depth > kDeepestList)
-        throw PythonError(PyExc_ValueError, "lists are nested too deeply");
     // A list may change while its elements are read.
     const PyRef items = checked(PySequence_Tuple(object_));
     const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(items.get()));
@@ -143,7 +143,8 @@ bool PyValue::readFrame() {
     readItems(checked(PyObject_CallMethod(object_, "to_numpy", nullptr)).get());
     const std::size_t nRows = dimensions_[0];
     const std::size_t nColumns = dimensions_[1];
-    if (nDimensions_ != 2 || nColumns != static_cast<std::size_t>(PyTuple_GET_SIZE(labels.get())))
+    const bool isTable = code_ == HvCellClass && nDimensions_ == 2;
+    if (!isTable || nColumns != static_cast<std::size_t>(PyTuple_GET_SIZE(labels.get())))
         throw PythonError(PyExc_ValueError, "to_numpy() doesn't give a row of what columns says");
     std::vector<PyRef> items;
     for (std::size_t c = 0; c < nColumns; ++c) {
@@ -208,11 +209,17 @@ void PyValue::readItems(PyObject* array) {
         setText(checked(PyObject_Str(makeReadable(array).get())));
         return;
     }
-    setShape(shape.size() == 2 ? shape[0] : 1, shape.back());
+    const std::size_t rows = shape.size() == 2 ? shape[0] : 1;
+    const std::size_t columns = shape.back();
+    setShape(rows, columns);
     const PyRef flat = checked(PyObject_CallMethod(makeReadable(array).get(), "ravel", "s", "F"));
     const PyRef list = checked(PyObject_CallMethod(flat.get(), "tolist", nullptr));
     const PyRef items = checked(PySequence_Tuple(list.get()));
-    if (static_cast<std::size_t>(PyTuple_GET_SIZE(items.get())) != getNElements())
+    const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(items.get()));
+    // Neither number is above the count unless there is nothing; so their product can't wrap.
+    const bool fits =
+        count == 0 ? rows == 0 || columns == 0 : rows <= count && columns <= count && rows * columns == count;
+    if (!fits)
         throw PythonError(PyExc_ValueError, "an array holds other than its shape says");
     for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(items.get()); ++i)
         elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(items.get(), i)));
@@ -244,7 +251,8 @@ bool PyValue::readPath() {
 }
 
 void PyValue::readUnknown() {
-    if (reading_.textOfUnknown)
+    // Dates and times say what they are.
+    if (reading_.textOfUnknown || PyObject_HasAttrString(object_, "isoformat"))
         setText(checked(PyObject_Str(object_)));
 }
 

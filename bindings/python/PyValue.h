@@ -34,6 +34,7 @@ struct Reading {
 /// | buffers, such as arrays of NumPy        | logical, the integer class, single or double  |
 /// | arrays of anything else                 | cells of the array's shape                    |
 /// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
+/// | what has `isoformat`, such as dates     | char                                          |
 /// | objects of the library                  | object                                        |
 class PyValue : public hvArray {
 public:

@@ -52,6 +52,13 @@ TEST(Conversions, ReadTheNumberThatATextBeginsWith) {
     EXPECT_EQ(str2double(L"-INFINITY"), -std::numeric_limits<double>::infinity());
     EXPECT_TRUE(std::isnan(str2double(L"NAN")));
     EXPECT_EQ(str2double(L"Nan"), 0);
+    EXPECT_EQ(str2double(L" nan"), 0);
+    EXPECT_TRUE(std::signbit(str2double(L"-nan")));
+    EXPECT_FALSE(std::signbit(str2double(L"-.")));
+    EXPECT_EQ(str2double(L"0." + std::wstring(500, L'0') + L"1e100"), 0);
+    EXPECT_EQ(str2double(L"1" + std::wstring(500, L'0') + L"e-10"), std::numeric_limits<double>::max());
+    EXPECT_EQ(str2double(L"-1e" + std::wstring(500, L'9')), -std::numeric_limits<double>::max());
+    EXPECT_EQ(str2double(L"1e-" + std::wstring(500, L'9')), 0);
     EXPECT_EQ(str2uint(L"-1"), 4294967295u);
     EXPECT_EQ(str2long(L"2147483648x"), 2147483648L);
 }

@@ -2,12 +2,14 @@
 
 #include "vellox/host/services/Utf8.h"
 
+#include <algorithm>
 #include <boost/algorithm/string/replace.hpp>
 #include <boost/lexical_cast.hpp>
 #include <boost/random/mersenne_twister.hpp>
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <locale>
 #include <sstream>
@@ -38,16 +40,17 @@ template <class Number> Number readWhole(const std::wstring& text) {
     return value;
 }
 
-bool isZero(const std::string& digits) {
-    return digits.find_first_of("123456789") == std::string::npos;
-}
+double readNumber(std::string number);
 
-// The value of a decimal number that no double can hold: none of it is left, or more than all.
+// The value of a decimal number that no double can hold: none of it is left, or more than all. Which of the two
+// tells the power of ten at its first digit that isn't zero.
 double beyondRange(const std::string& number) {
-    const std::size_t exponent = number.find_first_of("eE");
-    const bool vanishes = exponent != std::string::npos ? number[exponent + 1] == '-'
-                                                        : isZero(number.substr(0, number.find('.')));
-    return vanishes ? 0.0 : std::numeric_limits<double>::max();
+    const std::size_t end = std::min(number.find_first_of("eE"), number.size());
+    const std::string digits = number.substr(0, end);
+    const auto point = static_cast<double>(std::min(digits.find('.'), end));
+    const auto first = static_cast<double>(digits.find_first_of("123456789"));
+    const double exponent = end < number.size() ? readNumber(number.substr(end + 1)) : 0;
+    return point - first + exponent > 0 ? std::numeric_limits<double>::max() : 0;
 }
 
 bool isNamedValue(const std::string& text) {
@@ -56,6 +59,23 @@ bool isNamedValue(const std::string& text) {
         if (text == name)
             return true;
     return false;
+}
+
+// The number that a text begins with; 0 if it doesn't begin with one.
+double readNumber(std::string number) {
+    const bool isNegative = number[0] == '-';
+    const bool hasSign = isNegative || number[0] == '+';
+    number.erase(0, hasSign ? 1 : 0);
+    // What is left must begin like a number: from_chars would take a second sign, and names in mixed case.
+    if (number.empty() || std::string("0123456789.").find(number[0]) == std::string::npos)
+        return 0;
+    double value = 0;
+    const std::from_chars_result end = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (end.ptr == number.data())
+        return 0;
+    if (end.ec == std::errc::result_out_of_range)
+        value = beyondRange(number.substr(0, static_cast<std::size_t>(end.ptr - number.data())));
+    return isNegative ? -value : value;
 }
 
 // ASCII is mapped directly: it is nearly all that comes here, and it is the same in every locale but for the
@@ -107,22 +127,11 @@ long str2long(const std::wstring& text) {
 
 double str2double(const std::wstring& text) {
     std::string number = narrow(text);
+    const std::size_t start = number.find_first_not_of("+-") == 1 ? 1 : 0;
+    if (isNamedValue(number.substr(start)))
+        return std::copysign(boost::lexical_cast<double>(number.substr(start)), number[0] == '-' ? -1 : 1);
     number.erase(0, number.find_first_not_of(kBlanks));
-    if (number.empty())
-        return 0;
-    const bool hasSign = number[0] == '-' || number[0] == '+';
-    const double sign = number[0] == '-' ? -1 : 1;
-    number.erase(0, hasSign ? 1 : 0);
-    if (isNamedValue(number))
-        return sign * boost::lexical_cast<double>(number);
-    // What is left must begin like a number: from_chars would take a second sign, and names in mixed case.
-    if (number.empty() || std::string("0123456789.").find(number[0]) == std::string::npos)
-        return 0;
-    double value = 0;
-    const std::from_chars_result end = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (end.ec == std::errc::result_out_of_range)
-        value = beyondRange(number.substr(0, static_cast<std::size_t>(end.ptr - number.data())));
-    return sign * value;
+    return number.empty() ? 0 : readNumber(number);
 }
 
 int truncateToInt(double value) {
@@ -161,7 +170,8 @@ void replaceAll(std::wstring& text, const std::wstring& from, const std::wstring
 }
 
 std::wstring uuid_gen() {
-    static boost::uuids::basic_random_generator<boost::mt19937> draw;
+    boost::uuids::basic_random_generator<boost::mt19937>
+        draw; // seeded anew: a forked process must draw others
     const boost::uuids::uuid id = draw();
     return id.is_nil() ? std::wstring() : toString(to_string(id));
 }

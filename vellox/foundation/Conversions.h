@@ -42,7 +42,7 @@ VELLOX_API std::wstring toString(const std::string& text);
 /// An ASCII text widened, one character to one character.
 VELLOX_API std::wstring toStringFromASCIIStringLiteral(const char* text);
 
-/// @{ A copy mapped character by character, by the rules of the global locale; no length changes.
+/// @{ A copy mapped character by character; no length changes. Beyond ASCII the global locale rules.
 VELLOX_API std::wstring toLowerString(const std::wstring& text);
 VELLOX_API std::wstring toUpperString(const std::wstring& text);
 /// @}

@@ -183,6 +183,13 @@ bool FileUtils::copyFile(const std::wstring& source, const std::wstring& target,
     });
 }
 
+void FileUtils::replaceFile(const std::wstring& source, const std::wstring& target) {
+    orRaise(dom_error::failedToCopyFile(), [&] {
+        fsys::replaceFile(Path(source), Path(target), Path(L"vellox-" + uuid_gen() + L".tmp"));
+        return true;
+    });
+}
+
 bool FileUtils::copyFileToFolder(const std::wstring& source, const std::wstring& folder, bool makeWritable) {
     return copyFile(source, appendPath(folder, extractFilename(source)), makeWritable);
 }

@@ -55,6 +55,10 @@ public:
     /// @param makeWritable give the owner of the copy the right to write it
     /// @throws failedToCopyFile
     static bool copyFile(const std::wstring& source, const std::wstring& target, bool makeWritable);
+    /// Puts a copy of a file in the place of another one, or where none is yet. What stands at the target, and
+    /// what a link there leads to, stays whole until the copy is complete; a folder isn't replaced.
+    /// @throws failedToCopyFile
+    static void replaceFile(const std::wstring& source, const std::wstring& target);
     /// Copies a file into a folder, under its own name. Errors as extractFilename(), appendPath() and
     /// copyFile().
     static bool copyFileToFolder(const std::wstring& source, const std::wstring& folder, bool makeWritable);

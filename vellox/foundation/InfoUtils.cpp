@@ -7,8 +7,10 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <system_error>
 
 namespace vellox {
 
@@ -25,6 +27,9 @@ constexpr std::size_t kFrameLeft = 6, kFrameTop = 7, kFrameRight = 8, kFrameBott
 using EmfHeader = std::array<std::uint32_t, kEmfHeaderWords>;
 
 bool readEmfHeader(const std::wstring& path, EmfHeader& header) {
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(toUtf8(path), failure))
+        return false; // a pipe might never answer
     std::ifstream file(toUtf8(path), std::ios::binary);
     std::array<unsigned char, 4 * kEmfHeaderWords> bytes{};
     if (!file.read(reinterpret_cast<char*>(bytes.data()), bytes.size()))
@@ -45,8 +50,8 @@ ImageInfo::~ImageInfo() = default;
 
 ImageInfo ImageInfo::make(const std::wstring& path) const {
     double width = width_, height = height_;
-    host::getHostServices().probeImage(path, width, height);
-    return ImageInfo(width, height);
+    const bool isRead = host::getHostServices().probeImage(path, width, height);
+    return isRead ? ImageInfo(width, height) : ImageInfo(width_, height_);
 }
 
 ImageInfo ImageInfoEMF::make(const std::wstring& path) const {

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <stdexcept>
 #include <vector>
 
 namespace vellox {
@@ -40,7 +41,8 @@ std::string getLanguage(const std::locale& locale) {
     return language.size() == 2 || language.size() == 3 ? language : kSourceLanguage;
 }
 
-// A locale that holds nothing but the texts of one catalog in one language.
+// A locale that holds nothing but the texts of one catalog in one language; none if the file is damaged, since a
+// message without its text is better than none at all.
 std::locale loadTexts(const std::string& root, const std::string& language, const std::string& catalog) {
     gettext::messages_info info;
     info.language = language;
@@ -48,7 +50,11 @@ std::locale loadTexts(const std::string& root, const std::string& language, cons
     info.paths = {root + "/resources/messages"};
     info.domains = {gettext::messages_info::domain(toFileName(catalog))};
     info.callback = readCatalogFile;
-    return std::locale(std::locale::classic(), gettext::create_messages_facet<wchar_t>(info));
+    try {
+        return std::locale(std::locale::classic(), gettext::create_messages_facet<wchar_t>(info));
+    } catch (const std::runtime_error&) {
+        return std::locale::classic();
+    }
 }
 
 const wchar_t* findText(const std::string& language, const MsgID& message) {
@@ -58,6 +64,8 @@ const wchar_t* findText(const std::string& language, const MsgID& message) {
     auto texts = cache.find(key);
     if (texts == cache.end())
         texts = cache.emplace(key, loadTexts(key[0], key[1], key[2])).first;
+    if (!std::has_facet<Texts>(texts->second))
+        return nullptr;
     return std::use_facet<Texts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
 }
 

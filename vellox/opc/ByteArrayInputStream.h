@@ -4,6 +4,9 @@
 #ifndef VELLOX_OPC_BYTEARRAYINPUTSTREAM_H
 #define VELLOX_OPC_BYTEARRAYINPUTSTREAM_H
 
+#include <algorithm>
+#include <limits>
+
 #include "vellox/foundation/ByteArray.h"
 #include "vellox/opc/Streams.h"
 
@@ -12,7 +15,8 @@ class ByteArrayInputStream : public opc::InputStream {
 public:
     explicit ByteArrayInputStream(vellox::ByteArray* bytes) : bytes_(bytes) {}
     std::size_t read(unsigned char* target, std::size_t count) override {
-        return bytes_->read(target, static_cast<unsigned int>(count));
+        constexpr std::size_t kMost = std::numeric_limits<unsigned int>::max();
+        return bytes_->read(target, static_cast<unsigned int>(std::min(count, kMost)));
     }
     bool isDone() const override { return bytes_->isDone(); }
 

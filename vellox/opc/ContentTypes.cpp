@@ -42,7 +42,7 @@ void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
     if (!XMLString::equals(root->getLocalName(), u"Types") ||
         !XMLString::equals(root->getNamespaceURI(), kNamespace))
         throw Exception("[Content_Types].xml isn't a list of content types");
-    needsWriting_ = root->getPrefix() != nullptr;
+    hasPrefix_ = root->getPrefix() != nullptr;
     for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
         const std::wstring type = getAttribute(*row, u"ContentType");
         if (XMLString::equals(row->getLocalName(), u"Default"))
@@ -74,7 +74,7 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
     const std::wstring text = type.toString().empty() ? kUnknownBytes : type.toString();
     if (find(name).toString() == text)
         return;
-    needsWriting_ = true;
+    isChanged_ = true;
     const std::wstring extension = name.getExtension();
     if (type.isXml() || extension.empty() || defaultByExtension_.count(extension) > 0)
         setOverride(name, text);
@@ -83,7 +83,7 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
 }
 
 void ContentTypes::change(const PartName& name, const ContentType& type) {
-    needsWriting_ = true;
+    isChanged_ = true;
     setOverride(name, type.toString());
 }
 

@@ -45,7 +45,9 @@ public:
 
     /// True if the stream must be written anew: something was added, or it was in a form that readers
     /// stumble over.
-    bool needsWriting() const { return needsWriting_; }
+    bool needsWriting() const { return isChanged_ || hasPrefix_; }
+    /// Whether a type was added since the list was read.
+    bool isChanged() const { return isChanged_; }
 
 private:
     using Row = std::pair<std::wstring, std::wstring>;
@@ -58,7 +60,8 @@ private:
     std::vector<Row> overrides_;
     std::map<std::wstring, std::size_t> defaultByExtension_;
     std::map<PartName, std::size_t> overrideByName_;
-    bool needsWriting_ = false;
+    bool isChanged_ = false;
+    bool hasPrefix_ = false;
 };
 
 } // namespace opc

@@ -124,6 +124,11 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     if (findPart(name))
         throw Exception("there is a part named " + quote(name) + " already");
     types_.add(name, type);
+    // Relationships that some program has left behind under the name aren't those of the new part.
+    const PartName leftBehind = name.getRelationshipPartName();
+    if (findPart(leftBehind))
+        sources_.insert_or_assign(leftBehind,
+                                  Source{leftBehind, RelationshipTable::makeEmpty(name.getFolder())});
     return parts_[name] = physical_->createPart(name, info);
 }
 
@@ -143,7 +148,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
 }
 
 bool PackageContents::hasChanges() const {
-    bool changed = types_.needsWriting() || !physical_->isContentTypeStreamInPlace();
+    bool changed = types_.isChanged();
     for (const auto& part : parts_)
         changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
     for (const auto& source : sources_)

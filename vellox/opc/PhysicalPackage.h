@@ -78,8 +78,6 @@ public:
     void deletePart(const PartName& name);
 
     bool hasContentTypeStream() const { return contentTypes_ != nullptr; }
-    /// True if the stream is where readers look for it at once.
-    virtual bool isContentTypeStreamInPlace() const { return true; }
     boost::shared_ptr<InputStream> getContentTypeInputStream() const { return contentTypes_->openInput(); }
     virtual OutputStream& getContentTypeOutputStream() = 0;
 

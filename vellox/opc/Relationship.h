@@ -45,6 +45,12 @@ class RelationshipTable {
 public:
     /// @param folder the folder of the source, from which relative targets start
     explicit RelationshipTable(std::wstring folder) : folder_(std::move(folder)) {}
+    /// An empty table that counts as changed, and so takes the place of one that is stored.
+    static RelationshipTable makeEmpty(const std::wstring& folder) {
+        RelationshipTable table(folder);
+        table.isChanged_ = true;
+        return table;
+    }
 
     /// @throws opc::Exception if the stream isn't a list of relationships
     void read(xercesc::DOMLSParser& namespaceAwareParser, InputStream& stream);

@@ -200,8 +200,6 @@ void ZipPhysicalPackage::listEntries() {
             continue;
         addEntry(name, boost::make_shared<Entry>(PartName(L"/" + name), StandardPartInfo(),
                                                  vellox::toUtf8(name), archive_.get(), i));
-        if (contentTypes_ && parts_.empty())
-            contentTypesLead_ = true;
     }
 }
 
@@ -244,6 +242,8 @@ void ZipPhysicalPackage::close(bool save) {
             output_->close();
     }
     archive_.reset();
+    if (input_)
+        input_->close();
 }
 
 zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) const {

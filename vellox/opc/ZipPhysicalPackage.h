@@ -36,7 +36,6 @@ public:
     void open(OpenMode mode) override;
     void close(bool save) override;
     boost::shared_ptr<PhysicalPart> createPart(const PartName& name, StandardPartInfo info) override;
-    bool isContentTypeStreamInPlace() const override { return contentTypesLead_; }
     OutputStream& getContentTypeOutputStream() override;
 
 private:
@@ -54,7 +53,6 @@ private:
     boost::shared_ptr<StdOStreamAdaptor> output_;
     std::string path_;
     Archive archive_;
-    bool contentTypesLead_ = false;
 };
 
 } // namespace opc

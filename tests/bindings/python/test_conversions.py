@@ -134,6 +134,7 @@ def test_optional_properties_are_emptied_by_none_and_del():
         (pd.Series([1.5, 2.5]), [(1, "1.5"), (1, "2.5")]),
         (np.array(["2026-03-01"], "M8[D]"), [(1, "2026-03-01")]),
         (["a", np.array(["b", "c"])], [(1, "a"), (2, "b"), (2, "c")]),
+        ([datetime.date(2026, 3, 1), pd.Timestamp("2026-03-02")], [(1, "2026-03-01"), (1, "2026-03-02 00:00:00")]),
         ([], None),
         (None, None),
     ],
@@ -148,8 +149,38 @@ def test_lists_become_paragraphs(value, shown):
 def test_lists_that_hold_themselves_are_refused():
     endless = ["a"]
     endless.append(endless)
-    with pytest.raises(ValueError, match="nested too deeply"):
-        show(endless)
+    array = np.empty(1, object)
+    array[0] = array
+    for value in (endless, array):
+        with pytest.raises(ValueError, match="nested too deeply"):
+            show(value)
+    deep = ["bottom"]
+    for _ in range(500):
+        deep = [deep]
+    assert show(deep) == [(501, "bottom")]
+
+
+def test_texts_that_no_document_can_hold_are_refused(tmp_path):
+    box = ppt.TextBox()
+    for call in (lambda: box.add("a\ud800"), lambda: setattr(box, "Name", "\udce9"),
+                 lambda: ppt.Presentation(str(tmp_path) + "/r\udce9port.pptx")):
+        with pytest.raises(UnicodeEncodeError):
+            call()
+
+
+class Frame:
+    def __init__(self, columns, array):
+        self.columns, self.array = columns, array
+
+    def to_numpy(self):
+        return self.array
+
+
+@pytest.mark.parametrize("frame", [Frame("abc", np.array("abc")), Frame("ab", np.zeros((2, 2, 2))),
+                                   Frame("abc", np.zeros((2, 2)))])
+def test_frames_that_arent_what_they_say(frame):
+    with pytest.raises(ValueError):
+        ppt.Table(frame)
 
 
 class Failing:

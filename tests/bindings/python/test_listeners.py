@@ -43,6 +43,58 @@ def test_messages_reach_listeners_in_their_order(dispatcher):
         dispatcher.addListener("print")
 
 
+def test_messages_are_one_object_too(tmp_path, dispatcher):
+    kept = []
+
+    def keep(event):
+        kept.append(event.Message)
+        assert event.Message is kept[-1] and type(event.Message) is ppt.ProgressMessage
+
+    dispatcher.Filter.ProgressMessagesPass = True
+    dispatcher.addListener(keep)
+    ppt.Presentation(tmp_path / "deck.pptx").open()
+    dispatcher.removeListener(keep)
+    assert kept[0].Text
+
+
+def test_listeners_that_make_objects_come_to_an_end(dispatcher):
+    log = ppt.TextBox()
+    columns, kept = ppt.Table([["a", "b"], ["c", "d"]]), []
+
+    def write(event):
+        log.add(event.Message.Text)
+        ppt.TextBox()
+        source = event.Message.Source
+        if isinstance(source, ppt.ColSpec):
+            columns.ColSpecs = [source]
+            kept.append(source)
+
+    dispatcher.Filter.DebugMessagesPass = True
+    dispatcher.addListener(write)
+    made = ppt.Paragraph(), ppt.ColSpec()
+    dispatcher.removeListener(write)
+    assert len(log.Children) == 2 and columns.ColSpecs == [made[1]]
+
+
+def test_a_deck_changed_while_it_is_closed(deck, dispatcher):
+    slide = deck.deck.add("Blank")
+    table = ppt.Table([["a", "b"], ["c", "d"]])
+    table.StyleName = "no such style"
+    slide.add(table)
+
+    def change(event):
+        assert event.Message.Source is table and not deck.deck.close()
+        for _ in range(40):
+            deck.deck.add("Blank")
+            slide.add(ppt.TextBox())
+        deck.deck.__init__()
+
+    dispatcher.addListener(change)
+    deck.deck.close()
+    dispatcher.removeListener(change)
+    assert deck.path.stat().st_size > 1000
+
+
 def test_listeners_stay_though_nobody_holds_the_dispatcher():
     calls = Heard()
     ppt.MessageDispatcher.getTheDispatcher().addListener(calls)

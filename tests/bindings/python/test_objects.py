@@ -32,6 +32,46 @@ def test_one_python_object_for_each_object(deck):
     assert first.count("text") == 2 and {"a", "b", "c", "d"} <= set(second)
 
 
+def test_an_object_that_is_being_dropped_isnt_given_out_again():
+    box, seen = ppt.TextBox(), []
+
+    class Note(ppt.Paragraph):
+        pass
+
+    class AtEnd:
+        def __del__(self):
+            seen.append(box.Children[0])
+
+    paragraph = box.add("one")
+    watch = weakref.ref(paragraph, lambda _: seen.append(box.Children[0]))
+    del paragraph
+    box.replace(Note("two"))
+    note = Note("three")
+    box.replace(note)
+    note.end = AtEnd()
+    del note
+    assert watch() is None and [type(each) for each in seen] == [ppt.Paragraph] * 2
+    assert seen[1] is box.Children[0] and seen[1].Children[0].Content == "three"
+
+
+def test_an_object_that_is_made_again_in_a_call_on_it():
+    class Number:
+        def __index__(self):
+            box.__init__()
+            return 1
+
+    class Array:
+        def __array__(self):
+            box.__init__()
+            raise KeyError
+
+    box = ppt.TextBox()
+    box.Bold = Number()
+    with pytest.raises(KeyError):
+        box.add(Array())
+    assert box.Children == []
+
+
 def test_a_dropped_object_lives_on_in_the_tree():
     box = ppt.TextBox()
     box.add("one").Tag = "mark"

@@ -104,11 +104,11 @@ TEST(HvCell, ChecksIndices) {
               "vellox::HvCell::checkIndicesLegitimacy. Provided index=4 in dimension=1 "
               "exceeds maximum allowed=3 for this dimension.");
     EXPECT_EQ(failureOf(cell, {0}),
-              "vellox::HvCell::checkIndicesLegitimacy. Length of \"indices\" vector=1 < than "
+              "vellox::HvCell::checkIndicesLegitimacy. Length of \"indices\" vector=1 <  than "
               "number of dimensions=2");
     EXPECT_EQ(failureOf(cell, {0, 0, 0}),
               "vellox::HvCell::checkIndicesLegitimacy. Length of \"indices\" vector=3 "
-              "> than number of dimensions=2");
+              ">  than number of dimensions=2");
     EXPECT_THROW(cell.getDimension(2), HvArrayException);
     EXPECT_THROW(HvCell(nullptr).getDimension(0), HvArrayException);
     EXPECT_EQ(HvData(makeNumeric({1, 2, 3, 4, 5, 6}, {2, 3}).get()).getDispl(), L"double [2x3]");

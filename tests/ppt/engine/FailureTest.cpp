@@ -11,6 +11,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace vellox;
 using namespace vellox::ppt;
@@ -68,6 +69,31 @@ TEST_F(FailureTest, AFullDiskAtOpenLeavesNothing) {
     EXPECT_TRUE(folder.list().empty());
     EXPECT_TRUE(deck.open()); // nothing was lost, so that it may be tried again
     deck = Presentation();
+    EXPECT_TRUE(temporary.list().empty());
+}
+
+// The template may be the output itself, and the only copy that there is.
+TEST_F(FailureTest, AFullDiskAtOpenLeavesTheFormerOutput) {
+    writeParts(output, getTemplateParts(), {true, false, false, {}});
+    const std::string former = readFile(output);
+    deck = Presentation(output, output);
+    deck.open();
+    EXPECT_EQ(readFile(output), former); // whatever the order of its parts: nothing has changed yet
+    deck = Presentation(output, output);
+    std::filesystem::permissions(folder.getPath(),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const bool isRoot = access(folder.getPath().c_str(), W_OK) == 0; // nothing is forbidden to the superuser
+    const std::string error = errorOf([&] { deck.open(); });
+    std::filesystem::permissions(folder.getPath(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(error.substr(0, 24), isRoot ? "nothing" : "ppt_error:cannotOpenFile");
+    EXPECT_EQ(readFile(output), former);
+    FileUtils::createDirectory(folder / L"folder.pptx");
+    writeFile(folder / L"folder.pptx/inside", "kept");
+    deck = Presentation(folder / L"folder.pptx", output);
+    EXPECT_EQ(errorOf([&] { deck.open(); }).substr(0, 24), "ppt_error:cannotOpenFile");
+    EXPECT_EQ(readFile(folder / L"folder.pptx/inside"), "kept");
+    deck = Presentation();
+    EXPECT_EQ(folder.list().size(), 3u);
     EXPECT_TRUE(temporary.list().empty());
 }
 

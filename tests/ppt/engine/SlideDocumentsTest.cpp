@@ -1,7 +1,10 @@
 // How slides come from layouts, and what of a template is understood.
 
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/TextBox.h"
 
 #include "tests/support/DeckTest.h"
@@ -92,11 +95,54 @@ TEST_F(SlideDocumentsTest, IndentationAndMissingIdentitiesAreNotCarriedOn) {
     useLayout(
         layout("\n  <p:sp>\n <p:nvSpPr><p:cNvSpPr/><p:nvPr><p:ph type='body' idx='1'/></p:nvPr></p:nvSpPr>"
                "<p:spPr>\n<a:noFill/>\n</p:spPr><p:txBody><a:bodyPr/><a:p/></p:txBody></p:sp>\n"));
-    const Slide slide = deck.add(L"Own");
+    Slide slide = deck.add(L"Own");
     EXPECT_EQ(slide.getChildren()[0]->getName(), L"");
+    slide.add(TextBox(L"Free"));
     close();
     EXPECT_EQ(slideXml(1).find('\n'), std::string::npos);
-    EXPECT_NE(slideXml(1).find("<p:cNvPr id=\"2\" name=\""), std::string::npos);
+    const std::vector<std::string> identities = findAll(slideXml(1), "p:cNvPr");
+    ASSERT_EQ(identities.size(), 3u); // of the tree, the placeholder and the box
+    const auto idOf = [&](std::size_t i) { return std::stoi(identities[i].substr(13)); };
+    EXPECT_GT(idOf(1), 9); // none of the master's, from which a place would be inherited
+    EXPECT_EQ(idOf(2), idOf(1) + 1);
+}
+
+// What a layout or a slide of a template doesn't declare, or refers to, on its own.
+TEST_F(SlideDocumentsTest, PrefixesAndRelationshipsComeAlong) {
+    std::string xml = layout(shape(7, "Title", "<p:ph type='title'/>"), "", "");
+    const std::string declaration =
+        "xmlns:r='http://schemas.openxmlformats.org/officeDocument/2006/relationships' ";
+    xml.erase(xml.find(declaration), declaration.size());
+    useLayout(xml);
+    Paragraph paragraph(L"to ");
+    paragraph.append(ExternalLink(L"https://example.org/", L"there"));
+    deck.add(L"Own").replace(L"Title", paragraph);
+    close(); // which expects a sound deck
+
+    Parts parts = getTemplateParts();
+    parts["ppt/slideLayouts/slideLayout1.xml"] = layout(
+        "<p:pic><p:nvPicPr><p:cNvPr id='5' name='p'/><p:cNvPicPr/><p:nvPr><p:custDataLst>"
+        "<p:tags r:id='rId8'/></p:custDataLst></p:nvPr></p:nvPicPr><p:blipFill/><p:spPr/></p:pic>" +
+        shape(7, "Title", "<p:ph type='title'/>", "<a:blipFill><a:blip r:embed='rId9'/></a:blipFill>"));
+    std::string& relationships = parts["ppt/slideLayouts/_rels/slideLayout1.xml.rels"];
+    relationships.insert(
+        relationships.find("</Relationships>"),
+        "<Relationship Id='rId9' Type='http://schemas.openxmlformats.org/officeDocument/2006/"
+        "relationships/image' Target='../media/own.png'/>"
+        "<Relationship Id='rId8' Type='http://schemas.openxmlformats.org/officeDocument/2006/"
+        "relationships/tags' Target='../tags/tag1.xml'/>");
+    parts["ppt/media/own.png"] = "bytes";
+    parts["ppt/tags/tag1.xml"] = "<a/>";
+    parts = withChange(parts, "[Content_Types].xml", "<Default ",
+                       "<Default Extension='png' ContentType='image/png'/><Default ");
+    // Left behind by some other program; the new slide has relationships of its own.
+    parts["ppt/slides/_rels/slide1.xml.rels"] = relationships;
+    useTemplate(parts, L"second.pptx");
+    deck.add(L"Own").replace(L"Title", paragraph);
+    const Parts& closed = close();
+    const std::string& own = closed.at("ppt/slides/_rels/slide1.xml.rels");
+    EXPECT_EQ(findAll(own, "Relationship").size(), 3u); // the picture, the layout, the link
+    EXPECT_NE(own.find("Id=\"rId9\""), std::string::npos);
 }
 
 TEST_F(SlideDocumentsTest, NewShapesAreNumberedBehindThePlaceholders) {

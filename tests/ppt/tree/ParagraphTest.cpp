@@ -9,6 +9,8 @@
 #include "tests/support/DeckTest.h"
 #include "tests/support/MemoryValue.h"
 
+#include <boost/intrusive_ptr.hpp>
+
 using namespace vellox;
 using namespace vellox::ppt;
 

@@ -83,13 +83,14 @@ TEST_F(ShapeWritersTest, PicturesWithoutAFileAreNoError) {
     writeFile(folder / L"odd.x y~", "bytes");
     Slide slide = deck.add(L"Title and Picture");
     slide.replace(L"Picture", object(Picture()));
-    for (const wchar_t* name : {L"missing.png", L"noextension", L"odd.x y~", L"."}) {
+    writeFile(folder / L"a.p%#?", "bytes");
+    for (const wchar_t* name : {L"missing.png", L"noextension", L"odd.x y~", L"a.p%#?", L"."}) {
         Picture picture(folder / name);
         picture.setName(name);
         slide.add(picture);
     }
     const Parts& parts = close();
-    EXPECT_EQ(mediaOf(parts).size(), 2u);
+    EXPECT_EQ(mediaOf(parts).size(), 3u);
     EXPECT_NE(shapeXml(1, "missing.png").find("r:embed=''"), std::string::npos);
     EXPECT_NE(shapeXml(1, ".").find("r:embed=''"), std::string::npos);       // a folder
     EXPECT_NE(shapeXml(1, "Picture").find("<p:txBody>"), std::string::npos); // the placeholder stays

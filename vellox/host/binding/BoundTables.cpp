@@ -31,7 +31,7 @@ void setColSpecs(Table& table, const hvArray& value) {
             raise(ppt_error::invalidPropertyValue(
                 object ? toStringFromASCIIStringLiteral(object->getProxy()->getFullyQualifiedHostTypeName())
                        : std::wstring()));
-        columns.push_back(column);
+        columns.push_back(boost::make_shared<ColSpec>(*column)); // the host's own handle may be let go
     }
     table.setColSpecs(columns);
 }

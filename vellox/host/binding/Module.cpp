@@ -11,7 +11,8 @@ namespace {
 using namespace vellox::ppt;
 using namespace vellox::ppt::hostbind;
 
-constexpr HostFcnTable kFunctionTable = {nullptr, {0x76656c6c, 0x00010000}, {0, 0, 0}};
+constexpr const void* kNoFunctions[] = {nullptr};
+constexpr HostFcnTable kFunctionTable = {kNoFunctions, {0x76656c6c, 0x00010000}, {0, 0, 0}};
 
 bool isInitialized = false;
 bool isTerminated = false;

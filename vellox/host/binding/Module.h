@@ -13,7 +13,7 @@ extern "C" {
 /// The functions of the module that a host could call directly. There are none: all access goes through the
 /// bound classes.
 struct HostFcnTable {
-    const void* functions;
+    const void* const* functions; ///< ends with a null pointer; empty
     std::uint32_t stamps[2];
     std::uintptr_t reserved[3];
 };

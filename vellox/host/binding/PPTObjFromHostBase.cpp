@@ -4,10 +4,19 @@
 
 namespace vellox::ppt::hostbind {
 
-PPTObjFromHostBase::PPTObjFromHostBase(const hvArray& value, const std::string& className) {
-    if (value.getClassCode() != HvObjectClass || value.getNElements() == 0)
-        return;
-    const boost::shared_ptr<objreg::HostInterface> object = value.getObject(0);
+namespace {
+
+boost::shared_ptr<objreg::HostInterface> getFirstObject(const hvArray& value) {
+    const bool isObject = value.getClassCode() == HvObjectClass && value.getNElements() > 0;
+    return isObject ? value.getObject(0) : boost::shared_ptr<objreg::HostInterface>();
+}
+
+} // namespace
+
+PPTObjFromHostBase::PPTObjFromHostBase(const hvArray& value, const std::string& className)
+    : PPTObjFromHostBase(getFirstObject(value).get(), className) {}
+
+PPTObjFromHostBase::PPTObjFromHostBase(const objreg::HostInterface* object, const std::string& className) {
     const ObjectPtr proxy = object ? object->getProxy() : ObjectPtr();
     if (proxy && isA(*proxy, className))
         proxy_ = proxy;

@@ -8,6 +8,7 @@
 
 #include "vellox/Api.h"
 #include "vellox/host/binding/HostResult.h"
+#include "vellox/host/services/Wrappable.h"
 #include "vellox/host/values/hvArray.h"
 
 namespace vellox::ppt::hostbind {
@@ -18,11 +19,16 @@ public:
     /// @param className in full, such as "vellox.ppt.Paragraph"
     PPTObjFromHostBase(const hvArray& value, const std::string& className);
 
+    /// The same of an object of the host, or of none.
+    PPTObjFromHostBase(const objreg::HostInterface* object, const std::string& className);
+
     /// Whether there is such an object.
     bool hasImpl() const { return proxy_ != nullptr; }
     /// The facade that the host's object holds; empty if there is none.
     const ObjectPtr& getProxy() const { return proxy_; }
 
+    /// Whether the object is of another class, too; false if there is none.
+    bool isA(const std::string& className) const { return proxy_ && isA(*proxy_, className); }
     /// Whether a facade is of the class or a subclass.
     static bool isA(const PPTObject& object, const std::string& className);
 

@@ -91,6 +91,21 @@ void copyFile(const Path& source, const Path& target) {
     check(failure, "copy", source);
 }
 
+void replaceFile(const Path& source, const Path& target, const Path& freshName) {
+    std::error_code failure;
+    fs::path place = fs::canonical(target.native(), failure);
+    if (failure)
+        place = target.native();
+    const Path fresh = Path(place.parent_path()) / freshName;
+    copyFile(source, fresh);
+    fs::rename(fresh.native(), place, failure);
+    if (failure) {
+        std::error_code ignored;
+        fs::remove(fresh.native(), ignored);
+    }
+    check(failure, "rename", target);
+}
+
 void createDirectory(const Path& path) {
     std::error_code failure;
     fs::create_directory(path.native(), failure);

@@ -35,8 +35,11 @@ public:
     const std::filesystem::path& native() const { return path_; }
     bool isEmpty() const { return path_.empty(); }
 
-    /// Joins an element on, with a separator if one is needed.
-    Path operator/(const Path& tail) const { return Path(path_ / tail.path_); }
+    /// Joins an element on, with a separator if one is needed. One that begins with a separator doesn't start
+    /// anew.
+    Path operator/(const Path& tail) const {
+        return path_.empty() ? tail : Path(path_ / tail.path_.relative_path());
+    }
 
     Path getParent() const { return Path(path_.parent_path()); }
     /// @{ Parts of the last element; the extension comes without its dot. All are empty for an empty path.
@@ -63,6 +66,9 @@ void addOwnerWrite(const Path& path);
 Path makeCanonical(const Path& path, const Path& base);
 /// Copies one file to a path at which nothing stands. What a failed copy has written is removed.
 void copyFile(const Path& source, const Path& target);
+/// Copies one file beside a target, under a fresh name, and renames it over that. A link at the target stays a
+/// link.
+void replaceFile(const Path& source, const Path& target, const Path& freshName);
 /// Makes one folder; its parent must exist.
 void createDirectory(const Path& path);
 /// Removes a file, or a folder with all that it holds.

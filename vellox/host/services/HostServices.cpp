@@ -94,6 +94,8 @@ HostServices& getHostServices() {
 void raiseWarningAtEnd(const MsgID& id, const std::wstring& text) noexcept {
     try {
         getHostServices().raiseWarning(id, text);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "vellox: a warning could not be shown: %s\n", failure.what());
     } catch (...) {
         std::fputs("vellox: a warning could not be shown\n", stderr);
     }

@@ -4,9 +4,11 @@
 #include <tiffio.h>
 
 #include <array>
-#include <cstdlib>
+#include <cmath>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <memory>
 #include <system_error>
 
@@ -31,10 +33,15 @@ int isAtEnd(void* user) {
     return !static_cast<std::ifstream*>(user)->good();
 }
 
-bool readRasterSize(std::ifstream& file, int& width, int& height) {
+bool readRasterSize(std::ifstream& file, double& width, double& height) {
     const stbi_io_callbacks callbacks{readBytes, skipBytes, isAtEnd};
-    int components = 0;
-    return stbi_info_from_callbacks(&callbacks, &file, &width, &height, &components) != 0;
+    int w = 0, h = 0, components = 0;
+    // A BMP that is stored from the top down says so with a negative height.
+    if (!stbi_info_from_callbacks(&callbacks, &file, &w, &h, &components) || w <= 0 || h == 0)
+        return false;
+    width = w;
+    height = std::abs(static_cast<double>(h));
+    return true;
 }
 
 // Returning 1 says that the message is dealt with and needn't go to the standard error stream.
@@ -42,7 +49,7 @@ int dropMessage(TIFF*, void*, const char*, const char*, va_list) {
     return 1;
 }
 
-bool readTiffSize(const std::string& path, int& width, int& height) {
+bool readTiffSize(const std::string& path, double& width, double& height) {
     const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
                                                                                    TIFFOpenOptionsFree);
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxTiffAllocation);
@@ -50,8 +57,14 @@ bool readTiffSize(const std::string& path, int& width, int& height) {
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), dropMessage, nullptr);
     const std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff(TIFFOpenExt(path.c_str(), "rm", options.get()),
                                                            TIFFClose);
-    return tiff && TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &width) &&
-           TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &height);
+    constexpr std::uint32_t kMost = std::numeric_limits<std::int32_t>::max();
+    std::uint32_t w = 0, h = 0;
+    if (!tiff || !TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &w) ||
+        !TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &h) || w == 0 || h == 0 || w > kMost || h > kMost)
+        return false;
+    width = w;
+    height = h;
+    return true;
 }
 
 bool looksLikeTiff(std::ifstream& file) {
@@ -74,15 +87,7 @@ bool readImageSize(const std::string& path, double& width, double& height) {
     std::ifstream file(path, std::ios::binary);
     if (!file)
         return false;
-    int w = 0, h = 0;
-    if (!(looksLikeTiff(file) ? readTiffSize(path, w, h) : readRasterSize(file, w, h)))
-        return false;
-    // A BMP that is stored from the top down says so with a negative height.
-    if (w <= 0 || h == 0 || h < -0x7fffffff)
-        return false;
-    width = w;
-    height = std::abs(h);
-    return true;
+    return looksLikeTiff(file) ? readTiffSize(path, width, height) : readRasterSize(file, width, height);
 }
 
 } // namespace vellox::host

@@ -11,7 +11,8 @@ namespace vellox::host {
 /// Reads width and height in pixels. What the file holds decides, not what it is called. No pixel is
 /// decoded, and a header that claims an absurd size is a header that can't be read.
 /// @return false, with both numbers untouched, for a file that isn't a readable PNG, JPEG, GIF, BMP, TIFF
-/// or PSD image of at least one pixel
+/// or PSD image of at least one pixel. Not readable are run-length encoded BMPs, PSDs that aren't RGB, and
+/// images of more than about 2^30 pixels
 bool readImageSize(const std::string& pathUtf8, double& width, double& height);
 
 } // namespace vellox::host

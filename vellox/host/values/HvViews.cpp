@@ -185,7 +185,7 @@ void HvCell::checkIndicesLegitimacy(const Indices& indices) const {
     if (indices.size() != getNDimensions())
         fail(name + ". Length of \"indices\" vector=" + std::to_string(indices.size()) +
              (indices.size() > getNDimensions() ? " > " : " < ") +
-             "than number of dimensions=" + std::to_string(getNDimensions()));
+             " than number of dimensions=" + std::to_string(getNDimensions()));
     for (unsigned int i = 0; i < indices.size(); ++i) {
         // An index that equals the size passes here, though indices start at 0; the reading operations
         // find nothing there.

@@ -1,5 +1,6 @@
 #include "vellox/ppt/engine/OPCPartReader.h"
 
+#include "vellox/opc/Exception.h"
 #include "vellox/ppt/engine/OPCPackage.h"
 
 #include <boost/make_shared.hpp>
@@ -31,7 +32,11 @@ OPCPartReader::OPCPartReader(const OPCPackage& package)
 OPCPartReader::~OPCPartReader() = default;
 
 bool OPCPartReader::hasPart(const std::wstring& partName) const {
-    return package_->hasPart(opc::PartName(partName));
+    try {
+        return package_->hasPart(opc::PartName(partName));
+    } catch (const opc::Exception&) { // of a text that can't be the name of any part
+        return false;
+    }
 }
 
 opc::Part OPCPartReader::getPart(const std::wstring& partName) const {

@@ -6,6 +6,7 @@
 #include "vellox/ppt/engine/PackageNames.h"
 #include "vellox/ppt/engine/TemplateRecords.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -17,6 +18,20 @@ namespace {
 bool isCompressed(const std::wstring& contentType) {
     static const std::set<std::wstring> compressed{L"image/png", L"image/jpeg", L"image/gif", L"image/x-emz"};
     return compressed.count(contentType) > 0;
+}
+
+// Gives a part those of another's relationships that have one of the ids, under the same ids.
+void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<std::wstring>& ids) {
+    if (ids.empty())
+        return;
+    for (const opc::Relationship& row : from.getRelationships()) {
+        if (!std::binary_search(ids.begin(), ids.end(), row.getID()))
+            continue;
+        if (row.isExternal())
+            to.createExternalRelationship(row.getType(), row.getTarget(), row.getID());
+        else
+            to.createInternalRelationship(row.getType(), row.getTargetURI(), row.getID());
+    }
 }
 
 // A folder can be opened like a file on this system; only reading it fails, and that would be too late.
@@ -37,8 +52,10 @@ std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
         name = L"/ppt/slides/slide" + num2str(++slideCounter_) + L".xml";
     } while (hasPart(name));
     opc::Part part = createPart(name, contenttype::kSlide);
-    if (slide.layout)
-        part.createInternalRelationship(relationship::kSlideLayout, opc::URI(slide.layout->partName), {});
+    if (!slide.layout)
+        return name;
+    copyRelationships(getPart(slide.layout->partName), part, slide.layout->slideRelationshipIds);
+    part.createInternalRelationship(relationship::kSlideLayout, opc::URI(slide.layout->partName), {});
     return name;
 }
 
@@ -48,10 +65,15 @@ std::wstring PPTPartWriter::addHyperlink(const std::wstring& partName, const std
     return getPart(partName).createExternalRelationship(relationship::kHyperlink, target, {}).getID();
 }
 
-std::wstring PPTPartWriter::chooseMediaName(const std::wstring& extension) const {
+std::wstring PPTPartWriter::chooseMediaName(const std::wstring& imagePath) const {
+    // Lists of types know extensions of letters and digits only.
+    std::wstring extension;
+    for (const wchar_t c : FileUtils::getFileNameExtension(imagePath))
+        if ((c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'))
+            extension += c;
     std::wstring name;
     do {
-        name = L"/ppt/media/" + uuid_gen() + L"." + extension;
+        name = L"/ppt/media/" + uuid_gen() + (extension.empty() ? L"" : L".") + extension;
     } while (hasPart(name));
     return name;
 }
@@ -61,7 +83,7 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::ws
         return {};
     getPart(partName);
     const std::wstring type = FileUtils::getContentType(imagePath);
-    const std::wstring name = chooseMediaName(FileUtils::getFileNameExtension(imagePath));
+    const std::wstring name = chooseMediaName(imagePath);
     opc::Part image = isCompressed(type) ? createStoredPart(name, type) : createPart(name, type);
     image.setContentFile(imagePath);
     return addRelationship(partName, relationship::kImage, image.getName().toString());

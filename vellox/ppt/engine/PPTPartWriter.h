@@ -40,7 +40,7 @@ public:
     void alignMainType(const std::wstring& mainPartName);
 
 private:
-    std::wstring chooseMediaName(const std::wstring& extension) const;
+    std::wstring chooseMediaName(const std::wstring& imagePath) const;
 
     unsigned int slideCounter_ = 0;
 };

@@ -17,6 +17,7 @@
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include <boost/intrusive_ptr.hpp>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
@@ -155,9 +156,28 @@ void PresentationImpl::setTemplatePath(const std::wstring& path) {
 
 // PresentationImpl: opening
 
+namespace {
+
+/// Listeners run while a presentation is opened and closed. They can neither enter that again nor end the
+/// presentation meanwhile.
+class Busy {
+public:
+    Busy(PPTObjectImpl* presentation, bool& flag) : kept_(presentation), flag_(flag) { flag_ = true; }
+    ~Busy() { flag_ = false; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    boost::intrusive_ptr<PPTObjectImpl> kept_;
+    bool& flag_;
+};
+
+} // namespace
+
 bool PresentationImpl::open() {
-    if (state_ != PresentationState::Created && state_ != PresentationState::TemplateInvalid)
+    if (isBusy_ || (state_ != PresentationState::Created && state_ != PresentationState::TemplateInvalid))
         return false;
+    const Busy busy(this, isBusy_);
     const std::wstring wanted = report_->outputPath.empty() ? kDefaultOutput : report_->outputPath;
     FileUtils::validateFileName(wanted);
     const std::wstring templateFile = ensureExtension(report_->templatePath);
@@ -209,7 +229,7 @@ void PresentationImpl::readTemplate(const std::wstring& templateFile) {
 
 void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
     try {
-        FileUtils::copyFile(tempTemplatePath_, report_->outputPath, false);
+        FileUtils::replaceFile(tempTemplatePath_, report_->outputPath);
         state_ = PresentationState::Open;
         removeWorkingCopy();
     } catch (...) {
@@ -227,8 +247,9 @@ void PresentationImpl::removeWorkingCopy() {
 // PresentationImpl: closing
 
 bool PresentationImpl::close() {
-    if (state_ != PresentationState::Open)
+    if (isBusy_ || state_ != PresentationState::Open)
         return false;
+    const Busy busy(this, isBusy_);
     const auto package = boost::make_shared<OPCPackage>(report_->outputPath);
     package->openReadWrite(false);
     try {
@@ -247,7 +268,8 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     }
     PPTWriter writer(model_, package);
     try {
-        for (const Child& slide : getChildren())
+        const Children slides = getChildren(); // those that a listener adds now come too late
+        for (const Child& slide : slides)
             writer.write(*slide);
     } catch (...) {
         writer.rollBack();

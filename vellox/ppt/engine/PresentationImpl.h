@@ -94,6 +94,7 @@ private:
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
     PresentationState state_ = PresentationState::Created;
+    bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;
     std::wstring tempTemplatePath_; // empty when there is no working copy
     boost::shared_ptr<PartDOMBuilder> partBuilder_;

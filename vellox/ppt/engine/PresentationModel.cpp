@@ -5,6 +5,7 @@
 #include "vellox/ppt/engine/PPTPartWriter.h"
 #include "vellox/ppt/engine/PackageNames.h"
 #include "vellox/ppt/engine/PartDOMBuilder.h"
+#include "vellox/ppt/engine/SlideDocuments.h"
 #include "vellox/ppt/engine/XmlNames.h"
 
 #include <algorithm>
@@ -374,6 +375,7 @@ DOMElement* PresentationModel::prepareSlideList() {
 void PresentationModel::updateSlideList(PPTPartWriter& partWriter, const Slides& slides) {
     if (!presentationDocument_)
         return;
+    declarePrefixes(presentationDocument_->getDocumentElement());
     renumberSections(slides);
     DOMElement* list = prepareSlideList();
     unsigned int id = kFirstSlideId;

@@ -125,11 +125,16 @@ void makeGrid(const GraphicFrameElements& made, double cx, unsigned int columns)
 
 // Identity
 
-DOMElement* giveIdentity(TemplateSlide& slide, DOMElement* nonVisual,
-                         const BaseAttribute<std::wstring>& name) {
+DOMElement* makeIdAndName(TemplateSlide& slide, const BaseAttribute<std::wstring>& name) {
     DOMElement* properties = createElement(slide, xml::kCNvPr);
     setAttribute(properties, xml::kId, num2str(++slide.nextShapeId));
     setAttribute(properties, xml::kName, name.isSet() ? name.get() : uuid_gen());
+    return properties;
+}
+
+DOMElement* giveIdentity(TemplateSlide& slide, DOMElement* nonVisual,
+                         const BaseAttribute<std::wstring>& name) {
+    DOMElement* properties = makeIdAndName(slide, name);
     nonVisual->insertBefore(properties, nonVisual->getFirstChild());
     appendElement(nonVisual, xml::kNvPr);
     return properties;
@@ -140,12 +145,10 @@ void takeIdentity(TemplateSlide& slide, DOMElement* nonVisual, const DOMElement*
     const DOMElement* source = findChild(former, formerNonVisual);
     DOMElement* properties = findChild(source, xml::kCNvPr);
     DOMElement* application = findChild(source, xml::kNvPr);
-    if (!properties || !application) {
-        giveIdentity(slide, nonVisual, BaseAttribute<std::wstring>());
-        return;
-    }
+    if (!properties)
+        properties = makeIdAndName(slide, BaseAttribute<std::wstring>());
     nonVisual->insertBefore(properties, nonVisual->getFirstChild());
-    nonVisual->appendChild(application);
+    nonVisual->appendChild(application ? application : createElement(slide, xml::kNvPr));
 }
 
 void appendToShapeTree(TemplateSlide& slide, DOMElement* shape) {

@@ -1,9 +1,11 @@
 #include "vellox/ppt/engine/SlideDocuments.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/XmlNames.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <xercesc/util/XMLChar.hpp>
@@ -95,17 +97,46 @@ void removeIndentation(DOMDocument& document) {
     }
 }
 
+unsigned int findGreatestId(DOMDocument& document) {
+    unsigned int greatest = 0;
+    for (const DOMElement* properties : getElementsByName(&document, xml::kCNvPr))
+        greatest = std::max(greatest, str2uint(getAttribute(properties, xml::kId)));
+    return greatest;
+}
+
 // Some programs write placeholders without id and name, which readers overlook in a layout but not in a
-// slide.
-void completeIdentities(DOMDocument& document, unsigned int lastShapeId) {
+// slide. The ids are none that the layout or its master has: a place is inherited by id.
+void completeIdentities(DOMDocument& document, TemplateLayout& layout) {
+    unsigned int id = 0;
     for (DOMElement* nonVisual : getElementsByName(&document, xml::kNvSpPr)) {
         if (findChild(nonVisual, xml::kCNvPr))
             continue;
+        if (id == 0) {
+            id = std::max(findGreatestId(*layout.document.get()), layout.maxShapeId);
+            if (layout.master)
+                id = std::max(id, findGreatestId(*layout.master->document.get()));
+        }
         DOMElement* properties = document.createElement(xml::kCNvPr);
-        setAttribute(properties, xml::kId, num2str(++lastShapeId));
+        setAttribute(properties, xml::kId, num2str(++id));
         setAttribute(properties, xml::kName, uuid_gen());
         nonVisual->insertBefore(properties, nonVisual->getFirstChild());
     }
+    layout.lastSlideShapeId = id;
+}
+
+// What comes across from a layout, such as a picture as background, may refer to other parts through the
+// layout's relationships, which the slide then needs too.
+std::vector<std::wstring> collectRelationshipIds(DOMDocument& document) {
+    std::set<std::wstring> ids;
+    for (const DOMElement* element : getAllElements(&document)) {
+        const DOMNamedNodeMap* attributes = element->getAttributes();
+        for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
+            const DOMNode* attribute = attributes->item(i);
+            if (XMLString::startsWith(attribute->getNodeName(), xml::kRPrefix))
+                ids.insert(opc::toWideString(attribute->getNodeValue()));
+        }
+    }
+    return {ids.begin(), ids.end()};
 }
 
 OwnedDocument makePrototype(TemplateLayout& layout) {
@@ -115,7 +146,8 @@ OwnedDocument makePrototype(TemplateLayout& layout) {
     if (DOMElement* data = document->getDocumentElement()->getFirstElementChild())
         data->removeAttribute(xml::kName);
     stripShapeTree(*document.get());
-    completeIdentities(*document.get(), layout.maxShapeId);
+    completeIdentities(*document.get(), layout);
+    layout.slideRelationshipIds = collectRelationshipIds(*document.get());
     return document;
 }
 
@@ -125,6 +157,15 @@ OwnedDocument copyDocument(const OwnedDocument& document) {
     OwnedDocument copy(static_cast<DOMDocument*>(document->cloneNode(true)));
     copy->setXmlStandalone(true);
     return copy;
+}
+
+void declarePrefixes(DOMElement* root) {
+    constexpr const XMLCh* kPrefixes[][2] = {{xml::kXmlnsA, xml::kDrawingUri},
+                                             {xml::kXmlnsP, xml::kPresentationUri},
+                                             {xml::kXmlnsR, xml::kRelationshipsUri}};
+    for (const auto& [name, uri] : kPrefixes)
+        if (root && !root->hasAttribute(name))
+            root->setAttribute(name, uri);
 }
 
 OwnedDocument makeSlideDocument(TemplateLayout& layout) {

@@ -24,6 +24,10 @@ OwnedDocument makeSlideDocument(TemplateLayout& layout);
 /// An independent copy.
 OwnedDocument copyDocument(const OwnedDocument& document);
 
+/// Declares the prefixes that the library writes, a, p and r, where a root element doesn't do so itself. What
+/// comes from a template may declare them further down, or none that it has no use for.
+void declarePrefixes(xercesc::DOMElement* root);
+
 } // namespace vellox::ppt
 
 #endif

@@ -59,8 +59,8 @@ TemplateParser::createSlide(const boost::shared_ptr<TemplateLayout>& layout) {
     const auto slide = boost::make_shared<TemplateSlide>();
     slide->layout = layout;
     slide->shapes = layout->shapes;
-    slide->nextShapeId = layout->maxShapeId;
     slide->document = makeSlideDocument(*layout);
+    slide->nextShapeId = std::max(layout->maxShapeId, layout->lastSlideShapeId);
     slide->elementsByUid = mapElementsByUid(slide->document.get());
     return slide;
 }

@@ -80,7 +80,9 @@ struct TemplateLayout {
     boost::shared_ptr<TemplateShapes> shapes;           ///< placeholders only
     boost::shared_ptr<TemplateMaster> master;           ///< cleared when the model ends
     unsigned int maxShapeId = 1;                        ///< greatest id of a p:cNvPr among the shapes
-    OwnedDocument slidePrototype; ///< a new slide of this layout, made with the first; copied for each
+    OwnedDocument slidePrototype;      ///< a new slide of this layout, made with the first; copied for each
+    unsigned int lastSlideShapeId = 0; ///< the last id that was given out in the prototype; 0 if none was
+    std::vector<std::wstring> slideRelationshipIds; ///< the layout's relationships that the prototype needs
 };
 
 struct TemplateSlide {

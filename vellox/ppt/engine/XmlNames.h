@@ -65,6 +65,11 @@ inline constexpr XMLCh kAPrstGeom[] = u"a:prstGeom";
 inline constexpr XMLCh kAR[] = u"a:r";
 inline constexpr XMLCh kARPr[] = u"a:rPr";
 inline constexpr XMLCh kASolidFill[] = u"a:solidFill";
+inline constexpr XMLCh kANoFill[] = u"a:noFill";
+inline constexpr XMLCh kAGradFill[] = u"a:gradFill";
+inline constexpr XMLCh kABlipFill[] = u"a:blipFill";
+inline constexpr XMLCh kAPattFill[] = u"a:pattFill";
+inline constexpr XMLCh kAGrpFill[] = u"a:grpFill";
 inline constexpr XMLCh kASpPr[] = u"a:spPr";
 inline constexpr XMLCh kASrgbClr[] = u"a:srgbClr";
 inline constexpr XMLCh kAStretch[] = u"a:stretch";
@@ -100,6 +105,7 @@ inline constexpr XMLCh kNoGrp[] = u"noGrp";
 inline constexpr XMLCh kPrst[] = u"prst";
 inline constexpr XMLCh kREmbed[] = u"r:embed";
 inline constexpr XMLCh kRId[] = u"r:id";
+inline constexpr XMLCh kRPrefix[] = u"r:";
 inline constexpr XMLCh kStrike[] = u"strike";
 inline constexpr XMLCh kStyleId[] = u"styleId";
 inline constexpr XMLCh kStyleName[] = u"styleName";
@@ -111,6 +117,9 @@ inline constexpr XMLCh kUri[] = u"uri";
 inline constexpr XMLCh kVal[] = u"val";
 inline constexpr XMLCh kW[] = u"w";
 inline constexpr XMLCh kX[] = u"x";
+inline constexpr XMLCh kXmlnsA[] = u"xmlns:a";
+inline constexpr XMLCh kXmlnsP[] = u"xmlns:p";
+inline constexpr XMLCh kXmlnsR[] = u"xmlns:r";
 inline constexpr XMLCh kY[] = u"y";
 
 // Attribute values
@@ -118,6 +127,12 @@ inline constexpr XMLCh kFalse[] = u"0";
 inline constexpr XMLCh kRect[] = u"rect";
 inline constexpr XMLCh kTableUri[] = u"http://schemas.openxmlformats.org/drawingml/2006/table";
 inline constexpr XMLCh kTrue[] = u"1";
+
+// Namespaces
+inline constexpr XMLCh kDrawingUri[] = u"http://schemas.openxmlformats.org/drawingml/2006/main";
+inline constexpr XMLCh kPresentationUri[] = u"http://schemas.openxmlformats.org/presentationml/2006/main";
+inline constexpr XMLCh kRelationshipsUri[] =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 
 } // namespace vellox::ppt::xml
 

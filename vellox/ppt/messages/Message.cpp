@@ -15,7 +15,6 @@ const char* MessageImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Message";
 }
 
-// All four kinds have the operations of their base.
 boost::shared_ptr<PPTObject> MessageImpl::makeHandle() {
     return boost::shared_ptr<PPTObject>(new Message(this));
 }
@@ -43,6 +42,7 @@ class DebugMessageImpl : public MessageImpl {
 public:
     using MessageImpl::MessageImpl;
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.DebugMessage"; }
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeHandleOf<DebugMessage>(); }
     bool passesFilter(const MessageFilter& filter) const override {
         return passes(filter, filter.getDebugMessagesPass());
     }
@@ -52,6 +52,7 @@ class ProgressMessageImpl : public MessageImpl {
 public:
     using MessageImpl::MessageImpl;
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.ProgressMessage"; }
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeHandleOf<ProgressMessage>(); }
     bool passesFilter(const MessageFilter& filter) const override {
         return passes(filter, filter.getProgressMessagesPass());
     }
@@ -61,6 +62,7 @@ class WarningMessageImpl : public MessageImpl {
 public:
     using MessageImpl::MessageImpl;
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.WarningMessage"; }
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeHandleOf<WarningMessage>(); }
     bool passesFilter(const MessageFilter& filter) const override {
         return passes(filter, filter.getWarningMessagesPass());
     }
@@ -70,6 +72,7 @@ class ErrorMessageImpl : public MessageImpl {
 public:
     using MessageImpl::MessageImpl;
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.ErrorMessage"; }
+    boost::shared_ptr<PPTObject> makeHandle() override { return makeHandleOf<ErrorMessage>(); }
     bool passesFilter(const MessageFilter& filter) const override {
         return passes(filter, filter.getErrorMessagesPass());
     }

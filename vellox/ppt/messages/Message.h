@@ -50,6 +50,10 @@ public:
     explicit DebugMessage(const MsgID& id);
     DebugMessage(const MsgID& id, const PPTObject& source);
     /// @}
+
+private:
+    friend class MessageImpl;
+    explicit DebugMessage(MessageImpl* impl) : Message(impl) {}
 };
 
 /// What is being done.
@@ -59,6 +63,10 @@ public:
     ProgressMessage(const std::wstring& text, const PPTObject& source);
     explicit ProgressMessage(const MsgID& id);
     ProgressMessage(const MsgID& id, const PPTObject& source);
+
+private:
+    friend class MessageImpl;
+    explicit ProgressMessage(MessageImpl* impl) : Message(impl) {}
 };
 
 /// What was not done as asked.
@@ -68,6 +76,10 @@ public:
     WarningMessage(const std::wstring& text, const PPTObject& source);
     explicit WarningMessage(const MsgID& id);
     WarningMessage(const MsgID& id, const PPTObject& source);
+
+private:
+    friend class MessageImpl;
+    explicit WarningMessage(MessageImpl* impl) : Message(impl) {}
 };
 
 /// What went wrong without stopping the work.
@@ -77,6 +89,10 @@ public:
     ErrorMessage(const std::wstring& text, const PPTObject& source);
     explicit ErrorMessage(const MsgID& id);
     ErrorMessage(const MsgID& id, const PPTObject& source);
+
+private:
+    friend class MessageImpl;
+    explicit ErrorMessage(MessageImpl* impl) : Message(impl) {}
 };
 
 } // namespace vellox::ppt

@@ -30,6 +30,9 @@ public:
     void forgetSource() { source_.reset(); }
 
 protected:
+    template <class Kind> boost::shared_ptr<PPTObject> makeHandleOf() {
+        return boost::shared_ptr<PPTObject>(new Kind(this));
+    }
     bool passes(const MessageFilter& filter, bool kindPasses) const;
 
 private:

@@ -5,6 +5,7 @@
 #include "vellox/ppt/object/PPTNodeImpl.h"
 
 #include <algorithm>
+#include <boost/intrusive_ptr.hpp>
 #include <utility>
 
 namespace vellox::ppt {
@@ -12,20 +13,41 @@ namespace vellox::ppt {
 // PPTNodeImpl
 
 PPTNodeImpl::PPTNodeImpl(const PPTNodeImpl& other) : PPTObjectImpl(other) {
-    children_.reserve(other.children_.size());
-    for (const Child& child : other.children_) {
-        children_.push_back(child->clone());
-        implOf<PPTNodeImpl>(*children_.back())->parent_ = this;
+    // Listeners hear of the copies, and may change the list that is copied.
+    const Children sources = other.children_;
+    children_.reserve(sources.size());
+    try {
+        for (const Child& source : sources) {
+            children_.push_back(source->clone());
+            implOf<PPTNodeImpl>(*children_.back())->parent_ = this;
+        }
+    } catch (...) {
+        clearLinks();
+        throw;
     }
 }
 
 PPTNodeImpl::~PPTNodeImpl() {
+    clearLinks();
+    setParent(nullptr);
+}
+
+/// Nothing may link to this node once it has ended.
+void PPTNodeImpl::clearLinks() {
     for (const Child& child : children_)
         if (child)
             implOf<PPTNodeImpl>(*child)->parent_ = nullptr;
-    for (const auto& fallen : fallen_)
-        if (fallen->parent_ == this)
-            fallen->parent_ = nullptr;
+    if (!fallen_)
+        return;
+    for (PPTNodeImpl* node : *fallen_)
+        node->parent_ = nullptr;
+    fallen_.reset();
+}
+
+void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
+    if (parent_ && parent_ != parent && parent_->fallen_)
+        parent_->fallen_->erase(this);
+    parent_ = parent;
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
@@ -55,52 +77,55 @@ PPTNodeImpl::Children::iterator PPTNodeImpl::findChild(const PPTNode& node) {
 void PPTNodeImpl::insertChildBefore(const Child& child, const PPTNode& reference) {
     requireFree(*child);
     children_.insert(findChild(reference), child);
-    implOf<PPTNodeImpl>(*child)->parent_ = this;
+    implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
 void PPTNodeImpl::insertChildAt(const Child& child, unsigned int index) {
     requireFree(*child);
     children_.insert(index < children_.size() ? children_.begin() + index : children_.end(), child);
-    implOf<PPTNodeImpl>(*child)->parent_ = this;
+    implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
 void PPTNodeImpl::appendChild(const Child& child) {
     requireFree(*child);
     children_.push_back(child);
-    implOf<PPTNodeImpl>(*child)->parent_ = this;
+    implOf<PPTNodeImpl>(*child)->setParent(this);
+}
+
+void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
+    const Children sources = other.children_; // listeners may change the list
+    for (const Child& source : sources)
+        appendChild(source->clone());
 }
 
 void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
     // The list may hold the only reference to the former child, which has yet to lose its parent.
     const boost::intrusive_ptr<PPTNodeImpl> kept(implOf<PPTNodeImpl>(former));
     const auto place = findChild(former);
+    Child fallen = child;
     if (place != children_.end())
-        *place = child;
+        place->swap(fallen);
     else
         children_.push_back(child);
-    implOf<PPTNodeImpl>(*child)->parent_ = this;
-    kept->parent_ = nullptr;
+    implOf<PPTNodeImpl>(*child)->setParent(this);
+    kept->setParent(nullptr);
 }
 
 void PPTNodeImpl::setChildren(const Children& children) {
     for (const Child& child : children) {
         PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
         if (!node->parent_)
-            node->parent_ = this;
+            node->setParent(this);
     }
     const Children former = std::exchange(children_, children);
-    fallen_.erase(std::remove_if(fallen_.begin(), fallen_.end(),
-                                 [](const auto& fallen) { return fallen->getRefCount() == 1; }),
-                  fallen_.end());
-    for (const Child& child : former)
-        keepFallen(child);
-}
-
-void PPTNodeImpl::keepFallen(const Child& child) {
-    PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
-    const bool isHeldElsewhere = child.use_count() > 1 || node->getRefCount() > 1;
-    if (isHeldElsewhere && node->parent_ == this)
-        fallen_.emplace_back(node);
+    for (const Child& child : former) {
+        PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
+        if (node->parent_ != this)
+            continue;
+        if (!fallen_)
+            fallen_ = std::make_unique<std::unordered_set<PPTNodeImpl*>>();
+        fallen_->insert(node);
+    }
 }
 
 // PPTNode
@@ -129,7 +154,8 @@ unsigned int PPTNode::getNChildren() const {
 
 boost::shared_ptr<PPTNode> PPTNode::getParent() {
     PPTNodeImpl* parent = pimpl()->getParent();
-    return parent ? parent->makeInterface() : boost::shared_ptr<PPTNode>();
+    const bool isThere = parent && parent->getLife() != PPTObjectImpl::Life::Ending;
+    return isThere ? parent->makeInterface() : boost::shared_ptr<PPTNode>();
 }
 
 NodeType PPTNode::getNodeType() const {

@@ -4,10 +4,10 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
-#include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
+#include <memory>
 #include <string>
-#include <vector>
+#include <unordered_set>
 
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
@@ -51,6 +51,8 @@ public:
     virtual void insertChildAt(const Child& child, unsigned int index);
     virtual void appendChild(const Child& child);
     /// @}
+    /// Appends clones of another node's children.
+    void appendClones(const PPTNodeImpl& other);
     /// Puts a child in the place of another, or at the end if that isn't there; the other has no parent
     /// then. Whether the new child has a parent isn't asked.
     virtual void replaceChild(const PPTNode& former, const Child& child);
@@ -70,14 +72,15 @@ protected:
 private:
     Children::iterator findChild(const PPTNode& node);
     void requireFree(const PPTNode& child) const;
-    void keepFallen(const Child& child);
+    void setParent(PPTNodeImpl* parent);
+    void clearLinks();
 
     PPTNodeImpl* parent_ = nullptr;
     Children children_;
     std::wstring name_;
-    // Children that fell out of the list, as long as somebody else holds them: their links must not outlive
-    // this node.
-    std::vector<boost::intrusive_ptr<PPTNodeImpl>> fallen_;
+    // Nodes that fell out of the list and still link to this one, which must not outlive it. They aren't owned:
+    // each leaves the set when it ends or gets another parent.
+    std::unique_ptr<std::unordered_set<PPTNodeImpl*>> fallen_;
 };
 
 } // namespace vellox::ppt

@@ -6,6 +6,8 @@
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 
+#include <vector>
+
 namespace vellox::ppt {
 
 // BaseTextBoxImpl
@@ -62,20 +64,33 @@ Child freeOrClone(const Child& node) {
     return implOf<PPTNodeImpl>(*node)->getParent() ? node->clone() : node;
 }
 
+// A list whose items are being taken.
+struct OpenList {
+    boost::shared_ptr<HvList> list;
+    unsigned int level; // 1 at the top
+    unsigned int next = 0;
+};
+
 // Turns the items of a list into paragraph nodes, in order, and those of the lists in it, which stand one
-// level deeper.
-void collectParagraphs(PPTNodeImpl::Children& target, const boost::shared_ptr<HvList>& list, bool isNested,
-                       unsigned int level) {
+// level deeper, however deep that is.
+void collectParagraphs(PPTNodeImpl::Children& target, const boost::shared_ptr<HvList>& list) {
     if (!list)
         raise(ppt_error::invalidReplaceArg());
-    for (unsigned int i = 0; i < list->getSize(); ++i) {
-        const HvContentPtr item = list->getItem(i);
+    std::vector<OpenList> open{{list, 1}};
+    while (!open.empty()) {
+        OpenList& current = open.back();
+        if (current.next >= current.list->getSize()) {
+            open.pop_back();
+            continue;
+        }
+        const HvContentPtr item = current.list->getItem(current.next++);
+        const unsigned int level = current.level;
         if (const auto sublist = ListContent::cast(item)) {
-            collectParagraphs(target, sublist->getValue(), true, isNested ? level + 1 : 2);
+            open.push_back({sublist->getValue(), level + 1});
             continue;
         }
         const Child node = freeOrClone(contentToParagraph(item));
-        if (isNested)
+        if (level > 1)
             implOf<ParagraphImpl>(*node)->setLevel(level);
         target.push_back(node);
     }
@@ -84,7 +99,7 @@ void collectParagraphs(PPTNodeImpl::Children& target, const boost::shared_ptr<Hv
 } // namespace
 
 void BaseTextBoxImpl::addList(const boost::shared_ptr<HvList>& list) {
-    collectParagraphs(children(), list, false, 0);
+    collectParagraphs(children(), list);
 }
 
 void BaseTextBoxImpl::add(const HvContentPtr& content) {
@@ -103,7 +118,7 @@ Paragraph BaseTextBoxImpl::add(const std::wstring& text) {
 
 void BaseTextBoxImpl::replaceList(const boost::shared_ptr<HvList>& list) {
     Children paragraphs;
-    collectParagraphs(paragraphs, list, false, 0);
+    collectParagraphs(paragraphs, list);
     setChildren(paragraphs);
 }
 

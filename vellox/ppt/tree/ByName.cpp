@@ -38,11 +38,13 @@ void forEach(const PPTNode& start, const std::wstring& name, bool Row::*takes, A
 
 } // namespace
 
-void addByName(const PPTNode& start, const std::wstring& name, const std::wstring& text) {
+// Texts and paragraphs come by value: what the first box loses may be the very thing that was given.
+
+void addByName(const PPTNode& start, const std::wstring& name, std::wstring text) {
     forEach<BaseTextBoxImpl>(start, name, &Row::takesText, [&](BaseTextBoxImpl& box) { box.add(text); });
 }
 
-void addByName(const PPTNode& start, const std::wstring& name, const Paragraph& paragraph) {
+void addByName(const PPTNode& start, const std::wstring& name, Paragraph paragraph) {
     forEach<BaseTextBoxImpl>(start, name, &Row::takesText, [&](BaseTextBoxImpl& box) {
         if (implOf<PPTNodeImpl>(paragraph)->getParent())
             box.add(static_cast<const Paragraph&>(*paragraph.clone()));
@@ -51,11 +53,11 @@ void addByName(const PPTNode& start, const std::wstring& name, const Paragraph& 
     });
 }
 
-void replaceByName(const PPTNode& start, const std::wstring& name, const std::wstring& text) {
+void replaceByName(const PPTNode& start, const std::wstring& name, std::wstring text) {
     forEach<BaseTextBoxImpl>(start, name, &Row::takesText, [&](BaseTextBoxImpl& box) { box.replace(text); });
 }
 
-void replaceByName(const PPTNode& start, const std::wstring& name, const Paragraph& paragraph) {
+void replaceByName(const PPTNode& start, const std::wstring& name, Paragraph paragraph) {
     forEach<BaseTextBoxImpl>(start, name, &Row::takesText,
                              [&](BaseTextBoxImpl& box) { box.replace(paragraph); });
 }

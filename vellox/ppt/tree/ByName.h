@@ -15,14 +15,14 @@
 namespace vellox::ppt {
 
 /// Text boxes and placeholders, but for those of tables, each get a new paragraph.
-void addByName(const PPTNode& start, const std::wstring& name, const std::wstring& text);
+void addByName(const PPTNode& start, const std::wstring& name, std::wstring text);
 /// The same boxes get the paragraph: the first one the object itself unless it has a parent, the others
 /// copies.
-void addByName(const PPTNode& start, const std::wstring& name, const Paragraph& paragraph);
+void addByName(const PPTNode& start, const std::wstring& name, Paragraph paragraph);
 /// The same boxes lose what they hold for a new paragraph.
-void replaceByName(const PPTNode& start, const std::wstring& name, const std::wstring& text);
+void replaceByName(const PPTNode& start, const std::wstring& name, std::wstring text);
 /// The same boxes lose what they hold for the paragraph, or a copy of it.
-void replaceByName(const PPTNode& start, const std::wstring& name, const Paragraph& paragraph);
+void replaceByName(const PPTNode& start, const std::wstring& name, Paragraph paragraph);
 /// The same boxes, tables and their placeholders get other content.
 void replaceByName(const PPTNode& start, const std::wstring& name, const HvContentPtr& content);
 

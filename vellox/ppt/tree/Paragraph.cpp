@@ -19,11 +19,6 @@ ParagraphImpl::ParagraphImpl(const BaseAttribute<unsigned int>& level) : level_(
     announceCreated(*this);
 }
 
-ParagraphImpl::ParagraphImpl(const HvContentPtr& content) {
-    announceCreated(*this);
-    appendChild((new TextImpl(content))->makeInterface());
-}
-
 ParagraphImpl::ParagraphImpl(const ParagraphImpl& other) : ElementImpl(other), level_(other.level_) {
     announceCreated(*this);
 }
@@ -59,7 +54,9 @@ PPTNodeImpl::Child makeParagraph() {
 }
 
 PPTNodeImpl::Child makeParagraph(const HvContentPtr& content) {
-    return (new ParagraphImpl(content))->makeInterface();
+    const PPTNodeImpl::Child paragraph = makeParagraph();
+    implOf<ParagraphImpl>(*paragraph)->appendChild((new TextImpl(content))->makeInterface());
+    return paragraph;
 }
 
 PPTNodeImpl::Child getParagraphObject(const HvContentPtr& content) {

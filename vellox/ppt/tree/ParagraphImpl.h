@@ -15,7 +15,6 @@ public:
     ParagraphImpl();
     explicit ParagraphImpl(const BaseAttribute<unsigned int>& level);
     /// One run of the content.
-    explicit ParagraphImpl(const HvContentPtr& content);
     ParagraphImpl(const ParagraphImpl& other);
     ~ParagraphImpl() override;
 

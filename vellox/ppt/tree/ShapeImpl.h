@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_TREE_SHAPEIMPL_H
 #define VELLOX_PPT_TREE_SHAPEIMPL_H
 
+#include <boost/intrusive_ptr.hpp>
+
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/engine/TemplateRecords.h"
 #include "vellox/ppt/object/ElementImpl.h"
@@ -55,11 +57,16 @@ private:
 };
 
 template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
-    PPTNodeImpl* slide = findSlide();
+    const boost::intrusive_ptr<PPTNodeImpl> slide(findSlide());
     if (!slide)
         return given;
+    const Child self = makeInterface();
     const Child replacement = (new Impl(*this, takeName, *implOf<Impl>(given)))->makeInterface();
-    slide->replaceChild(*makeInterface(), replacement);
+    implOf<Impl>(*replacement)->appendClones(*implOf<Impl>(given));
+    // Listeners have heard of new objects, and may have given this one's place to another.
+    if (findSlide() != slide.get())
+        return given;
+    slide->replaceChild(*self, replacement);
     return static_cast<const Facade&>(*replacement);
 }
 

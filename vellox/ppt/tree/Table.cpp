@@ -36,8 +36,6 @@ TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl
       colSpecs_(table.colSpecs_) {
     setStyle(table.getStyle());
     announceCreated(*this);
-    for (const Child& row : table.getChildren())
-        appendChild(row->clone());
 }
 
 TableImpl::TableImpl(const TableImpl& other)

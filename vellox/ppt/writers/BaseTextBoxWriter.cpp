@@ -75,7 +75,11 @@ DOMElement* BaseTextBoxWriter::getSpPr() {
     return spPr_;
 }
 
+// A shape has one fill: what a template's shape has instead, such as a:noFill, gives way.
 DOMElement* BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
+    for (const XMLCh* other :
+         {xml::kANoFill, xml::kAGradFill, xml::kABlipFill, xml::kAPattFill, xml::kAGrpFill})
+        removeChildElements(getSpPr(), other);
     DOMElement* child = createElement(name);
     DOMElement* former = findChild(getSpPr(), name);
     if (former)

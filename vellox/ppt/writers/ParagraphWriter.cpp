@@ -5,9 +5,18 @@
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 
+#include <algorithm>
+
 namespace vellox::ppt {
 
 using namespace xercesc;
+
+namespace {
+
+// The format knows no more levels; lists may be nested deeper.
+constexpr unsigned int kDeepestLevel = 9;
+
+} // namespace
 
 ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(paragraph, writer, parentNode),
@@ -18,7 +27,7 @@ void ParagraphWriter::write() {
     DOMElement* element = createElement(xml::kAP);
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
-        setAttribute(getPPr(), xml::kLvl, num2str(level.get() - 1));
+        setAttribute(getPPr(), xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
     if (pPr_)
         element->appendChild(pPr_);
     for (const auto& child : paragraph_.getChildren())

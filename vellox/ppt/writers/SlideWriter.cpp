@@ -1,10 +1,15 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
 #include "vellox/ppt/engine/PPTPartWriter.h"
+#include "vellox/ppt/engine/SlideDocuments.h"
 #include "vellox/ppt/engine/TemplateRecords.h"
 #include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+
+#include <set>
+#include <utility>
 
 namespace vellox::ppt {
 
@@ -17,12 +22,12 @@ void SlideWriter::write() {
     if (!record || !record->document)
         return;
     getWriter().enterSlide(record);
+    declarePrefixes(record->document->getDocumentElement());
     if (xercesc::DOMElement* data = findChild(record->document->getDocumentElement(), xml::kCSld))
         setAttribute(data, xml::kName, slide_.getName());
     if (record->partName.empty())
         record->partName = getPartWriter().createSlidePart(*record);
-    for (const auto& child : slide_.getChildren())
-        child->acceptWriter(&getWriter(), nullptr);
+    writeShapes(*record);
     // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
     // and may have been stripped of its text.
     for (const auto& entry : record->elementsByUid) {
@@ -31,6 +36,22 @@ void SlideWriter::write() {
     }
     getPartWriter().writeDocument(record->partName, record->document.get());
     getWriter().leaveSlide();
+}
+
+// An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same
+// mark, is a shape of its own.
+void SlideWriter::writeShapes(TemplateSlide& record) {
+    const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
+    std::set<std::wstring> taken;
+    for (const auto& shape : shapes) {
+        const auto* impl = implAs<ShapeImpl>(*shape);
+        const std::wstring uid = impl ? impl->getTemplateUid() : std::wstring();
+        const bool isCopy = !uid.empty() && !taken.insert(uid).second;
+        auto hidden = isCopy ? record.elementsByUid.extract(uid) : ElementMap::node_type();
+        shape->acceptWriter(&getWriter(), nullptr);
+        if (hidden)
+            record.elementsByUid.insert(std::move(hidden));
+    }
 }
 
 } // namespace vellox::ppt

@@ -9,6 +9,7 @@
 namespace vellox::ppt {
 
 class SlideImpl;
+struct TemplateSlide;
 
 class SlideWriter : public ElementWriter {
 public:
@@ -16,6 +17,8 @@ public:
     void write() override;
 
 private:
+    void writeShapes(TemplateSlide& record);
+
     const SlideImpl& slide_;
 };
 

@@ -29,15 +29,16 @@ TableWriter::TableWriter(const TableImpl& table, PPTWriter& writer, DOMNode* par
 void TableWriter::write() {
     if (!getCurrentSlide())
         return;
-    getWriter().enterTable(table_);
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
         return;
     }
+    const std::wstring* styleId = findTableStyle();
+    getWriter().enterTable(table_);
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
-    if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
-        reportMissingStyle();
+    if (styleId)
+        applyTableStyle(tbl, *styleId);
     for (const auto& row : table_.getChildren())
         row->acceptWriter(&getWriter(), tbl);
     updateGrid(tbl);
@@ -58,25 +59,26 @@ DOMElement* TableWriter::makeFrame() {
     return frame;
 }
 
-bool TableWriter::applyTableStyle(DOMElement* tbl) const {
+// Reports a style that the template doesn't have. That comes ahead of all else: listeners may change the table.
+const std::wstring* TableWriter::findTableStyle() const {
+    if (!table_.getStyleName().isSet())
+        return nullptr;
     const std::wstring* styleId = getModel().findTableStyleId(table_.getStyleName().get());
-    if (!styleId)
-        return false;
+    if (!styleId && wantsErrors()) {
+        const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
+        MessageDispatcher::getTheDispatcher().dispatch(
+            ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
+    }
+    return styleId;
+}
+
+void TableWriter::applyTableStyle(DOMElement* tbl, const std::wstring& styleId) const {
     DOMElement* properties = findChild(tbl, xml::kATblPr);
     if (!properties) {
         properties = createElement(xml::kATblPr);
         tbl->insertBefore(properties, tbl->getFirstChild());
     }
-    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(*styleId));
-    return true;
-}
-
-void TableWriter::reportMissingStyle() const {
-    if (!wantsErrors())
-        return;
-    const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
-    MessageDispatcher::getTheDispatcher().dispatch(
-        ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
+    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(styleId));
 }
 
 void TableWriter::updateGrid(DOMElement* tbl) const {
