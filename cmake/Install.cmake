@@ -23,5 +23,7 @@ install(FILES ${PROJECT_BINARY_DIR}/velloxConfig.cmake ${PROJECT_BINARY_DIR}/vel
         DESTINATION ${package_dir}
 )
 
+# From the file's own place, so that it holds whatever prefix is installed to.
+file(RELATIVE_PATH VELLOX_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/vellox.pc.in ${PROJECT_BINARY_DIR}/vellox.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vellox.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

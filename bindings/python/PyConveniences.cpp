@@ -10,13 +10,14 @@ PyObject* enter(PyObject* self, PyObject*) {
     return PyRef::share(self).release();
 }
 
-/// Closes the presentation, unless the block was left by an error.
+/// Closes the presentation, unless the block was left by an error. One that nothing has opened yet becomes a copy of
+/// its template all the same.
 PyObject* leave(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
     const bool isSuccess = count == 0 || arguments[0] == Py_None;
     if (isSuccess) {
-        const PyRef closed = PyRef::take(PyObject_CallMethod(self, "close", nullptr));
-        if (!closed)
-            return nullptr;
+        for (const char* step : {"open", "close"})
+            if (!PyRef::take(PyObject_CallMethod(self, step, nullptr)))
+                return nullptr;
     }
     return PyRef::share(Py_False).release();
 }

@@ -69,7 +69,7 @@ PyObject* makeModule() {
     hostbind::setHostClassSystem(&PyClassSystem::get());
     HostInitialize_vellox_ppt();
     PyClassSystem::get().addTypes(module.get());
-    if (PyModule_AddStringConstant(module.get(), "__version__", vellox_ppt_version) < 0)
+    if (PyModule_AddStringConstant(module.get(), "__version__", VELLOX_VERSION) < 0)
         throw PythonError();
     callAtExit();
     return module.release();

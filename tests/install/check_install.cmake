@@ -28,8 +28,7 @@ endif()
 file(GLOB_RECURSE pc ${WORK}/prefix/*/vellox.pc)
 get_filename_component(pc_folder ${pc} DIRECTORY)
 execute_process(
-    COMMAND ${CMAKE_COMMAND} -E env PKG_CONFIG_PATH=${pc_folder} pkg-config --define-variable=prefix=${WORK}/prefix
-            --cflags --libs vellox
+    COMMAND ${CMAKE_COMMAND} -E env PKG_CONFIG_PATH=${pc_folder} pkg-config --cflags --libs vellox
     OUTPUT_VARIABLE flags COMMAND_ERROR_IS_FATAL ANY
 )
 separate_arguments(flags UNIX_COMMAND "${FLAGS} ${flags}")

@@ -61,6 +61,9 @@ def test_with_closes_only_on_success(tmp_path):
         deck.add("Blank")
         deck.close()
     assert not deck.close()
+    with ppt.Presentation(tmp_path / "decks" / "bare.pptx") as deck:
+        pass
+    assert (tmp_path / "decks" / "bare.pptx").exists()
     with pytest.raises(ppt.FileError):
         with ppt.Presentation(path) as deck:
             deck.add("Blank")

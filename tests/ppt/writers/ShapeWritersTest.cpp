@@ -96,6 +96,32 @@ TEST_F(ShapeWritersTest, PicturesWithoutAFileAreNoError) {
     EXPECT_NE(shapeXml(1, "Picture").find("<p:txBody>"), std::string::npos); // the placeholder stays
 }
 
+TEST_F(ShapeWritersTest, ShortRowsAreFilledUp) {
+    Table table = makeTable(1, 3);
+    TableRow shortRow;
+    shortRow.append(TableEntry(L"alone"));
+    table.append(shortRow);
+    table.append(TableRow());
+    deck.add(L"Blank").add(table);
+    close();
+    for (const std::string& row : findAll(slideXml(1), "a:tr"))
+        EXPECT_EQ(findAll("<r xmlns:a='a'>" + row + "</r>", "a:tc").size(), 3u);
+}
+
+// A copy of what took a placeholder's place has a place of its own.
+TEST_F(ShapeWritersTest, CopiesOfReplacementsAreFreeShapes) {
+    writeFile(folder / L"a.png", makePng());
+    Slide first = deck.add(L"Title and Picture");
+    Slide second = deck.add(L"Title and Picture");
+    for (Slide slide : {first, second})
+        slide.replace(L"Picture", object(Picture(folder / L"a.png")));
+    const auto copy = boost::dynamic_pointer_cast<Picture>(first.getChildren().back()->clone());
+    second.add(*copy);
+    close();
+    EXPECT_EQ(findAll(slideXml(1), "p:pic").size(), 1u);
+    EXPECT_EQ(findAll(slideXml(2), "p:pic").size(), 2u);
+}
+
 TEST_F(ShapeWritersTest, TablesStandFreeOrInPlace) {
     Slide slide = deck.add(L"Title and Table");
     slide.replace(L"Table", object(makeTable(1, 2)));

@@ -29,7 +29,8 @@ BoundClass describeText(const char* name, const char* superclass, const char* do
 
 BoundClass describeFontFamily() {
     BoundClass bound = describe<FontFamily>("FontFamily", "Format",
-                                            "The fonts of text, \"Times New Roman\" and none by default.");
+                                            "The fonts of text, \"Times New Roman\" and none by default. One "
+                                            "font alone is passed over: give two, or set Font.");
     bound.constructors = {make<FontFamily>(), make<FontFamily, std::wstring>("font"),
                           make<FontFamily, std::wstring, std::wstring>("font, complexScriptFont")};
     bound.properties = {

@@ -139,7 +139,7 @@ const SpellingTable& getUnderlines() {
         {L"dash", L"dash", u"dash"},
         {L"dashheavy", L"dashHeavy", u"dashHeavy"},
         {L"dashlong", L"dashLong", u"dashLong"},
-        // The capital in this key is no slip: the style can't be asked for, and decks depend on the refusal.
+        // The capital in this key is no slip: no text in lower case finds it, so that the style is refused.
         {L"dashlongHeavy", L"dashLongHeavy", u"dashLongHeavy"},
         {L"dotdash", L"dotDash", u"dotDash"},
         {L"dotdashheavy", L"dotDashHeavy", u"dotDashHeavy"},

@@ -132,7 +132,7 @@ protected:
 class VELLOX_API FontFamily : public Format {
 public:
     FontFamily();
-    /// The default fonts, whatever the argument: scripts have come to rely on it. Use setFont().
+    /// The default fonts, whatever the argument. Use setFont(), or the constructor with two fonts.
     explicit FontFamily(const std::wstring& font);
     FontFamily(const std::wstring& font, const std::wstring& complexScriptFont);
     const std::wstring& getFont() const;

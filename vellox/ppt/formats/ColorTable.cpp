@@ -5,7 +5,7 @@
 namespace vellox::ppt {
 
 // The extended colour keywords of CSS, but for two: "mediumpurple" and "palevioletred" have the values that
-// they had in early drafts, and decks that exist depend on them.
+// they had in early drafts.
 const wchar_t* findColor(const std::wstring& name) {
     // clang-format off
     static const std::unordered_map<std::wstring, const wchar_t*> colors{

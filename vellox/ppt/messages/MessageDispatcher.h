@@ -53,7 +53,8 @@ public:
 
     /// Adds a listener. The source of a message about an object's end is all but gone: its tag may be read,
     /// and no handle on it may be kept beyond the listener's call. What a listener throws on such a message
-    /// becomes a warning, since an end can't be stopped.
+    /// becomes a warning, since an end can't be stopped. A listener that throws on a message about an object's
+    /// making ends the object: no handle on it, and no message about it, may have been kept then.
     ListenerToken addListener(const Listener& listener);
     /// Does nothing for a token that names no listener.
     void removeListener(ListenerToken token);

@@ -26,15 +26,15 @@ public:
     explicit BaseAttribute(const T& value) : value_(value) {}
 
     bool isSet() const override { return value_.has_value(); }
-    void unset() override { value_.reset(); }
+    void unset() override { std::optional<T>().swap(value_); }
     bool hasValue() const override { return isSet(); }
-    virtual void set(const T& value) { value_ = value; }
+    virtual void set(const T& value) { std::optional<T>(value).swap(value_); }
     /// The value.
     /// @throws std::bad_optional_access if there is none
     const T& get() const { return value_.value(); }
 
 private:
-    std::optional<T> value_;
+    std::optional<T> value_; // a former value ends last: what ends with it may ask for this attribute
 };
 
 } // namespace vellox::ppt

@@ -12,7 +12,7 @@ namespace vellox::ppt {
 
 class GroupImpl;
 
-/// A group of a template slide. What it holds can be found by name, and stays in the file as the template has
+/// A group of a template slide. What it holds can be found by name, but stays in the file as the template has
 /// it. A handle: copies share one group.
 class VELLOX_API Group : public Shape {
 public:

@@ -24,8 +24,9 @@ class SlideImpl;
 ///     slide.replace(L"Title", L"Results");
 ///     slide.add(L"Content", L"First point");
 ///
-/// The operations by name act on every shape that bears the name, those in groups among them; a shape that
-/// doesn't take what is given is passed over, and a name that nothing bears does nothing.
+/// The operations by name act on every shape that bears the name, those in groups among them, though these stay
+/// in the file as the template has them. A shape that doesn't take what is given is passed over, and a name that
+/// nothing bears does nothing.
 class VELLOX_API Slide : public Element {
 public:
     /// @{ Puts this very object on the slide, on top of what is there.
