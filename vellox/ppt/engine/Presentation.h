@@ -88,12 +88,13 @@ public:
 
     /// The names of the slide masters (of their themes), in the template's order.
     const Names getMasterNames();
-    /// The names of a master's layouts, in the template's order; none for an unknown master.
+    /// The names of a master's layouts, in the order of the master's relationships; none for an unknown master.
     const Names getLayoutNames(const std::wstring& masterName);
     /// (name, id) of each table style of the template.
     const NamePairs getTableStyleNames();
 
-    /// @{ As last set, with "/" as separator.
+    /// @{ As last set, with "/" as separator; once the presentation is open with the folder and the extension
+    /// that it was opened with.
     const std::wstring getOutputPath() const;
     const std::wstring getTemplatePath() const;
     /// @}

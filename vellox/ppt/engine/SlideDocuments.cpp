@@ -132,7 +132,8 @@ std::vector<std::wstring> collectRelationshipIds(DOMDocument& document) {
         const DOMNamedNodeMap* attributes = element->getAttributes();
         for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
             const DOMNode* attribute = attributes->item(i);
-            if (XMLString::startsWith(attribute->getNodeName(), xml::kRPrefix))
+            if (XMLString::startsWith(attribute->getNodeName(), xml::kRPrefix) ||
+                XMLString::equals(attribute->getNamespaceURI(), xml::kRelationshipsUri))
                 ids.insert(opc::toWideString(attribute->getNodeValue()));
         }
     }

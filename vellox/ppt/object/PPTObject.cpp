@@ -34,7 +34,9 @@ PPTObjectImpl::PPTObjectImpl(const PPTObjectImpl& other) : Wrappable(other), id_
         setClient(other.client_->clone());
 }
 
-PPTObjectImpl::~PPTObjectImpl() = default;
+PPTObjectImpl::~PPTObjectImpl() {
+    setClient({});
+}
 
 const char* PPTObjectImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Object";
@@ -52,6 +54,8 @@ std::wstring PPTObjectImpl::getTag() const {
 }
 
 void PPTObjectImpl::setClient(const boost::shared_ptr<PPTClientImpl>& client) {
+    if (client_ && client_->object_ == this)
+        client_->object_ = nullptr; // somebody may hold it longer
     client_ = client;
     if (client_)
         client_->object_ = this;
