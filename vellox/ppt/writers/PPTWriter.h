@@ -78,7 +78,8 @@ public:
     /// The record of the slide being written; empty before the first.
     const boost::shared_ptr<TemplateSlide>& getCurrentSlide() const { return currentSlide_; }
     void enterSlide(const boost::shared_ptr<TemplateSlide>& slide);
-    /// Lets go of the document of the slide, whose part holds it now: a deck is never in memory as a whole.
+    /// Lets go of the document of the slide, whose part holds it now. Only slides of the template are kept as they
+    /// were, since nothing else could bring them back.
     void leaveSlide();
 
     const TableContext& getTableContext() const { return tableContext_; }
