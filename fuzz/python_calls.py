@@ -69,6 +69,16 @@ class Caller:
         chosen = self.draw.choice(CLASSES)
         self.keep(chosen(*self.pick_arguments(chosen.__doc__)))
 
+    def close_deck(self):
+        """A deck whose closing is heard of: a table has a style that the template doesn't have."""
+        deck = ppt.Presentation("closed.pptx")
+        slide = deck.add("Title and Table")
+        table = slide.find("Table")[0].replace(ppt.Table([["a", "b"], ["c", "d"]]))
+        table.StyleName = "No such style"
+        slide.add(ppt.TextBox())
+        self.objects += [deck, slide, table]
+        deck.close()
+
     def drop(self):
         self.objects.pop(self.draw.randrange(len(self.objects)))
 
@@ -101,8 +111,8 @@ class Caller:
             return
         self.depth += 1
         try:
-            steps = [self.make, self.drop, self.change_listening, self.forget_ended, self.use]
-            step = self.draw.choices(steps, [15, 13, 4, 2, 66])[0]
+            steps = [self.make, self.close_deck, self.drop, self.change_listening, self.forget_ended, self.use]
+            step = self.draw.choices(steps, [15, 1, 13, 4, 2, 65])[0]
             if len(self.objects) > MOST_OBJECTS:
                 step = self.drop
             elif len(self.objects) < 2:
