@@ -76,6 +76,23 @@ bool PyClassSystem::isValid(const objreg::HostInterface& hostObject) const {
 
 // Listeners
 
+namespace {
+
+/// A flag that is up while this lives.
+class Raised {
+public:
+    explicit Raised(bool& flag) : flag_(flag), former_(std::exchange(flag, true)) {}
+    ~Raised() { flag_ = former_; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+private:
+    bool& flag_;
+    bool former_;
+};
+
+} // namespace
+
 void PyClassSystem::fireEvent(objreg::HostInterface& hostObject, const BoundEvent&,
                               const MessageEventData& payload) {
     const auto source = payload.getMessage().getSource();
@@ -83,12 +100,10 @@ void PyClassSystem::fireEvent(objreg::HostInterface& hostObject, const BoundEven
     // A listener that makes objects of its own doesn't hear of their lives, or it would never come to an end.
     if (isListenerRunning_ && (isMade || (source && BindingRegistry::isEnding(*source))))
         return;
-    const bool former = std::exchange(isListenerRunning_, true);
+    const Raised running(isListenerRunning_);
     try {
         callListeners(static_cast<PySlot&>(hostObject).getOwner(), payload);
-        isListenerRunning_ = former;
     } catch (const PythonError& failure) {
-        isListenerRunning_ = former;
         if (!isMade)
             throw;
         if (!failure_)

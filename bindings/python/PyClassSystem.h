@@ -8,6 +8,7 @@
 #include <deque>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "bindings/python/PyClass.h"
 #include "bindings/python/PyErrors.h"
