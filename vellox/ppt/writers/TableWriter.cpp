@@ -29,16 +29,15 @@ TableWriter::TableWriter(const TableImpl& table, PPTWriter& writer, DOMNode* par
 void TableWriter::write() {
     if (!getCurrentSlide())
         return;
+    getWriter().enterTable(table_);
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
         return;
     }
-    const std::wstring* styleId = findTableStyle();
-    getWriter().enterTable(table_);
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
-    if (styleId)
-        applyTableStyle(tbl, *styleId);
+    if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
+        reportMissingStyle();
     for (const auto& row : table_.getChildren())
         row->acceptWriter(&getWriter(), tbl);
     updateGrid(tbl);
@@ -59,26 +58,25 @@ DOMElement* TableWriter::makeFrame() {
     return frame;
 }
 
-// Reports a style that the template doesn't have. That comes ahead of all else: listeners may change the table.
-const std::wstring* TableWriter::findTableStyle() const {
-    if (!table_.getStyleName().isSet())
-        return nullptr;
+bool TableWriter::applyTableStyle(DOMElement* tbl) const {
     const std::wstring* styleId = getModel().findTableStyleId(table_.getStyleName().get());
-    if (!styleId && wantsErrors()) {
-        const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
-        MessageDispatcher::getTheDispatcher().dispatch(
-            ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
-    }
-    return styleId;
-}
-
-void TableWriter::applyTableStyle(DOMElement* tbl, const std::wstring& styleId) const {
+    if (!styleId)
+        return false;
     DOMElement* properties = findChild(tbl, xml::kATblPr);
     if (!properties) {
         properties = createElement(xml::kATblPr);
         tbl->insertBefore(properties, tbl->getFirstChild());
     }
-    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(styleId));
+    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(*styleId));
+    return true;
+}
+
+void TableWriter::reportMissingStyle() const {
+    if (!wantsErrors())
+        return;
+    const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
+    MessageDispatcher::getTheDispatcher().dispatch(
+        ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
 }
 
 void TableWriter::updateGrid(DOMElement* tbl) const {

@@ -19,8 +19,8 @@ public:
 
 private:
     xercesc::DOMElement* makeFrame();
-    const std::wstring* findTableStyle() const;
-    void applyTableStyle(xercesc::DOMElement* tbl, const std::wstring& styleId) const;
+    bool applyTableStyle(xercesc::DOMElement* tbl) const;
+    void reportMissingStyle() const;
     void updateGrid(xercesc::DOMElement* tbl) const;
 
     const TableImpl& table_;
