@@ -14,7 +14,8 @@ using namespace vellox::ppt;
 
 /// An object with one attribute that holds a Python object, as lean as a getset can be.
 struct Bare {
-    PyObject_HEAD PyObject* value;
+    PyObject_HEAD
+    PyObject* value;
 };
 
 PyObject* getValue(PyObject* self, void*) {

@@ -43,7 +43,8 @@ private:
 
 /// The layout of the Python objects: first what Python itself looks into.
 struct PyInstanceHead {
-    PyObject_HEAD PyObject* weakReferences;
+    PyObject_HEAD
+    PyObject* weakReferences;
 };
 struct PyInstance {
     PyInstanceHead head;

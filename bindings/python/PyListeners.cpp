@@ -44,10 +44,10 @@ void finalize(PyObject* self) {
 /// Gives the listeners to a new Python object of the same object of the library, which is kept.
 void passListenersOn(PyObject* self) {
     const ObjectPtr object = slotOf(self).getProxy();
-    const PyRef listeners = takeListeners(self);
+    PyRef listeners = takeListeners(self);
     slotOf(self).drop();
     const PyRef successor = toPython(object);
-    asListening(successor.get()).listeners = PyRef(listeners).release();
+    asListening(successor.get()).listeners = listeners.release();
     PyClassSystem::get().keepListening(successor);
 }
 
@@ -133,9 +133,8 @@ PyMethodDef* getListeningMethods() {
     static PyMethodDef methods[] = {
         {"addListener", addListener, METH_O,
          "addListener(listener: Callable[[MessageEventData], object]) -> None\n"
-         "    Lets a callable hear every message that passes the filter. What it raises reaches whoever "
-         "caused\n"
-         "    the message."},
+         "    Lets a callable hear every message that passes the filter. What it raises reaches\n"
+         "    whoever caused the message."},
         {"removeListener", removeListener, METH_O,
          "removeListener(listener: Callable[[MessageEventData], object]) -> None\n"
          "    Takes a listener off again. Does nothing for one that isn't listening."},

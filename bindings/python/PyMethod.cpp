@@ -38,7 +38,8 @@ struct Overloads {
 };
 
 struct MethodObject {
-    PyObject_HEAD vectorcallfunc call;
+    PyObject_HEAD
+    vectorcallfunc call;
     const Overloads* overloads;
 };
 

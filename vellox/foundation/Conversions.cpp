@@ -170,8 +170,8 @@ void replaceAll(std::wstring& text, const std::wstring& from, const std::wstring
 }
 
 std::wstring uuid_gen() {
-    boost::uuids::basic_random_generator<boost::mt19937>
-        draw; // seeded anew: a forked process must draw others
+    // Seeded anew each time: a forked process must draw others.
+    boost::uuids::basic_random_generator<boost::mt19937> draw;
     const boost::uuids::uuid id = draw();
     return id.is_nil() ? std::wstring() : toString(to_string(id));
 }

@@ -20,7 +20,8 @@ struct UnitRow {
     double twips;
 };
 
-// Indexed by Dimension::Units. These are products of rounded ratios on purpose: don't mend 0.0139 to 1/72. There is no twips factor for EMU, and none is wanted.
+// Indexed by Dimension::Units. These are products of rounded ratios on purpose: don't mend 0.0139 to 1/72.
+// There is no twips factor for EMU, and none is wanted.
 constexpr std::array<UnitRow, 10> kUnits{{
     {L"px", 9525, 1, (1.0 / 150) * 1440},
     {L"in", 914400, 150, 1440},

@@ -275,9 +275,9 @@ BoundProperty formatProperty(const char* name, const char* doc) {
 /// The start of a class's row; the lists come behind.
 /// @param superclass without its package
 template <class C> BoundClass describe(const char* name, const char* superclass, const char* doc) {
-    const auto isInstance = [](const PPTObject& object) {
+    const auto isInstance = []([[maybe_unused]] const PPTObject& object) {
         if constexpr (std::is_same<C, PPTObject>::value)
-            return (static_cast<void>(object), true);
+            return true;
         else
             return dynamic_cast<const C*>(&object) != nullptr;
     };

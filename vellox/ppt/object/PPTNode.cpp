@@ -99,12 +99,12 @@ void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
 }
 
 void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
-    // The list may hold the only reference to the former child, which has yet to lose its parent.
+    // The list may hold the only references to the former child and its handle, which end when all is in order.
     const boost::intrusive_ptr<PPTNodeImpl> kept(implOf<PPTNodeImpl>(former));
     const auto place = findChild(former);
-    Child fallen = child;
+    Child outgoing = child;
     if (place != children_.end())
-        place->swap(fallen);
+        place->swap(outgoing);
     else
         children_.push_back(child);
     implOf<PPTNodeImpl>(*child)->setParent(this);

@@ -14,7 +14,6 @@ class ParagraphImpl : public ElementImpl {
 public:
     ParagraphImpl();
     explicit ParagraphImpl(const BaseAttribute<unsigned int>& level);
-    /// One run of the content.
     ParagraphImpl(const ParagraphImpl& other);
     ~ParagraphImpl() override;
 

@@ -72,28 +72,12 @@ NodeType TableImpl::getNodeType() const {
 
 namespace {
 
-// The paragraph node for a cell. Unlike an item of a list, an object that is no paragraph leaves the cell
-// empty instead of being described in it.
+// The paragraph node for a cell. It is that of a list's item, but for what would be described there: here it leaves
+// the cell empty.
 PPTNodeImpl::Child cellToParagraph(const HvContentPtr& content) {
-    if (!content)
-        return makeParagraph();
-    switch (content->getContentType()) {
-    case HvContent::Integer:
-    case HvContent::Double:
-    case HvContent::String:
-        return makeParagraph(content);
-    case HvContent::Object:
-        if (const PPTNodeImpl::Child paragraph = getParagraphObject(content))
-            return paragraph;
-        break;
-    case HvContent::Boolean:
-    case HvContent::List:
-    case HvContent::Table:
-    case HvContent::Empty:
-    case HvContent::Unknown:
-        break;
-    }
-    return makeParagraph();
+    const HvContent::ContentType type = content ? content->getContentType() : HvContent::Empty;
+    const bool isOtherObject = type == HvContent::Object && !getParagraphObject(content);
+    return isOtherObject || type == HvContent::Unknown ? makeParagraph() : contentToParagraph(content);
 }
 
 } // namespace
