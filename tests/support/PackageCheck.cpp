@@ -5,8 +5,8 @@
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Package.h"
 #include "vellox/opc/ZipPhysicalPackage.h"
-#include "vellox/ppt/engine/Dom.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/xml/Dom.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <boost/make_shared.hpp>
 #include <set>

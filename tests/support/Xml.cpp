@@ -4,7 +4,7 @@
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesProcess.h"
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/engine/Dom.h"
+#include "vellox/ppt/xml/Dom.h"
 
 #include <boost/make_shared.hpp>
 #include <map>

@@ -2,7 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/host/services/Utf8.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include "tests/support/Xml.h"
 

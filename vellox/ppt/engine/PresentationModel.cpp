@@ -2,11 +2,11 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Package.h"
-#include "vellox/ppt/engine/PPTPartWriter.h"
-#include "vellox/ppt/engine/PackageNames.h"
-#include "vellox/ppt/engine/PartDOMBuilder.h"
-#include "vellox/ppt/engine/SlideDocuments.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/template/SlideDocuments.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
 #include <boost/make_shared.hpp>

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace opc {
 class Part;

@@ -1,7 +1,7 @@
 #include "vellox/ppt/engine/ShapeMakers.h"
 
 #include "vellox/foundation/Conversions.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
 

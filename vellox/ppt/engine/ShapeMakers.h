@@ -10,7 +10,7 @@
 
 #include <string>
 
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 

@@ -2,10 +2,10 @@
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
-#include "vellox/ppt/engine/PartDOMBuilder.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/engine/SlideDocuments.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/template/SlideDocuments.h"
 #include "vellox/ppt/tree/BodyPlaceholderImpl.h"
 #include "vellox/ppt/tree/ContentPlaceholderImpl.h"
 #include "vellox/ppt/tree/GroupImpl.h"

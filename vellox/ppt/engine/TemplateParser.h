@@ -6,8 +6,8 @@
 
 #include <boost/shared_ptr.hpp>
 
-#include "vellox/ppt/engine/TemplateRecords.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 

@@ -1,10 +1,10 @@
 #include "vellox/ppt/formats/Alignment.h"
 
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/SpelledFormatImpl.h"
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 #include "vellox/ppt/writers/ParagraphWriter.h"
 #include "vellox/ppt/writers/TableEntryWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -2,10 +2,10 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/BaseDimensionImpl.h"
 #include "vellox/ppt/formats/SpelledFormatImpl.h"
 #include "vellox/ppt/writers/TextWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

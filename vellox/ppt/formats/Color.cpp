@@ -4,13 +4,13 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/engine/Dom.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/ColorTable.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 #include "vellox/ppt/writers/TableEntryWriter.h"
 #include "vellox/ppt/writers/TextWriter.h"
+#include "vellox/ppt/xml/Dom.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <boost/algorithm/string/trim.hpp>
 #include <boost/regex.hpp>

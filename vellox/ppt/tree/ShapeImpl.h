@@ -7,8 +7,8 @@
 #include <boost/intrusive_ptr.hpp>
 
 #include "vellox/host/values/HvContent.h"
-#include "vellox/ppt/engine/TemplateRecords.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 

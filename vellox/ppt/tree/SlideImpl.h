@@ -4,8 +4,8 @@
 #ifndef VELLOX_PPT_TREE_SLIDEIMPL_H
 #define VELLOX_PPT_TREE_SLIDEIMPL_H
 
-#include "vellox/ppt/engine/TemplateRecords.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 

@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
 #include "vellox/ppt/engine/ShapeMakers.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

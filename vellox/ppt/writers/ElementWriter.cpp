@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
-#include "vellox/ppt/engine/TemplateRecords.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "vellox/ppt/engine/Dom.h"
 #include "vellox/ppt/formats/Format.h"
 #include "vellox/ppt/formats/FormatType.h"
+#include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
 

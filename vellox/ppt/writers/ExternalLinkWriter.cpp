@@ -1,8 +1,8 @@
 #include "vellox/ppt/writers/ExternalLinkWriter.h"
 
-#include "vellox/ppt/engine/PPTPartWriter.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

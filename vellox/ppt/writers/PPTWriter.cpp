@@ -1,11 +1,11 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
-#include "vellox/ppt/engine/PPTPartWriter.h"
-#include "vellox/ppt/engine/SlideDocuments.h"
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/template/SlideDocuments.h"
 #include "vellox/ppt/tree/ColSpec.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
 
 #include <algorithm>
 #include <boost/make_shared.hpp>

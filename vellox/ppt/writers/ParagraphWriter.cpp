@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/ParagraphWriter.h"
 
 #include "vellox/foundation/Conversions.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
 

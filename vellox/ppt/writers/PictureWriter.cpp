@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/PictureWriter.h"
 
 #include "vellox/foundation/InfoUtils.h"
-#include "vellox/ppt/engine/PPTPartWriter.h"
 #include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
 
 namespace vellox::ppt {
 

@@ -1,6 +1,6 @@
 #include "vellox/ppt/writers/ShapeWriter.h"
 
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
 namespace vellox::ppt {

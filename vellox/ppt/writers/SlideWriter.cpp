@@ -1,12 +1,12 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
-#include "vellox/ppt/engine/PPTPartWriter.h"
-#include "vellox/ppt/engine/SlideDocuments.h"
-#include "vellox/ppt/engine/TemplateRecords.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/template/SlideDocuments.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <set>
 #include <utility>

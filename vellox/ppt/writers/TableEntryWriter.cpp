@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/TableEntryWriter.h"
 
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -1,8 +1,8 @@
 #include "vellox/ppt/writers/TableRowWriter.h"
 
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/tree/TableRowImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -5,11 +5,11 @@
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/ShapeMakers.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

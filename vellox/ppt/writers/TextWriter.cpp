@@ -1,9 +1,9 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/engine/XmlNames.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -1,12 +1,12 @@
 /// @file
 /// The parts that are particular to a presentation: slides and media.
 
-#ifndef VELLOX_PPT_ENGINE_PPTPARTWRITER_H
-#define VELLOX_PPT_ENGINE_PPTPARTWRITER_H
+#ifndef VELLOX_PPT_WRITERS_PPTPARTWRITER_H
+#define VELLOX_PPT_WRITERS_PPTPARTWRITER_H
 
 #include <string>
 
-#include "vellox/ppt/engine/PartDOMWriter.h"
+#include "vellox/ppt/package/PartDOMWriter.h"
 
 namespace vellox::ppt {
 

@@ -1,4 +1,4 @@
-#include "vellox/ppt/engine/Dom.h"
+#include "vellox/ppt/xml/Dom.h"
 
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/object/DomForward.h"

@@ -1,8 +1,8 @@
 /// @file
 /// One package on disk, open in one of three modes.
 
-#ifndef VELLOX_PPT_ENGINE_OPCPACKAGE_H
-#define VELLOX_PPT_ENGINE_OPCPACKAGE_H
+#ifndef VELLOX_PPT_PACKAGE_OPCPACKAGE_H
+#define VELLOX_PPT_PACKAGE_OPCPACKAGE_H
 
 #include <boost/shared_ptr.hpp>
 #include <istream>

@@ -1,4 +1,4 @@
-#include "vellox/ppt/engine/PartDOMWriter.h"
+#include "vellox/ppt/package/PartDOMWriter.h"
 
 namespace vellox::ppt {
 

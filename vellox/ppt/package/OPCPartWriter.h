@@ -1,8 +1,8 @@
 /// @file
 /// Making parts in a package by plain wide text.
 
-#ifndef VELLOX_PPT_ENGINE_OPCPARTWRITER_H
-#define VELLOX_PPT_ENGINE_OPCPARTWRITER_H
+#ifndef VELLOX_PPT_PACKAGE_OPCPARTWRITER_H
+#define VELLOX_PPT_PACKAGE_OPCPARTWRITER_H
 
 #include <boost/shared_ptr.hpp>
 #include <istream>

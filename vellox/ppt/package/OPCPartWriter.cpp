@@ -1,6 +1,6 @@
-#include "vellox/ppt/engine/OPCPartWriter.h"
+#include "vellox/ppt/package/OPCPartWriter.h"
 
-#include "vellox/ppt/engine/OPCPackage.h"
+#include "vellox/ppt/package/OPCPackage.h"
 
 #include <boost/make_shared.hpp>
 

@@ -5,8 +5,8 @@
 ///
 ///     node (tree) --> TemplateShape.id == "17"  <-->  <p:sp data-uid="17"> (document)
 
-#ifndef VELLOX_PPT_ENGINE_TEMPLATERECORDS_H
-#define VELLOX_PPT_ENGINE_TEMPLATERECORDS_H
+#ifndef VELLOX_PPT_TEMPLATE_TEMPLATERECORDS_H
+#define VELLOX_PPT_TEMPLATE_TEMPLATERECORDS_H
 
 #include <boost/shared_ptr.hpp>
 #include <map>
@@ -14,9 +14,9 @@
 #include <vector>
 
 #include "vellox/foundation/Dimension.h"
-#include "vellox/ppt/engine/Dom.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/NodeType.h"
+#include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
 

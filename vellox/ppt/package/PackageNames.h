@@ -2,8 +2,8 @@
 /// The relationship types of presentations (ECMA-376 Part 1, annex on transitional relationships) and the
 /// content types of their parts.
 
-#ifndef VELLOX_PPT_ENGINE_PACKAGENAMES_H
-#define VELLOX_PPT_ENGINE_PACKAGENAMES_H
+#ifndef VELLOX_PPT_PACKAGE_PACKAGENAMES_H
+#define VELLOX_PPT_PACKAGE_PACKAGENAMES_H
 
 namespace vellox::ppt::relationship {
 

@@ -1,10 +1,10 @@
-#include "vellox/ppt/engine/PPTPartWriter.h"
+#include "vellox/ppt/writers/PPTPartWriter.h"
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
 #include "vellox/host/services/Utf8.h"
-#include "vellox/ppt/engine/PackageNames.h"
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 #include <algorithm>
 #include <filesystem>

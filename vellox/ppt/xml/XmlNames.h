@@ -3,8 +3,8 @@
 /// wants. Documents are parsed without namespaces, so that a name is its prefix and its local part; the
 /// prefixes "p", "a" and "r" are fixed.
 
-#ifndef VELLOX_PPT_ENGINE_XMLNAMES_H
-#define VELLOX_PPT_ENGINE_XMLNAMES_H
+#ifndef VELLOX_PPT_XML_XMLNAMES_H
+#define VELLOX_PPT_XML_XMLNAMES_H
 
 #include <xercesc/util/XercesDefs.hpp>
 

@@ -1,14 +1,14 @@
 /// @file
 /// From a part to a DOM document.
 
-#ifndef VELLOX_PPT_ENGINE_PARTDOMBUILDER_H
-#define VELLOX_PPT_ENGINE_PARTDOMBUILDER_H
+#ifndef VELLOX_PPT_PACKAGE_PARTDOMBUILDER_H
+#define VELLOX_PPT_PACKAGE_PARTDOMBUILDER_H
 
 #include <string>
 
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesProcess.h"
-#include "vellox/ppt/engine/OPCPartReader.h"
+#include "vellox/ppt/package/OPCPartReader.h"
 
 namespace vellox::ppt {
 

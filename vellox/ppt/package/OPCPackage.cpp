@@ -1,4 +1,4 @@
-#include "vellox/ppt/engine/OPCPackage.h"
+#include "vellox/ppt/package/OPCPackage.h"
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"

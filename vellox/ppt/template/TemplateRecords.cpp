@@ -1,6 +1,6 @@
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 

@@ -1,14 +1,14 @@
 /// @file
 /// From a DOM document to a part.
 
-#ifndef VELLOX_PPT_ENGINE_PARTDOMWRITER_H
-#define VELLOX_PPT_ENGINE_PARTDOMWRITER_H
+#ifndef VELLOX_PPT_PACKAGE_PARTDOMWRITER_H
+#define VELLOX_PPT_PACKAGE_PARTDOMWRITER_H
 
 #include <string>
 
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesProcess.h"
-#include "vellox/ppt/engine/OPCPartWriter.h"
+#include "vellox/ppt/package/OPCPartWriter.h"
 
 namespace vellox::ppt {
 

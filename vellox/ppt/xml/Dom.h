@@ -1,8 +1,8 @@
 /// @file
 /// Small steps through DOM documents, as the reading and the writing of slides take them.
 
-#ifndef VELLOX_PPT_ENGINE_DOM_H
-#define VELLOX_PPT_ENGINE_DOM_H
+#ifndef VELLOX_PPT_XML_DOM_H
+#define VELLOX_PPT_XML_DOM_H
 
 #include <initializer_list>
 #include <string>

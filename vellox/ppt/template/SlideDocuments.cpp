@@ -1,9 +1,9 @@
-#include "vellox/ppt/engine/SlideDocuments.h"
+#include "vellox/ppt/template/SlideDocuments.h"
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/engine/XmlNames.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
 #include <set>

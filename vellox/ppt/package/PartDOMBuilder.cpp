@@ -1,4 +1,4 @@
-#include "vellox/ppt/engine/PartDOMBuilder.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"

@@ -1,7 +1,7 @@
-#include "vellox/ppt/engine/OPCPartReader.h"
+#include "vellox/ppt/package/OPCPartReader.h"
 
 #include "vellox/opc/Exception.h"
-#include "vellox/ppt/engine/OPCPackage.h"
+#include "vellox/ppt/package/OPCPackage.h"
 
 #include <boost/make_shared.hpp>
 

@@ -1,8 +1,8 @@
 /// @file
 /// Parts and relationships of a package by plain wide text.
 
-#ifndef VELLOX_PPT_ENGINE_OPCPARTREADER_H
-#define VELLOX_PPT_ENGINE_OPCPARTREADER_H
+#ifndef VELLOX_PPT_PACKAGE_OPCPARTREADER_H
+#define VELLOX_PPT_PACKAGE_OPCPARTREADER_H
 
 #include <boost/shared_ptr.hpp>
 #include <string>

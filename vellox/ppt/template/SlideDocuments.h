@@ -10,10 +10,10 @@
 ///           p:pic, p:grpSp, p:sp ...           -     shown through the layout
 ///       p:clrMapOvr, p:timing ...          -
 
-#ifndef VELLOX_PPT_ENGINE_SLIDEDOCUMENTS_H
-#define VELLOX_PPT_ENGINE_SLIDEDOCUMENTS_H
+#ifndef VELLOX_PPT_TEMPLATE_SLIDEDOCUMENTS_H
+#define VELLOX_PPT_TEMPLATE_SLIDEDOCUMENTS_H
 
-#include "vellox/ppt/engine/TemplateRecords.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 
