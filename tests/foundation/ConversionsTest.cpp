@@ -120,6 +120,11 @@ TEST(Utf8, PassesEveryCharacterAndDropsWhatIsNone) {
     EXPECT_EQ(toUtf8(L"\U0001F600"), "\xF0\x9F\x98\x80");
     EXPECT_EQ(toUtf8(std::wstring{L'a', wchar_t(0xD800), wchar_t(0x110000), L'b'}), "ab");
     EXPECT_EQ(fromUtf8("a\xFF\xC3"), L"a");
+    EXPECT_EQ(fromUtf8("a\xC3"
+                       "b\xE2\x82"
+                       "c\xF0\x9F\xC3\xA4\xC0\xAF\xED\xA0\x80"
+                       "d"),
+              L"abc\u00e4d");
 }
 
 TEST(ByteArray, CopiesAreIndependentAndReadFromTheStart) {

@@ -2,11 +2,13 @@
 
 #include "vellox/foundation/Exception.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/host/services/HostServices.h"
 
 #include "tests/support/Expect.h"
 #include "tests/support/Files.h"
 
 #include <boost/regex.hpp>
+#include <filesystem>
 
 using namespace vellox;
 
@@ -27,6 +29,32 @@ TEST(MessageCatalog, FallsBackToTheIdentifier) {
     EXPECT_EQ(getText(MsgID("vellox:ppt_error", "unheardOf", {L"a", L"b"})),
               L"vellox:ppt_error:unheardOf a b");
     EXPECT_EQ(getText(MsgID("vellox:nowhere", "x", 0)), L"vellox:nowhere:x");
+}
+
+// A message catalog with one text.
+std::string makeCatalog(const std::string& id, const std::string& text) {
+    const std::string strings[] = {"", id, "Content-Type: text/plain; charset=UTF-8\n", text};
+    std::vector<std::uint32_t> head = {0x950412de, 0, 2, 28, 44, 0, 0};
+    std::string pool;
+    for (const std::string& each : strings) {
+        head.push_back(static_cast<std::uint32_t>(each.size()));
+        head.push_back(static_cast<std::uint32_t>(60 + pool.size()));
+        pool += each + '\0';
+    }
+    return std::string(reinterpret_cast<const char*>(head.data()), 60) + pool;
+}
+
+TEST(MessageCatalog, TakesTextsAsTheyAre) {
+    struct Host : host::HostServices {
+        std::string getHostRoot() const override { return toUtf8(folder / L"."); }
+        test::TempFolder folder;
+    } host;
+    const std::wstring texts = host.folder / L"resources/messages/en/LC_MESSAGES";
+    std::filesystem::create_directories(toUtf8(texts));
+    test::writeFile(texts + L"/c.mo", makeCatalog("id", "100% of %1%, 5 %% and %2%%3%"));
+    host::setHostServices(&host);
+    EXPECT_EQ(getText(MsgID("c", "id", {L"%2%", L"b"})), L"100% of %2%, 5 % and b%3%");
+    host::setHostServices(nullptr);
 }
 
 // The header with the identifiers and the catalogs are kept by hand, side by side.

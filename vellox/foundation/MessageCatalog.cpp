@@ -3,8 +3,8 @@
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 
-#include <boost/format.hpp>
 #include <boost/locale/gnu_gettext.hpp>
+#include <boost/regex.hpp>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -34,10 +34,14 @@ std::string toFileName(std::string catalog) {
     return catalog;
 }
 
-// The language of a locale named as systems name them, such as "de_AT.UTF-8".
+// The language of a locale named as systems name them, such as "de_AT.UTF-8". One whose categories differ has the
+// names of all, such as "LC_CTYPE=de_AT.UTF-8;LC_NUMERIC=C;...", and that of its messages counts.
 std::string getLanguage(const std::locale& locale) {
-    const std::string name = locale.name();
-    const std::string language = name.substr(0, name.find_first_of("_.@"));
+    std::string name = locale.name();
+    const std::string category = "LC_MESSAGES=";
+    if (const std::size_t start = name.find(category); start != std::string::npos)
+        name.erase(0, start + category.size());
+    const std::string language = name.substr(0, name.find_first_of("_.@;"));
     return language.size() == 2 || language.size() == 3 ? language : kSourceLanguage;
 }
 
@@ -69,13 +73,17 @@ const wchar_t* findText(const std::string& language, const MsgID& message) {
     return std::use_facet<Texts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
 }
 
-std::wstring fillIn(const wchar_t* text, const std::vector<std::wstring>& args) {
-    boost::wformat format;
-    format.exceptions(boost::io::no_error_bits); // a slip in a translation must not hide the error
-    format.parse(text);
-    for (const std::wstring& arg : args)
-        format % arg;
-    return format.str();
+// The text with its blanks, %1% and so on, filled in. Any other percent sign stands for itself, and a blank without an
+// argument stays as it is: a slip in a translation must not hide the error.
+std::wstring fillIn(const std::wstring& text, const std::vector<std::wstring>& args) {
+    static const boost::wregex blank(L"%(%|([1-9])%)");
+    const auto fill = [&](const boost::wsmatch& found) {
+        if (!found[2].matched)
+            return std::wstring(L"%");
+        const auto n = static_cast<std::size_t>(*found[2].first - L'1');
+        return n < args.size() ? args[n] : found.str();
+    };
+    return boost::regex_replace(text, blank, fill);
 }
 
 std::wstring spellOut(const MsgID& message) {

@@ -1,8 +1,10 @@
 // Listeners run in the middle of things. Whatever they do there, nothing is lost and nothing dangles.
 
+#include "vellox/ppt/object/PPTObjectImpl.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
+#include "vellox/ppt/tree/TablePlaceholder.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
 
@@ -163,6 +165,33 @@ TEST_F(ListenersTest, GetNoParentThatIsEnding) {
     EXPECT_GT(heard, 0);
 }
 
+// Listeners of a host get whole handles.
+TEST_F(ListenersTest, HearOfACopyAheadOfItsChildrenAndMayReadItsParent) {
+    TextBox box;
+    box.add(L"a").append(L"b");
+    std::wstring heard;
+    std::vector<boost::shared_ptr<PPTNode>> nodes;
+    isRepeated = true;
+    action = [&](const Message& message) {
+        heard += message.getText().substr(0, message.getText().find(L':')) + L"|";
+        const auto handle = ObjectAccess::getImpl(*message.getSource())->makeHandle();
+        nodes.push_back(boost::dynamic_pointer_cast<PPTNode>(handle));
+        for (const auto& node : nodes) {
+            const auto parent = node->getParent();
+            const bool isText = node->getNodeType() == NodeType::Text;
+            EXPECT_TRUE(!parent ||
+                        parent->getNodeType() == (isText ? NodeType::Paragraph : NodeType::TextBox));
+        }
+    };
+    hearOfLives(true);
+    const auto copy = box.clone();
+    hearOfLives(false);
+    EXPECT_EQ(heard, L"Created ppt.Shape|Created ppt.BaseTextBox|Created ppt.TextBox|Created ppt.Paragraph|"
+                     L"Created ppt.Text|Created ppt.Text|");
+    EXPECT_EQ(outline(*copy), L"ab");
+    EXPECT_EQ(*nodes.back()->getParent()->getParent(), *copy);
+}
+
 // A node whose former parent has ended holds nothing of it, whichever way it left.
 TEST(FallenNodes, AreFreeWhenTheirParentEnds) {
     Paragraph fallen(L"fallen"), moved(L"moved");
@@ -178,6 +207,69 @@ TEST(FallenNodes, AreFreeWhenTheirParentEnds) {
     EXPECT_FALSE(moved.getParent());
     TextBox next(L"Next");
     EXPECT_EQ(errorOf([&] { next.add(fallen); }), "nothing");
+}
+
+// What a box lists without being its parent isn't touched when the box ends.
+TEST(FallenNodes, KeepAParentThatAnotherListDoesNotKnow) {
+    Paragraph fallen(L"fallen");
+    TextBox living(L"Living");
+    Paragraph listed = living.add(L"listed");
+    {
+        TextBox box(L"Box"), other(L"Other");
+        box.add(fallen);
+        living.add(list({object(fallen)}));
+        box.add(list({object(fallen)}));
+        box.replace(L"other"); // the fallen one is in the list of another box that isn't its parent
+        EXPECT_EQ(*fallen.getParent(), box);
+    }
+    EXPECT_FALSE(fallen.getParent());
+    Paragraph shared(L"shared");
+    {
+        TextBox box(L"Box");
+        box.add(list({object(shared)})); // tells no parent
+        living.add(shared);
+    }
+    EXPECT_EQ(*shared.getParent(), living);
+    EXPECT_EQ(*listed.getParent(), living);
+    TextBox second(L"Second");
+    EXPECT_EQ(errorOf([&] { second.add(shared); }), "ppt_error:failedToAppendChild");
+    auto ending = boost::make_shared<Paragraph>(L"ending");
+    {
+        TextBox box(L"Box");
+        box.add(list({object(*ending)}));
+        second.add(*ending);
+        second.replace(L"other");
+    }
+    ending.reset(); // and the box that it fell out of ends after it
+}
+
+// Handles may be made to stand for other objects at any time: those that a list holds, and those in use.
+TEST(FallenNodes, AreThoseWhoseHandleInTheListWasAssignedTo) {
+    Paragraph first(L"first");
+    {
+        TextBox box(L"Box");
+        box.add(first);
+        *box.getChildren().front() = Paragraph(L"second");
+        EXPECT_EQ(outline(box), L"second");
+    }
+    EXPECT_FALSE(first.getParent());
+}
+
+TEST_F(ListenersTest, MayLetTheHandleInUseStandForAnother) {
+    Slide slide = deck.add(L"Title and Table");
+    Table table(1);
+    TextBox box(L"Box");
+    hearOfLives(true);
+    action = [&](const Message&) { box = TextBox(L"Other"); };
+    box.add(L"text");
+    action = [&](const Message&) { box = TextBox(L"Other"); };
+    box.replace(L"text");
+    action = [&](const Message&) { box = TextBox(L"Other"); };
+    EXPECT_EQ(box.clone()->getNChildren(), 0u);
+    action = [&](const Message&) { table = Table(3); };
+    TablePlaceholder::cast(slide.find(L"Table").front())->replace(table);
+    hearOfLives(false);
+    EXPECT_EQ(boost::dynamic_pointer_cast<Table>(slide.find(L"Table").front())->getNCols(), 1u);
 }
 
 TEST(ByName, TakesWhatTheFirstBoxLoses) {

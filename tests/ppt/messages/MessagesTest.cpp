@@ -79,6 +79,28 @@ TEST_F(MessagesTest, ReachListenersInOrderAndMayChangeTheList) {
     EXPECT_TRUE(MessageDispatcher::getTheDispatcher() == dispatcher);
 }
 
+// Or a listener that makes objects would be called for each of them, without end.
+TEST_F(MessagesTest, WhatListenersMakeIsNotReported) {
+    filter.setDebugMessagesPass(true);
+    MessageDispatcher dispatcher = MessageDispatcher::getTheDispatcher();
+    int lives = 0, texts = 0;
+    const auto empty = dispatcher.addListener({});
+    const auto maker = dispatcher.addListener([&](const MessageEventData& event) {
+        if (event.getMessage().getText() == L"text") {
+            ++texts;
+            return;
+        }
+        ++lives;
+        Paragraph(L"made by a listener");
+        dispatcher.dispatch(ErrorMessage(L"text")); // this is heard
+    });
+    Paragraph();
+    dispatcher.removeListener(maker);
+    dispatcher.removeListener(empty);
+    EXPECT_EQ(lives, 2);
+    EXPECT_EQ(texts, 2);
+}
+
 TEST_F(MessagesTest, LifeIsReportedLevelByLevel) {
     filter.setDebugMessagesPass(true);
     const MessageLog log;

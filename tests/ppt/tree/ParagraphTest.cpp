@@ -2,6 +2,7 @@
 
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
 #include "vellox/ppt/tree/TextImpl.h"
@@ -26,6 +27,18 @@ TEST(Text, IsTextOrNumber) {
     run.setNumContent(0.1);
     EXPECT_EQ(run.getTextContent(), L"0.10000000000000001");
     EXPECT_EQ(Text(L"none").getNumContent(), 0);
+}
+
+TEST(Text, IsMadeFromPlainNumbers) {
+    EXPECT_EQ(Text(0).getTextContent(), L"0");
+    EXPECT_EQ(Text(-3L).getNumContent(), -3);
+    EXPECT_EQ(test::outline(TableEntry(Paragraph(2))), L"2");
+    EXPECT_EQ(Paragraph(2u).getLevel().get(), 2u);
+    EXPECT_EQ(Table(0).getNCols(), 0u);
+    EXPECT_EQ(Table(std::size_t(2)).getNCols(), 2u);
+    static_assert(!std::is_constructible_v<Bold, const wchar_t*> && std::is_constructible_v<Bold, int>,
+                  "a text is no truth value");
+    Paragraph().setBold(1); // this must compile, and setBold(L"no") must not
 }
 
 TEST(Text, TakesContentOfEveryKind) {

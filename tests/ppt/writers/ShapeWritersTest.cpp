@@ -158,6 +158,7 @@ TEST_F(ShapeWritersTest, ColumnWidthsShareTheTable) {
         {"more than columns", {L"1in", L"1in", L"1in", L"9in"}, nullptr, {"914400", "914400", "914400"}},
         {"wider entry", {L"1in", L"1in", L"1in"}, L"2in", {"914400", "914400", "1828800"}},
         {"narrower entry", {L"1in", L"1in", L"2in"}, L"1in", {"914400", "914400", "1828800"}},
+        {"negative", {L"-9in", L"1in"}, L"-1in", {"0", "914400", "0"}},
         {"entry alone", {}, L"1000000emus", {"1000000", "1000000", "1000000"}},
     };
     for (const Row& row : rows) {

@@ -13,7 +13,8 @@ namespace {
 template <class C> BoundClass describeLogical(const char* name, const char* doc) {
     BoundClass bound = describe<C>(name, "Format", doc);
     bound.constructors = {make<C>(), make<C, bool>("value")};
-    bound.properties = {property<C, &C::getValue, &C::setValue>("Value", "Whether it is so.")};
+    constexpr void (C::*kSet)(bool) = &C::setValue; // the one that refuses no texts
+    bound.properties = {property<C, &C::getValue, kSet>("Value", "Whether it is so.")};
     return bound;
 }
 

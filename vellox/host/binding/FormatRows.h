@@ -43,17 +43,22 @@ template <class C> std::vector<BoundProperty> makeFontRows() {
     };
 }
 
+/// A setter of a truth value, picked from the overloads that refuse texts.
+template <template <class> class Property, class C> using LogicalSetter = void (Property<C>::*)(bool);
+
 /// The character set: fonts, and how a run looks besides.
 template <class C> std::vector<BoundProperty> makeCharacterRows() {
     std::vector<BoundProperty> rows = {
-        formatProperty<C, &C::getBold, &Bold::getValue, &C::setBold, &C::unsetBold>("Bold",
-                                                                                    "Whether text is bold."),
-        formatProperty<C, &C::getItalic, &Italic::getValue, &C::setItalic, &C::unsetItalic>(
-            "Italic", "Whether text is slanted."),
-        formatProperty<C, &C::getSubscript, &Subscript::getValue, &C::setSubscript, &C::unsetSubscript>(
+        formatProperty<C, &C::getBold, &Bold::getValue, LogicalSetter<BoldProperty, C>(&C::setBold),
+                       &C::unsetBold>("Bold", "Whether text is bold."),
+        formatProperty<C, &C::getItalic, &Italic::getValue, LogicalSetter<ItalicProperty, C>(&C::setItalic),
+                       &C::unsetItalic>("Italic", "Whether text is slanted."),
+        formatProperty<C, &C::getSubscript, &Subscript::getValue,
+                       LogicalSetter<SubscriptProperty, C>(&C::setSubscript), &C::unsetSubscript>(
             "Subscript", "Whether text is lowered."),
-        formatProperty<C, &C::getSuperscript, &Superscript::getValue, &C::setSuperscript,
-                       &C::unsetSuperscript>("Superscript", "Whether text is raised."),
+        formatProperty<C, &C::getSuperscript, &Superscript::getValue,
+                       LogicalSetter<SuperscriptProperty, C>(&C::setSuperscript), &C::unsetSuperscript>(
+            "Superscript", "Whether text is raised."),
         formatProperty<C, &C::getStrike, &Strike::getStyle, &C::setStrikeStyle, &C::unsetStrike>(
             "Strike", "The line through text: \"none\", \"single\" or \"double\"."),
         formatProperty<C, &C::getUnderline, &Underline::getStyle, &C::setUnderlineStyle, &C::unsetUnderline>(

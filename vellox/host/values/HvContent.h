@@ -58,6 +58,7 @@ using HvContentPtr = boost::shared_ptr<HvContent>;
 class VELLOX_API BooleanContent : public HvContent {
 public:
     explicit BooleanContent(bool value) : HvContent(Boolean), value_(value) {}
+    template <class T> explicit BooleanContent(const T*) = delete; ///< a text is no truth value
     bool getValue() const { return value_; }
     static boost::shared_ptr<BooleanContent> cast(const HvContentPtr& content);
     static bool getValue(const HvContentPtr& content);

@@ -117,7 +117,7 @@ PPTNodeImpl::Child PresentationImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child PresentationImpl::clone() const {
-    return (new PresentationImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType PresentationImpl::getNodeType() const {

@@ -35,7 +35,7 @@ protected:
 };
 
 /// The width of a table's column, "0.25in" by default. It acts on a column specification and on an entry; the
-/// widest in a column wins.
+/// widest in a column wins. A negative one is written as 0.
 class VELLOX_API ColWidth : public BaseDimension {
 public:
     ColWidth();

@@ -27,8 +27,10 @@ class VELLOX_API Bold : public Format {
 public:
     Bold();
     explicit Bold(bool value);
+    template <class T> explicit Bold(const T*) = delete; ///< a text is no truth value
     bool getValue() const;
     void setValue(bool value);
+    template <class T> void setValue(const T*) = delete;
 
 protected:
     friend class BoldImpl;
@@ -40,8 +42,10 @@ class VELLOX_API Italic : public Format {
 public:
     Italic();
     explicit Italic(bool value);
+    template <class T> explicit Italic(const T*) = delete; ///< a text is no truth value
     bool getValue() const;
     void setValue(bool value);
+    template <class T> void setValue(const T*) = delete;
 
 protected:
     friend class ItalicImpl;
@@ -54,8 +58,10 @@ class VELLOX_API Subscript : public Format {
 public:
     Subscript();
     explicit Subscript(bool value);
+    template <class T> explicit Subscript(const T*) = delete; ///< a text is no truth value
     bool getValue() const;
     void setValue(bool value);
+    template <class T> void setValue(const T*) = delete;
 
 protected:
     friend class SubscriptImpl;
@@ -67,8 +73,10 @@ class VELLOX_API Superscript : public Format {
 public:
     Superscript();
     explicit Superscript(bool value);
+    template <class T> explicit Superscript(const T*) = delete; ///< a text is no truth value
     bool getValue() const;
     void setValue(bool value);
+    template <class T> void setValue(const T*) = delete;
 
 protected:
     friend class SuperscriptImpl;

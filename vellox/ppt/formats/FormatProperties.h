@@ -32,8 +32,9 @@ namespace vellox::ppt {
 
 class Element;
 
-/// The way of the properties to an element's style. Not for direct use.
-namespace style {
+/// The way of the properties to an element's style. Not for direct use. The name is one that no program has of its
+/// own, since many say `using namespace vellox::ppt`.
+namespace element_style {
 
 /// A new handle on the element's own format of a kind; empty if there is none.
 VELLOX_API boost::shared_ptr<Format> find(const Element& element, FormatType type);
@@ -53,19 +54,19 @@ template <class F> boost::shared_ptr<F> findOwn(Element& element, FormatType typ
     return own;
 }
 
-} // namespace style
+} // namespace element_style
 
 /// A property of `Owner` that is one format of class F, made from one value. The names are long so that they
 /// hide nothing of the owner's.
 template <class Owner, class F, FormatType kType> class FormatProperty {
 protected:
     boost::shared_ptr<F> findProperty() const {
-        return style::find<F>(static_cast<const Owner&>(*this), kType);
+        return element_style::find<F>(static_cast<const Owner&>(*this), kType);
     }
     template <class Value> void setProperty(const Value& value) {
-        style::append(static_cast<Owner&>(*this), boost::make_shared<F>(value));
+        element_style::append(static_cast<Owner&>(*this), boost::make_shared<F>(value));
     }
-    void unsetProperty() { style::unset(static_cast<Owner&>(*this), kType); }
+    void unsetProperty() { element_style::unset(static_cast<Owner&>(*this), kType); }
 };
 
 /// See BackgroundColor.
@@ -83,6 +84,7 @@ template <class Owner> class BoldProperty : public FormatProperty<Owner, Bold, F
 public:
     boost::shared_ptr<Bold> getBold() const { return this->findProperty(); }
     void setBold(bool bold) { this->setProperty(bold); }
+    template <class T> void setBold(const T*) = delete; ///< a text is no truth value
     void unsetBold() { this->unsetProperty(); }
 };
 
@@ -119,6 +121,7 @@ template <class Owner> class ItalicProperty : public FormatProperty<Owner, Itali
 public:
     boost::shared_ptr<Italic> getItalic() const { return this->findProperty(); }
     void setItalic(bool italic) { this->setProperty(italic); }
+    template <class T> void setItalic(const T*) = delete; ///< a text is no truth value
     void unsetItalic() { this->unsetProperty(); }
 };
 
@@ -128,6 +131,7 @@ class SubscriptProperty : public FormatProperty<Owner, Subscript, FormatType::Su
 public:
     boost::shared_ptr<Subscript> getSubscript() const { return this->findProperty(); }
     void setSubscript(bool subscript) { this->setProperty(subscript); }
+    template <class T> void setSubscript(const T*) = delete; ///< a text is no truth value
     void unsetSubscript() { this->unsetProperty(); }
 };
 
@@ -137,6 +141,7 @@ class SuperscriptProperty : public FormatProperty<Owner, Superscript, FormatType
 public:
     boost::shared_ptr<Superscript> getSuperscript() const { return this->findProperty(); }
     void setSuperscript(bool superscript) { this->setProperty(superscript); }
+    template <class T> void setSuperscript(const T*) = delete; ///< a text is no truth value
     void unsetSuperscript() { this->unsetProperty(); }
 };
 
@@ -163,7 +168,7 @@ template <class Owner, class F, FormatType kType>
 class StyledProperty : public FormatProperty<Owner, F, kType> {
 protected:
     void setPropertyStyle(const std::wstring& value) {
-        if (const boost::shared_ptr<F> own = style::findOwn<F>(static_cast<Owner&>(*this), kType))
+        if (const boost::shared_ptr<F> own = element_style::findOwn<F>(static_cast<Owner&>(*this), kType))
             own->setStyle(value);
         else
             this->setProperty(value);
@@ -194,7 +199,7 @@ public:
 template <class Owner> class FontFamilyProperty {
 public:
     boost::shared_ptr<FontFamily> getFontFamily() const {
-        return style::find<FontFamily>(static_cast<const Owner&>(*this), FormatType::FontFamily);
+        return element_style::find<FontFamily>(static_cast<const Owner&>(*this), FormatType::FontFamily);
     }
     void setFont(const std::wstring& font) { setFacet(&FontFamily::setFont, font); }
     void unsetFont() { unsetFacet(&FontFamily::setFont); }
@@ -206,11 +211,12 @@ private:
 
     void setFacet(Setter setter, const std::wstring& font) {
         Owner& owner = static_cast<Owner&>(*this);
-        boost::shared_ptr<FontFamily> family = style::findOwn<FontFamily>(owner, FormatType::FontFamily);
+        boost::shared_ptr<FontFamily> family =
+            element_style::findOwn<FontFamily>(owner, FormatType::FontFamily);
         if (!family)
             family = boost::make_shared<FontFamily>(std::wstring(), std::wstring());
         ((*family).*setter)(font);
-        style::append(owner, family);
+        element_style::append(owner, family);
     }
     void unsetFacet(Setter setter) {
         const boost::shared_ptr<FontFamily> family = getFontFamily();
@@ -218,7 +224,7 @@ private:
             return;
         ((*family).*setter)(std::wstring());
         if (family->getFont().empty() && family->getComplexScriptFont().empty())
-            style::unset(static_cast<Owner&>(*this), FormatType::FontFamily);
+            element_style::unset(static_cast<Owner&>(*this), FormatType::FontFamily);
     }
 };
 

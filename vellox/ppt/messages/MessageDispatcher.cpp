@@ -26,17 +26,53 @@ public:
     boost::shared_ptr<PPTObject> makeHandle() override {
         return boost::shared_ptr<PPTObject>(new MessageDispatcher(this));
     }
-    void dispatch(const Message& message) const;
+    void dispatch(const Message& message);
 
     MessageFilter filter;
     std::map<Token, MessageDispatcher::Listener>
         listeners; // tokens grow, so that the order is that of adding
     Token lastToken = 0;
+
+private:
+    void callListeners(const Message& message) const;
+
+    bool isListenerRunning_ = false;
 };
 
-void MessageDispatcherImpl::dispatch(const Message& message) const {
+namespace {
+
+bool isAboutALife(const Message& message) {
+    const boost::shared_ptr<PPTObject> source = message.getSource();
+    return source && ObjectAccess::getImpl(*source)->getLife() != PPTObjectImpl::Life::Whole;
+}
+
+/// Puts a flag back as it was.
+class Restored {
+public:
+    explicit Restored(bool& flag) : flag_(flag), former_(flag) {}
+    Restored(const Restored&) = delete;
+    Restored& operator=(const Restored&) = delete;
+    ~Restored() { flag_ = former_; }
+
+private:
+    bool& flag_;
+    bool former_;
+};
+
+} // namespace
+
+void MessageDispatcherImpl::dispatch(const Message& message) {
     if (!message.passesFilter(filter) || listeners.empty())
         return;
+    // Of the objects that listeners make and end nobody hears, or that would never come to an end.
+    if (isListenerRunning_ && isAboutALife(message))
+        return;
+    const Restored restored(isListenerRunning_);
+    isListenerRunning_ = true;
+    callListeners(message);
+}
+
+void MessageDispatcherImpl::callListeners(const Message& message) const {
     const MessageEventData event(message);
     // A listener may add and remove listeners; one that is gone by its turn isn't called.
     std::vector<Token> tokens;
@@ -47,7 +83,8 @@ void MessageDispatcherImpl::dispatch(const Message& message) const {
         if (found == listeners.end())
             continue;
         const MessageDispatcher::Listener listener = found->second;
-        listener(event);
+        if (listener)
+            listener(event);
     }
 }
 

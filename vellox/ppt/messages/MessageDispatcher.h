@@ -51,7 +51,8 @@ public:
     /// What a listener throws comes out here.
     void dispatch(const Message& message);
 
-    /// Adds a listener. The source of a message about an object's end is all but gone: its tag may be read,
+    /// Adds a listener. An empty function hears nothing. What a listener makes and lets go isn't announced, to no
+    /// listener. The source of a message about an object's end is all but gone: its tag may be read,
     /// and no handle on it may be kept beyond the listener's call. What a listener throws on such a message
     /// becomes a warning, since an end can't be stopped. A listener that throws on a message about an object's
     /// making ends the object: no handle on it, and no message about it, may have been kept then.

@@ -12,42 +12,16 @@ namespace vellox::ppt {
 
 // PPTNodeImpl
 
-PPTNodeImpl::PPTNodeImpl(const PPTNodeImpl& other) : PPTObjectImpl(other) {
-    // Listeners hear of the copies, and may change the list that is copied.
-    const Children sources = other.children_;
-    children_.reserve(sources.size());
-    try {
-        for (const Child& source : sources) {
-            children_.push_back(source->clone());
-            implOf<PPTNodeImpl>(*children_.back())->parent_ = this;
-        }
-    } catch (...) {
-        clearLinks();
-        throw;
-    }
-}
-
 PPTNodeImpl::~PPTNodeImpl() {
-    clearLinks();
-    setParent(nullptr);
-}
-
-/// Nothing may link to this node once it has ended.
-void PPTNodeImpl::clearLinks() {
-    for (const Child& child : children_)
-        if (child)
-            implOf<PPTNodeImpl>(*child)->parent_ = nullptr;
-    if (!fallen_)
-        return;
-    for (PPTNodeImpl* node : *fallen_)
-        node->parent_ = nullptr;
-    fallen_.reset();
+    while (!linked_.empty())
+        linked_.front().setParent(nullptr);
 }
 
 void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
-    if (parent_ && parent_ != parent && parent_->fallen_)
-        parent_->fallen_->erase(this);
+    link_.unlink();
     parent_ = parent;
+    if (parent_)
+        parent_->linked_.push_back(*this);
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
@@ -94,8 +68,9 @@ void PPTNodeImpl::appendChild(const Child& child) {
 
 void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
     const Children sources = other.children_; // listeners may change the list
+    children_.reserve(children_.size() + sources.size());
     for (const Child& source : sources)
-        appendChild(source->clone());
+        PPTNodeImpl::appendChild(source->clone()); // a presentation's own would open it
 }
 
 void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
@@ -117,15 +92,7 @@ void PPTNodeImpl::setChildren(const Children& children) {
         if (!node->parent_)
             node->setParent(this);
     }
-    const Children former = std::exchange(children_, children);
-    for (const Child& child : former) {
-        PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
-        if (node->parent_ != this)
-            continue;
-        if (!fallen_)
-            fallen_ = std::make_unique<std::unordered_set<PPTNodeImpl*>>();
-        fallen_->insert(node);
-    }
+    const Children former = std::exchange(children_, children); // ends when all is in order
 }
 
 // PPTNode
@@ -171,7 +138,7 @@ boost::shared_ptr<PPTNode> PPTNode::makeInterface() const {
 }
 
 boost::shared_ptr<PPTNode> PPTNode::clone() const {
-    return pimpl()->clone();
+    return heldImplOf<PPTNodeImpl>(*this)->clone();
 }
 
 void PPTNode::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {

@@ -4,10 +4,9 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
+#include <boost/intrusive/list.hpp>
 #include <boost/shared_ptr.hpp>
-#include <memory>
 #include <string>
-#include <unordered_set>
 
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
@@ -22,7 +21,9 @@ class ElementImpl;
 ///     parent <--------parent_--------- child
 ///
 /// A child's link is set when it comes in and cleared when it is replaced or its parent ends. The one
-/// asymmetry: setChildren() doesn't clear the links of those that fall out of the list.
+/// asymmetry: setChildren() doesn't clear the links of those that fall out of the list. So a node may link to a
+/// parent that doesn't list it, and stand in the list of one that it doesn't link to; a parent knows the nodes that
+/// link to it apart from its list, and clears their links when it ends.
 class PPTNodeImpl : public PPTObjectImpl {
 public:
     using Child = boost::shared_ptr<PPTNode>;
@@ -30,8 +31,8 @@ public:
 
     PPTNodeImpl() = default;
     explicit PPTNodeImpl(std::wstring name) : name_(std::move(name)) {}
-    /// Copies the children, and neither name nor parent.
-    PPTNodeImpl(const PPTNodeImpl& other);
+    /// Without name, parent and children: copyOf() makes the copies of these once the new node is whole.
+    PPTNodeImpl(const PPTNodeImpl& other) : PPTObjectImpl(other) {}
     ~PPTNodeImpl() override;
 
     const char* getFullyQualifiedHostTypeName() const override;
@@ -65,6 +66,13 @@ public:
     virtual const ElementImpl* asElement() const { return nullptr; }
 
 protected:
+    /// What clone() is: a copy of a node, of its own class, with copies of its children. Listeners hear of the node
+    /// before they hear of its children, and a child's parent is whole when they do.
+    template <class Impl> static Child copyOf(const Impl& node) {
+        const Child copy = (new Impl(node))->makeInterface();
+        implOf<PPTNodeImpl>(*copy)->appendClones(node);
+        return copy;
+    }
     /// Takes the list as it is. Those in it without a parent get this one.
     void setChildren(const Children& children);
     Children& children() { return children_; }
@@ -73,14 +81,18 @@ private:
     Children::iterator findChild(const PPTNode& node);
     void requireFree(const PPTNode& child) const;
     void setParent(PPTNodeImpl* parent);
-    void clearLinks();
+
+    using Link =
+        boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::auto_unlink>>;
 
     PPTNodeImpl* parent_ = nullptr;
+    Link link_; // in the parent's list below
     Children children_;
     std::wstring name_;
-    // Nodes that fell out of the list and still link to this one, which must not outlive it. They aren't owned:
-    // each leaves the set when it ends or gets another parent.
-    std::unique_ptr<std::unordered_set<PPTNodeImpl*>> fallen_;
+    // Those whose parent this is, in no order and not owned.
+    boost::intrusive::list<PPTNodeImpl, boost::intrusive::member_hook<PPTNodeImpl, Link, &PPTNodeImpl::link_>,
+                           boost::intrusive::constant_time_size<false>>
+        linked_;
 };
 
 } // namespace vellox::ppt

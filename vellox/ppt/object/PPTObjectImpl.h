@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_OBJECT_PPTOBJECTIMPL_H
 #define VELLOX_PPT_OBJECT_PPTOBJECTIMPL_H
 
+#include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
 
@@ -78,6 +79,11 @@ struct ObjectAccess {
 /// The implementation behind a handle whose class is known.
 template <class Impl> Impl* implOf(const PPTObject& handle) {
     return static_cast<Impl*>(ObjectAccess::getImpl(handle));
+}
+
+/// The same for a call in which listeners run: they may let the handle stand for another object before it is over.
+template <class Impl> boost::intrusive_ptr<Impl> heldImplOf(const PPTObject& handle) {
+    return boost::intrusive_ptr<Impl>(implOf<Impl>(handle));
 }
 
 /// The implementation behind a handle if it is of this class, else null.

@@ -41,7 +41,7 @@ PPTNodeImpl::Child BaseTextBoxImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child BaseTextBoxImpl::clone() const {
-    return (new BaseTextBoxImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType BaseTextBoxImpl::getNodeType() const {
@@ -159,27 +159,27 @@ const BaseTextBoxImpl* BaseTextBox::pimpl() const {
 }
 
 Paragraph BaseTextBox::add(const std::wstring& text) {
-    return pimpl()->add(text);
+    return heldImplOf<BaseTextBoxImpl>(*this)->add(text);
 }
 
 Paragraph BaseTextBox::add(const Paragraph& paragraph) {
-    return pimpl()->add(paragraph);
+    return heldImplOf<BaseTextBoxImpl>(*this)->add(paragraph);
 }
 
 void BaseTextBox::add(const HvContentPtr& content) {
-    pimpl()->add(content);
+    heldImplOf<BaseTextBoxImpl>(*this)->add(content);
 }
 
 Paragraph BaseTextBox::replace(const std::wstring& text) {
-    return pimpl()->replace(text);
+    return heldImplOf<BaseTextBoxImpl>(*this)->replace(text);
 }
 
 Paragraph BaseTextBox::replace(const Paragraph& paragraph) {
-    return pimpl()->replace(paragraph);
+    return heldImplOf<BaseTextBoxImpl>(*this)->replace(paragraph);
 }
 
 void BaseTextBox::replace(const HvContentPtr& content) {
-    pimpl()->replace(content);
+    heldImplOf<BaseTextBoxImpl>(*this)->replace(content);
 }
 
 boost::shared_ptr<BaseTextBox> BaseTextBox::cast(const boost::shared_ptr<PPTNode>& node) {

@@ -34,7 +34,7 @@ PPTNodeImpl::Child BodyPlaceholderImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child BodyPlaceholderImpl::clone() const {
-    return (new BodyPlaceholderImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType BodyPlaceholderImpl::getNodeType() const {

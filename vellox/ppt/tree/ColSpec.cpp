@@ -28,7 +28,7 @@ PPTNodeImpl::Child ColSpecImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child ColSpecImpl::clone() const {
-    return (new ColSpecImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType ColSpecImpl::getNodeType() const {

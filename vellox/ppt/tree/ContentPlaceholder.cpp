@@ -36,7 +36,7 @@ PPTNodeImpl::Child ContentPlaceholderImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child ContentPlaceholderImpl::clone() const {
-    return (new ContentPlaceholderImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType ContentPlaceholderImpl::getNodeType() const {

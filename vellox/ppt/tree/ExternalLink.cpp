@@ -39,7 +39,7 @@ PPTNodeImpl::Child ExternalLinkImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child ExternalLinkImpl::clone() const {
-    return (new ExternalLinkImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType ExternalLinkImpl::getNodeType() const {

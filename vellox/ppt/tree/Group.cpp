@@ -34,7 +34,7 @@ PPTNodeImpl::Child GroupImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child GroupImpl::clone() const {
-    return (new GroupImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType GroupImpl::getNodeType() const {

@@ -40,7 +40,7 @@ PPTNodeImpl::Child ParagraphImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child ParagraphImpl::clone() const {
-    return (new ParagraphImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType ParagraphImpl::getNodeType() const {

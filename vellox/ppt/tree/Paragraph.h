@@ -28,13 +28,16 @@ class VELLOX_API Paragraph : public Element,
 public:
     /// Without any text.
     Paragraph();
-    /// @param level the list level, from 1
+    /// @param level the list level, from 1. Only an unsigned int is one here: Paragraph(2) holds the number 2.
     explicit Paragraph(unsigned int level);
     /// With one run. Line ends in the text don't split it.
     explicit Paragraph(const std::wstring& text);
     Paragraph(const std::wstring& text, unsigned int level);
+    /// @{ With a run of a number, see Text.
     explicit Paragraph(double number);
+    explicit Paragraph(int number) : Paragraph(static_cast<double>(number)) {}
     Paragraph(double number, unsigned int level);
+    /// @}
     /// @{ With this very run, not a copy.
     /// @throws failedToAppendChild if the run already has a parent
     explicit Paragraph(const Text& text);

@@ -52,7 +52,7 @@ PPTNodeImpl::Child PictureImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child PictureImpl::clone() const {
-    return (new PictureImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType PictureImpl::getNodeType() const {

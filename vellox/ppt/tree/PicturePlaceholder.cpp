@@ -36,7 +36,7 @@ PPTNodeImpl::Child PicturePlaceholderImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child PicturePlaceholderImpl::clone() const {
-    return (new PicturePlaceholderImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType PicturePlaceholderImpl::getNodeType() const {

@@ -65,7 +65,7 @@ PPTNodeImpl::Child ShapeImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child ShapeImpl::clone() const {
-    return (new ShapeImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType ShapeImpl::getNodeType() const {
@@ -158,7 +158,7 @@ void Shape::unsetHeight() {
 }
 
 void Shape::replace(const HvContentPtr& content) {
-    pimpl()->replace(content);
+    heldImplOf<ShapeImpl>(*this)->replace(content);
 }
 
 boost::shared_ptr<Shape> Shape::cast(const boost::shared_ptr<PPTNode>& node) {

@@ -44,7 +44,7 @@ protected:
     void markContentReplaced() { contentReplaced_ = true; }
     /// Puts a new shape of class Impl, made from this one and a given one, in this one's place on its slide.
     /// @return a handle on the new shape; the given one if this shape doesn't stand directly on a slide
-    template <class Impl, class Facade> Facade giveWayTo(const Facade& given, TakeName takeName);
+    template <class Impl, class Facade> Facade giveWayTo(Facade given, TakeName takeName);
 
 private:
     PPTNodeImpl* findSlide() const;
@@ -56,7 +56,8 @@ private:
     ShapeGeometry geometry_;
 };
 
-template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(const Facade& given, TakeName takeName) {
+// The given handle comes by value: listeners may let the caller's stand for something else.
+template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(Facade given, TakeName takeName) {
     const boost::intrusive_ptr<PPTNodeImpl> slide(findSlide());
     if (!slide)
         return given;

@@ -49,7 +49,7 @@ PPTNodeImpl::Child SlideImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child SlideImpl::clone() const {
-    return (new SlideImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType SlideImpl::getNodeType() const {

@@ -63,7 +63,7 @@ PPTNodeImpl::Child TableImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TableImpl::clone() const {
-    return (new TableImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TableImpl::getNodeType() const {

@@ -5,6 +5,7 @@
 #define VELLOX_PPT_TREE_TABLE_H
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "vellox/host/values/HvViews.h"
@@ -31,8 +32,11 @@ public:
     using ColSpecs = std::vector<boost::shared_ptr<ColSpec>>;
 
     Table();
-    /// @param nCols the number of columns; no row or entry is made
+    /// @{ @param nCols the number of columns; no row or entry is made
     explicit Table(unsigned int nCols);
+    template <class Integer, class = std::enable_if_t<std::is_integral_v<Integer>>>
+    explicit Table(Integer nCols) : Table(static_cast<unsigned int>(nCols)) {} // or 0 could be a pointer
+    /// @}
     explicit Table(const std::wstring& name);
     /// With rows and entries for all that a table of content holds. Numbers and texts become text, a
     /// Paragraph goes in itself, or as a copy if it already has a parent; anything else, truth values among

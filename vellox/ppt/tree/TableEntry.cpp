@@ -33,7 +33,7 @@ PPTNodeImpl::Child TableEntryImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TableEntryImpl::clone() const {
-    return (new TableEntryImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TableEntryImpl::getNodeType() const {

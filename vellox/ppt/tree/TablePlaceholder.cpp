@@ -35,7 +35,7 @@ PPTNodeImpl::Child TablePlaceholderImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TablePlaceholderImpl::clone() const {
-    return (new TablePlaceholderImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TablePlaceholderImpl::getNodeType() const {

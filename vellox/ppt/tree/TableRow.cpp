@@ -35,7 +35,7 @@ PPTNodeImpl::Child TableRowImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TableRowImpl::clone() const {
-    return (new TableRowImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TableRowImpl::getNodeType() const {

@@ -81,7 +81,7 @@ PPTNodeImpl::Child TextImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TextImpl::clone() const {
-    return (new TextImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TextImpl::getNodeType() const {

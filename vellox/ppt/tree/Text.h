@@ -5,6 +5,7 @@
 #define VELLOX_PPT_TREE_TEXT_H
 
 #include <string>
+#include <type_traits>
 
 #include "vellox/Api.h"
 #include "vellox/ppt/formats/FormatProperties.h"
@@ -23,8 +24,11 @@ public:
     /// An empty run.
     Text();
     explicit Text(const std::wstring& text);
-    /// A run set from a number, see setNumContent().
+    /// @{ A run set from a number, see setNumContent().
     explicit Text(double number);
+    template <class Integer, class = std::enable_if_t<std::is_integral_v<Integer>>>
+    explicit Text(Integer number) : Text(static_cast<double>(number)) {} // or 0 could be a pointer
+    /// @}
 
     /// The text; of a number, its text.
     const std::wstring& getTextContent() const;

@@ -39,7 +39,7 @@ PPTNodeImpl::Child TextBoxImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TextBoxImpl::clone() const {
-    return (new TextBoxImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TextBoxImpl::getNodeType() const {

@@ -44,7 +44,7 @@ PPTNodeImpl::Child TextBoxPlaceholderImpl::makeInterface() {
 }
 
 PPTNodeImpl::Child TextBoxPlaceholderImpl::clone() const {
-    return (new TextBoxPlaceholderImpl(*this))->makeInterface();
+    return copyOf(*this);
 }
 
 NodeType TextBoxPlaceholderImpl::getNodeType() const {

@@ -78,7 +78,7 @@ void PPTWriter::enterTable(const TableImpl& table) {
         tableContext_.colFormats.push_back(spec ? spec->getStyle() : Formats());
         const boost::shared_ptr<ColWidth> width = spec ? spec->getWidth() : boost::shared_ptr<ColWidth>();
         if (width && column < tableContext_.colWidths.size())
-            tableContext_.colWidths[column] = width->getDimension().getEMUNumber();
+            tableContext_.colWidths[column] = std::max(0, width->getDimension().getEMUNumber());
     }
 }
 
@@ -99,7 +99,7 @@ void PPTWriter::setColumnWidth(int widthEmu) {
     if (tableContext_.col >= tableContext_.colWidths.size())
         return;
     std::optional<int>& width = tableContext_.colWidths[tableContext_.col];
-    width = width ? std::max(*width, widthEmu) : widthEmu;
+    width = std::max(width.value_or(0), widthEmu);
 }
 
 } // namespace vellox::ppt
