@@ -68,10 +68,10 @@ std::string narrow(const XMLCh* text) {
 
 // Those in which markup looks as MarkupGuard expects it. Packages are UTF-8 or UTF-16 by their standard.
 bool isReadable(const std::string& encoding) {
-    static const char* const families[] = {"UTF-8", "UTF8", "UTF-16", "UTF16", "US-ASCII", "ASCII",
-                                           "ISO-8859-", "ISO8859", "LATIN1", "WINDOWS-125", "CP125"};
-    return encoding.empty() ||
-           std::any_of(std::begin(families), std::end(families), [&](const char* family) {
+    static const char* const families[] = {"UTF-8",    "UTF8",        "UTF-16",    "UTF16",
+                                           "US-ASCII", "ASCII",       "ISO-8859-", "ISO8859",
+                                           "LATIN1",   "WINDOWS-125", "CP125"};
+    return encoding.empty() || std::any_of(std::begin(families), std::end(families), [&](const char* family) {
                return boost::algorithm::istarts_with(encoding, family);
            });
 }
@@ -147,8 +147,8 @@ void BoundedParser::countName(const XMLCh* name) {
 
 void BoundedParser::countNamespace(const XMLAttr& attribute) {
     static constexpr XMLCh kXmlns[] = u"xmlns";
-    const bool declares = XMLString::equals(attribute.getPrefix(), kXmlns) ||
-                          XMLString::equals(attribute.getName(), kXmlns);
+    const bool declares =
+        XMLString::equals(attribute.getPrefix(), kXmlns) || XMLString::equals(attribute.getName(), kXmlns);
     if (declares && ++namespaces_ > kMaxNamespaces)
         throw Exception("it declares more than " + std::to_string(kMaxNamespaces) + " namespaces");
 }

@@ -33,11 +33,11 @@ private:
     void enter(State state);
 
     State state_ = State::Text;
-    std::string seen_;            // of markup that isn't known yet
+    std::string seen_;           // of markup that isn't known yet
     std::array<char, 3> last_{}; // of what is passed over up to its end
     char16_t quote_ = 0;
     unsigned attributes_ = 0;
-    std::string start_; // until the width is known
+    std::string start_;  // until the width is known
     unsigned width_ = 0; // bytes of a character, 0 as long as it isn't known
     bool isBigEndian_ = false;
     int half_ = -1; // the first byte of a character of two

@@ -75,7 +75,7 @@ private:
     std::wstring folder_;
     std::vector<Relationship> rows_;
     std::unordered_map<std::wstring, std::size_t> rowByID_; // the first of each id
-    unsigned nextID_ = 1; // no smaller number is free
+    unsigned nextID_ = 1;                                   // no smaller number is free
     bool isChanged_ = false;
 };
 

@@ -48,7 +48,8 @@ DOMDocument* XercesHelper::readDocumentFromStream(DOMLSParser* parser, InputStre
 void XercesHelper::writeDocumentToStream(DOMLSSerializer* serializer, DOMDocument* document,
                                          OutputStream& stream) {
     StreamTarget target(stream);
-    const std::unique_ptr<DOMLSOutput, Release> output(getImplementation().createLSOutput(&getXercesMemory()));
+    const std::unique_ptr<DOMLSOutput, Release> output(
+        getImplementation().createLSOutput(&getXercesMemory()));
     // A document that was read from UTF-16 would otherwise be written so, and without a byte-order mark.
     output->setEncoding(u"UTF-8");
     output->setByteStream(&target);

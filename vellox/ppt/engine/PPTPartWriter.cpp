@@ -55,7 +55,8 @@ std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
     if (!slide.layout)
         return name;
     copyRelationships(getPart(slide.layout->partName), part, slide.layout->slideRelationshipIds);
-    part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(), {});
+    part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),
+                                    {});
     return name;
 }
 

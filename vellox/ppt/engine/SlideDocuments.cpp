@@ -186,7 +186,8 @@ OwnedDocument makePrototype(TemplateLayout& layout) {
     removeUndeclared(*document.get());
     completeIdentities(*document.get(), layout);
     layout.slideRelationshipIds = collectRelationshipIds(*document.get());
-    return copyDocument(document); // which leaves behind what was stripped: a document never gives memory back
+    return copyDocument(
+        document); // which leaves behind what was stripped: a document never gives memory back
 }
 
 } // namespace
