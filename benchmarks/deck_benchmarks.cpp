@@ -65,6 +65,30 @@ void pictures(benchmark::State& state) {
 }
 BENCHMARK(pictures)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
 
+void openSlides(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    const std::wstring made = inTempFolder(L"vellox-bench-template.pptx");
+    makeTextDeck(made, slides);
+    for (auto _ : state)
+        openDeck(getOutput(), made);
+    state.SetItemsProcessed(state.iterations() * slides);
+    std::filesystem::remove(toUtf8(made));
+    removeOutput();
+}
+BENCHMARK(openSlides)->Arg(200)->Arg(2000)->Unit(benchmark::kMillisecond);
+
+void openMasterShapes(benchmark::State& state) {
+    const auto shapes = static_cast<unsigned>(state.range(0));
+    const std::wstring made = inTempFolder(L"vellox-bench-template.pptx");
+    writeHeavyMaster(made, shapes);
+    for (auto _ : state)
+        openDeck(getOutput(), made);
+    state.SetItemsProcessed(state.iterations() * shapes);
+    std::filesystem::remove(toUtf8(made));
+    removeOutput();
+}
+BENCHMARK(openMasterShapes)->Arg(400)->Arg(4000)->Unit(benchmark::kMillisecond);
+
 // What the pictures' bytes cost by themselves.
 void copyOfPictures(benchmark::State& state) {
     const std::wstring image = inTempFolder(L"vellox-bench.png");

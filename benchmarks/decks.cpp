@@ -2,6 +2,9 @@
 
 #include <vellox/vellox.h>
 
+#include <zip.h>
+
+#include <filesystem>
 #include <fstream>
 #include <random>
 #include <vector>
@@ -70,6 +73,35 @@ void makePictureDeck(const std::wstring& output, unsigned slides, const std::wst
     for (unsigned i = 0; i < slides; ++i)
         deck.add(L"Title Only").add(Picture(image));
     deck.close();
+}
+
+void openDeck(const std::wstring& output, const std::wstring& templatePath) {
+    Presentation(output, templatePath).open();
+}
+
+void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
+    const std::string target = toUtf8(path);
+    std::filesystem::copy_file(
+        toUtf8(FileUtils::appendPath(FileUtils::getHostRoot(),
+                                     L"toolbox/shared/vellox/ppt/resources/templates/pptx/default.pptx")),
+        target, std::filesystem::copy_options::overwrite_existing);
+    zip_t* archive = zip_open(target.c_str(), 0, nullptr);
+    const zip_int64_t master = zip_name_locate(archive, "ppt/slideMasters/slideMaster1.xml", 0);
+    const auto index = static_cast<zip_uint64_t>(master);
+    zip_stat_t facts;
+    zip_stat_index(archive, index, 0, &facts);
+    std::string xml(facts.size, '\0');
+    zip_file_t* file = zip_fopen_index(archive, index, 0);
+    zip_fread(file, xml.data(), xml.size());
+    zip_fclose(file);
+    std::string drawing;
+    for (unsigned i = 0; i < shapes; ++i)
+        drawing += "<p:sp><p:nvSpPr><p:cNvPr id=\"" + std::to_string(100 + i) +
+                   "\" name=\"v\"/><p:cNvSpPr/><p:nvPr userDrawn=\"1\"/></p:nvSpPr><p:spPr><a:xfrm>"
+                   "<a:off x=\"1\" y=\"2\"/><a:ext cx=\"3\" cy=\"4\"/></a:xfrm></p:spPr></p:sp>";
+    xml.insert(xml.find("</p:spTree>"), drawing);
+    zip_file_replace(archive, index, zip_source_buffer(archive, xml.data(), xml.size(), 0), 0);
+    zip_close(archive);
 }
 
 void writePng(const std::wstring& path, unsigned bytes) {

@@ -17,6 +17,11 @@ void makeTableDeck(const std::wstring& output, unsigned slides);
 /// A picture on each slide.
 void makePictureDeck(const std::wstring& output, unsigned slides, const std::wstring& image);
 
+/// Opens a deck as template, as a presentation does that adds nothing.
+void openDeck(const std::wstring& output, const std::wstring& templatePath);
+/// Writes the default template with that many small vector shapes on its master.
+void writeHeavyMaster(const std::wstring& path, unsigned shapes);
+
 /// Writes a PNG of about that many bytes, which no compression makes smaller.
 void writePng(const std::wstring& path, unsigned bytes);
 

@@ -3,6 +3,7 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/FileSystemPhysicalPackage.h"
+#include "vellox/opc/Limits.h"
 #include "vellox/opc/ZipPhysicalPackage.h"
 
 #include "tests/support/Files.h"
@@ -77,6 +78,7 @@ TEST(PartName, ComparesAsPackagesDo) {
     EXPECT_NE(PartName(L"/\u00c4"), PartName(L"/\u00e4")); // only ASCII letters have no case
     EXPECT_EQ(PartName(L"/a/b.").toString(), L"/a/b");
     EXPECT_EQ(PartName(L"/a/my file.png").toEntryName(), "a/my%20file.png");
+    EXPECT_EQ(PartName(L"/a/b#1?.xml").toURI().toString(), L"/a/b%231%3F.xml");
     EXPECT_EQ(PartName(L"/a/b.xml").getRelationshipPartName().toString(), L"/a/_rels/b.xml.rels");
     for (const wchar_t* name : {L"", L"a", L"/", L"/a/", L"/a//b", L"/a/../b", L"/./a", L"/a/%2e%2e%2Fb",
                                 L"/a\\b", L"/a%5cb", L"/a\x1", L"/..."})
@@ -150,6 +152,10 @@ TEST(Package, SavesChangesAndCarriesTheRestOver) {
         image.setContentFile(folder / L"image.png");
         Part unknown = package->createPart(PartName(L"/media/i.xyz"), ContentType(L""), {});
         write(unknown, "?");
+        EXPECT_EQ(main.createExternalRelationship(L"link", L"b", {}).getID(), L"rId5");
+        main.deleteRelationship(L"rId5");
+        EXPECT_THROW(main.getRelationshipByID(L"rId5"), opc::Exception);
+        EXPECT_EQ(main.getRelationshipByID(L"rId4").getTarget(), L"http://a/%3Cb%3E");
         EXPECT_THROW(package->createPart(PartName(L"/DOCS/new.xml"), ContentType(L""), {}), opc::Exception);
         package->close(false);
         package->close(false); // harmless
@@ -230,19 +236,61 @@ TEST(Package, RefusesWhatCantBeTrusted) {
     EXPECT_NE(failureOf(folder / L"missing.zip"), "none");
 }
 
+// Writes a number of four bytes into the entry of a name in an archive's directory, at an offset.
+void patchDirectory(const std::wstring& path, const std::string& name, std::size_t offset,
+                    std::uint32_t number) {
+    std::string bytes = test::readFile(path);
+    const std::size_t entry = bytes.rfind(name) - 46;
+    ASSERT_EQ(bytes.substr(entry, 4), "PK\1\2");
+    for (std::size_t i = 0; i < 4; ++i)
+        bytes[entry + offset + i] = static_cast<char>(number >> (8 * i) & 255);
+    test::writeFile(path, bytes);
+}
+
 TEST(Package, RefusesEncryptedAndInflatingEntries) {
     const TempFolder folder;
     Parts parts = makeParts();
     parts["docs/bomb.xml"] = "<a>" + std::string(20 << 20, ' ') + "</a>";
     test::writeParts(folder / L"bomb.zip", parts);
+    const auto readBomb = [&] {
+        return readAll(openZip(folder / L"bomb.zip", OpenMode::Read)->getPart(PartName(L"/docs/bomb.xml")));
+    };
+    EXPECT_EQ(readBomb(), parts["docs/bomb.xml"]); // repetitive, and harmless
+    patchDirectory(folder / L"bomb.zip", "docs/bomb.xml", 24, kMaxXmlBytes + 1);
+    EXPECT_THROW(readBomb(), opc::Exception);
     const auto package = openZip(folder / L"bomb.zip", OpenMode::Read);
-    EXPECT_THROW(readAll(package->getPart(PartName(L"/docs/bomb.xml"))), opc::Exception);
     EXPECT_EQ(readAll(package->getPart(PartName(L"/docs/main.xml"))), "<main/>");
 
     zip_t* archive = zip_open(toUtf8(folder / L"bomb.zip").c_str(), 0, nullptr);
     zip_file_set_encryption(archive, 0, ZIP_EM_AES_256, "secret");
     ASSERT_EQ(zip_close(archive), 0);
     EXPECT_NE(failureOf(folder / L"bomb.zip").find("is encrypted"), std::string::npos);
+}
+
+// In a copy of the package each would have bytes of its own.
+TEST(Package, RefusesEntriesThatLieOverOneAnother) {
+    const TempFolder folder;
+    test::ZipStyle stored;
+    stored.stored = true;
+    test::writeParts(folder / L"a.zip", makeParts(), stored);
+    patchDirectory(folder / L"a.zip", "docs/main.xml", 20, 5000); // reaches into the next
+    EXPECT_NE(failureOf(folder / L"a.zip").find("overlap"), std::string::npos)
+        << failureOf(folder / L"a.zip");
+}
+
+TEST(Package, BoundsNamespacesAndTypes) {
+    const TempFolder folder;
+    std::string declarations, types;
+    for (unsigned i = 0; i < kMaxNamespaces; ++i)
+        declarations += " xmlns:n" + std::to_string(i) + "='urn:n'";
+    for (unsigned i = 0; i < kMaxEntries; ++i)
+        types += "<Default/>";
+    test::writeParts(folder / L"a.zip",
+                     test::withChange(makeParts(), "[Content_Types].xml", "<Types", "<Types" + declarations));
+    EXPECT_NE(failureOf(folder / L"a.zip").find("namespaces"), std::string::npos);
+    test::writeParts(folder / L"a.zip",
+                     test::withChange(makeParts(), "[Content_Types].xml", "</Types>", types + "</Types>"));
+    EXPECT_NE(failureOf(folder / L"a.zip").find("types"), std::string::npos);
 }
 
 // One byte after the other is damaged: each archive opens or is refused, and a part is read right or not at

@@ -4,6 +4,7 @@
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/XercesProcess.h"
 #include "vellox/opc/XercesString.h"
+#include "vellox/opc/XmlBudget.h"
 
 #include "tests/support/Xml.h"
 
@@ -85,6 +86,69 @@ TEST_F(XercesTest, BoundsDepthAndSize) {
     for (unsigned i = 0; i < kMaxXmlNodes; ++i)
         flat += "<b/>";
     EXPECT_NE(failureOf(flat + "</a>").find("elements"), std::string::npos);
+    for (const char* node : {"<!---->", "<?b?>", "<![CDATA[]]>x"}) {
+        std::string many = "<a>";
+        for (unsigned i = 0; i < kMaxXmlNodes; ++i)
+            many += node;
+        EXPECT_NE(failureOf(many + "</a>").find("comments"), std::string::npos) << node;
+    }
+}
+
+// Both make the scanner or the document compare each name with many others.
+TEST_F(XercesTest, BoundsAttributesAndNames) {
+    const auto wide = [](unsigned count) {
+        std::string tag = "<b";
+        for (unsigned i = 0; i < count; ++i)
+            tag += " a" + std::to_string(i) + "='\"='";
+        return tag + "/>";
+    };
+    const std::string most = "<a>" + wide(kMaxAttributes) + "</a>";
+    EXPECT_EQ(failureOf(most), "none");
+    // Nothing that stands ahead of it hides an element.
+    for (const char* ahead :
+         {"", "<!-- <b ' -->", "<![CDATA[<b \"]]>", "<?x <b '?>", "<b c='>\"'/>", "'", "\""}) {
+        const std::string over = "<a>" + std::string(ahead) + wide(kMaxAttributes + 1) + "</a>";
+        EXPECT_NE(failureOf(over).find("attributes"), std::string::npos) << ahead;
+        EXPECT_NE(failureOf(toUtf16(over)).find("attributes"), std::string::npos) << ahead;
+    }
+    EXPECT_EQ(failureOf("<a><!--" + wide(kMaxAttributes + 1) + "--></a>"), "none");
+    EXPECT_EQ(failureOf("<a><![CDATA[" + wide(kMaxAttributes + 1) + "]]></a>"), "none");
+    const std::string cjk = "<a b='\xE6\x9C\xBC'/>"; // in UTF-16 it has a byte like "<"
+    EXPECT_EQ(failureOf(cjk), "none");
+
+    std::string elements = "<a>", attributes = "<a>";
+    for (std::size_t i = 0; i < kMaxXmlNames; ++i) {
+        elements += "<b" + std::to_string(i) + "/>";
+        attributes += "<b c" + std::to_string(i) + "=''/>";
+    }
+    EXPECT_NE(failureOf(elements + "</a>").find("names"), std::string::npos);
+    EXPECT_NE(failureOf(attributes + "</a>").find("names"), std::string::npos);
+}
+
+// In others markup could pass the guard unseen.
+TEST_F(XercesTest, ReadsEncodingsInWhichMarkupIsPlain) {
+    const auto in = [](const char* encoding) {
+        return "<?xml version='1.0' encoding='" + std::string(encoding) + "'?><a/>";
+    };
+    for (const char* encoding : {"UTF-8", "utf-8", "ISO-8859-1", "windows-1252", "US-ASCII"})
+        EXPECT_EQ(failureOf(in(encoding)), "none") << encoding;
+    EXPECT_NE(failureOf(in("UTF-7")).find("UTF-7"), std::string::npos);
+    std::string ebcdic = "\x4C\x6F\xA7\x94\x93\x40\xA5\x85\x99\xA2\x89\x96\x95\x7E\x7D\xF1\x4B\xF0\x7D"
+                         "\x40\x85\x95\x83\x96\x84\x89\x95\x87\x7E\x7D\xC9\xC2\xD4\xF0\xF3\xF7\x7D\x6F\x6E"
+                         "\x4C\x81\x61\x6E"; // <?xml version='1.0' encoding='IBM037'?><a/>
+    EXPECT_NE(failureOf(ebcdic).find("IBM037"), std::string::npos) << failureOf(ebcdic);
+}
+
+TEST(XmlBudget, GrowsWithThePackageWithinBounds) {
+    const auto failsAt = [](std::uint64_t bytes, std::uint64_t cost) {
+        XmlBudget budget(bytes);
+        budget.take(cost / 2);
+        EXPECT_NO_THROW(budget.take(cost - cost / 2));
+        EXPECT_THROW(budget.take(1), Exception);
+    };
+    failsAt(0, kXmlCostFloor);
+    failsAt(10 << 20, (10 << 20) * kXmlCostPerByte);
+    failsAt(UINT64_MAX, kXmlCostCeiling);
 }
 
 TEST_F(XercesTest, WritesADocumentAsItStands) {

@@ -3,11 +3,17 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
+#include "vellox/opc/MarkupGuard.h"
 #include "vellox/opc/XercesHelper.h"
+#include "vellox/opc/XercesProcess.h"
 #include "vellox/opc/XercesString.h"
 
+#include <algorithm>
 #include <boost/algorithm/string/predicate.hpp>
+#include <functional>
+#include <new>
 #include <string>
+#include <string_view>
 #include <xercesc/framework/Wrapper4InputSource.hpp>
 #include <xercesc/sax/InputSource.hpp>
 #include <xercesc/sax/SAXException.hpp>
@@ -22,61 +28,9 @@ namespace {
 
 using namespace xercesc;
 
-/// Watches what stands before the root element for a document type declaration. The scanner in use would
-/// skip one without a word, but a package must not have any. Zero bytes are passed over, so that UTF-16
-/// needs no decoding here.
-class PrologGuard {
-public:
-    void watch(const XMLByte* bytes, XMLSize_t count) {
-        for (XMLSize_t i = 0; i < count && state_ != State::Done; ++i)
-            if (bytes[i] != 0)
-                take(static_cast<char>(bytes[i]));
-    }
-
-private:
-    enum class State { Between, Markup, Comment, Instruction, Done };
-
-    void take(char c) {
-        if (state_ == State::Between) {
-            if (c == '<')
-                enter(State::Markup);
-        } else if (state_ == State::Markup) {
-            seen_ += c;
-            judgeMarkup();
-        } else {
-            seen_ = (seen_ + c).substr(seen_.size() >= 3 ? 1 : 0);
-            const bool isEnd =
-                state_ == State::Comment ? seen_ == "-->" : boost::algorithm::ends_with(seen_, "?>");
-            if (isEnd)
-                enter(State::Between);
-        }
-    }
-
-    void judgeMarkup() {
-        static const std::string comment = "!--", documentType = "!DOCTYPE";
-        if (seen_ == documentType)
-            throw Exception("it has a document type declaration");
-        if (seen_ == comment)
-            enter(State::Comment);
-        else if (seen_ == "?")
-            enter(State::Instruction);
-        else if (comment.compare(0, seen_.size(), seen_) != 0 &&
-                 documentType.compare(0, seen_.size(), seen_) != 0)
-            state_ = State::Done;
-    }
-
-    void enter(State state) {
-        state_ = state;
-        seen_.clear();
-    }
-
-    State state_ = State::Between;
-    std::string seen_;
-};
-
 class GuardedStream : public BinInputStream {
 public:
-    explicit GuardedStream(InputStream& stream) : stream_(stream) {}
+    GuardedStream(InputStream& stream, XmlBudget* budget) : stream_(stream), budget_(budget) {}
 
     XMLFilePos curPos() const override { return position_; }
     XMLSize_t readBytes(XMLByte* const target, const XMLSize_t count) override {
@@ -84,6 +38,8 @@ public:
         position_ += read;
         if (position_ > kMaxXmlBytes)
             throw Exception("it is larger than " + std::to_string(kMaxXmlBytes >> 20) + " MB");
+        if (budget_)
+            budget_->take(read * kXmlByteCost);
         guard_.watch(target, read);
         return read;
     }
@@ -91,26 +47,44 @@ public:
 
 private:
     InputStream& stream_;
-    PrologGuard guard_;
+    XmlBudget* budget_;
+    MarkupGuard guard_;
     XMLFilePos position_ = 0;
 };
 
 class GuardedSource : public InputSource {
 public:
-    explicit GuardedSource(InputStream& stream) : stream_(stream) {}
-    BinInputStream* makeStream() const override { return new GuardedStream(stream_); }
+    GuardedSource(InputStream& stream, XmlBudget* budget) : stream_(stream), budget_(budget) {}
+    BinInputStream* makeStream() const override { return new GuardedStream(stream_, budget_); }
 
 private:
     InputStream& stream_;
+    XmlBudget* budget_;
 };
 
 std::string narrow(const XMLCh* text) {
     return vellox::toUtf8(toWideString(text));
 }
 
+// Those in which markup looks as MarkupGuard expects it. Packages are UTF-8 or UTF-16 by their standard.
+bool isReadable(const std::string& encoding) {
+    static const char* const families[] = {"UTF-8",    "UTF8",        "UTF-16",    "UTF16",
+                                           "US-ASCII", "ASCII",       "ISO-8859-", "ISO8859",
+                                           "LATIN1",   "WINDOWS-125", "CP125"};
+    return encoding.empty() || std::any_of(std::begin(families), std::end(families), [&](const char* family) {
+               return boost::algorithm::istarts_with(encoding, family);
+           });
+}
+
+std::size_t hashName(const XMLCh* name) {
+    return std::hash<std::u16string_view>()(name);
+}
+
 } // namespace
 
-BoundedParser::BoundedParser() {
+BoundedParser::BoundedParser(boost::shared_ptr<XmlBudget> budget)
+    : DOMLSParserImpl(nullptr, &getXercesMemory()),
+      budget_(std::move(budget)) {
     DOMConfiguration* config = getDomConfig();
     config->setParameter(XMLUni::fgXercesScannerName, XMLUni::fgWFXMLScanner);
     config->setParameter(XMLUni::fgXercesSchema, false);
@@ -121,14 +95,17 @@ BoundedParser::BoundedParser() {
 }
 
 void BoundedParser::setNamespaceAware(bool aware) {
+    isNamespaceAware_ = aware;
     getDomConfig()->setParameter(XMLUni::fgDOMNamespaces, aware);
 }
 
 DOMDocument* BoundedParser::readDocument(InputStream& stream) {
-    depth_ = 0;
+    depth_ = namespaces_ = 0;
     nodes_ = 0;
+    names_.clear();
     error_.clear();
-    GuardedSource source(stream);
+    charge(kXmlDocumentCost);
+    GuardedSource source(stream, budget_.get());
     const Wrapper4InputSource input(&source, false);
     try {
         DocumentScope document(parse(&input));
@@ -137,8 +114,8 @@ DOMDocument* BoundedParser::readDocument(InputStream& stream) {
         if (!document || !document->getDocumentElement())
             throw Exception("it has no root element");
         return document.release();
-    } catch (const OutOfMemoryException&) {
-        throw Exception("it needs more memory than there is");
+    } catch (const OutOfMemoryException&) { // not from the memory of this library
+        throw std::bad_alloc();
     } catch (const XMLException& failure) {
         throw Exception(narrow(failure.getMessage()));
     } catch (const SAXException& failure) {
@@ -148,14 +125,48 @@ DOMDocument* BoundedParser::readDocument(InputStream& stream) {
     }
 }
 
+void BoundedParser::charge(std::uint64_t cost) {
+    if (budget_)
+        budget_->take(cost);
+}
+
+void BoundedParser::countNodes(XMLSize_t count) {
+    nodes_ += count;
+    if (nodes_ > kMaxXmlNodes)
+        throw Exception("it has more than " + std::to_string(kMaxXmlNodes) +
+                        " elements, attributes, texts and comments");
+    charge(count * kXmlNodeCost);
+}
+
+void BoundedParser::countName(const XMLCh* name) {
+    names_.insert(hashName(name));
+    if (names_.size() > kMaxXmlNames)
+        throw Exception("it has more than " + std::to_string(kMaxXmlNames) +
+                        " different names of elements and attributes");
+}
+
+void BoundedParser::countNamespace(const XMLAttr& attribute) {
+    static constexpr XMLCh kXmlns[] = u"xmlns";
+    const bool declares =
+        XMLString::equals(attribute.getPrefix(), kXmlns) || XMLString::equals(attribute.getName(), kXmlns);
+    if (declares && ++namespaces_ > kMaxNamespaces)
+        throw Exception("it declares more than " + std::to_string(kMaxNamespaces) + " namespaces");
+}
+
 void BoundedParser::startElement(const XMLElementDecl& declaration, const unsigned int uriId,
                                  const XMLCh* const prefix, const RefVectorOf<XMLAttr>& attributes,
                                  const XMLSize_t attributeCount, const bool isEmpty, const bool isRoot) {
-    nodes_ += 1 + attributeCount;
-    if (nodes_ > kMaxXmlNodes)
-        throw Exception("it has more than " + std::to_string(kMaxXmlNodes) + " elements and attributes");
+    countNodes(1 + attributeCount);
     if (++depth_ > kMaxElementDepth)
         throw Exception("its elements stand more than " + std::to_string(kMaxElementDepth) + " deep");
+    countName(declaration.getFullName());
+    for (XMLSize_t i = 0; i < attributeCount; ++i) {
+        const XMLAttr& attribute = *attributes.elementAt(i);
+        countName(attribute.getName());
+        charge(XMLString::stringLen(attribute.getValue()) * kXmlAttributeCharacterCost);
+        if (isNamespaceAware_)
+            countNamespace(attribute);
+    }
     DOMLSParserImpl::startElement(declaration, uriId, prefix, attributes, attributeCount, isEmpty, isRoot);
 }
 
@@ -163,6 +174,32 @@ void BoundedParser::endElement(const XMLElementDecl& declaration, const unsigned
                                const XMLCh* const prefix) {
     --depth_;
     DOMLSParserImpl::endElement(declaration, uriId, isRoot, prefix);
+}
+
+void BoundedParser::docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCData) {
+    countNodes(1);
+    charge(length * kXmlTextCharacterCost);
+    DOMLSParserImpl::docCharacters(text, length, isCData);
+}
+
+void BoundedParser::docComment(const XMLCh* const text) {
+    countNodes(1);
+    charge(XMLString::stringLen(text) * kXmlTextCharacterCost);
+    DOMLSParserImpl::docComment(text);
+}
+
+void BoundedParser::docPI(const XMLCh* const target, const XMLCh* const data) {
+    countNodes(1);
+    countName(target);
+    charge(XMLString::stringLen(data) * kXmlTextCharacterCost);
+    DOMLSParserImpl::docPI(target, data);
+}
+
+void BoundedParser::XMLDecl(const XMLCh* const version, const XMLCh* const encoding,
+                            const XMLCh* const standalone, const XMLCh* const actualEncoding) {
+    if (!isReadable(narrow(encoding)))
+        throw Exception("it is in the encoding " + narrow(encoding) + ", and not in UTF-8 or UTF-16");
+    DOMLSParserImpl::XMLDecl(version, encoding, standalone, actualEncoding);
 }
 
 // The parser swallows what is thrown here, so that the error is kept until it is done.

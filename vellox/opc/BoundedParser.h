@@ -4,19 +4,24 @@
 #ifndef VELLOX_OPC_BOUNDEDPARSER_H
 #define VELLOX_OPC_BOUNDEDPARSER_H
 
+#include <boost/shared_ptr.hpp>
+#include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/parsers/DOMLSParserImpl.hpp>
 
 #include "vellox/opc/Streams.h"
+#include "vellox/opc/XmlBudget.h"
 
 namespace opc {
 
-/// Parses for well-formedness only, fetches nothing, refuses document types, and counts depth and nodes
+/// Parses for well-formedness only, fetches nothing, refuses document types, and counts depth, nodes and names
 /// while the document grows.
 class BoundedParser : public xercesc::DOMLSParserImpl, private xercesc::DOMErrorHandler {
 public:
-    BoundedParser();
+    /// @param budget what all that this parser reads is charged to; empty for none
+    explicit BoundedParser(boost::shared_ptr<XmlBudget> budget = {});
 
     /// Names of elements and attributes stay plain strings, prefix and all, unless this is switched on.
     void setNamespaceAware(bool aware);
@@ -29,13 +34,26 @@ public:
                       const XMLSize_t attributeCount, const bool isEmpty, const bool isRoot) override;
     void endElement(const xercesc::XMLElementDecl& declaration, const unsigned int uriId, const bool isRoot,
                     const XMLCh* const prefix) override;
+    void docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCData) override;
+    void docComment(const XMLCh* const text) override;
+    void docPI(const XMLCh* const target, const XMLCh* const data) override;
+    void XMLDecl(const XMLCh* const version, const XMLCh* const encoding, const XMLCh* const standalone,
+                 const XMLCh* const actualEncoding) override;
 
 private:
     bool handleError(const xercesc::DOMError& error) override;
+    void charge(std::uint64_t cost);
+    void countNodes(XMLSize_t count);
+    void countName(const XMLCh* name);
+    void countNamespace(const xercesc::XMLAttr& attribute);
 
+    boost::shared_ptr<XmlBudget> budget_;
     std::string error_; // the first; empty if there is none
+    bool isNamespaceAware_ = false;
     unsigned depth_ = 0;
-    unsigned long long nodes_ = 0;
+    unsigned namespaces_ = 0;
+    std::uint64_t nodes_ = 0;
+    std::unordered_set<std::size_t> names_; // by their hashes: two that share one count once
 };
 
 } // namespace opc

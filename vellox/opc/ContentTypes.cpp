@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Exception.h"
+#include "vellox/opc/Limits.h"
 #include "vellox/opc/XercesString.h"
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -43,7 +44,10 @@ void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
         !XMLString::equals(root->getNamespaceURI(), kNamespace))
         throw Exception("[Content_Types].xml isn't a list of content types");
     hasPrefix_ = root->getPrefix() != nullptr;
+    std::uint64_t rows = 0;
     for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
+        if (++rows > kMaxEntries)
+            throw Exception("[Content_Types].xml lists more than " + std::to_string(kMaxEntries) + " types");
         const std::wstring type = getAttribute(*row, u"ContentType");
         if (XMLString::equals(row->getLocalName(), u"Default"))
             setDefault(getAttribute(*row, u"Extension"), type);

@@ -98,6 +98,7 @@ void FileSystemPhysicalPackage::listFiles() {
             throw Exception("it has more than " + std::to_string(kMaxEntries) + " files");
         if (entry->symlink_status(failure).type() != fs::file_type::regular)
             continue;
+        size_ += entry->file_size(failure);
         const std::wstring name =
             vellox::fromUtf8(entry->path().lexically_relative(folder_).generic_string());
         addEntry(name, makeFile(PartName(L"/" + name), StandardPartInfo()));

@@ -13,8 +13,8 @@ namespace {
 
 constexpr wchar_t kRelationshipType[] = L"application/vnd.openxmlformats-package.relationships+xml";
 
-xercesc::DOMLSParser* createNamespaceAwareParser() {
-    auto parser = std::make_unique<BoundedParser>();
+xercesc::DOMLSParser* createNamespaceAwareParser(const boost::shared_ptr<XmlBudget>& budget) {
+    auto parser = std::make_unique<BoundedParser>(budget);
     parser->setNamespaceAware(true);
     return parser.release();
 }
@@ -92,12 +92,13 @@ RelationshipTable& Part::getTable() const {
 // PackageContents
 
 PackageContents::PackageContents(boost::shared_ptr<PhysicalPackage> physical)
-    : parser_(createNamespaceAwareParser()),
-      serializer_(XercesHelper::createWriter()),
+    : serializer_(XercesHelper::createWriter()),
       physical_(std::move(physical)) {}
 
 void PackageContents::open(OpenMode mode) {
     physical_->open(mode);
+    budget_ = boost::make_shared<XmlBudget>(physical_->getSize());
+    parser_.reset(createNamespaceAwareParser(budget_));
     if (mode == OpenMode::Write) {
         types_.add(PartName(L"/a.rels"), ContentType(kRelationshipType));
         return;
@@ -202,6 +203,10 @@ void Package::close(bool) {
         contents_->closeUnsaved();
     else
         contents_->save();
+}
+
+const boost::shared_ptr<XmlBudget>& Package::getXmlBudget() const {
+    return contents_->getXmlBudget();
 }
 
 bool Package::hasPart(const PartName& name) const {

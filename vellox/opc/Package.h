@@ -87,6 +87,8 @@ public:
     /// @throws opc::Exception if it can't be saved; the container is as it was then
     void close(bool discard);
 
+    /// What all that is read of the open package is charged to, by whoever reads it.
+    const boost::shared_ptr<XmlBudget>& getXmlBudget() const;
     bool hasPart(const PartName& name) const;
     /// @throws opc::Exception if there is none
     Part getPart(const PartName& name) const;

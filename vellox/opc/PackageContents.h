@@ -26,6 +26,7 @@ public:
     /// The relationships of the package (no source) or of a part; read on first use.
     RelationshipTable& getRelationships(const PartName* source);
     ContentTypes& getContentTypes() { return types_; }
+    const boost::shared_ptr<XmlBudget>& getXmlBudget() const { return budget_; }
 
 private:
     struct Source {
@@ -38,7 +39,8 @@ private:
     bool hasChanges() const;
 
     XercesProcess xerces_;
-    ParserScope parser_;
+    boost::shared_ptr<XmlBudget> budget_;
+    ParserScope parser_; // from the opening on
     SerializerScope serializer_;
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;

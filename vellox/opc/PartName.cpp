@@ -95,6 +95,10 @@ PartName PartName::getRelationshipPartName() const {
     return PartName(getFolder() + L"_rels/" + name_.substr(name_.rfind(L'/') + 1) + L".rels");
 }
 
+URI PartName::toURI() const {
+    return URI(L"/" + vellox::fromUtf8(toEntryName()));
+}
+
 std::string PartName::toEntryName() const {
     std::string entry;
     const std::string bytes = vellox::toUtf8(name_);

@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "vellox/opc/Uri.h"
+
 namespace opc {
 
 /// An absolute name such as "/ppt/slides/slide1.xml". A value.
@@ -27,6 +29,8 @@ public:
     std::wstring getExtension() const;
     /// The name of the part that holds this part's relationships: "/ppt/slides/_rels/slide1.xml.rels".
     PartName getRelationshipPartName() const;
+    /// The name as a reference spells it: what a URI can't hold, or holds for another purpose, percent-encoded.
+    URI toURI() const;
     /// The name as an archive entry spells it: no "/" in front, and what a URI can't hold percent-encoded.
     std::string toEntryName() const;
 

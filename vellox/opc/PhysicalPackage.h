@@ -5,6 +5,7 @@
 #define VELLOX_OPC_PHYSICALPACKAGE_H
 
 #include <boost/shared_ptr.hpp>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,8 @@ public:
     /// @throws opc::Exception if it can't be saved; the former container is whole then
     virtual void close(bool save) = 0;
 
+    /// The bytes of the container on disk; 0 for a new one.
+    std::uint64_t getSize() const { return size_; }
     /// All parts but the content-type stream, in the order of the container, new ones last.
     std::vector<boost::shared_ptr<PhysicalPart>> getParts() const { return parts_; }
     virtual boost::shared_ptr<PhysicalPart> createPart(const PartName& name, StandardPartInfo info) = 0;
@@ -91,6 +94,7 @@ protected:
 
     std::vector<boost::shared_ptr<PhysicalPart>> parts_;
     boost::shared_ptr<PhysicalPart> contentTypes_;
+    std::uint64_t size_ = 0;
 };
 
 } // namespace opc

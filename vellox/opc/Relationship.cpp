@@ -30,7 +30,7 @@ void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
         const bool isExternal = getAttribute(*row, u"TargetMode") == L"External";
         rows_.emplace_back(getAttribute(*row, u"Id"), getAttribute(*row, u"Type"), target,
                            URI(isExternal ? target : resolveTarget(folder_, target)), isExternal);
-        ids_.insert(rows_.back().getID());
+        index(rows_.size() - 1);
     }
 }
 
@@ -51,23 +51,27 @@ void RelationshipTable::write(DOMLSSerializer& serializer, OutputStream& stream)
 }
 
 const Relationship* RelationshipTable::find(const std::wstring& id) const {
-    const auto found =
-        std::find_if(rows_.begin(), rows_.end(), [&](const Relationship& row) { return row.getID() == id; });
-    return found == rows_.end() ? nullptr : &*found;
+    const auto found = rowByID_.find(id);
+    return found == rowByID_.end() ? nullptr : &rows_[found->second];
+}
+
+void RelationshipTable::index(std::size_t row) {
+    rowByID_.emplace(rows_[row].getID(), row);
 }
 
 std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
     if (!wanted.empty())
         return wanted;
-    while (ids_.count(L"rId" + std::to_wstring(nextID_)) > 0)
+    while (rowByID_.count(L"rId" + std::to_wstring(nextID_)) > 0)
         ++nextID_;
     return L"rId" + std::to_wstring(nextID_);
 }
 
 const Relationship& RelationshipTable::add(Relationship row) {
-    if (!ids_.insert(row.getID()).second)
+    if (find(row.getID()))
         throw Exception("a relationship with this id exists already");
     rows_.push_back(std::move(row));
+    index(rows_.size() - 1);
     isChanged_ = true;
     return rows_.back();
 }
@@ -89,7 +93,9 @@ void RelationshipTable::remove(const std::wstring& id) {
                                     [&](const Relationship& row) { return row.getID() == id; });
     isChanged_ = isChanged_ || end != rows_.end();
     rows_.erase(end, rows_.end());
-    ids_.erase(id);
+    rowByID_.clear();
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        index(i);
     nextID_ = 1;
 }
 

@@ -4,8 +4,8 @@
 #ifndef VELLOX_OPC_RELATIONSHIP_H
 #define VELLOX_OPC_RELATIONSHIP_H
 
-#include <set>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "vellox/opc/Streams.h"
@@ -68,13 +68,14 @@ public:
     bool isChanged() const { return isChanged_; }
 
 private:
+    void index(std::size_t row);
     std::wstring chooseID(const std::wstring& wanted);
     const Relationship& add(Relationship row);
 
     std::wstring folder_;
     std::vector<Relationship> rows_;
-    std::set<std::wstring> ids_;
-    unsigned nextID_ = 1; // no smaller number is free
+    std::unordered_map<std::wstring, std::size_t> rowByID_; // the first of each id
+    unsigned nextID_ = 1;                                   // no smaller number is free
     bool isChanged_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/BoundedParser.h"
 #include "vellox/opc/Exception.h"
+#include "vellox/opc/XercesProcess.h"
 #include "vellox/opc/XercesString.h"
 
 #include <xercesc/framework/XMLFormatter.hpp>
@@ -31,12 +32,12 @@ DOMImplementation& getImplementation() {
 
 } // namespace
 
-DOMLSParser* XercesHelper::createParser() {
-    return new BoundedParser;
+DOMLSParser* XercesHelper::createParser(boost::shared_ptr<XmlBudget> budget) {
+    return new BoundedParser(std::move(budget));
 }
 
 DOMLSSerializer* XercesHelper::createWriter() {
-    return getImplementation().createLSSerializer();
+    return getImplementation().createLSSerializer(&getXercesMemory());
 }
 
 DOMDocument* XercesHelper::readDocumentFromStream(DOMLSParser* parser, InputStream& stream, bool,
@@ -47,7 +48,8 @@ DOMDocument* XercesHelper::readDocumentFromStream(DOMLSParser* parser, InputStre
 void XercesHelper::writeDocumentToStream(DOMLSSerializer* serializer, DOMDocument* document,
                                          OutputStream& stream) {
     StreamTarget target(stream);
-    const std::unique_ptr<DOMLSOutput, Release> output(getImplementation().createLSOutput());
+    const std::unique_ptr<DOMLSOutput, Release> output(
+        getImplementation().createLSOutput(&getXercesMemory()));
     // A document that was read from UTF-16 would otherwise be written so, and without a byte-order mark.
     output->setEncoding(u"UTF-8");
     output->setByteStream(&target);
@@ -62,7 +64,7 @@ void XercesHelper::writeDocumentToStream(DOMLSSerializer* serializer, DOMDocumen
 }
 
 DOMDocument* XercesHelper::createDocument(const XMLCh* rootName) {
-    DOMDocument* document = getImplementation().createDocument();
+    DOMDocument* document = getImplementation().createDocument(&getXercesMemory());
     document->setXmlStandalone(true);
     document->appendChild(document->createElement(rootName));
     return document;

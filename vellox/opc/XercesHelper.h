@@ -4,6 +4,7 @@
 #ifndef VELLOX_OPC_XERCESHELPER_H
 #define VELLOX_OPC_XERCESHELPER_H
 
+#include <boost/shared_ptr.hpp>
 #include <memory>
 #include <string>
 #include <xercesc/dom/DOM.hpp>
@@ -12,12 +13,15 @@
 
 namespace opc {
 
+class XmlBudget;
+
 /// Class-level operations only. A program that uses them holds a XercesProcess.
 class XercesHelper {
 public:
     /// A parser that holds to the limits of Limits.h and whose documents belong to the caller. End it with
     /// release().
-    static xercesc::DOMLSParser* createParser();
+    /// @param budget what all that it reads is charged to; empty for none
+    static xercesc::DOMLSParser* createParser(boost::shared_ptr<XmlBudget> budget = {});
     /// A serializer that writes UTF-8 and adds nothing to a document. End it with release().
     static xercesc::DOMLSSerializer* createWriter();
 

@@ -1,6 +1,7 @@
 #include "vellox/opc/XercesProcess.h"
 
 #include <boost/make_shared.hpp>
+#include <new>
 #include <xercesc/util/PlatformUtils.hpp>
 
 namespace opc {
@@ -11,9 +12,29 @@ constexpr XMLSize_t kFirstDomBlock = 8 << 10;
 constexpr XMLSize_t kLargestDomBlock = 32 << 10;
 constexpr XMLSize_t kLargestFromBlock = 1 << 10;
 
+namespace {
+
+class Memory : public xercesc::MemoryManager {
+public:
+    void* allocate(XMLSize_t size) override { return ::operator new(size); }
+    void deallocate(void* block) override { ::operator delete(block); }
+    xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
+};
+
+} // namespace
+
+xercesc::MemoryManager& getXercesMemory() {
+    static Memory& memory = *new Memory; // documents may end later than anything that is static
+    return memory;
+}
+
 class XercesProcess::Run {
 public:
-    Run() { xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock); }
+    Run() {
+        xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock,
+                                              xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr,
+                                              &getXercesMemory());
+    }
     ~Run() { xercesc::XMLPlatformUtils::Terminate(); }
 };
 

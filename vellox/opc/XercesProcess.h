@@ -5,6 +5,7 @@
 #define VELLOX_OPC_XERCESPROCESS_H
 
 #include <boost/shared_ptr.hpp>
+#include <xercesc/framework/MemoryManager.hpp>
 
 namespace opc {
 
@@ -19,6 +20,10 @@ private:
     class Run;
     boost::shared_ptr<Run> run_;
 };
+
+/// Where the Xerces of this library takes its memory. It throws std::bad_alloc where there is no more; Xerces'
+/// own throws a class that no handler of std::exception catches. Lives as long as the process.
+xercesc::MemoryManager& getXercesMemory();
 
 } // namespace opc
 

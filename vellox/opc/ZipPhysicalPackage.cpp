@@ -69,8 +69,9 @@ std::wstring readEntryName(const char* name) {
     return text.substr(text.find_first_not_of(L'/') == 1 ? 1 : 0);
 }
 
+// What is no larger than XML may be can be as repetitive as it likes.
 void checkInflation(const zip_stat_t& entry) {
-    if (entry.size > kInflationFloor && entry.size / kMaxInflation > entry.comp_size)
+    if (entry.size > kMaxXmlBytes && entry.size / kMaxInflation > entry.comp_size)
         throw Exception(std::string("its entry ") + entry.name + " would inflate more than " +
                         std::to_string(kMaxInflation) + " times");
 }
@@ -181,13 +182,23 @@ void ZipPhysicalPackage::open(OpenMode mode) {
     if (input_ && !input_->getStream().good())
         throw Exception("it doesn't exist or can't be read");
     archive_ = openForReading();
+    size_ = measure();
     listEntries();
+}
+
+std::uint64_t ZipPhysicalPackage::measure() const {
+    if (!input_)
+        return std::filesystem::file_size(path_);
+    std::istream& stream = input_->getStream();
+    stream.clear();
+    return static_cast<std::uint64_t>(stream.seekg(0, std::ios::end).tellg());
 }
 
 void ZipPhysicalPackage::listEntries() {
     const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
     if (static_cast<std::uint64_t>(count) > kMaxEntries)
         throw Exception("it has more than " + std::to_string(kMaxEntries) + " entries");
+    std::uint64_t left = size_;
     for (zip_int64_t i = 0; i < count; ++i) {
         const auto index = static_cast<zip_uint64_t>(i);
         zip_stat_t facts;
@@ -195,6 +206,10 @@ void ZipPhysicalPackage::listEntries() {
             fail(zip_get_error(archive_.get()));
         if ((facts.valid & ZIP_STAT_ENCRYPTION_METHOD) && facts.encryption_method != ZIP_EM_NONE)
             throw Exception(std::string("its entry ") + facts.name + " is encrypted");
+        // Entries that lie over one another are a few bytes here and would be any number in a copy.
+        if (facts.comp_size > left)
+            throw Exception("its entries hold more bytes than it has, so that some of them overlap");
+        left -= facts.comp_size;
         const std::wstring name = readEntryName(facts.name);
         if (name.empty() || name.back() == L'/')
             continue;

@@ -45,6 +45,7 @@ private:
     static Archive openSource(zip_source_t* source, int flags, zip_error_t* error);
     Archive openForReading() const;
     Archive openForWriting() const;
+    std::uint64_t measure() const;
     void listEntries();
     void writeEntry(zip_t* target, const Entry& entry) const;
     zip_source_t* makeSource(zip_t* target, const Entry& entry) const;

@@ -1,6 +1,7 @@
 // What goes wrong leaves files whole and nothing behind.
 
 #include "vellox/foundation/FileUtils.h"
+#include "vellox/opc/Limits.h"
 #include "vellox/ppt/tree/ExternalLink.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
@@ -226,6 +227,32 @@ TEST_F(FailureTest, BadTemplatesAreRefusedByName) {
     }
     deck = Presentation();
     EXPECT_TRUE(temporary.list().empty());
+}
+
+// A few bytes that would cost the machine's memory are told from a deck by what they would cost.
+TEST_F(FailureTest, TemplatesThatCostTooMuchAreRefused) {
+    const std::string master = "ppt/slideMasters/slideMaster1.xml";
+    useTemplate(withChange(getTemplateParts(), master, "<p:spTree>",
+                           "<p:spTree x='" + std::string(27 << 20, 'x') + "'>"));
+    EXPECT_EQ(errorOf([&] { deck.open(); }).find("ppt_error:partDOMBuildError /" + master), 0u);
+    deck = Presentation(folder / L"one.pptx");
+    deck.add(L"Blank");
+    deck.close();
+    const Parts one = readParts(folder / L"one.pptx");
+    const std::string entry = findOne(one.at("ppt/presentation.xml"), "p:sldId");
+    const std::string id =
+        entry.substr(entry.find("r:id='") + 6, entry.rfind('\'') - entry.find("r:id='") - 6);
+    std::string list;
+    for (unsigned i = 0; i <= opc::kMaxReadings; ++i)
+        list += "<p:sldId id='300' r:id='" + id + "'/>";
+    const Parts often = withChange(one, "ppt/presentation.xml", "</p:sldIdLst>", list + "</p:sldIdLst>");
+    useTemplate(often, L"often.pptx");
+    EXPECT_NE(errorOf([&] { deck.open(); }).find("referred to"), std::string::npos);
+    useTemplate(withChange(often, "ppt/slides/slide1.xml", "<p:spTree>",
+                           "<p:spTree x='" + std::string(2 << 20, 'x') + "'>"),
+                L"wide.pptx"); // modest by itself
+    EXPECT_NE(errorOf([&] { deck.open(); }).find("slide1.xml all that is read"), std::string::npos);
+    EXPECT_FALSE(FileUtils::fileExists(output));
 }
 
 TEST_F(FailureTest, ARejectedTemplateCanBeReplacedAndABrokenOneCant) {

@@ -146,6 +146,50 @@ TEST_F(SlideDocumentsTest, PrefixesAndRelationshipsComeAlong) {
     EXPECT_NE(own.find("Id=\"rId9\""), std::string::npos);
 }
 
+TEST_F(SlideDocumentsTest, PartsAreFoundHoweverTheyAreSpelled) {
+    const char* const rels = "ppt/slideLayouts/_rels/slideLayout1.xml.rels";
+    Parts parts = withChange(getTemplateParts(), rels, "slideMasters/slideMaster1.xml",
+                             "SLIDEMASTERS/slideMaster1%2Exml");
+    // A number sign belongs to the name here, and would begin a fragment in a target.
+    const auto rename = [&](const std::string& from, const std::string& to) {
+        parts[to] = parts.at(from);
+        parts.erase(from);
+    };
+    rename("ppt/slideLayouts/slideLayout1.xml", "ppt/slideLayouts/a#1?.xml");
+    rename(rels, "ppt/slideLayouts/_rels/a%231%3F.xml.rels");
+    parts =
+        withChange(parts, "ppt/slideMasters/_rels/slideMaster1.xml.rels", "slideLayout1.xml", "a%231%3F.xml");
+    parts = withChange(parts, "[Content_Types].xml", "slideLayout1.xml", "a%231%3F.xml");
+    useTemplate(parts);
+    const Slide slide = deck.add(deck.getLayoutNames(L"Vellox").at(0));
+    EXPECT_EQ(slide.getSlideMasterName(), L"Vellox");
+    const Parts& closed = close(); // which expects a sound deck
+    EXPECT_NE(closed.at("ppt/slides/_rels/slide1.xml.rels").find("slideLayouts/a%231%3F.xml"),
+              std::string::npos);
+}
+
+TEST_F(SlideDocumentsTest, MarksAndPrefixesOfNobodyStayBehind) {
+    useLayout(layout(shape(7, "Title", "<p:ph type='title'/>", "<x:fill y:z='1'/>") +
+                     "<p:sp data-uid='1'><p:nvSpPr/></p:sp><p:extLst xmlns:d='urn:d' u:v='1' d:w='2'>"
+                     "<d:kept/><u:gone><d:kept/></u:gone></p:extLst>"));
+    deck.add(L"Own").replace(L"Title", L"text");
+    close();
+    EXPECT_EQ(findOne(slideXml(1), "p:extLst"), "<p:extLst d:w='2'><d:kept/></p:extLst>");
+    EXPECT_EQ(findOne(shapeXml(1, "Title"), "p:spPr"), "<p:spPr/>");
+    EXPECT_EQ(findAll(slideXml(1), "p:sp").size(), 1u); // a mark doesn't make a placeholder
+
+    const Parts made = readParts(output);
+    const std::wstring next = folder / L"next.pptx";
+    useTemplate(withChange(withChange(made, "ppt/slides/slide1.xml", "<p:sp>", "<p:sp data-uid='1'>"),
+                           "ppt/slides/slide1.xml", "<p:spPr", "<p:spPr data-uid='1'"),
+                L"marked.pptx");
+    output = next;
+    deck = Presentation(next, folder / L"marked.pptx");
+    deck.replace(L"Title", L"new");
+    close();
+    EXPECT_EQ(runsOf(slideXml(1)), "new");
+}
+
 TEST_F(SlideDocumentsTest, NewShapesAreNumberedBehindThePlaceholders) {
     useLayout(layout(shape(7, "Title", "<p:ph type='title'/>") + shape(40, "Date", "<p:ph type='dt'/>")));
     Slide slide = deck.add(L"Own");

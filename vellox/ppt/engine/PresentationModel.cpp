@@ -1,6 +1,7 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/Limits.h"
 #include "vellox/opc/Package.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
@@ -109,10 +110,21 @@ void PresentationModel::loadLayouts(const opc::Part& masterPart, TemplateMaster&
         const boost::shared_ptr<TemplateLayout> layout = getLayout(builder_->getPart(row));
         if (!layout)
             continue;
+        builder_->charge(opc::kShapeCost + layout->name.size() * opc::kXmlAttributeCharacterCost);
         master.layouts->push_back(layout);
         master.layoutsByName.emplace(layout->name, layout);
         master.layoutNames.push_back(layout->name);
     }
+}
+
+// The document of a layout or slide, to be marked with data-uid. Marks that it has already, from wherever, are
+// nobody's: they would lead to the wrong elements, and into the file.
+OwnedDocument PresentationModel::readMarked(const opc::Part& part) {
+    OwnedDocument document(builder_->getDocument(part));
+    for (DOMElement* element : getAllElements(document.get()))
+        if (element->hasAttribute(xml::kDataUid))
+            element->removeAttribute(xml::kDataUid);
+    return document;
 }
 
 boost::shared_ptr<TemplateLayout> PresentationModel::getLayout(const opc::Part& part) {
@@ -120,7 +132,7 @@ boost::shared_ptr<TemplateLayout> PresentationModel::getLayout(const opc::Part& 
     const auto known = layoutsByPartName_.find(partName);
     if (known != layoutsByPartName_.end())
         return known->second;
-    OwnedDocument document(builder_->getDocument(part));
+    OwnedDocument document = readMarked(part);
     const std::vector<DOMElement*> roots = getElementsByName(document.get(), xml::kSldLayout);
     if (roots.empty())
         return {};
@@ -134,10 +146,16 @@ boost::shared_ptr<TemplateLayout> PresentationModel::getLayout(const opc::Part& 
     const std::vector<DOMElement*> slideData = getElementsByName(layout->document.get(), xml::kCSld);
     layout->name = getAttribute(slideData.empty() ? nullptr : slideData.front(), xml::kName);
     layoutsByPartName_.emplace(partName, layout);
-    const auto master = mastersByPartName_.find(layout->masterPartName);
-    if (master != mastersByPartName_.end())
-        layout->master = master->second;
+    layout->master = findMaster(layout->masterPartName);
     return layout;
+}
+
+// A target may spell the name of its part in another way than the package does.
+boost::shared_ptr<TemplateMaster> PresentationModel::findMaster(const std::wstring& target) const {
+    if (target.empty() || !builder_->hasPart(target))
+        return {};
+    const auto found = mastersByPartName_.find(builder_->getPart(target).getName().toString());
+    return found == mastersByPartName_.end() ? boost::shared_ptr<TemplateMaster>() : found->second;
 }
 
 void PresentationModel::readLayoutShapes(TemplateLayout& layout) {
@@ -171,12 +189,11 @@ void PresentationModel::loadSlides(const opc::Part& presentation) {
 void PresentationModel::loadSlide(const opc::Part& presentation, TemplateSlide& slide) {
     const opc::Part part = builder_->getPart(presentation.getRelationshipByID(slide.relationshipId));
     slide.partName = part.getName().toString();
-    for (const opc::Relationship& row : builder_->getRelationships(part, relationship::kSlideLayout)) {
-        slide.layout = getLayout(builder_->getPart(row));
-        break;
-    }
+    const std::wstring layout = builder_->getRelationshipTarget(part, relationship::kSlideLayout);
+    if (!layout.empty())
+        slide.layout = getLayout(builder_->getPart(layout));
     slide.shapes = boost::make_shared<TemplateShapes>();
-    slide.document.reset(builder_->getDocument(part));
+    slide.document = readMarked(part);
     const DOMElement* slideData = findChild(slide.document->getDocumentElement(), xml::kCSld);
     slide.name = getAttribute(slideData, xml::kName);
     DOMElement* tree = findDescendant(slide.document->getDocumentElement(), {xml::kCSld, xml::kSpTree});
@@ -257,6 +274,7 @@ void PresentationModel::parseShape(DOMElement* element, TemplateShapes& shapes,
     const NodeType type = classify(element);
     if (type == NodeType::None || (!layout && !isPlaceholder(type)))
         return;
+    builder_->charge(opc::kShapeCost);
     const auto shape = boost::make_shared<TemplateShape>();
     shape->id = nextShapeUid();
     shape->type = type;

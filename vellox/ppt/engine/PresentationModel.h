@@ -75,6 +75,8 @@ private:
     void loadSlides(const opc::Part& presentation);
     void loadSlide(const opc::Part& presentation, TemplateSlide& slide);
     void loadTableStyles(const std::wstring& partName);
+    OwnedDocument readMarked(const opc::Part& part);
+    boost::shared_ptr<TemplateMaster> findMaster(const std::wstring& target) const;
     boost::shared_ptr<TemplateLayout> getLayout(const opc::Part& part);
     void readLayoutShapes(TemplateLayout& layout);
     void parseShape(xercesc::DOMElement* element, TemplateShapes& shapes, const TemplateLayout* layout);

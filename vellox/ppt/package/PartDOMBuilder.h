@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_PACKAGE_PARTDOMBUILDER_H
 #define VELLOX_PPT_PACKAGE_PARTDOMBUILDER_H
 
+#include <cstdint>
+#include <map>
 #include <string>
 
 #include "vellox/opc/XercesHelper.h"
@@ -24,10 +26,14 @@ public:
     /// Null if the name is empty or there is no such part.
     xercesc::DOMDocument* getDocument(const std::wstring& partName);
     /// @}
+    /// Charges what is made of the documents and kept.
+    /// @throws opc::Exception if the package costs too much
+    void charge(std::uint64_t cost);
 
 private:
     opc::XercesProcess xerces_;
     opc::ParserScope parser_;
+    std::map<opc::PartName, unsigned> readings_;
 };
 
 } // namespace vellox::ppt

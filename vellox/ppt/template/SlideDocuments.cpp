@@ -140,6 +140,42 @@ std::vector<std::wstring> collectRelationshipIds(DOMDocument& document) {
     return {ids.begin(), ids.end()};
 }
 
+// Whether the prefix of a name is declared where the name stands. The library's own always are.
+bool isDeclared(const XMLCh* name, const DOMNode* element) {
+    const std::u16string text(name);
+    const std::size_t colon = text.find(u':');
+    if (colon == std::u16string::npos)
+        return true;
+    const std::u16string prefix = text.substr(0, colon);
+    if (colon == 0 || colon + 1 == text.size() || text.find(u':', colon + 1) != std::u16string::npos)
+        return false;
+    if (prefix == u"xml" || prefix == u"xmlns" || prefix == u"a" || prefix == u"p" || prefix == u"r")
+        return true;
+    const std::u16string declaration = u"xmlns:" + prefix;
+    for (; element && element->getNodeType() == DOMNode::ELEMENT_NODE; element = element->getParentNode())
+        if (static_cast<const DOMElement*>(element)->hasAttribute(declaration.c_str()))
+            return true;
+    return false;
+}
+
+// What nobody can say the meaning of makes a slide that readers refuse. A layout is read without namespaces,
+// where it goes unnoticed.
+void removeUndeclared(DOMDocument& document) {
+    Nodes condemned;
+    for (DOMElement* element : getAllElements(&document)) {
+        if (!isDeclared(element->getNodeName(), element))
+            condemned.push_back(element);
+        const DOMNamedNodeMap* attributes = element->getAttributes();
+        for (XMLSize_t i = attributes->getLength(); i-- > 0;) {
+            const XMLCh* name = attributes->item(i)->getNodeName();
+            if (!isDeclared(name, element))
+                element->removeAttribute(name);
+        }
+    }
+    for (DOMNode* node : condemned)
+        removeNode(node);
+}
+
 OwnedDocument makePrototype(TemplateLayout& layout) {
     OwnedDocument document = copyDocument(layout.document);
     removeIndentation(*document.get());
@@ -147,9 +183,11 @@ OwnedDocument makePrototype(TemplateLayout& layout) {
     if (DOMElement* data = document->getDocumentElement()->getFirstElementChild())
         data->removeAttribute(xml::kName);
     stripShapeTree(*document.get());
+    removeUndeclared(*document.get());
     completeIdentities(*document.get(), layout);
     layout.slideRelationshipIds = collectRelationshipIds(*document.get());
-    return document;
+    return copyDocument(
+        document); // which leaves behind what was stripped: a document never gives memory back
 }
 
 } // namespace
@@ -170,7 +208,6 @@ void declarePrefixes(DOMElement* root) {
 }
 
 OwnedDocument makeSlideDocument(TemplateLayout& layout) {
-    // What was stripped stays in the memory of the document that it was stripped from: copies are smaller.
     if (!layout.slidePrototype)
         layout.slidePrototype = makePrototype(layout);
     return copyDocument(layout.slidePrototype);

@@ -55,7 +55,8 @@ std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
     if (!slide.layout)
         return name;
     copyRelationships(getPart(slide.layout->partName), part, slide.layout->slideRelationshipIds);
-    part.createInternalRelationship(relationship::kSlideLayout, opc::URI(slide.layout->partName), {});
+    part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),
+                                    {});
     return name;
 }
 
@@ -91,7 +92,7 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::ws
 
 std::wstring PPTPartWriter::addRelationship(const std::wstring& partName, const std::wstring& type,
                                             const std::wstring& target) {
-    return getPart(partName).createInternalRelationship(type, opc::URI(target), {}).getID();
+    return getPart(partName).createInternalRelationship(type, opc::PartName(target).toURI(), {}).getID();
 }
 
 void PPTPartWriter::alignMainType(const std::wstring& mainPartName) {

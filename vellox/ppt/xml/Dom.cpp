@@ -23,6 +23,18 @@ DOMElement* getFirstChildElement(const DOMNode* parent) {
     return isElement ? static_cast<const DOMElement*>(parent)->getFirstElementChild() : nullptr;
 }
 
+// The element behind another in document order, or null behind the last. The walker of Xerces calls itself for
+// each node that it passes over, and its node lists count from the start whenever their length is asked for.
+DOMElement* getNextElement(const DOMElement* element) {
+    if (DOMElement* child = element->getFirstElementChild())
+        return child;
+    for (const DOMNode* node = element; node && node->getNodeType() == DOMNode::ELEMENT_NODE;
+         node = node->getParentNode())
+        if (DOMElement* next = static_cast<const DOMElement*>(node)->getNextElementSibling())
+            return next;
+    return nullptr;
+}
+
 } // namespace
 
 DOMElement* findChild(const DOMNode* parent, const XMLCh* name) {
@@ -57,17 +69,16 @@ std::vector<DOMElement*> getChildElements(const DOMNode* parent) {
 
 std::vector<DOMElement*> getAllElements(DOMDocument* document) {
     std::vector<DOMElement*> elements;
-    DOMTreeWalker* walker = document->createTreeWalker(document, DOMNodeFilter::SHOW_ELEMENT, nullptr, true);
-    while (DOMNode* node = walker->nextNode())
-        elements.push_back(static_cast<DOMElement*>(node));
+    for (DOMElement* element = document->getDocumentElement(); element; element = getNextElement(element))
+        elements.push_back(element);
     return elements;
 }
 
 std::vector<DOMElement*> getElementsByName(DOMDocument* document, const XMLCh* name) {
     std::vector<DOMElement*> elements;
-    const DOMNodeList* list = document->getElementsByTagName(name);
-    for (XMLSize_t i = 0; i < list->getLength(); ++i)
-        elements.push_back(static_cast<DOMElement*>(list->item(i)));
+    for (DOMElement* element = document->getDocumentElement(); element; element = getNextElement(element))
+        if (hasName(*element, name))
+            elements.push_back(element);
     return elements;
 }
 
