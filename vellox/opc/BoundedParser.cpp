@@ -53,7 +53,7 @@ private:
     }
 
     void judgeMarkup() {
-        static const std::string comment = "!--", documentType = "!DOCTYPE";
+        constexpr std::string_view comment = "!--", documentType = "!DOCTYPE";
         if (seen_ == documentType)
             throw Exception("it has a document type declaration");
         if (seen_ == comment)

@@ -1,9 +1,10 @@
 #include "vellox/opc/XercesProcess.h"
 
-#include <boost/make_shared.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
 namespace opc {
+
+namespace {
 
 // The blocks from which a document takes its nodes. A slide is a small document and a deck has thousands:
 // Xerces' own sizes (16 kB, doubling up to 128 kB) would leave most of each last block empty.
@@ -11,16 +12,16 @@ constexpr XMLSize_t kFirstDomBlock = 8 << 10;
 constexpr XMLSize_t kLargestDomBlock = 32 << 10;
 constexpr XMLSize_t kLargestFromBlock = 1 << 10;
 
-class XercesProcess::Run {
-public:
-    Run() { xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock); }
-    ~Run() { xercesc::XMLPlatformUtils::Terminate(); }
-};
+bool start() {
+    xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock);
+    return true;
+}
+
+} // namespace
 
 XercesProcess::XercesProcess() {
-    // Starting takes milliseconds, so that one hold is kept between presentations.
-    static const boost::shared_ptr<Run> kept = boost::make_shared<Run>();
-    run_ = kept;
+    static const bool isStarted = start();
+    static_cast<void>(isStarted);
 }
 
 } // namespace opc
