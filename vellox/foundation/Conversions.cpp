@@ -1,12 +1,11 @@
 #include "vellox/foundation/Conversions.h"
 
+#include "vellox/host/services/RandomName.h"
 #include "vellox/host/services/Utf8.h"
 
 #include <algorithm>
 #include <boost/algorithm/string/replace.hpp>
 #include <boost/lexical_cast.hpp>
-#include <boost/random/mersenne_twister.hpp>
-#include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
 #include <charconv>
 #include <cmath>
@@ -170,9 +169,7 @@ void replaceAll(std::wstring& text, const std::wstring& from, const std::wstring
 }
 
 std::wstring uuid_gen() {
-    // Seeded anew each time: a forked process must draw others.
-    boost::uuids::basic_random_generator<boost::mt19937> draw;
-    const boost::uuids::uuid id = draw();
+    const boost::uuids::uuid id = host::drawUuid();
     return id.is_nil() ? std::wstring() : toString(to_string(id));
 }
 

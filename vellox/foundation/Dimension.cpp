@@ -56,11 +56,11 @@ struct Pieces {
 };
 
 Pieces split(const std::wstring& text) {
-    static const boost::wregex pattern(L"\\s*"
-                                       L"(?<number>-?[0-9.]*)"
-                                       L"\\s*"
-                                       L"(?<units>[a-zA-Z%*]*)"
-                                       L"\\s*");
+    static const boost::wregex& pattern = *new const boost::wregex(L"\\s*"
+                                                                   L"(?<number>-?[0-9.]*)"
+                                                                   L"\\s*"
+                                                                   L"(?<units>[a-zA-Z%*]*)"
+                                                                   L"\\s*");
     boost::wsmatch match;
     // A search that may match nothing always succeeds at the first character: what doesn't fit is ignored.
     boost::regex_search(text, match, pattern);
@@ -97,13 +97,14 @@ const Dimension::Units& Dimension::str2dim(const std::wstring& text) {
 }
 
 const std::wstring& Dimension::dim2str(Units unit) {
-    static const std::array<std::wstring, kUnits.size()> texts = [] {
-        std::array<std::wstring, kUnits.size()> made;
+    static const auto& texts = []() -> const auto& {
+        auto& made = *new std::array<std::wstring, kUnits.size()>;
         for (std::size_t i = 0; i < made.size(); ++i)
             made[i] = kUnits[i].text;
         return made;
-    }();
-    static const std::wstring none;
+    }
+    ();
+    static const std::wstring& none = *new const std::wstring;
     return findRow(unit) ? texts[static_cast<std::size_t>(unit)] : none;
 }
 

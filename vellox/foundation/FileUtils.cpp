@@ -4,7 +4,9 @@
 #include "vellox/foundation/Exception.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/ReasonedException.h"
 #include "vellox/host/services/FileSystem.h"
+#include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 
@@ -22,8 +24,8 @@ using fsys::Path;
 template <class Id, class Operation> auto orRaise(const Id& id, Operation operation) {
     try {
         return operation();
-    } catch (const fsys::FsysExceptionBase&) {
-        raise(id);
+    } catch (const fsys::FsysExceptionBase& failure) {
+        raiseWithReason(id, failure.what());
     }
 }
 
@@ -40,7 +42,7 @@ bool isNetworkPath(const std::wstring& path) {
 }
 
 const std::map<std::wstring, const wchar_t*>& getContentTypes() {
-    static const std::map<std::wstring, const wchar_t*> types{
+    static const auto& types = *new const std::map<std::wstring, const wchar_t*>{
         {L"bmp", L"image/bmp"},
         {L"css", L"text/css"},
         {L"txt", L"text/plain"},
@@ -185,7 +187,7 @@ bool FileUtils::copyFile(const std::wstring& source, const std::wstring& target,
 
 void FileUtils::replaceFile(const std::wstring& source, const std::wstring& target) {
     orRaise(dom_error::failedToCopyFile(), [&] {
-        fsys::replaceFile(Path(source), Path(target), Path(L"vellox-" + uuid_gen() + L".tmp"));
+        fsys::replaceFile(Path(source), Path(target));
         return true;
     });
 }
@@ -217,9 +219,9 @@ std::wstring FileUtils::getContentType(const std::wstring& path) {
 void FileUtils::validateFileName(const std::wstring& name) {
     // The anchor binds to "nul" alone: the other names are refused anywhere in a stem. That is how names
     // have always been checked here, and scripts rely on it.
-    static const boost::wregex reserved(L"^(nul)|(con)|(aux)|(prn)|(com[1-9])|(lpt[1-9])",
-                                        boost::regex::perl | boost::regex::icase);
-    static const boost::wregex forbidden(L".*[:<>\"/\\|?*].*");
+    static const boost::wregex& reserved = *new const boost::wregex(
+        L"^(nul)|(con)|(aux)|(prn)|(com[1-9])|(lpt[1-9])", boost::regex::perl | boost::regex::icase);
+    static const boost::wregex& forbidden = *new const boost::wregex(L".*[:<>\"/\\|?*].*");
     const std::wstring stem = getFileNameStem(name);
     if (boost::regex_search(stem, reserved))
         raise(dom_error::reservedWindowsFileName(stem));

@@ -71,10 +71,11 @@ ImageInfo ImageInfoSVG::make(const std::wstring&) const {
 }
 
 ImageInfo InfoUtils::getImageInfo(const std::wstring& path) {
-    static const ImageInfo plain(kDefaultSize, kDefaultSize);
-    static const ImageInfoEMF emf(kDefaultSize, kDefaultSize);
-    static const ImageInfoSVG svg(kDefaultSize, kDefaultSize);
-    static const std::map<std::wstring, const ImageInfo*> readers{{L"emf", &emf}, {L"svg", &svg}};
+    static const ImageInfo& plain = *new const ImageInfo(kDefaultSize, kDefaultSize);
+    static const ImageInfo& emf = *new const ImageInfoEMF(kDefaultSize, kDefaultSize);
+    static const ImageInfo& svg = *new const ImageInfoSVG(kDefaultSize, kDefaultSize);
+    static const auto& readers =
+        *new const std::map<std::wstring, const ImageInfo*>{{L"emf", &emf}, {L"svg", &svg}};
     const auto found = readers.find(toLowerString(FileUtils::getFileNameExtension(path)));
     return (found == readers.end() ? &plain : found->second)->make(path);
 }

@@ -62,8 +62,9 @@ std::locale loadTexts(const std::string& root, const std::string& language, cons
 }
 
 const wchar_t* findText(const std::string& language, const MsgID& message) {
-    // Read once for each language and catalog; the texts stay until the process ends.
-    static std::map<std::vector<std::string>, std::locale> cache;
+    // Read once for each language and catalog, and never ended: objects that die in the last moments of the
+    // process still have something to say.
+    static auto& cache = *new std::map<std::vector<std::string>, std::locale>;
     const std::vector<std::string> key{host::getHostServices().getHostRoot(), language, message.catalog};
     auto texts = cache.find(key);
     if (texts == cache.end())

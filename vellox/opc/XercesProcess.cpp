@@ -1,18 +1,17 @@
 #include "vellox/opc/XercesProcess.h"
 
-#include <boost/make_shared.hpp>
 #include <new>
 #include <xercesc/util/PlatformUtils.hpp>
 
 namespace opc {
+
+namespace {
 
 // The blocks from which a document takes its nodes. A slide is a small document and a deck has thousands:
 // Xerces' own sizes (16 kB, doubling up to 128 kB) would leave most of each last block empty.
 constexpr XMLSize_t kFirstDomBlock = 8 << 10;
 constexpr XMLSize_t kLargestDomBlock = 32 << 10;
 constexpr XMLSize_t kLargestFromBlock = 1 << 10;
-
-namespace {
 
 class Memory : public xercesc::MemoryManager {
 public:
@@ -28,20 +27,20 @@ xercesc::MemoryManager& getXercesMemory() {
     return memory;
 }
 
-class XercesProcess::Run {
-public:
-    Run() {
-        xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock,
-                                              xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr,
-                                              &getXercesMemory());
-    }
-    ~Run() { xercesc::XMLPlatformUtils::Terminate(); }
-};
+namespace {
+
+bool start() {
+    xercesc::XMLPlatformUtils::Initialize(kFirstDomBlock, kLargestDomBlock, kLargestFromBlock,
+                                          xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr,
+                                          &getXercesMemory());
+    return true;
+}
+
+} // namespace
 
 XercesProcess::XercesProcess() {
-    // Starting takes milliseconds, so that one hold is kept between presentations.
-    static const boost::shared_ptr<Run> kept = boost::make_shared<Run>();
-    run_ = kept;
+    static const bool isStarted = start();
+    static_cast<void>(isStarted);
 }
 
 } // namespace opc

@@ -1,5 +1,6 @@
 #include "vellox/opc/ZipPhysicalPackage.h"
 
+#include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
@@ -8,11 +9,12 @@
 #include <array>
 #include <boost/make_shared.hpp>
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 namespace opc {
+
+namespace fsys = hostfx::filesystem;
 
 namespace {
 
@@ -92,13 +94,6 @@ bool isCompoundFile(std::istream& file) {
     fail(reason);
 }
 
-// A link at the output path stays a link, and the file behind it is what gets replaced.
-std::string followLinks(const std::string& path) {
-    std::error_code failure;
-    const std::filesystem::path target = std::filesystem::canonical(path, failure);
-    return failure ? path : target.string();
-}
-
 } // namespace
 
 /// An entry of the archive, or one to come.
@@ -116,6 +111,12 @@ public:
     /// The entry in the target as it is in its archive, still compressed.
     zip_source_t* makeSource(zip_t* target) const {
         return zip_source_zip(target, archive_, static_cast<zip_uint64_t>(index_), ZIP_FL_COMPRESSED, 0, -1);
+    }
+    /// Whether the archive holds the entry uncompressed.
+    bool isStored() const {
+        zip_stat_t facts;
+        return zip_stat_index(archive_, static_cast<zip_uint64_t>(index_), 0, &facts) == 0 &&
+               (facts.valid & ZIP_STAT_COMP_METHOD) && facts.comp_method == ZIP_CM_STORE;
     }
 
 protected:
@@ -145,7 +146,7 @@ ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdOStreamAdaptor> outp
       archive_(nullptr, zip_discard) {}
 
 ZipPhysicalPackage::ZipPhysicalPackage(const std::wstring& path, bool, const std::wstring&)
-    : path_(followLinks(vellox::toUtf8(path))),
+    : path_(vellox::toUtf8(path)),
       archive_(nullptr, zip_discard) {}
 
 ZipPhysicalPackage::~ZipPhysicalPackage() = default;
@@ -181,6 +182,7 @@ void ZipPhysicalPackage::open(OpenMode mode) {
         return;
     if (input_ && !input_->getStream().good())
         throw Exception("it doesn't exist or can't be read");
+    former_ = fsys::identify(fsys::Path(std::filesystem::path(path_)));
     archive_ = openForReading();
     size_ = measure();
     listEntries();
@@ -233,32 +235,43 @@ OutputStream& ZipPhysicalPackage::getContentTypeOutputStream() {
     return contentTypes_->startOutput();
 }
 
-ZipPhysicalPackage::Archive ZipPhysicalPackage::openForWriting() const {
-    ZipError error;
-    zip_source_t* source = output_ ? makeWriteSource(output_->getStream(), error.get())
-                                   : zip_source_file_create(path_.c_str(), 0, -1, error.get());
-    Archive archive = openSource(source, ZIP_CREATE | ZIP_TRUNCATE, error.get());
-    if (!archive)
-        fail(error.get());
-    return archive;
-}
-
 void ZipPhysicalPackage::close(bool save) {
-    if (save) {
-        Archive target = openForWriting();
-        if (contentTypes_)
-            writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_));
-        for (const auto& part : parts_)
-            writeEntry(target.get(), static_cast<const Entry&>(*part));
-        if (zip_close(target.get()) != 0)
-            fail(zip_get_error(target.get()));
-        static_cast<void>(target.release()); // zip_close has ended it
-        if (output_)
-            output_->close();
+    if (save && output_) {
+        writeArchive(output_->getStream());
+        output_->close();
+    } else if (save) {
+        saveInPlace();
     }
     archive_.reset();
     if (input_)
         input_->close();
+}
+
+void ZipPhysicalPackage::saveInPlace() const {
+    try {
+        const fsys::Path place{std::filesystem::path(path_)};
+        fsys::FreshFile fresh(place);
+        writeArchive(fresh.getStream());
+        if (fsys::identify(place) != former_)
+            throw Exception("another file has taken its place while it was open");
+        fresh.takePlace();
+    } catch (const fsys::FsysExceptionBase& failure) {
+        throw Exception(failure.what());
+    }
+}
+
+void ZipPhysicalPackage::writeArchive(std::ostream& stream) const {
+    ZipError error;
+    Archive target = openSource(makeWriteSource(stream, error.get()), ZIP_CREATE | ZIP_TRUNCATE, error.get());
+    if (!target)
+        fail(error.get());
+    if (contentTypes_)
+        writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_));
+    for (const auto& part : parts_)
+        writeEntry(target.get(), static_cast<const Entry&>(*part));
+    if (zip_close(target.get()) != 0)
+        fail(zip_get_error(target.get()));
+    static_cast<void>(target.release()); // zip_close has ended it
 }
 
 zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) const {
@@ -282,9 +295,13 @@ void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
         zip_source_free(source);
         fail(zip_get_error(target));
     }
-    if (entry.getContent() == PhysicalPart::Content::Original)
-        return;
     const auto place = static_cast<zip_uint64_t>(index);
+    if (entry.getContent() == PhysicalPart::Content::Original) {
+        // libzip takes a stored entry for content that is still to be compressed, unless told otherwise.
+        if (entry.isStored() && zip_set_file_compression(target, place, ZIP_CM_STORE, 0) != 0)
+            fail(zip_get_error(target));
+        return;
+    }
     const zip_int32_t method = entry.getInfo().compressionType == 0 ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
     if (zip_set_file_compression(target, place, method, 0) != 0 ||
         zip_file_set_dostime(target, place, kNewEntryTime, kNewEntryDate, 0) != 0)

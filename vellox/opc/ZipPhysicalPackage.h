@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "vellox/host/services/FileSystem.h"
 #include "vellox/opc/PhysicalPackage.h"
 
 namespace opc {
@@ -21,8 +22,9 @@ namespace opc {
 ///     entries of the old one     untouched ones still compressed, byte for byte
 ///     new entries                in the order in which they were made
 ///
-/// beside the old one and renames it over that. Entries for folders are left out. New entries bear the
-/// earliest date that the format has, so that the same calls give the same bytes.
+/// beside the old one and renames it over that, unless another file has taken its place meanwhile. Entries for
+/// folders are left out. New entries bear the earliest date that the format has, so that the same calls give
+/// the same bytes.
 class ZipPhysicalPackage : public PhysicalPackage {
 public:
     /// For reading from a stream that can seek.
@@ -44,15 +46,17 @@ private:
 
     static Archive openSource(zip_source_t* source, int flags, zip_error_t* error);
     Archive openForReading() const;
-    Archive openForWriting() const;
     std::uint64_t measure() const;
     void listEntries();
+    void saveInPlace() const;
+    void writeArchive(std::ostream& stream) const;
     void writeEntry(zip_t* target, const Entry& entry) const;
     zip_source_t* makeSource(zip_t* target, const Entry& entry) const;
 
     boost::shared_ptr<StdIStreamAdaptor> input_;
     boost::shared_ptr<StdOStreamAdaptor> output_;
     std::string path_;
+    hostfx::filesystem::FileIdentity former_; // of the file at the path, as it was opened
     Archive archive_;
 };
 

@@ -62,14 +62,19 @@ struct StreamSource {
             static_cast<zip_uint64_t>(here), static_cast<zip_uint64_t>(end), arguments, length, &error);
         if (target < 0)
             return -1;
-        return output->seekp(target) ? 0 : fail(ZIP_ER_SEEK, EINVAL);
+        errno = 0;
+        return output->seekp(target) ? 0 : failToWrite(); // what was buffered is written now
     }
 
     zip_int64_t write(const void* bytes, zip_uint64_t count) {
+        errno = 0;
         if (!output->write(static_cast<const char*>(bytes), static_cast<std::streamsize>(count)))
-            return fail(ZIP_ER_WRITE, EIO);
+            return failToWrite();
         return static_cast<zip_int64_t>(count);
     }
+
+    // Streams don't promise to keep the system's code.
+    zip_int64_t failToWrite() { return fail(ZIP_ER_WRITE, errno ? errno : EIO); }
 
     zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
         constexpr zip_int64_t reading = ZIP_SOURCE_SUPPORTS_SEEKABLE;
@@ -99,7 +104,8 @@ struct StreamSource {
         case ZIP_SOURCE_TELL_WRITE:
             return output->tellp();
         case ZIP_SOURCE_COMMIT_WRITE:
-            return output->flush() ? 0 : fail(ZIP_ER_WRITE, EIO);
+            errno = 0;
+            return output->flush() ? 0 : failToWrite();
         case ZIP_SOURCE_BEGIN_WRITE:
         case ZIP_SOURCE_ROLLBACK_WRITE:
         case ZIP_SOURCE_REMOVE:

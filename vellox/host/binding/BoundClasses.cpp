@@ -51,24 +51,26 @@ std::vector<const BoundMethod*> BoundClass::getOverloads(const std::string& meth
 }
 
 const std::vector<BoundClass>& getBoundClasses() {
-    static const std::vector<BoundClass> classes = [] {
-        std::vector<BoundClass> all;
+    static const std::vector<BoundClass>& classes = []() -> const auto& {
+        auto& all = *new std::vector<BoundClass>; // never ended: a host may die late
         for (const auto describeFamily :
              {describeNodes, describeFormats, describeText, describeShapes, describePlaceholders,
               describeTables, describeSlides, describeMessages})
             append(all, describeFamily());
         return all;
-    }();
+    }
+    ();
     return classes;
 }
 
 const BoundClass* findBoundClass(const std::string& fullName) {
-    static const std::unordered_map<std::string, const BoundClass*> byName = [] {
-        std::unordered_map<std::string, const BoundClass*> result;
+    static const auto& byName = []() -> const auto& {
+        auto& result = *new std::unordered_map<std::string, const BoundClass*>;
         for (const BoundClass& bound : getBoundClasses())
             result[bound.getFullName()] = &bound;
         return result;
-    }();
+    }
+    ();
     const auto found = byName.find(fullName);
     return found == byName.end() ? nullptr : found->second;
 }

@@ -2,7 +2,13 @@
 
 #include "vellox/host/services/Utf8.h"
 
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
 #include <system_error>
+#include <tuple>
 
 namespace hostfx::filesystem {
 
@@ -81,29 +87,57 @@ Path makeCanonical(const Path& path, const Path& base) {
     return result;
 }
 
-void copyFile(const Path& source, const Path& target) {
+Path makeAbsolute(const Path& path) {
     std::error_code failure;
-    fs::copy_file(source.native(), target.native(), failure);
-    if (failure && failure != std::errc::file_exists) {
-        std::error_code ignored;
-        fs::remove(target.native(), ignored);
-    }
-    check(failure, "copy", source);
+    Path result(fs::absolute(path.native(), failure));
+    check(failure, "absolute", path);
+    return result;
 }
 
-void replaceFile(const Path& source, const Path& target, const Path& freshName) {
+bool isRegularFile(const Path& path) {
     std::error_code failure;
-    fs::path place = fs::canonical(target.native(), failure);
-    if (failure)
-        place = target.native();
-    const Path fresh = Path(place.parent_path()) / freshName;
-    copyFile(source, fresh);
-    fs::rename(fresh.native(), place, failure);
-    if (failure) {
-        std::error_code ignored;
-        fs::remove(fresh.native(), ignored);
+    return fs::is_regular_file(path.native(), failure);
+}
+
+Path followLinks(const Path& path) {
+    constexpr int kMostLinks = 40; // as many as the system follows
+    fs::path place = path.native();
+    std::error_code failure;
+    for (int i = 0; fs::symlink_status(place, failure).type() == fs::file_type::symlink; ++i) {
+        if (i == kMostLinks)
+            throw FsysExceptionBase("too many links", path.native());
+        const fs::path target = fs::read_symlink(place, failure);
+        check(failure, "read link", path);
+        place = place.parent_path() / target; // an absolute target stands for itself
     }
-    check(failure, "rename", target);
+    return Path(place);
+}
+
+bool FileIdentity::operator==(const FileIdentity& other) const {
+    const auto all = [](const FileIdentity& one) {
+        return std::tie(one.device, one.number, one.size, one.changeSeconds, one.changeNanoseconds);
+    };
+    return all(*this) == all(other);
+}
+
+FileIdentity identify(const Path& path) {
+    struct stat facts {};
+    if (::stat(path.native().c_str(), &facts) != 0)
+        return {};
+    return {facts.st_dev, facts.st_ino, facts.st_size, facts.st_mtim.tv_sec, facts.st_mtim.tv_nsec};
+}
+
+bool haveSameBytes(const Path& a, const Path& b) {
+    std::ifstream first(a.native(), std::ios::binary), second(b.native(), std::ios::binary);
+    std::array<char, 16384> one, other;
+    while (first && second) {
+        first.read(one.data(), one.size());
+        second.read(other.data(), other.size());
+        if (first.gcount() != second.gcount() ||
+            !std::equal(one.data(), one.data() + first.gcount(), other.data()))
+            return false;
+    }
+    return first.eof() && second.eof() && !first.bad() && !second.bad();
 }
 
 void createDirectory(const Path& path) {

@@ -15,6 +15,9 @@ namespace hostfx::filesystem {
 class FsysExceptionBase : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+    /// One that struck a file: what() is the reason and the path.
+    FsysExceptionBase(const std::string& reason, const std::filesystem::path& path)
+        : std::runtime_error(reason + ": " + path.generic_string()) {}
 };
 
 /// A path, or a folder on the way to it, doesn't exist.
@@ -64,11 +67,28 @@ void addOwnerWrite(const Path& path);
 /// The path with links and dots resolved; a relative one starts from `base`.
 /// @throws FsysPathNotFound if an element doesn't exist
 Path makeCanonical(const Path& path, const Path& base);
-/// Copies one file to a path at which nothing stands. What a failed copy has written is removed.
-void copyFile(const Path& source, const Path& target);
-/// Copies one file beside a target, under a fresh name, and renames it over that. A link at the target stays a
-/// link.
-void replaceFile(const Path& source, const Path& target, const Path& freshName);
+/// The path from the root on; a relative one starts from the current folder. Links and dots stay.
+Path makeAbsolute(const Path& path);
+/// Whether a regular file stands at the path. Anything else, such as a pipe, might never answer a reader.
+bool isRegularFile(const Path& path);
+/// The path with the links at its end followed, also to where nothing stands yet. Links further up stay.
+Path followLinks(const Path& path);
+
+/// What tells one file from another, and from its own former self. Nothing stands where `size` is negative.
+struct FileIdentity {
+    unsigned long long device = 0;
+    unsigned long long number = 0;
+    long long size = -1;
+    long long changeSeconds = 0;
+    long long changeNanoseconds = 0;
+
+    bool operator==(const FileIdentity& other) const;
+    bool operator!=(const FileIdentity& other) const { return !(*this == other); }
+};
+/// The identity of what stands at the path.
+FileIdentity identify(const Path& path);
+/// Whether two files can be read and hold the same bytes.
+bool haveSameBytes(const Path& a, const Path& b);
 /// Makes one folder; its parent must exist.
 void createDirectory(const Path& path);
 /// Removes a file, or a folder with all that it holds.

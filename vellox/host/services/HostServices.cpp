@@ -1,13 +1,12 @@
 #include "vellox/host/services/HostServices.h"
 
 #include "vellox/host/services/ImageProbe.h"
+#include "vellox/host/services/RandomName.h"
 #include "vellox/host/services/Unzip.h"
 #include "vellox/host/services/Utf8.h"
 
 #include <dlfcn.h>
 
-#include <boost/uuid/random_generator.hpp>
-#include <boost/uuid/uuid_io.hpp>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
@@ -21,7 +20,7 @@ namespace fs = std::filesystem;
 
 HostServices* installedServices = nullptr;
 std::string& installRootOverride() {
-    static std::string root;
+    static std::string& root = *new std::string; // never ended: presentations may outlive main()
     return root;
 }
 
@@ -55,14 +54,13 @@ std::string HostServices::getCurrentDirectory() const {
 std::string HostServices::getTempName() const {
     std::error_code failure;
     const fs::path folder = fs::temp_directory_path(failure);
-    static boost::uuids::random_generator draw;
-    return ((failure ? fs::path("/tmp") : folder) / ("vellox-" + to_string(draw()))).generic_string();
+    return ((failure ? fs::path("/tmp") : folder) / ("vellox-" + makeRandomName())).generic_string();
 }
 
 std::string HostServices::getHostRoot() const {
     if (!installRootOverride().empty())
         return installRootOverride();
-    static const std::string root = findInstallRoot();
+    static const std::string& root = *new const std::string(findInstallRoot());
     return root;
 }
 
@@ -87,7 +85,7 @@ bool HostServices::getScreenPixelsPerInch(double&) const {
 }
 
 HostServices& getHostServices() {
-    static HostServices own;
+    static HostServices& own = *new HostServices;
     return installedServices ? *installedServices : own;
 }
 

@@ -46,7 +46,7 @@ boost::shared_ptr<StringContent> StringContent::cast(const HvContentPtr& content
 }
 
 const std::wstring& StringContent::getValue(const HvContentPtr& content) {
-    static const std::wstring none;
+    static const std::wstring& none = *new const std::wstring;
     return valueOr<StringContent, const std::wstring&>(content, none);
 }
 

@@ -4,8 +4,11 @@
 #include "vellox/foundation/FileUtils.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/ReasonedException.h"
+#include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
+#include "vellox/ppt/engine/OutputFile.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/TemplateParser.h"
@@ -17,10 +20,13 @@
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include <boost/algorithm/string/predicate.hpp>
 #include <boost/intrusive_ptr.hpp>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
+
+namespace fsys = hostfx::filesystem;
 
 namespace {
 
@@ -35,9 +41,11 @@ std::wstring ensureExtension(const std::wstring& path) {
                                  FileUtils::extractFilename(path) + L"." + kExtension);
 }
 
-// The argument of an error about a file: what the layer below has to say, and the file.
+// The argument of an error about a file: what the layer below has to say, and the file, unless that is told
+// already.
 std::wstring describe(const std::exception& failure, const std::wstring& path) {
-    return fromUtf8(failure.what()) + L" " + path;
+    const std::wstring reason = fromUtf8(failure.what());
+    return boost::algorithm::ends_with(reason, L" " + path) ? reason : reason + L" " + path;
 }
 
 // Throws what is to be told about the folder of a path, if anything.
@@ -199,13 +207,7 @@ void PresentationImpl::parseTemplate(const std::wstring& templateFile) {
         MessageDispatcher::getTheDispatcher().dispatch(ProgressMessage(id, *makeInterface()));
     }
     removeWorkingCopy();
-    // Known before it is made: a copy that fails half-way is removed too.
-    tempTemplatePath_ = FileUtils::getTempName() + L"." + FileUtils::getFileNameExtension(templateFile);
-    try {
-        FileUtils::copyFile(templateFile, tempTemplatePath_, true);
-    } catch (const hostfx::except::Exception<dom_error::failedToCopyFile>& failure) {
-        raise(ppt_error::cannotOpenTemplate(describe(failure, templateFile)));
-    }
+    makeWorkingCopy(templateFile);
     try {
         readTemplate(templateFile);
     } catch (const opc::Exception& failure) {
@@ -227,11 +229,26 @@ void PresentationImpl::readTemplate(const std::wstring& templateFile) {
     templatePackage->close();
 }
 
+void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
+    // Known before it is made: whatever comes of it is removed.
+    tempTemplatePath_ = FileUtils::getTempName() + L"." + FileUtils::getFileNameExtension(templateFile);
+    try {
+        outputFile_ = boost::make_shared<OutputFile>(templateFile);
+        const fsys::Path copy(tempTemplatePath_);
+        fsys::copyFile(fsys::Path(templateFile), copy);
+        fsys::addOwnerWrite(copy);
+    } catch (const fsys::FsysExceptionBase& failure) {
+        raise(ppt_error::cannotOpenTemplate(describe(failure, templateFile)));
+    }
+}
+
 void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
     try {
-        FileUtils::replaceFile(tempTemplatePath_, report_->outputPath);
+        outputFile_->put(tempTemplatePath_, report_->outputPath);
         state_ = PresentationState::Open;
         removeWorkingCopy();
+    } catch (const std::exception& failure) {
+        raiseWithReason(ppt_error::cannotOpenFile(outputFile), failure.what());
     } catch (...) {
         raise(ppt_error::cannotOpenFile(outputFile));
     }
@@ -250,13 +267,16 @@ bool PresentationImpl::close() {
     if (isBusy_ || state_ != PresentationState::Open)
         return false;
     const Busy busy(this, isBusy_);
-    const auto package = boost::make_shared<OPCPackage>(report_->outputPath);
+    const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
+    const auto package = boost::make_shared<OPCPackage>(path);
     package->openReadWrite(false);
+    if (outputFile_)
+        outputFile_->check();
     try {
         writeSlides(package);
         package->close();
     } catch (const opc::Exception& failure) {
-        raise(ppt_error::cannotOpenFile(describe(failure, report_->outputPath)));
+        raise(ppt_error::cannotOpenFile(describe(failure, path)));
     }
     return true;
 }
@@ -330,7 +350,7 @@ void PresentationImpl::insertSlideBefore(const Child& slide, const Slide& refere
 namespace {
 
 const Presentation::Names& noNames() {
-    static const Presentation::Names none;
+    static const Presentation::Names& none = *new const Presentation::Names;
     return none;
 }
 

@@ -12,6 +12,7 @@
 
 namespace vellox::ppt {
 
+class OutputFile;
 class PartDOMBuilder;
 class PresentationModel;
 struct TemplateLayout;
@@ -89,6 +90,7 @@ private:
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
+    void makeWorkingCopy(const std::wstring& templateFile);
     void copyToOutput(const std::wstring& outputFile);
     void removeWorkingCopy();
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
@@ -96,7 +98,8 @@ private:
     PresentationState state_ = PresentationState::Created;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;
-    std::wstring tempTemplatePath_; // empty when there is no working copy
+    std::wstring tempTemplatePath_;            // empty when there is no working copy
+    boost::shared_ptr<OutputFile> outputFile_; // empty in a copy, which writes nothing
     boost::shared_ptr<PartDOMBuilder> partBuilder_;
     boost::shared_ptr<PresentationModel> model_; // empty before parsing
     Presentation::NamePairs tableStyleNames_;

@@ -332,7 +332,7 @@ boost::shared_ptr<TemplateLayout> PresentationModel::findLayout(const std::wstri
 }
 
 const PresentationModel::Names& PresentationModel::getLayoutNames(const std::wstring& masterName) const {
-    static const Names none;
+    static const Names& none = *new const Names;
     const auto master = mastersByName_.find(masterName);
     return master == mastersByName_.end() ? none : master->second->layoutNames;
 }

@@ -11,7 +11,7 @@ namespace vellox::ppt {
 namespace {
 
 const SpellingTable& getHAligns() {
-    static const SpellingTable words{
+    static const SpellingTable& words = *new const SpellingTable{
         {L"left", L"left", u"l"},
         {L"right", L"right", u"r"},
         {L"center", L"center", u"ctr"},
@@ -24,7 +24,7 @@ const SpellingTable& getHAligns() {
 }
 
 const SpellingTable& getVAligns() {
-    static const SpellingTable words{
+    static const SpellingTable& words = *new const SpellingTable{
         {L"top", L"top", u"t"},
         {L"middle", L"middle", u"ctr"},
         {L"bottom", L"bottom", u"b"},

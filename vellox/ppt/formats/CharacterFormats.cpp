@@ -119,7 +119,7 @@ void Superscript::setValue(bool value) {
 namespace {
 
 const SpellingTable& getStrikes() {
-    static const SpellingTable words{
+    static const SpellingTable& words = *new const SpellingTable{
         {L"none", L"none", u"noStrike"},
         {L"single", L"single", u"sngStrike"},
         {L"double", L"double", u"dblStrike"},
@@ -128,7 +128,7 @@ const SpellingTable& getStrikes() {
 }
 
 const SpellingTable& getUnderlines() {
-    static const SpellingTable words{
+    static const SpellingTable& words = *new const SpellingTable{
         {L"none", L"none", u"none"},
         {L"words", L"words", u"words"},
         {L"single", L"single", u"sng"},

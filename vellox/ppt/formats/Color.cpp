@@ -42,7 +42,7 @@ private:
 };
 
 void ColorImpl::setValue(const std::wstring& value) {
-    static const boost::wregex digits(L"^#[0-9a-fA-F]{6}");
+    static const boost::wregex& digits = *new const boost::wregex(L"^#[0-9a-fA-F]{6}");
     const std::wstring trimmed = toLowerString(boost::algorithm::trim_copy(value));
     if (!boost::regex_match(trimmed, digits) && !findColor(trimmed))
         raise(ppt_error::invalidPropertyValue(value));

@@ -8,7 +8,7 @@ namespace vellox::ppt {
 // they had in early drafts.
 const wchar_t* findColor(const std::wstring& name) {
     // clang-format off
-    static const std::unordered_map<std::wstring, const wchar_t*> colors{
+    static const auto& colors = *new const std::unordered_map<std::wstring, const wchar_t*>{
         {L"aliceblue", L"#F0F8FF"},
         {L"antiquewhite", L"#FAEBD7"},
         {L"aqua", L"#00FFFF"},

@@ -38,7 +38,7 @@ void Formats::unsetFormat(FormatType type) {
 }
 
 const Formats::Map& Formats::getMap() const {
-    static const Map none;
+    static const Map& none = *new const Map;
     return formats_ ? *formats_ : none;
 }
 

@@ -12,7 +12,7 @@ SpellingTable::SpellingTable(std::initializer_list<Row> rows) {
 }
 
 const ValueMapping& SpellingTable::lookup(const std::wstring& text) const {
-    static const ValueMapping none;
+    static const ValueMapping& none = *new const ValueMapping;
     const auto found = mappings_.find(toLowerString(text));
     return found == mappings_.end() ? none : found->second;
 }

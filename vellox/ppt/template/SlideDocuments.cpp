@@ -18,7 +18,8 @@ namespace {
 
 // What is said of a layout and can't be said of a slide: readers that check a slide refuse it there.
 bool isLayoutAttribute(const XMLCh* name) {
-    static const std::set<std::u16string> names{u"matchingName", u"preserve", u"type", u"userDrawn"};
+    static const auto& names =
+        *new const std::set<std::u16string>{u"matchingName", u"preserve", u"type", u"userDrawn"};
     return names.count(name) > 0;
 }
 

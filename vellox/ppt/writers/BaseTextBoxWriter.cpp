@@ -47,7 +47,7 @@ void BaseTextBoxWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& BaseTextBoxWriter::inheritedFormatTypes() const {
-    static const FormatTypes types{FormatType::BackgroundColor};
+    static const FormatTypes& types = *new const FormatTypes{FormatType::BackgroundColor};
     return types;
 }
 

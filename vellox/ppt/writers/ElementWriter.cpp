@@ -25,7 +25,7 @@ bool ElementWriter::acceptsFormat(const Format&) const {
 }
 
 const ElementWriter::FormatTypes& ElementWriter::inheritedFormatTypes() const {
-    static const FormatTypes none;
+    static const FormatTypes& none = *new const FormatTypes;
     return none;
 }
 

@@ -2,12 +2,14 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
+#include "vellox/host/services/FileSystem.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
 #include <algorithm>
-#include <filesystem>
+#include <array>
+#include <fstream>
 #include <set>
 
 namespace vellox::ppt {
@@ -16,7 +18,8 @@ namespace {
 
 // Kinds of images that deflate would make no smaller, and only slow down.
 bool isCompressed(const std::wstring& contentType) {
-    static const std::set<std::wstring> compressed{L"image/png", L"image/jpeg", L"image/gif", L"image/x-emz"};
+    static const auto& compressed =
+        *new const std::set<std::wstring>{L"image/png", L"image/jpeg", L"image/gif", L"image/x-emz"};
     return compressed.count(contentType) > 0;
 }
 
@@ -34,10 +37,17 @@ void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<s
     }
 }
 
-// A folder can be opened like a file on this system; only reading it fails, and that would be too late.
-bool isFolder(const std::wstring& path) {
-    std::error_code failure;
-    return std::filesystem::is_directory(toUtf8(path), failure);
+// Whether an image can be had in whole. It is copied when the package is saved, and that would be too late to
+// find out: the presentation is closed by then. Anything but a regular file, such as a pipe, might never answer.
+bool canBeRead(const std::wstring& path) {
+    namespace fsys = hostfx::filesystem;
+    if (!fsys::isRegularFile(fsys::Path(path)))
+        return false;
+    std::ifstream file(toUtf8(path), std::ios::binary);
+    std::array<char, 64 << 10> block;
+    while (file)
+        file.read(block.data(), block.size());
+    return file.eof() && !file.bad();
 }
 
 } // namespace
@@ -80,7 +90,7 @@ std::wstring PPTPartWriter::chooseMediaName(const std::wstring& imagePath) const
 }
 
 std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::wstring& imagePath) {
-    if (!createFileInputStream(imagePath)->good() || isFolder(imagePath))
+    if (!canBeRead(imagePath))
         return {};
     getPart(partName);
     const std::wstring type = FileUtils::getContentType(imagePath);

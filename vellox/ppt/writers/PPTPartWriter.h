@@ -28,8 +28,8 @@ public:
     /// @return the id of the relationship; empty if the target is, or if there is no such part
     std::wstring addHyperlink(const std::wstring& partName, const std::wstring& target);
     /// Puts an image file into the package, in a part of its own with a random name, and points to it from a
-    /// part. The file is read when the package is saved.
-    /// @return the id of the relationship; empty if the file can't be read
+    /// part. The file is copied when the package is saved.
+    /// @return the id of the relationship; empty if the file can't be read to its end, or is no regular file
     std::wstring addImage(const std::wstring& partName, const std::wstring& imagePath);
     /// Points from a part to another.
     /// @return the id of the relationship

@@ -40,7 +40,7 @@ void ParagraphWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& ParagraphWriter::inheritedFormatTypes() const {
-    static const FormatTypes types{FormatType::HAlign};
+    static const FormatTypes& types = *new const FormatTypes{FormatType::HAlign};
     return types;
 }
 

@@ -32,7 +32,7 @@ void TableEntryWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& TableEntryWriter::inheritedFormatTypes() const {
-    static const FormatTypes types{FormatType::BackgroundColor, FormatType::VAlign};
+    static const FormatTypes& types = *new const FormatTypes{FormatType::BackgroundColor, FormatType::VAlign};
     return types;
 }
 

@@ -27,9 +27,10 @@ void TextWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& TextWriter::inheritedFormatTypes() const {
-    static const FormatTypes types{FormatType::Bold,       FormatType::Italic,      FormatType::FontColor,
-                                   FormatType::FontFamily, FormatType::FontSize,    FormatType::Strike,
-                                   FormatType::Subscript,  FormatType::Superscript, FormatType::Underline};
+    static const FormatTypes& types =
+        *new const FormatTypes{FormatType::Bold,       FormatType::Italic,      FormatType::FontColor,
+                               FormatType::FontFamily, FormatType::FontSize,    FormatType::Strike,
+                               FormatType::Subscript,  FormatType::Superscript, FormatType::Underline};
     return types;
 }
 

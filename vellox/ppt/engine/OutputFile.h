@@ -1,0 +1,39 @@
+/// @file
+/// The file that a presentation makes.
+
+#ifndef VELLOX_PPT_ENGINE_OUTPUTFILE_H
+#define VELLOX_PPT_ENGINE_OUTPUTFILE_H
+
+#include <string>
+
+#include "vellox/host/services/FileSystem.h"
+
+namespace vellox::ppt {
+
+/// Between open and close the file at the output path is the template. What stands there at close may be
+/// another one: the current folder has changed, or another presentation, or another process, has the same
+/// output. Slides that are written into that would be lost, or would meet layouts that aren't theirs.
+class OutputFile {
+public:
+    /// Takes note of the template, before anything is read from it.
+    explicit OutputFile(const std::wstring& templatePath);
+
+    /// Puts the working copy of the template to the output path.
+    /// @throws hostfx::filesystem::FsysExceptionBase
+    void put(const std::wstring& workingCopy, const std::wstring& outputPath);
+    /// Where the file stands, whatever the current folder has become.
+    std::wstring getPath() const { return path_.toGeneric(); }
+    /// Checks that the file is the one that was put there, or one of the same bytes, and may be written.
+    /// @throws cannotOpenFile with what is wrong and the path
+    void check() const;
+
+private:
+    bool isSame() const;
+
+    hostfx::filesystem::Path templatePath_, path_;
+    hostfx::filesystem::FileIdentity template_, file_;
+};
+
+} // namespace vellox::ppt
+
+#endif
