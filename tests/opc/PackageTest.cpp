@@ -4,6 +4,8 @@
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/FileSystemPhysicalPackage.h"
 #include "vellox/opc/Limits.h"
+#include "vellox/opc/Uri.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/opc/ZipPhysicalPackage.h"
 
 #include "tests/support/Files.h"
@@ -13,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <xercesc/util/XMLUri.hpp>
 
 using namespace vellox;
 using namespace opc;
@@ -101,7 +104,34 @@ TEST(Targets, ResolveAndGoBack) {
         EXPECT_EQ(resolveTarget(row.folder, row.target), row.name);
         EXPECT_EQ(makeRelativeTarget(row.folder, row.name), row.relative);
     }
-    EXPECT_EQ(makeExternalTarget(L"http://a/b c?d=\"\u00e4\"%20"), L"http://a/b%20c?d=%22\u00e4%22%20");
+}
+
+// What is no reference makes readers refuse the whole package; what is one stays.
+TEST(Targets, AreReferences) {
+    const std::pair<std::wstring, std::wstring> rows[] = {
+        {L"http://a/b c?d=\"\u00e4\"%20", L"http://a/b%20c?d=%22\u00e4%22%20"},
+        {L"  http://a/\r\n", L"http://a/"},
+        {L"file:///C:/a[1].txt", L"file:///C:/a%5B1%5D.txt"},
+        {L"http://a/?q[]=1#x[y]", L"http://a/?q%5B%5D=1#x%5By%5D"},
+        {L"http://a/100%?x=%zz&y=%2", L"http://a/100%25?x=%25zz&y=%252"},
+        {L"http://a/#b#c", L"http://a/#b%23c"},
+        {L"http://[::1]:80/", L"http://[::1]:80/"},
+        {L"http://[nowhere]/", L"http://%5Bnowhere%5D/"},
+        {L"http://me@host@a:port/", L"http://me%40host@a%3Aport/"},
+        {L"1.2.3.4:80/x:y", L"1.2.3.4%3A80/x:y"},
+        {L"C:\\data\\x.csv", L"C:\\data\\x.csv"},
+        {L"mailto:a@b.c?subject=x%20y", L"mailto:a@b.c?subject=x%20y"},
+        {L"", L""},
+    };
+    const XercesProcess xerces;
+    for (const auto& row : rows) {
+        EXPECT_EQ(makeExternalTarget(row.first), row.second);
+        EXPECT_EQ(makeExternalTarget(row.second), row.second);
+        const bool isPlain =
+            row.second.find_first_of(L"\\\u00e4") == std::wstring::npos && !row.second.empty();
+        EXPECT_TRUE(!isPlain || xercesc::XMLUri::isValidURI(true, XercesString(row.second)))
+            << vellox::toUtf8(row.second);
+    }
 }
 
 TEST(Package, ReadsWhatIsOutThere) {
@@ -151,6 +181,8 @@ TEST(Package, SavesChangesAndCarriesTheRestOver) {
         Part image = package->createPart(PartName(L"/media/i.png"), ContentType(L"image/png"), {0, 0});
         image.setContentFile(folder / L"image.png");
         Part unknown = package->createPart(PartName(L"/media/i.xyz"), ContentType(L""), {});
+        package->createPart(PartName(L"/media/other.PNG"), ContentType(L""),
+                            {}); // what the list says of its extension
         write(unknown, "?");
         EXPECT_EQ(main.createExternalRelationship(L"link", L"b", {}).getID(), L"rId5");
         main.deleteRelationship(L"rId5");

@@ -56,9 +56,12 @@ ppt::OwnedDocument parse(const std::string& xml) {
 } // namespace
 
 std::string canonical(const std::string& xml) {
-    const ppt::OwnedDocument document = parse(xml);
+    return canonical(*parse(xml).get());
+}
+
+std::string canonical(DOMDocument& document) {
     std::string text;
-    append(text, *document->getDocumentElement());
+    append(text, *document.getDocumentElement());
     return text;
 }
 

@@ -6,11 +6,13 @@
 
 #include <string>
 #include <vector>
+#include <xercesc/dom/DOMDocument.hpp>
 
 namespace vellox::test {
 
 /// XML in one spelling: attributes sorted, no namespace declarations, no indentation, no declaration.
 std::string canonical(const std::string& xml);
+std::string canonical(xercesc::DOMDocument& document);
 
 /// All elements of a name in a document, in document order, each in that spelling.
 std::vector<std::string> findAll(const std::string& xml, const std::string& name);

@@ -231,6 +231,11 @@ struct VELLOX_API invalidTableStyle : MsgID {
     explicit invalidTableStyle(const std::wstring& style) : MsgID(kCatalog, "invalidTableStyle", {style}) {}
 };
 
+/// A picture's kind isn't known: neither the library nor the template has a type of images for its extension.
+struct VELLOX_API unknownImageType : MsgID {
+    explicit unknownImageType(const std::wstring& file) : MsgID(kCatalog, "unknownImageType", {file}) {}
+};
+
 } // namespace ppt_warning
 
 } // namespace vellox

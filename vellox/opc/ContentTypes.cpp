@@ -75,8 +75,10 @@ ContentType ContentTypes::find(const PartName& name) const {
 }
 
 void ContentTypes::add(const PartName& name, const ContentType& type) {
-    const std::wstring text = type.toString().empty() ? kUnknownBytes : type.toString();
-    if (find(name).toString() == text)
+    const std::wstring present = find(name).toString();
+    const bool isUnknown = type.toString().empty();
+    const std::wstring text = isUnknown ? kUnknownBytes : type.toString();
+    if (present == text || (isUnknown && !present.empty()))
         return;
     isChanged_ = true;
     const std::wstring extension = name.getExtension();

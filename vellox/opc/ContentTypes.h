@@ -38,7 +38,8 @@ public:
     /// Empty for a part that the list doesn't cover.
     ContentType find(const PartName& name) const;
     /// Enters a new part: XML as an override, anything else as the default of its extension where that
-    /// isn't taken by another type. An empty type becomes that of unknown bytes.
+    /// isn't taken by another type. An empty type leaves the part with that of its extension; where the list
+    /// has none, it becomes that of unknown bytes.
     void add(const PartName& name, const ContentType& type);
     /// Gives a part that is listed another type.
     void change(const PartName& name, const ContentType& type);

@@ -28,8 +28,9 @@ std::wstring resolveTarget(const std::wstring& folder, const std::wstring& targe
 /// The shortest target that leads from a folder to an absolute name: "../media/a.png".
 std::wstring makeRelativeTarget(const std::wstring& folder, const std::wstring& name);
 
-/// A target outside the package with what no reference can hold (blanks, quotes, angle and curly brackets and
-/// the like) percent-encoded: readers refuse a whole package for one such character.
+/// A target outside the package as a reference (xs:anyURI): blanks around it are cut off, and what can't stand
+/// where it does is percent-encoded, such as blanks, quotes, brackets, a "%" without two digits, a second "#".
+/// Readers refuse a whole package for one such character. A reference stays as it is.
 std::wstring makeExternalTarget(const std::wstring& target);
 
 } // namespace opc

@@ -6,6 +6,7 @@
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/TextBox.h"
+#include "vellox/ppt/writers/Sections.h"
 
 #include "tests/support/DeckTest.h"
 
@@ -284,8 +285,48 @@ TEST_F(SlideDocumentsTest, SlidesOfATemplateKeepTheirPartsAndSections) {
     EXPECT_NE(shapeXml(2, "Deep").find("prompt"), std::string::npos);
     EXPECT_NE(shapeXml(2, "Free").find("<p:cNvPr id='1' "),
               std::string::npos); // counted from the start there
-    EXPECT_EQ(findOne(saved.at("ppt/presentation.xml"), "p14:sldId"), "<p14:sldId id='260'/>");
+    EXPECT_EQ(
+        findOne(saved.at("ppt/presentation.xml"), "p14:sldIdLst"),
+        "<p14:sldIdLst><p14:sldId id='256'/><p14:sldId id='257'/><p14:sldId id='258'/><p14:sldId id='260'/>"
+        "</p14:sldIdLst>");
     EXPECT_EQ(findAll(saved.at("ppt/presentation.xml"), "p:sldId").back(), "<p:sldId id='260' r:id='rId7'/>");
+}
+
+TEST(Sections, FollowTheSlides) {
+    struct Row {
+        const char* why;
+        std::vector<std::wstring> formerIds;
+        const char *before, *after;
+    };
+    const auto make = [](const char* sections) { // "7 8|9": the ids of each section
+        std::string xml = "<p14:sectionLst xmlns:p14='p14'><p14:section><p14:sldIdLst>";
+        std::istringstream ids(sections);
+        for (std::string id; ids >> id;)
+            xml += id == "|" ? "</p14:sldIdLst></p14:section><p14:section><p14:sldIdLst>"
+                             : "<p14:sldId id='" + id + "'/>";
+        return xml + "</p14:sldIdLst></p14:section></p14:sectionLst>";
+    };
+    const Row rows[] = {
+        {"renumbered", {L"7", L"8", L"9"}, "7 8 | 9", "256 257 | 258"},
+        {"behind, between, ahead",
+         {L"", L"7", L"", L"", L"8", L"9", L""},
+         "7 8 | 9",
+         "256 257 258 259 260 | 261 262"},
+        {"gone", {L"8", L"", L"9"}, "7 8 | 9", "256 257 | 258"},
+        {"named twice", {L"7", L"8"}, "7 8 | 8", "256 257 |"},
+        {"in none", {L"6", L"", L"7"}, "| 7", "| 257 258"},
+        {"all new", {L"", L""}, "|", "256 257 |"},
+        {"in another order", {L"9", L"", L"7"}, "7 | 9", "258 | 256 257"},
+    };
+    const opc::XercesProcess xerces;
+    const opc::ParserScope parser(opc::XercesHelper::createParser());
+    for (const Row& row : rows) {
+        opc::StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(make(row.before)));
+        const OwnedDocument document(
+            opc::XercesHelper::readDocumentFromStream(parser.get(), stream, false, {}, {}));
+        updateSections(*document.get(), row.formerIds, 256);
+        EXPECT_EQ(canonical(*document.get()), canonical(make(row.after))) << row.why;
+    }
 }
 
 TEST(PresentationModel, ClassifiesShapes) {

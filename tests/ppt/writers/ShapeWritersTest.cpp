@@ -89,14 +89,32 @@ TEST_F(ShapeWritersTest, PicturesWithoutAFileAreNoError) {
         picture.setName(name);
         slide.add(picture);
     }
+    const MessageLog log;
     const Parts& parts = close();
     EXPECT_EQ(mediaOf(parts).size(), 3u);
+    EXPECT_EQ(log.lines.size(), 3u); // files of no known kind
     EXPECT_NE(shapeXml(1, "missing.png").find("r:embed=''"), std::string::npos);
     EXPECT_NE(shapeXml(1, ".").find("r:embed=''"), std::string::npos);       // a folder
     EXPECT_NE(shapeXml(1, "Picture").find("<p:txBody>"), std::string::npos); // the placeholder stays
 }
 
-TEST_F(ShapeWritersTest, ShortRowsAreFilledUp) {
+TEST_F(ShapeWritersTest, PicturesHaveTypesOfImages) {
+    useTemplate(withChange(getTemplateParts(), "[Content_Types].xml", "<Default ",
+                           "<Default Extension='own' ContentType='image/own'/><Default "));
+    Slide slide = deck.add(L"Blank");
+    for (const wchar_t* name : {L"a.WMF", L"b.webp", L"c.ico", L"d.jfif", L"e.own"}) {
+        writeFile(folder / name, "bytes");
+        slide.add(Picture(folder / name));
+    }
+    const MessageLog log;
+    const std::string types = close().at("[Content_Types].xml");
+    EXPECT_EQ(log.lines, std::vector<std::wstring>());
+    for (const char* type : {"image/x-wmf", "image/webp", "image/x-icon", "image/jpeg"})
+        EXPECT_NE(types.find(type), std::string::npos) << type;
+    EXPECT_EQ(types.find("octet-stream"), std::string::npos);
+}
+
+TEST_F(ShapeWritersTest, RowsAreWrittenAsTheyAre) {
     Table table = makeTable(1, 3);
     TableRow shortRow;
     shortRow.append(TableEntry(L"alone"));
@@ -104,8 +122,10 @@ TEST_F(ShapeWritersTest, ShortRowsAreFilledUp) {
     table.append(TableRow());
     deck.add(L"Blank").add(table);
     close();
+    std::vector<std::size_t> cells;
     for (const std::string& row : findAll(slideXml(1), "a:tr"))
-        EXPECT_EQ(findAll("<r xmlns:a='a'>" + row + "</r>", "a:tc").size(), 3u);
+        cells.push_back(findAll("<r xmlns:a='a'>" + row + "</r>", "a:tc").size());
+    EXPECT_EQ(cells, (std::vector<std::size_t>{3, 1, 0}));
 }
 
 // A copy of what took a placeholder's place has a place of its own.

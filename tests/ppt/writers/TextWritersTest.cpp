@@ -169,7 +169,7 @@ TEST_F(TextWritersTest, LinksHaveRelationshipsOfTheirOwn) {
     ExternalLink second(L"http://a/?b=c d&e", L"second");
     paragraph.append(second);
     second.setFontColor(L"red");
-    paragraph.append(ExternalLink(L"", L"nowhere"));
+    paragraph.append(ExternalLink(L" \n", L"nowhere"));
     slide.replace(L"Content", paragraph);
     const Parts& parts = close();
     EXPECT_EQ(

@@ -7,6 +7,7 @@
 #include "vellox/ppt/package/PartDOMBuilder.h"
 #include "vellox/ppt/template/SlideDocuments.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/Sections.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -359,20 +360,6 @@ constexpr unsigned int kFirstSlideId = 256;
 
 } // namespace
 
-// The sections of a deck (an extension of the format) name slides by their ids, and must follow when these
-// are given anew: readers offer to repair a deck whose sections lead nowhere.
-void PresentationModel::renumberSections(const Slides& slides) {
-    std::map<std::wstring, std::wstring> newIds;
-    for (std::size_t i = 0; i < slides.size(); ++i)
-        if (!slides[i]->id.empty())
-            newIds[slides[i]->id] = num2str(kFirstSlideId + static_cast<unsigned int>(i));
-    for (DOMElement* entry : getElementsByName(presentationDocument_.get(), xml::kP14SldId)) {
-        const auto found = newIds.find(getAttribute(entry, xml::kId));
-        if (found != newIds.end())
-            setAttribute(entry, xml::kId, found->second);
-    }
-}
-
 DOMElement* PresentationModel::prepareSlideList() {
     DOMElement* root = presentationDocument_->getDocumentElement();
     DOMElement* list = findChild(root, xml::kSldIdLst);
@@ -394,7 +381,10 @@ void PresentationModel::updateSlideList(PPTPartWriter& partWriter, const Slides&
     if (!presentationDocument_)
         return;
     declarePrefixes(presentationDocument_->getDocumentElement());
-    renumberSections(slides);
+    std::vector<std::wstring> formerIds;
+    for (const auto& slide : slides)
+        formerIds.push_back(slide->id);
+    updateSections(*presentationDocument_.get(), formerIds, kFirstSlideId);
     DOMElement* list = prepareSlideList();
     unsigned int id = kFirstSlideId;
     for (const auto& slide : slides) {

@@ -81,7 +81,6 @@ private:
     void readLayoutShapes(TemplateLayout& layout);
     void parseShape(xercesc::DOMElement* element, TemplateShapes& shapes, const TemplateLayout* layout);
     xercesc::DOMElement* prepareSlideList();
-    void renumberSections(const Slides& slides);
 
     boost::shared_ptr<PartDOMBuilder> builder_;
     std::wstring presentationPartName_;

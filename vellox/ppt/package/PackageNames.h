@@ -43,6 +43,22 @@ inline constexpr MainType kMainTypes[] = {
     {L"ppsx", L"application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml"},
 };
 
+/// Images that aren't among the common files of `FileUtils::getContentType`, by extension in lower case:
+/// registered types, or, where presentations have used another for longer (as for metafiles), that one.
+struct ImageType {
+    const wchar_t* extension;
+    const wchar_t* contentType;
+};
+
+inline constexpr ImageType kImageTypes[] = {
+    {L"apng", L"image/apng"},        {L"avif", L"image/avif"}, {L"dib", L"image/bmp"},
+    {L"heic", L"image/heic"},        {L"heif", L"image/heif"}, {L"ico", L"image/x-icon"},
+    {L"jfif", L"image/jpeg"},        {L"jp2", L"image/jp2"},   {L"jxl", L"image/jxl"},
+    {L"jxr", L"image/vnd.ms-photo"}, {L"pct", L"image/pict"},  {L"pcx", L"image/x-pcx"},
+    {L"pict", L"image/pict"},        {L"tga", L"image/x-tga"}, {L"wdp", L"image/vnd.ms-photo"},
+    {L"webp", L"image/webp"},        {L"wmf", L"image/x-wmf"}, {L"wmz", L"image/x-wmz"},
+};
+
 } // namespace vellox::ppt::contenttype
 
 #endif

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <boost/algorithm/string/predicate.hpp>
 #include <fstream>
 #include <set>
 
@@ -16,10 +17,24 @@ namespace vellox::ppt {
 
 namespace {
 
+// Empty for what is unknown: the package may have a type for the extension.
+std::wstring findImageType(const std::wstring& path) {
+    const std::wstring common = FileUtils::getContentType(path);
+    if (!common.empty())
+        return common;
+    const std::wstring extension = toLowerString(FileUtils::getFileNameExtension(path));
+    for (const contenttype::ImageType& row : contenttype::kImageTypes)
+        if (extension == row.extension)
+            return row.contentType;
+    return {};
+}
+
 // Kinds of images that deflate would make no smaller, and only slow down.
 bool isCompressed(const std::wstring& contentType) {
-    static const auto& compressed =
-        *new const std::set<std::wstring>{L"image/png", L"image/jpeg", L"image/gif", L"image/x-emz"};
+    static const auto& compressed = *new const std::set<std::wstring>{
+        L"image/apng",         L"image/avif",  L"image/gif",  L"image/heic", L"image/heif",
+        L"image/jp2",          L"image/jpeg",  L"image/jxl",  L"image/png",  L"image/webp",
+        L"image/vnd.ms-photo", L"image/x-emz", L"image/x-wmz"};
     return compressed.count(contentType) > 0;
 }
 
@@ -71,7 +86,8 @@ std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
 }
 
 std::wstring PPTPartWriter::addHyperlink(const std::wstring& partName, const std::wstring& target) {
-    if (target.empty() || !hasPart(partName))
+    const bool isBlank = target.find_first_not_of(L" \t\r\n") == std::wstring::npos;
+    if (isBlank || !hasPart(partName))
         return {};
     return getPart(partName).createExternalRelationship(relationship::kHyperlink, target, {}).getID();
 }
@@ -93,11 +109,17 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::ws
     if (!canBeRead(imagePath))
         return {};
     getPart(partName);
-    const std::wstring type = FileUtils::getContentType(imagePath);
+    const std::wstring type = findImageType(imagePath);
     const std::wstring name = chooseMediaName(imagePath);
     opc::Part image = isCompressed(type) ? createStoredPart(name, type) : createPart(name, type);
     image.setContentFile(imagePath);
     return addRelationship(partName, relationship::kImage, image.getName().toString());
+}
+
+bool PPTPartWriter::leadsToImage(const std::wstring& partName, const std::wstring& relationshipId) const {
+    const opc::Relationship relationship = getPart(partName).getRelationshipByID(relationshipId);
+    const std::wstring target = relationship.getTargetURI().toString();
+    return boost::algorithm::starts_with(getPart(target).getContentType().toString(), L"image/");
 }
 
 std::wstring PPTPartWriter::addRelationship(const std::wstring& partName, const std::wstring& type,

@@ -24,13 +24,16 @@ public:
     /// and its relationship to the slide's layout.
     /// @return the name of the part
     std::wstring createSlidePart(const TemplateSlide& slide);
-    /// Points from a part to a target outside the package.
-    /// @return the id of the relationship; empty if the target is, or if there is no such part
+    /// Points from a part to a target outside the package, which is made a reference if it isn't one.
+    /// @return the id of the relationship; empty if the target is empty or blank, or if there is no such part
     std::wstring addHyperlink(const std::wstring& partName, const std::wstring& target);
     /// Puts an image file into the package, in a part of its own with a random name, and points to it from a
     /// part. The file is copied when the package is saved.
     /// @return the id of the relationship; empty if the file can't be read to its end, or is no regular file
     std::wstring addImage(const std::wstring& partName, const std::wstring& imagePath);
+    /// Whether a relationship of a part leads to a part whose type is that of an image. It isn't for a file
+    /// whose extension neither this library nor the template knows.
+    bool leadsToImage(const std::wstring& partName, const std::wstring& relationshipId) const;
     /// Points from a part to another.
     /// @return the id of the relationship
     std::wstring addRelationship(const std::wstring& partName, const std::wstring& type,

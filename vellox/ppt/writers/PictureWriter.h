@@ -16,6 +16,8 @@ public:
     void write() override;
 
 private:
+    void reportUnknownType() const;
+
     const PictureImpl& picture_;
 };
 

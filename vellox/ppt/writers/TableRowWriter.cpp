@@ -6,16 +6,6 @@
 
 namespace vellox::ppt {
 
-namespace {
-
-void appendEmptyCell(xercesc::DOMElement* row) {
-    xercesc::DOMElement* cell = appendElement(row, xml::kATc);
-    appendElement(appendElement(cell, xml::kATxBody), xml::kABodyPr);
-    ensureParagraph(cell);
-}
-
-} // namespace
-
 TableRowWriter::TableRowWriter(const TableRowImpl& row, PPTWriter& writer, xercesc::DOMNode* parentNode)
     : ElementWriter(row, writer, parentNode),
       row_(row) {}
@@ -25,9 +15,6 @@ void TableRowWriter::write() {
     element->setAttribute(xml::kH, xml::kFalse); // as high as its text
     for (const auto& entry : row_.getChildren())
         entry->acceptWriter(&getWriter(), element);
-    // Readers refuse a row with fewer cells than the grid has columns.
-    for (std::size_t i = row_.getChildren().size(); i < getWriter().getTableContext().colWidths.size(); ++i)
-        appendEmptyCell(element);
     getParentNode()->appendChild(element);
     getWriter().nextRow();
 }

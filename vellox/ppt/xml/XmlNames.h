@@ -41,7 +41,9 @@ inline constexpr XMLCh kSpTree[] = u"p:spTree";
 inline constexpr XMLCh kTxBody[] = u"p:txBody";
 inline constexpr XMLCh kXfrm[] = u"p:xfrm";
 
+inline constexpr XMLCh kP14Section[] = u"p14:section";
 inline constexpr XMLCh kP14SldId[] = u"p14:sldId";
+inline constexpr XMLCh kP14SldIdLst[] = u"p14:sldIdLst";
 
 // DrawingML elements
 inline constexpr XMLCh kABlip[] = u"a:blip";
