@@ -127,7 +127,6 @@ TEST_F(FailureTest, ATemplateSlideIsMendedToo) {
     Picture picture;
     slide.add(picture);
     picture.setPath(L"x.png");
-    std::filesystem::permissions(toUtf8(next), std::filesystem::perms::owner_read);
     MessageDispatcher dispatcher = MessageDispatcher::getTheDispatcher();
     Table table(1);
     table.append(TableRow());
