@@ -14,6 +14,8 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include <zip.h>
+
 #include <fstream>
 #include <xercesc/util/XMLUri.hpp>
 
@@ -161,6 +163,26 @@ TEST(Package, ReadsWhatIsOutThere) {
         EXPECT_THROW(main.getRelationshipByID(L"rId2"), opc::Exception);
         EXPECT_THROW(package->getPart(PartName(L"/docs/none.xml")), opc::Exception);
     }
+}
+
+// Among them are films, which deflate would only make slower.
+TEST(Package, StoredEntriesStayStored) {
+    const TempFolder folder;
+    test::ZipStyle style;
+    style.stored = true;
+    test::writeParts(folder / L"a.zip", makeParts(), style);
+    {
+        const auto package = openZip(folder / L"a.zip", OpenMode::ReadWrite);
+        write(package->createPart(PartName(L"/new.xml"), ContentType(L"application/xml"), {}), "<new/>");
+        package->close(false);
+    }
+    zip_t* archive = zip_open(toUtf8(folder / L"a.zip").c_str(), ZIP_RDONLY, nullptr);
+    zip_stat_t facts;
+    ASSERT_EQ(zip_stat(archive, "docs/side.xml", 0, &facts), 0);
+    EXPECT_EQ(facts.comp_method, ZIP_CM_STORE);
+    ASSERT_EQ(zip_stat(archive, "new.xml", 0, &facts), 0);
+    EXPECT_EQ(facts.comp_method, ZIP_CM_DEFLATE);
+    zip_discard(archive);
 }
 
 TEST(Package, SavesChangesAndCarriesTheRestOver) {

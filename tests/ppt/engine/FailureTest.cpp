@@ -12,6 +12,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace vellox;
@@ -128,7 +129,6 @@ TEST_F(FailureTest, ATemplateSlideIsMendedToo) {
     Picture picture;
     slide.add(picture);
     picture.setPath(L"x.png");
-    std::filesystem::permissions(toUtf8(next), std::filesystem::perms::owner_read);
     MessageDispatcher dispatcher = MessageDispatcher::getTheDispatcher();
     Table table(1);
     table.append(TableRow());
@@ -171,6 +171,66 @@ TEST_F(FailureTest, AnOutputThatExistsIsReplacedAndALinkFollowed) {
     same.add(L"Title Only");
     EXPECT_TRUE(same.close());
     EXPECT_EQ(findAll(readParts(folder / L"real.pptx").at("ppt/presentation.xml"), "p:sldId").size(), 2u);
+}
+
+TEST_F(FailureTest, OnlyTheFileThatOpenPutThereIsWritten) {
+    Presentation other(output);
+    deck.open();
+    other.add(L"Blank");
+    EXPECT_TRUE(other.close()); // one of the same bytes stands there
+    const std::string written = readFile(output);
+    EXPECT_NE(errorOf([&] { deck.close(); }).find("another file has taken its place"), std::string::npos);
+    EXPECT_EQ(readFile(output), written);
+
+    // A relative path means what it meant at open.
+    const auto former = std::filesystem::current_path();
+    std::filesystem::create_directory(folder.getPath() / "elsewhere");
+    writeFile(folder / L"elsewhere/relative.pptx", written);
+    std::filesystem::current_path(folder.getPath());
+    Presentation relative(L"relative.pptx");
+    relative.add(L"Blank");
+    std::filesystem::current_path(folder.getPath() / "elsewhere");
+    EXPECT_TRUE(relative.close());
+    std::filesystem::current_path(former);
+    EXPECT_TRUE(findFaults(folder / L"relative.pptx").empty());
+    EXPECT_EQ(readFile(folder / L"elsewhere/relative.pptx"), written);
+}
+
+TEST_F(FailureTest, NamesModesAndLinksOfTheOutput) {
+    const auto modeOf = [](const std::wstring& path) {
+        return static_cast<unsigned>(std::filesystem::status(toUtf8(path)).permissions());
+    };
+    const auto make = [](const std::wstring& path) {
+        Presentation made(path);
+        made.add(L"Blank");
+        return made.close();
+    };
+    const mode_t mask = umask(027);
+    EXPECT_TRUE(make(folder / (std::wstring(250, L'n') + L".pptx"))); // as long as a name can be
+    EXPECT_TRUE(make(output));
+    umask(mask);
+    EXPECT_EQ(modeOf(output), 0640u);
+    std::filesystem::permissions(toUtf8(output), std::filesystem::perms(0600));
+    EXPECT_TRUE(make(output));
+    EXPECT_EQ(modeOf(output), 0600u);
+    std::filesystem::permissions(toUtf8(output), std::filesystem::perms(0444));
+    EXPECT_EQ(errorOf([&] { make(output); }), "ppt_error:cannotOpenFile " + toUtf8(output));
+    std::filesystem::create_symlink("target.pptx", folder.getPath() / "dangling.pptx");
+    EXPECT_TRUE(make(folder / L"dangling.pptx"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.getPath() / "dangling.pptx"));
+    EXPECT_TRUE(findFaults(folder / L"target.pptx").empty());
+}
+
+// It is found out while the deck is open still, and what might never answer isn't asked.
+TEST_F(FailureTest, APictureThatCantBeReadIsLeftOut) {
+    mkfifo(toUtf8(folder / L"pipe.png").c_str(), 0600);
+    for (const std::wstring& path :
+         {folder / L"pipe.png", std::wstring(L"/dev/zero"), std::wstring(L"/proc/self/mem")}) {
+        Slide slide = deck.add(L"Blank");
+        slide.add(Picture(path));
+    }
+    for (const auto& part : close())
+        EXPECT_EQ(part.first.find("ppt/media/"), std::string::npos);
 }
 
 // Whatever the text is, a reader can parse what is written.

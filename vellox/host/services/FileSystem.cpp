@@ -102,15 +102,18 @@ bool isRegularFile(const Path& path) {
 Path followLinks(const Path& path) {
     constexpr int kMostLinks = 40; // as many as the system follows
     fs::path place = path.native();
-    std::error_code failure;
-    for (int i = 0; fs::symlink_status(place, failure).type() == fs::file_type::symlink; ++i) {
-        if (i == kMostLinks)
-            throw FsysExceptionBase("too many links", path.native());
+    for (int i = 0; i < kMostLinks; ++i) {
+        std::error_code failure;
+        const fs::file_type type = fs::symlink_status(place, failure).type();
+        if (type == fs::file_type::none)
+            check(failure, "status", path);
+        if (type != fs::file_type::symlink)
+            return Path(place);
         const fs::path target = fs::read_symlink(place, failure);
         check(failure, "read link", path);
         place = place.parent_path() / target; // an absolute target stands for itself
     }
-    return Path(place);
+    throw FsysExceptionBase("too many links", path.native());
 }
 
 bool FileIdentity::operator==(const FileIdentity& other) const {
