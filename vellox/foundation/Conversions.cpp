@@ -1,5 +1,6 @@
 #include "vellox/foundation/Conversions.h"
 
+#include "vellox/foundation/UuidSource.h"
 #include "vellox/host/services/Utf8.h"
 
 #include <algorithm>
@@ -169,7 +170,11 @@ void replaceAll(std::wstring& text, const std::wstring& from, const std::wstring
         boost::algorithm::replace_all(text, from, to);
 }
 
+std::wstring (*uuidSource)() = nullptr;
+
 std::wstring uuid_gen() {
+    if (uuidSource)
+        return uuidSource();
     // Seeded anew each time: a forked process must draw others.
     boost::uuids::basic_random_generator<boost::mt19937> draw;
     const boost::uuids::uuid id = draw();
