@@ -43,6 +43,14 @@ std::string readFile(const std::wstring& path) {
     return bytes.str();
 }
 
+std::string makePng(unsigned width, unsigned height) {
+    std::string bytes("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+    for (const unsigned value : {width, height})
+        for (int shift = 24; shift >= 0; shift -= 8)
+            bytes.push_back(static_cast<char>(value >> shift & 255));
+    return bytes + std::string("\x8\2\0\0\0\0\0\0\0\0\0\0\0IDAT", 17);
+}
+
 Parts readParts(const std::wstring& package) {
     const std::unique_ptr<zip_t, decltype(&zip_discard)> archive(
         zip_open(toUtf8(package).c_str(), ZIP_RDONLY, nullptr), zip_discard);

@@ -30,6 +30,9 @@ private:
 void writeFile(const std::wstring& path, const std::string& bytes);
 std::string readFile(const std::wstring& path);
 
+/// A PNG as far as anybody reads it: its header.
+std::string makePng(unsigned width, unsigned height);
+
 /// The entries of an archive, inflated, by name.
 using Parts = std::map<std::string, std::string>;
 

@@ -1,5 +1,6 @@
 #include "vellox/foundation/Conversions.h"
 
+#include "vellox/foundation/UuidSource.h"
 #include "vellox/host/services/RandomName.h"
 #include "vellox/host/services/Utf8.h"
 
@@ -168,7 +169,11 @@ void replaceAll(std::wstring& text, const std::wstring& from, const std::wstring
         boost::algorithm::replace_all(text, from, to);
 }
 
+std::wstring (*uuidSource)() = nullptr;
+
 std::wstring uuid_gen() {
+    if (uuidSource)
+        return uuidSource();
     const boost::uuids::uuid id = host::drawUuid();
     return id.is_nil() ? std::wstring() : toString(to_string(id));
 }

@@ -14,12 +14,6 @@ using namespace vellox::test;
 
 namespace {
 
-/// A PNG of 100 by 50 pixels: its header, which is all that is ever read.
-std::string makePng() {
-    return std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x64\0\0\0\x32\x8\2\0\0\0\0\0\0\0\0\0\0\0IDAT",
-                       41);
-}
-
 Table makeTable(unsigned int rows, unsigned int columns) {
     Table table;
     for (unsigned int r = 0; r < rows; ++r) {
@@ -57,7 +51,7 @@ protected:
 using Texts = std::vector<std::string>;
 
 TEST_F(ShapeWritersTest, PicturesBringTheirFiles) {
-    writeFile(folder / L"a b.png", makePng());
+    writeFile(folder / L"a b.png", makePng(100, 50));
     Slide slide = deck.add(L"Title and Picture");
     const Picture picture(folder / L"a b.png");
     slide.replace(L"Picture", object(picture));
@@ -68,7 +62,7 @@ TEST_F(ShapeWritersTest, PicturesBringTheirFiles) {
     const Parts& parts = close();
     const Texts media = mediaOf(parts);
     ASSERT_EQ(media.size(), 2u); // one for each, though the file is the same
-    EXPECT_EQ(parts.at(media[0]), makePng());
+    EXPECT_EQ(parts.at(media[0]), makePng(100, 50));
     EXPECT_NE(parts.at("[Content_Types].xml").find("Extension=\"png\""), std::string::npos);
     const std::string inPlace = shapeXml(1, "Picture");
     EXPECT_NE(inPlace.find("<p:ph idx='1' type='pic'/>"), std::string::npos);
@@ -79,7 +73,7 @@ TEST_F(ShapeWritersTest, PicturesBringTheirFiles) {
 }
 
 TEST_F(ShapeWritersTest, PicturesWithoutAFileAreNoError) {
-    writeFile(folder / L"noextension", makePng());
+    writeFile(folder / L"noextension", makePng(100, 50));
     writeFile(folder / L"odd.x y~", "bytes");
     Slide slide = deck.add(L"Title and Picture");
     slide.replace(L"Picture", object(Picture()));
@@ -130,7 +124,7 @@ TEST_F(ShapeWritersTest, RowsAreWrittenAsTheyAre) {
 
 // A copy of what took a placeholder's place has a place of its own.
 TEST_F(ShapeWritersTest, CopiesOfReplacementsAreFreeShapes) {
-    writeFile(folder / L"a.png", makePng());
+    writeFile(folder / L"a.png", makePng(100, 50));
     Slide first = deck.add(L"Title and Picture");
     Slide second = deck.add(L"Title and Picture");
     for (Slide slide : {first, second})
@@ -291,8 +285,8 @@ TEST_F(ShapeWritersTest, AnEmptyTableLeavesThePlaceholder) {
 
 // What stands on a slide of a template gives way in its place.
 TEST_F(ShapeWritersTest, ShapesOfATemplateSlideAreReplaced) {
-    writeFile(folder / L"old.png", makePng());
-    writeFile(folder / L"new.png", makePng());
+    writeFile(folder / L"old.png", makePng(100, 50));
+    writeFile(folder / L"new.png", makePng(100, 50));
     Slide slide = deck.add(L"Blank");
     Picture old(folder / L"old.png");
     old.setName(L"Photo");
