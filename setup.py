@@ -5,15 +5,21 @@ import sys
 
 from setuptools import Extension, setup
 from setuptools.command.build_ext import build_ext
+from setuptools.errors import SetupError
 
 TOP = pathlib.Path(__file__).resolve().parent
 ROOT = "vellox/_root"  # of the library and its resources, in the package
+
+NOT_EDITABLE = """vellox can't be installed in editable form: most of it is compiled. Use `pip install .`; or, to work on it,
+build it with `cmake --preset sanitizers` and let PYTHONPATH name the folder build/sanitizers/python."""
 
 
 class CMakeBuild(build_ext):
     """Installs the runtime half of the library into the package."""
 
     def run(self):
+        if self.editable_mode:
+            raise SetupError(NOT_EDITABLE)
         build = pathlib.Path(self.build_temp).resolve()
         package = pathlib.Path(self.build_lib).resolve()
         options = {

@@ -6,7 +6,7 @@ if(NOT DEFINED Python3_EXECUTABLE AND EXISTS /usr/bin/python3)
 endif()
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 if(VELLOX_PYTHON)
-    find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter Development.Module)
+    find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter Development.Module)
 endif()
 
 # Where Debian's Python looks: below /usr in a folder for all its versions, elsewhere in one for each.

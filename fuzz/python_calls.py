@@ -4,6 +4,7 @@
 
 To be run with a module that is built with sanitizers; a failure is what they find.
 """
+import datetime
 import gc
 import os
 import random
@@ -21,7 +22,10 @@ TEXTS = ["x", "", "Title", "Content", "Picture", "Table", "Blank", "Title and Co
          "a\0b", "\ud800"]
 NUMBERS = [0, 1, 2, 3, -1, 10, 2**33, 10**400, 1.5, float("nan"), float("inf"), True, np.float32(2)]
 OTHERS = [None, [], ["a", ["b", ["c"]]], [["a", 1], ["b", None]], np.arange(6).reshape(2, 3), np.zeros((0, 3)),
-          np.zeros((2, 2, 2)), np.array(["a", "b"]), b"x", {}, object()]
+          np.zeros((2, 2, 2)), np.array(["a", "b"]), b"x", {}, object(), np.arange(4, dtype=">i8"),
+          np.array([2**60, 1]), np.ma.array([[1, 2], [3, 4]], mask=[[0, 1], [0, 0]]), np.ma.masked,
+          np.array(["2026-03-01", "NaT"], "M8[D]"), np.array(None), [datetime.timedelta(1), 2**70],
+          [[1, 2], [None, b"x"]]]
 CLASSES = [each for each in vars(ppt).values() if isinstance(each, type) and issubclass(each, ppt.Null)]
 REFUSALS = (ppt.Error, TypeError, AttributeError, RuntimeError, KeyError, ValueError, OverflowError)
 MOST_OBJECTS = 60
@@ -85,7 +89,7 @@ class Caller:
     def use(self):
         owner = self.draw.choice(self.objects)
         name = self.draw.choice([each for each in dir(owner) if not each.startswith("__")] +
-                                ["__init__", "__repr__", "__exit__"])
+                                ["__init__", "__repr__", "__exit__", "__copy__", "__deepcopy__"])
         is_method = callable(getattr(type(owner), name, None))
         if not is_method and self.draw.random() < 0.3:
             setattr(owner, name, self.pick("Any"))
@@ -102,8 +106,15 @@ class Caller:
         self.dispatcher.Filter.SourceFilter = None
         self.dispatcher.Filter.GlobalFilter = None
 
+    @staticmethod
+    def is_alive(each):
+        try:
+            return bool(each.Id)
+        except (RuntimeError, AttributeError):
+            return False
+
     def forget_ended(self):
-        self.objects = [each for each in self.objects if "tag" in repr(each)]
+        self.objects = [each for each in self.objects if self.is_alive(each)]
         gc.collect()
 
     def act(self):

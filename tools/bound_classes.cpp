@@ -17,7 +17,10 @@ constexpr char kHead[] = R"(# The classes of vellox.ppt
 
 *This page is written by `bound_classes` from the table that adapters for host languages read.*
 
-What a host language sees: each class with its superclass, how its objects are made, its properties and its methods.
+For those who tie a further host language to vellox: each class with its superclass, how its objects are made, its
+properties and its methods. Users of Python ask `help(vellox.ppt.Slide)` instead, which speaks of Python's own kinds of
+values, and read [python.md](python.md).
+
 A class has what its superclasses have. Classes stand in the package `vellox.ppt`; the words are those that arguments
 are matched by:
 

@@ -3,8 +3,10 @@
 #include "bindings/python/PyErrors.h"
 #include "vellox/host/values/hvArray.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
 
 namespace vellox::ppt::python {
 
@@ -43,14 +45,18 @@ constexpr struct {
     {"g", sizeof(long double), HvDoubleClass, readAs<long double>},
 };
 
-/// The letter of a format of one element in this machine's byte order; 0 for any other format.
-char getLetter(const char* format) {
+constexpr std::size_t kLargestElement = sizeof(long double);
+
+/// The letter of a format of one element, and whether its bytes are in the order that isn't this machine's; 0 for
+/// the format of several elements.
+std::pair<char, bool> readFormat(const char* format) {
     if (!format)
-        return 'B';
+        return {'B', false};
     const char* native = PY_LITTLE_ENDIAN ? "@=<" : "@=>!";
-    if (*format != 0 && std::strchr(native, *format))
-        ++format;
-    return std::strlen(format) == 1 ? *format : '\0';
+    const bool hasOrder = *format != 0 && std::strchr("@=<>!", *format);
+    const bool isSwapped = hasOrder && !std::strchr(native, *format);
+    const char* letter = hasOrder ? format + 1 : format;
+    return {std::strlen(letter) == 1 ? *letter : '\0', isSwapped};
 }
 
 } // namespace
@@ -73,7 +79,8 @@ PyBuffer::PyBuffer(PyObject* object) {
                                        static_cast<int>(view_.itemsize), 'C');
         view_.strides = strides_.data();
     }
-    const char letter = getLetter(view_.format);
+    char letter = '\0';
+    std::tie(letter, isSwapped_) = readFormat(view_.format);
     for (const auto& row : kReaders) {
         if (letter != 0 && std::strchr(row.formats, letter) &&
             row.size == static_cast<std::size_t>(view_.itemsize)) {
@@ -90,7 +97,7 @@ PyBuffer::~PyBuffer() {
         PyBuffer_Release(&view_);
 }
 
-/// Calls use(number) for each element, column after column.
+/// Calls use(element) for each element, column after column, with its bytes in this machine's order.
 template <class Use> void PyBuffer::visit(Use use) const {
     Py_ssize_t indices[2] = {0, 0};
     const std::size_t rows = shape_.size() == 2 ? shape_[0] : 1;
@@ -101,21 +108,49 @@ template <class Use> void PyBuffer::visit(Use use) const {
         for (std::size_t r = 0; r < rows; ++r) {
             row = static_cast<Py_ssize_t>(r);
             column = static_cast<Py_ssize_t>(c);
-            use(read_(static_cast<const char*>(PyBuffer_GetPointer(&view_, indices))));
+            useElement(PyBuffer_GetPointer(&view_, indices), use);
         }
     }
 }
 
+template <class Use> void PyBuffer::useElement(const void* element, Use use) const {
+    const auto* bytes = static_cast<const char*>(element);
+    if (!isSwapped_)
+        return use(bytes);
+    char turned[kLargestElement] = {};
+    std::reverse_copy(bytes, bytes + view_.itemsize, turned);
+    use(turned);
+}
+
+double PyBuffer::readFirst() const {
+    const std::vector<Py_ssize_t> start(shape_.size(), 0);
+    double first = 0;
+    useElement(PyBuffer_GetPointer(&view_, start.data()), [&](const char* e) { first = read_(e); });
+    return first;
+}
+
 std::vector<double> PyBuffer::readNumbers() const {
     std::vector<double> numbers;
-    visit([&](double number) { numbers.push_back(number); });
+    visit([&](const char* element) { numbers.push_back(read_(element)); });
     return numbers;
+}
+
+std::vector<PyRef> PyBuffer::readIntegers() const {
+    std::vector<PyRef> integers;
+    visit([&](const char* element) {
+        std::uint64_t bits = 0;
+        std::memcpy(&bits, element, sizeof bits);
+        integers.push_back(checked(code_ == HvLastIntegerClass
+                                       ? PyLong_FromUnsignedLongLong(bits)
+                                       : PyLong_FromLongLong(static_cast<std::int64_t>(bits))));
+    });
+    return integers;
 }
 
 std::unique_ptr<bool[]> PyBuffer::readLogicals() const {
     std::unique_ptr<bool[]> logicals(new bool[static_cast<std::size_t>(view_.len) + 1]);
     bool* next = logicals.get();
-    visit([&](double number) { *next++ = number != 0; });
+    visit([&](const char* element) { *next++ = read_(element) != 0; });
     return logicals;
 }
 

@@ -30,8 +30,6 @@ public:
                        const std::string& takes) const;
 
 private:
-    std::string describe() const;
-
     PyObject* const* objects_;
     std::size_t count_;
     std::array<std::optional<PyValue>, kMostArguments> values_;

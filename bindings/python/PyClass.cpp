@@ -6,6 +6,7 @@
 #include "bindings/python/PyInstance.h"
 #include "bindings/python/PyListeners.h"
 #include "bindings/python/PyMethod.h"
+#include "bindings/python/PyRepr.h"
 #include "bindings/python/PyResults.h"
 #include "bindings/python/PyTerms.h"
 #include "vellox/host/binding/BindingRegistry.h"
@@ -25,7 +26,7 @@ using namespace hostbind;
 PyClass::PyClass(const BoundClass& boundClass)
     : bound(boundClass),
       fullName(boundClass.getFullName()),
-      doc(describeClass(boundClass)),
+      doc(formatTextSignature(boundClass) + describeClass(boundClass)),
       constructorsText(formatConstructors(boundClass)) {}
 
 bool PyClass::isRoot() const {
@@ -41,8 +42,20 @@ PyObject* newObject(PyTypeObject* type, PyObject*, PyObject*) {
 }
 
 void deallocate(PyObject* self) {
+    warnOfLoss(self);
     clearInstance(self);
     freeInstance(self);
+}
+
+/// Whether objects of a class are made of a number that they show.
+bool takesNumber(const BoundClass& bound) {
+    const auto isNumber = [](const SignatureWord& word) {
+        return word.getKind() == SignatureWord::Kind::Double;
+    };
+    return std::any_of(bound.constructors.begin(), bound.constructors.end(),
+                       [&](const BoundConstructor& each) {
+                           return std::any_of(each.signature.begin(), each.signature.end(), isNumber);
+                       });
 }
 
 ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
@@ -51,14 +64,19 @@ ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     if (!isForUsers)
         throw PythonError(PyExc_TypeError,
                           pyClass.fullName + ": the library alone makes objects of this class");
+    PyObject** values = PySequence_Fast_ITEMS(arguments);
+    const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(arguments));
     Reading reading;
     reading.rowsAreTables = true;
-    const PyCall call(PySequence_Fast_ITEMS(arguments), static_cast<std::size_t>(PyTuple_GET_SIZE(arguments)),
-                      reading);
+    reading.digits = takesNumber(pyClass.bound) ? Digits::Always : Digits::OfItems;
+    const PyCall call(values, count, reading);
     const std::size_t chosen =
         call.select(pyClass.constructorSignatures, pyClass.fullName, pyClass.constructorsText);
     const BoundConstructor& constructor = pyClass.bound.constructors[chosen];
-    return constructor.make ? constructor.make(call.getArguments()) : ObjectPtr();
+    if (!constructor.make)
+        return {};
+    const Given given(nullptr, pyClass.bound.name, nullptr, values, count);
+    return given.run([&] { return constructor.make(call.getArguments()); });
 }
 
 int initObject(PyObject* self, PyObject* arguments, PyObject* keywords) {
@@ -74,15 +92,6 @@ int initObject(PyObject* self, PyObject* arguments, PyObject* keywords) {
         }
         call.finish();
         return 0;
-    });
-}
-
-PyObject* represent(PyObject* self) {
-    return guarded<PyObject*>(nullptr, [&] {
-        const PPTObject* facade = slotOf(self).getFacade();
-        if (!facade)
-            return PyUnicode_FromFormat("<%s>", Py_TYPE(self)->tp_name);
-        return PyUnicode_FromFormat("<%s, tag %R>", Py_TYPE(self)->tp_name, toPython(facade->getTag()).get());
     });
 }
 
@@ -104,13 +113,19 @@ int setProperty(PyObject* self, PyObject* value, void* closure) {
     return guarded<int>(-1, [&] {
         const auto& property = *static_cast<const PyProperty*>(closure);
         const ObjectPtr facade = requireFacade(self, *property.owner, Use::Any);
-        const PyValue given(value ? value : Py_None);
-        if (!property.row->takes(given))
+        PyObject* given = value ? value : Py_None;
+        Reading reading;
+        // A number that is shown, or one that is counted with.
+        reading.digits =
+            property.row->type.getKind() == SignatureWord::Kind::Compound ? Digits::Always : Digits::Never;
+        const PyValue view(given, reading);
+        if (!property.row->takes(view))
             throw PythonError(PyExc_TypeError, property.owner->fullName + "." + property.row->name +
                                                    " takes " + getTypeName(*property.row) + ", not " +
-                                                   given.getClassName());
+                                                   view.getClassName() + " " + describeValues(&given, 1));
         LibraryCall call;
-        property.row->set(*facade, given);
+        const Given context(facade.get(), property.owner->bound.name, property.row->name, &given, 1);
+        context.run([&] { property.row->set(*facade, view); });
         call.finish();
         return 0;
     });

@@ -12,6 +12,9 @@ namespace vellox::ppt::python {
 /// Methods of a class for Python alone; null if it has none.
 PyMethodDef* findConveniences(const hostbind::BoundClass& bound);
 
+/// Warns of a Python object that is dropped with work in it that nobody else can finish.
+void warnOfLoss(PyObject* self);
+
 } // namespace vellox::ppt::python
 
 #endif

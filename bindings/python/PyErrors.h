@@ -10,6 +10,11 @@
 #include <string>
 
 #include "bindings/python/PyRef.h"
+#include "vellox/foundation/IdentifiedException.h"
+
+namespace vellox::ppt {
+class PPTObject;
+}
 
 namespace vellox::ppt::python {
 
@@ -37,6 +42,48 @@ void addErrorTypes(PyObject* module);
 
 /// The category of the library's warnings.
 PyObject* getWarningType();
+
+/// A call into the library, for errors that tell less than Python users expect: which value can't be used, what is
+/// wrong with a file.
+class Given {
+public:
+    /// @param self what the call is on; null for none
+    /// @param member of the class of that name; null for the making of an object
+    Given(const PPTObject* self, const char* className, const char* member, PyObject* const* values,
+          std::size_t count)
+        : self_(self),
+          className_(className),
+          member_(member),
+          values_(values),
+          count_(count) {}
+
+    /// Runs what may throw.
+    /// @throws PythonError for an identified error, which is one of Python's from here on
+    template <class Function> auto run(Function function) const {
+        try {
+            return function();
+        } catch (const hostfx::except::IMsgIDException& error) {
+            setIdentifiedError(error);
+            throw PythonError();
+        }
+    }
+
+    const PPTObject* getSelf() const { return self_; }
+    /// Such as "Paragraph.Bold was given 'yes'."
+    std::string describe() const;
+
+private:
+    void setIdentifiedError(const hostfx::except::IMsgIDException& error) const;
+
+    const PPTObject* self_;
+    const char* className_;
+    const char* member_;
+    PyObject* const* values_;
+    std::size_t count_;
+};
+
+/// Values in words, such as "'yes', 3"; long ones are cut.
+std::string describeValues(PyObject* const* values, std::size_t count);
 
 /// Sets the Python error that the exception in flight stands for. To be called in a handler.
 void translateToPython();

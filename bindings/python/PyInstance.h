@@ -31,6 +31,11 @@ public:
     /// Unties the pair and lets go of the handle.
     void drop();
 
+    /// @{ Whether the user knows that what is held stays unfinished, since an error was in the way.
+    void setGivenUp() { isGivenUp_ = true; }
+    bool isGivenUp() const { return isGivenUp_; }
+    /// @}
+
     ObjectPtr getProxy() const override { return proxy_; }
     PPTObject* getFacade() const { return proxy_.get(); }
     void retract() noexcept override;
@@ -39,6 +44,7 @@ private:
     PyObject* owner_;
     const PyClass* class_ = nullptr;
     ObjectPtr proxy_;
+    bool isGivenUp_ = false;
 };
 
 /// The layout of the Python objects: first what Python itself looks into.

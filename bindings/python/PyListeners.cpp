@@ -132,10 +132,12 @@ std::vector<PyType_Slot> getListeningSlots() {
 PyMethodDef* getListeningMethods() {
     static PyMethodDef methods[] = {
         {"addListener", addListener, METH_O,
+         "addListener($self, listener, /)\n--\n\n"
          "addListener(listener: Callable[[MessageEventData], object]) -> None\n"
          "    Lets a callable hear every message that passes the filter. What it raises reaches\n"
          "    whoever caused the message."},
         {"removeListener", removeListener, METH_O,
+         "removeListener($self, listener, /)\n--\n\n"
          "removeListener(listener: Callable[[MessageEventData], object]) -> None\n"
          "    Takes a listener off again. Does nothing for one that isn't listening."},
         {}};

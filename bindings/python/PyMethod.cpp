@@ -22,6 +22,7 @@ struct Overloads {
     std::string name;
     std::string qualifiedName;
     std::string doc;
+    std::string textSignature;
     std::vector<const BoundMethod*> methods;
     std::vector<const Signature*> signatures;
 
@@ -31,6 +32,7 @@ struct Overloads {
           qualifiedName(std::string(owner.bound.name) + "." + name),
           methods(owner.bound.getOverloads(methodName)) {
         doc = describeOverloads(methods);
+        textSignature = formatTextSignature(methods);
         for (const BoundMethod* method : methods)
             signatures.push_back(&method->signature);
     }
@@ -67,8 +69,11 @@ PyObject* callMethod(PyObject* callable, PyObject* const* objects, std::size_t f
         const PyCall arguments(objects, count);
         const std::size_t chosen =
             arguments.select(overloads.signatures, overloads.qualifiedName, overloads.doc);
+        const Given given(self.get(), overloads.owner.bound.name, overloads.name.c_str(), objects, count);
         LibraryCall call;
-        PyRef result = toPython(overloads.methods[chosen]->invoke(self.get(), arguments.getArguments()));
+        PyRef result = given.run([&] {
+            return toPython(overloads.methods[chosen]->invoke(self.get(), arguments.getArguments()));
+        });
         call.finish();
         return result.release();
     });
@@ -98,6 +103,7 @@ PyTypeObject* getMethodType() {
         {"__vectorcalloffset__", T_PYSSIZET, offsetof(MethodObject, call), READONLY, nullptr}, {}};
     static PyGetSetDef getSets[] = {
         {"__doc__", getText<&Overloads::doc>, nullptr, nullptr, nullptr},
+        {"__text_signature__", getText<&Overloads::textSignature>, nullptr, nullptr, nullptr},
         {"__name__", getText<&Overloads::name>, nullptr, nullptr, nullptr},
         {"__qualname__", getText<&Overloads::qualifiedName>, nullptr, nullptr, nullptr},
         {"__objclass__", getOwner, nullptr, nullptr, nullptr},

@@ -1,5 +1,6 @@
 #include "bindings/python/PyTerms.h"
 
+#include <algorithm>
 #include <cstring>
 #include <sstream>
 
@@ -67,6 +68,58 @@ std::string formatConstructors(const BoundClass& bound) {
             text += (text.empty() ? "" : "\n") + std::string(bound.name) + "(" +
                     formatParameters(constructor.signature, constructor.parameters) + ")";
     return text;
+}
+
+namespace {
+
+std::vector<std::string> splitNames(const char* parameters) {
+    std::istringstream words(parameters);
+    std::vector<std::string> names;
+    for (std::string name; words >> name;)
+        names.push_back(name.substr(0, name.find(',')));
+    return names;
+}
+
+/// The name of a parameter that all overloads give it, else a word for all of them.
+std::string mergeNames(const std::vector<std::vector<std::string>>& overloads, std::size_t i) {
+    std::string merged;
+    for (const std::vector<std::string>& names : overloads) {
+        if (i >= names.size() || names[i] == merged)
+            continue;
+        if (!merged.empty())
+            return "argument" + std::to_string(i + 1);
+        merged = names[i];
+    }
+    return merged;
+}
+
+std::string mergeParameters(std::string text, const std::vector<std::vector<std::string>>& overloads) {
+    std::size_t least = overloads.empty() ? 0 : overloads.front().size();
+    std::size_t most = 0;
+    for (const std::vector<std::string>& names : overloads) {
+        least = std::min(least, names.size());
+        most = std::max(most, names.size());
+    }
+    for (std::size_t i = 0; i < most; ++i)
+        text += (text.empty() ? "" : ", ") + mergeNames(overloads, i) + (i < least ? "" : "=...");
+    return "(" + text + (text.empty() ? ")" : ", /)");
+}
+
+} // namespace
+
+std::string formatTextSignature(const std::vector<const BoundMethod*>& overloads) {
+    std::vector<std::vector<std::string>> names;
+    for (const BoundMethod* overload : overloads)
+        names.push_back(splitNames(overload->parameters));
+    return mergeParameters(overloads.front()->isStatic ? "" : "$self", names);
+}
+
+std::string formatTextSignature(const BoundClass& bound) {
+    std::vector<std::vector<std::string>> names;
+    for (const BoundConstructor& constructor : bound.constructors)
+        if (!constructor.isHidden)
+            names.push_back(splitNames(constructor.parameters));
+    return bound.name + mergeParameters("", names) + "\n--\n\n";
 }
 
 std::string describeOverloads(const std::vector<const BoundMethod*>& overloads) {

@@ -22,6 +22,11 @@ std::string formatParameters(const hostbind::Signature& signature, const char* p
 std::string formatMethod(const hostbind::BoundMethod& method);
 /// Such as "Paragraph(text: str)", one line for each constructor.
 std::string formatConstructors(const hostbind::BoundClass& bound);
+/// One signature for all overloads, in the form that Python's own functions have it: such as "($self, row, column, /)".
+/// Parameters beyond those that all overloads have may be left out.
+std::string formatTextSignature(const std::vector<const hostbind::BoundMethod*>& overloads);
+/// The same for the making of an object, headed by the class's name and followed by what ends it in a docstring.
+std::string formatTextSignature(const hostbind::BoundClass& bound);
 /// All overloads with what they do, a paragraph each.
 std::string describeOverloads(const std::vector<const hostbind::BoundMethod*>& overloads);
 /// What a class is, and how its objects are made.

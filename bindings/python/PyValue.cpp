@@ -26,6 +26,34 @@ bool isList(PyObject* object) {
     return PyList_Check(object) || PyTuple_Check(object);
 }
 
+/// From here on two whole numbers may be one double.
+constexpr double kFirstLong = 9007199254740992;
+
+bool isLong(double number) {
+    return std::abs(number) >= kFirstLong;
+}
+
+bool isLong(PyObject* number) {
+    int overflow = 0;
+    const long long value = PyLong_AsLongLongAndOverflow(number, &overflow);
+    return overflow != 0 || isLong(static_cast<double>(value));
+}
+
+bool has(PyObject* object, const char* attribute) {
+    return PyObject_HasAttrString(object, attribute) != 0;
+}
+
+/// Arrays some of whose entries are missing, though their memory holds something there.
+bool isMasked(PyObject* object) {
+    return has(object, "mask") && has(object, "filled") && has(object, "tolist");
+}
+
+/// What a function of the package's own makes of a frame or a column.
+PyRef readForeign(const char* function, PyObject* object) {
+    const PyRef module = checked(PyImport_ImportModule("vellox._frames"));
+    return checked(PyObject_CallMethod(module.get(), function, "O", object));
+}
+
 } // namespace
 
 /// What only lists and arrays need.
@@ -41,11 +69,14 @@ PyValue::PyValue(PyObject* object, const Reading& reading)
     : object_(object),
       reading_(reading),
       code_(kUnknownClass) {
+    read();
+}
+
+void PyValue::read() {
     if (reading_.depth > kDeepestList)
         throw PythonError(PyExc_ValueError, "lists are nested too deeply");
-    if (!(readPlain() || readList() || readBuffer(object_) || readFrame() || readArray() ||
-          readNumberLike() || readPath()))
-        readUnknown();
+    static_cast<void>(readPlain() || readList() || readBuffer(object_) || readFrame() || readArray() ||
+                      readNumberLike() || readPath() || readText()); // else it stays unknown
 }
 
 PyValue::~PyValue() = default;
@@ -77,15 +108,19 @@ bool PyValue::readList() {
         return false;
     // A list may change while its elements are read.
     const PyRef items = checked(PySequence_Tuple(object_));
-    const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(items.get()));
-    code_ = HvCellClass;
-    setShape(count == 0 ? 0 : 1, count);
-    if (reading_.rowsAreTables && count > 1)
+    readRow(items);
+    if (reading_.rowsAreTables && PyTuple_GET_SIZE(items.get()) > 1)
         readTableRows(items);
-    if (elements().items.empty())
-        for (std::size_t i = 0; i < count; ++i)
-            elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(items.get(), i)));
     return true;
+}
+
+void PyValue::readRow(const PyRef& items) {
+    const Py_ssize_t count = PyTuple_GET_SIZE(items.get());
+    code_ = HvCellClass;
+    setShape(count == 0 ? 0 : 1, static_cast<std::size_t>(count));
+    elements().items.clear();
+    for (Py_ssize_t i = 0; i < count; ++i)
+        elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(items.get(), i)));
 }
 
 /// Takes the items of a list for rows, if they are lists of one length.
@@ -100,23 +135,27 @@ void PyValue::readTableRows(const PyRef& rows) {
         if (PyTuple_GET_SIZE(inner.back().get()) != PyTuple_GET_SIZE(inner.front().get()))
             return;
     }
-    const Py_ssize_t nColumns = PyTuple_GET_SIZE(inner.front().get());
+    const Py_ssize_t nColumns = nRows == 0 ? 0 : PyTuple_GET_SIZE(inner.front().get());
+    if (nColumns == 0)
+        return;
+    elements().items.clear();
     for (Py_ssize_t c = 0; c < nColumns; ++c)
         for (const PyRef& row : inner)
             elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(row.get(), c)));
-    if (nColumns > 0)
-        setShape(static_cast<std::size_t>(nRows), static_cast<std::size_t>(nColumns));
+    setShape(static_cast<std::size_t>(nRows), static_cast<std::size_t>(nColumns));
 }
 
 bool PyValue::readBuffer(PyObject* object) {
     const PyBuffer buffer(object);
-    if (!buffer.isReadable())
+    if (!buffer.isReadable() || isMasked(object))
         return false;
     const std::vector<std::size_t>& shape = buffer.getShape();
     code_ = buffer.getClassCode();
     if (shape.size() > 2) {
         nDimensions_ = static_cast<unsigned int>(shape.size());
-        elements().shape = shape; // such an array counts as empty: nothing more is read
+        elements().shape =
+            shape; // such an array is no content: its first element is all that is ever asked for
+        number_ = getNElements() == 0 ? 0 : buffer.readFirst();
         return true;
     }
     setShape(shape.size() == 2 ? shape[0] : 1, shape.empty() ? 1 : shape.back());
@@ -129,40 +168,44 @@ bool PyValue::readBuffer(PyObject* object) {
     }
     std::vector<double>& numbers = elements().numbers = buffer.readNumbers();
     number_ = numbers.front();
-    // Contents of integers hold an int each.
-    if (code_ >= HvFirstIntegerClass && !std::all_of(numbers.begin(), numbers.end(), fitsInt))
-        code_ = HvDoubleClass;
+    if (code_ < HvFirstIntegerClass)
+        return true;
+    const bool hasLong = std::any_of(numbers.begin(), numbers.end(), [](double n) { return isLong(n); });
+    if (hasLong && wantsDigits(numbers.size() > 1 || reading_.depth > 0)) {
+        elements().items = buffer.readIntegers();
+        code_ = HvCellClass;
+        if (numbers.size() == 1)
+            setInteger(PyRef(elements().items.front()).get());
+    } else if (!std::all_of(numbers.begin(), numbers.end(), fitsInt)) {
+        code_ = HvDoubleClass; // contents of integers hold an int each
+    }
     return true;
 }
 
 /// Tables with named columns, whatever library they are of.
 bool PyValue::readFrame() {
-    if (!PyObject_HasAttrString(object_, "columns") || !PyObject_HasAttrString(object_, "to_numpy"))
+    if (!has(object_, "columns") || !has(object_, "to_numpy"))
         return false;
-    const PyRef labels = checked(PySequence_Tuple(checked(PyObject_GetAttrString(object_, "columns")).get()));
-    readItems(checked(PyObject_CallMethod(object_, "to_numpy", nullptr)).get());
-    const std::size_t nRows = dimensions_[0];
-    const std::size_t nColumns = dimensions_[1];
-    const bool isTable = code_ == HvCellClass && nDimensions_ == 2;
-    if (!isTable || nColumns != static_cast<std::size_t>(PyTuple_GET_SIZE(labels.get())))
-        throw PythonError(PyExc_ValueError, "to_numpy() doesn't give a row of what columns says");
-    std::vector<PyRef> items;
-    for (std::size_t c = 0; c < nColumns; ++c) {
-        items.push_back(checked(PyObject_Str(PyTuple_GET_ITEM(labels.get(), static_cast<Py_ssize_t>(c)))));
-        for (std::size_t r = 0; r < nRows; ++r)
-            items.push_back(elements().items[c * nRows + r]);
-    }
-    elements().items = std::move(items);
-    setShape(nRows + 1, nColumns);
+    const PyRef rows = checked(PySequence_Tuple(readForeign("read_frame", object_).get()));
+    readRow(rows);
+    readTableRows(rows);
     return true;
 }
 
 /// Arrays whose elements aren't numbers, and what gives an array.
 bool PyValue::readArray() {
-    if (!PyObject_HasAttrString(object_, "__array__"))
+    if (isMasked(object_)) {
+        readItems(object_);
+        return true;
+    }
+    if (!has(object_, "__array__"))
         return false;
-    const PyRef array = checked(PyObject_CallMethod(object_, "__array__", nullptr));
-    if (!readBuffer(array.get()))
+    const PyRef array = has(object_, "to_numpy")
+                            ? readForeign("read_column", object_)
+                            : checked(PyObject_CallMethod(object_, "__array__", nullptr));
+    if (isList(array.get()))
+        readRow(checked(PySequence_Tuple(array.get())));
+    else if (!readBuffer(array.get()))
         readItems(array.get());
     return true;
 }
@@ -184,13 +227,11 @@ std::vector<std::size_t> getArrayShape(PyObject* array) {
     return shape;
 }
 
-/// Times count in units of their own as numbers; as texts they are what they mean.
-PyRef makeReadable(PyObject* array) {
+/// Arrays of times, whose elements are numbers of units. As scalars they are texts of what they mean.
+bool holdsTimes(PyObject* array) {
     const PyRef kind = getAttribute(getAttribute(array, "dtype").get(), "kind");
-    const bool isTime =
-        PyUnicode_Check(kind.get()) && (PyUnicode_CompareWithASCIIString(kind.get(), "M") == 0 ||
-                                        PyUnicode_CompareWithASCIIString(kind.get(), "m") == 0);
-    return isTime ? checked(PyObject_CallMethod(array, "astype", "s", "str")) : PyRef::share(array);
+    return PyUnicode_Check(kind.get()) && (PyUnicode_CompareWithASCIIString(kind.get(), "M") == 0 ||
+                                           PyUnicode_CompareWithASCIIString(kind.get(), "m") == 0);
 }
 
 } // namespace
@@ -199,21 +240,18 @@ PyRef makeReadable(PyObject* array) {
 void PyValue::readItems(PyObject* array) {
     const std::vector<std::size_t> shape = getArrayShape(array);
     code_ = HvCellClass;
-    reading_.textOfUnknown = true;
     if (shape.size() > 2) {
         nDimensions_ = static_cast<unsigned int>(shape.size());
         elements().shape = shape; // such an array counts as empty: nothing more is read
         return;
     }
-    if (shape.empty()) { // one element, such as a date
-        setText(checked(PyObject_Str(makeReadable(array).get())));
-        return;
-    }
+    if (shape.empty())
+        return readOnlyElement(array);
     const std::size_t rows = shape.size() == 2 ? shape[0] : 1;
     const std::size_t columns = shape.back();
     setShape(rows, columns);
-    const PyRef flat = checked(PyObject_CallMethod(makeReadable(array).get(), "ravel", "s", "F"));
-    const PyRef list = checked(PyObject_CallMethod(flat.get(), "tolist", nullptr));
+    const PyRef flat = checked(PyObject_CallMethod(array, "ravel", "s", "F"));
+    const PyRef list = holdsTimes(array) ? flat : checked(PyObject_CallMethod(flat.get(), "tolist", nullptr));
     const PyRef items = checked(PySequence_Tuple(list.get()));
     const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(items.get()));
     // Neither number is above the count unless there is nothing; so their product can't wrap.
@@ -223,6 +261,17 @@ void PyValue::readItems(PyObject* array) {
         throw PythonError(PyExc_ValueError, "an array holds other than its shape says");
     for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(items.get()); ++i)
         elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(items.get(), i)));
+}
+
+/// An array without dimensions is what it holds.
+void PyValue::readOnlyElement(PyObject* array) {
+    element_ = checked(PyObject_CallMethod(array, "tolist", nullptr));
+    const bool isMissing = element_.get() == Py_None && isMasked(array);
+    if (holdsTimes(array) && !isMissing)
+        element_ = checked(PyObject_Str(array));
+    object_ = element_.get();
+    ++reading_.depth; // it may hold itself
+    read();
 }
 
 bool PyValue::readNumberLike() {
@@ -241,7 +290,7 @@ bool PyValue::readNumberLike() {
 }
 
 bool PyValue::readPath() {
-    if (!PyObject_HasAttrString(object_, "__fspath__"))
+    if (!has(object_, "__fspath__"))
         return false;
     PyObject* text = nullptr;
     if (!PyUnicode_FSDecoder(object_, &text))
@@ -250,10 +299,27 @@ bool PyValue::readPath() {
     return true;
 }
 
-void PyValue::readUnknown() {
-    // Dates and times say what they are.
-    if (reading_.textOfUnknown || PyObject_HasAttrString(object_, "isoformat"))
-        setText(checked(PyObject_Str(object_)));
+namespace {
+
+/// Whether a class of objects says in words what they are. To users that is `str`; what only programmers read, such
+/// as a dictionary's text, is better than nothing in a list, where it can't be refused.
+bool hasText(PyObject* object, bool isItem) {
+    const PyTypeObject* type = Py_TYPE(object);
+    if (PyBytes_Check(object) || PyByteArray_Check(object))
+        return isItem;
+    return PyComplex_Check(object) || type->tp_str != PyBaseObject_Type.tp_str ||
+           (isItem && type->tp_repr != PyBaseObject_Type.tp_repr);
+}
+
+} // namespace
+
+bool PyValue::readText() {
+    if (!hasText(object_, reading_.depth > 0))
+        return false;
+    // Python may be told to warn of bytes that are made a text, and both ways give the same.
+    const bool isBytes = PyBytes_Check(object_) || PyByteArray_Check(object_);
+    setText(checked(isBytes ? PyObject_Repr(object_) : PyObject_Str(object_)));
+    return true;
 }
 
 // What they have in common
@@ -263,7 +329,13 @@ void PyValue::setScalar(int code, double number) {
     number_ = number;
 }
 
+bool PyValue::wantsDigits(bool isItem) const {
+    return reading_.digits == Digits::Always || (isItem && reading_.digits == Digits::OfItems);
+}
+
 void PyValue::setInteger(PyObject* number) {
+    if (isLong(number) && wantsDigits(reading_.depth > 0))
+        return setText(checked(PyNumber_ToBase(number, 10)));
     const double value = PyLong_AsDouble(number);
     if (value == -1 && PyErr_Occurred())
         throw PythonError();
@@ -329,7 +401,7 @@ const hvArray* PyValue::getCell(std::size_t i) const {
     std::unique_ptr<PyValue>& cell = elements_->cells[i];
     if (!cell)
         cell = std::make_unique<PyValue>(elements_->items[i].get(),
-                                         Reading{false, reading_.textOfUnknown, reading_.depth + 1});
+                                         Reading{false, reading_.digits, reading_.depth + 1});
     return cell.get();
 }
 

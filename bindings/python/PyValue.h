@@ -13,11 +13,18 @@
 
 namespace vellox::ppt::python {
 
+/// Which whole numbers of 2^53 and more, which no double can tell apart, are texts of all their digits.
+enum class Digits {
+    OfItems, ///< those in lists and arrays
+    Always,
+    Never
+};
+
 /// What the reading of a value depends on besides the value.
 struct Reading {
     bool rowsAreTables = false; ///< a list of equally long lists is a table, else a row of rows
-    bool textOfUnknown = false; ///< what isn't known otherwise stands for its text
-    unsigned int depth = 0;     ///< how many lists this value stands in
+    Digits digits = Digits::OfItems;
+    unsigned int depth = 0; ///< how many lists this value stands in
 };
 
 /// A view of a Python object, which it doesn't own; made on the stack for the time of a call. Elements of lists
@@ -25,16 +32,19 @@ struct Reading {
 ///
 /// | Python                                  | host class                                    |
 /// |-----------------------------------------|-----------------------------------------------|
-/// | None                                    | double, empty                                 |
+/// | None, a masked entry                    | double, empty                                 |
 /// | bool                                    | logical                                       |
 /// | int, what has `__index__`               | int32, beyond its range double                |
+/// | the same, of 2^53 and more, in a list   | char                                          |
 /// | float, what has `__float__`             | double                                        |
 /// | str, what has `__fspath__`              | char                                          |
 /// | list, tuple                             | cells, of one row                             |
 /// | buffers, such as arrays of NumPy        | logical, the integer class, single or double  |
 /// | arrays of anything else                 | cells of the array's shape                    |
 /// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
-/// | what has `isoformat`, such as dates     | char                                          |
+/// | what has `__array__` and `to_numpy`     | as an array, or cells of one row              |
+/// | what has a `__str__` of its own         | char                                          |
+/// | in a list, what has a `__repr__` too    | char                                          |
 /// | objects of the library                  | object                                        |
 class PyValue : public hvArray {
 public:
@@ -68,19 +78,24 @@ private:
     bool readFrame();
     bool readArray();
     bool readNumberLike();
+    bool readText();
     bool readPath();
     /// @}
-    void readUnknown();
+    void read();
 
     void setScalar(int code, double number);
     void setInteger(PyObject* number);
     void setText(PyRef text);
     void setShape(std::size_t rows, std::size_t columns);
     void readTableRows(const PyRef& rows);
+    void readRow(const PyRef& items);
     void readItems(PyObject* array);
+    void readOnlyElement(PyObject* array);
+    bool wantsDigits(bool isItem) const;
     Elements& elements();
 
     PyObject* object_;
+    PyRef element_; // of an array of one, which is read in the array's place
     Reading reading_;
     int code_;
     unsigned int nDimensions_ = 2;

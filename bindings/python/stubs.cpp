@@ -17,10 +17,11 @@ namespace {
 
 constexpr char kHead[] = R"(# Written from the class table of the library.
 
+import datetime
 import os
-from collections.abc import Callable
+from collections.abc import Callable, Sequence
 from types import TracebackType
-from typing import Any, Literal, Protocol, overload
+from typing import Any, Generic, Literal, Never, Protocol, Self, SupportsFloat, SupportsIndex, TypeVar, overload
 
 class _Array(Protocol):
     def __array__(self) -> Any: ...
@@ -30,9 +31,23 @@ class _Frame(Protocol):
     def columns(self) -> Any: ...
     def to_numpy(self) -> Any: ...
 
-_Text = str | os.PathLike[str]
+_Text = str | os.PathLike[str] | datetime.date | datetime.time | datetime.timedelta
+_Number = SupportsFloat | SupportsIndex
 _Items = list[Any] | tuple[Any, ...] | float | memoryview | _Array | _Frame | None
 _Content = _Items | Object
+
+_Held = TypeVar("_Held", covariant=True)
+_Given = TypeVar("_Given", contravariant=True)
+
+class _Property(Generic[_Held, _Given]):
+    @overload
+    def __get__(self, instance: None, owner: type[Any], /) -> Any: ...
+    @overload
+    def __get__(self, instance: object, owner: type[Any], /) -> _Held: ...
+    def __set__(self, instance: Any, value: _Given, /) -> None: ...
+
+class _Optional(_Property[_Held | None, _Given | None]):
+    def __delete__(self, instance: Any, /) -> None: ...
 
 __version__: str
 
@@ -45,10 +60,33 @@ class BadTypeError(Error, TypeError): ...
 class BadSubscriptError(Error, IndexError): ...
 class UnknownNameError(Error, LookupError): ...
 class FileError(Error, OSError): ...
-class PathNotFoundError(Error, FileNotFoundError): ...
+class PathNotFoundError(FileError, FileNotFoundError): ...
+class PermissionDeniedError(FileError, PermissionError): ...
+class IsFolderError(FileError, IsADirectoryError): ...
+class NoFolderError(FileError, NotADirectoryError): ...
 class StateError(Error, RuntimeError): ...
 class PresentationWarning(UserWarning): ...
 )";
+
+constexpr char kObjectMethods[] = R"(    def __copy__(self) -> Self: ...
+    def __deepcopy__(self, memo: Any, /) -> Self: ...
+)";
+
+/// What stands in a node of a class.
+constexpr const char* kChildren[][2] = {
+    {"Node", "Sequence[Node]"},         {"Presentation", "list[Slide]"},   {"Slide", "list[Shape]"},
+    {"BaseTextBox", "list[Paragraph]"}, {"Paragraph", "list[Text]"},       {"Table", "list[TableRow]"},
+    {"TableRow", "list[TableEntry]"},   {"TableEntry", "list[Paragraph]"},
+};
+
+/// Results of which the table says less than a type checker can use.
+constexpr const char* kResults[][2] = {
+    {"Presentation.find", "list[Slide | Shape]"},
+    {"Slide.find", "list[Shape]"},
+    {"Presentation.getMasterNames", "list[str]"},
+    {"Presentation.getLayoutNames", "list[str]"},
+    {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
+};
 
 constexpr char kPresentationMethods[] = R"(    def __enter__(self) -> Presentation: ...
     def __exit__(
@@ -76,16 +114,46 @@ std::string refineParameters(std::string parameters) {
         // What a shape of a name is given may be an object, what a text box is given itself is a list.
         {"_Text, content: Any", "_Text, content: _Content"},
         {": Any", ": _Items"},
+        {": int", ": SupportsIndex"},
+        {": float", ": _Number"},
     };
     for (const auto& [word, refined] : kWords)
         replaceAll(parameters, word, refined);
     return parameters;
 }
 
-/// Nodes are of their own classes, which only the script can know.
-std::string refineResult(std::string result) {
-    replaceAll(result, "list[Node]", "list[Any]");
-    return result;
+/// The second entry of the row that begins with a key; empty if there is none.
+template <std::size_t kCount>
+std::string findRow(const char* const (&rows)[kCount][2], const std::string& key) {
+    for (const auto& row : rows)
+        if (key == row[0])
+            return row[1];
+    return {};
+}
+
+std::string getResult(const BoundClass& bound, const BoundMethod& method) {
+    const std::string special = findRow(kResults, std::string(bound.name) + "." + method.name);
+    return special.empty() ? getTypeName(method.result) : special;
+}
+
+/// What a property can be given: more than it holds.
+std::string getGivenType(const SignatureWord& word) {
+    const std::string name = getTypeName(word);
+    const std::string list = "list[";
+    if (name.compare(0, list.size(), list) == 0)
+        return "Sequence[" + name.substr(list.size()) + " | None";
+    switch (word.getKind()) {
+    case SignatureWord::Kind::Char:
+        return "_Text";
+    case SignatureWord::Kind::Logical:
+        return "_Number | _Array";
+    case SignatureWord::Kind::Uint32:
+        return "_Number";
+    case SignatureWord::Kind::Compound:
+        return "_Text | _Number";
+    default:
+        return name;
+    }
 }
 
 std::string formatFunction(const std::string& name, const Signature& signature, const char* parameters,
@@ -94,23 +162,31 @@ std::string formatFunction(const std::string& name, const Signature& signature, 
     const std::string self = isStatic ? "" : "self";
     const std::string separator = self.empty() || list.empty() ? "" : ", ";
     return "    def " + name + "(" + self + separator + list + (list.empty() ? "" : ", /") + ") -> " +
-           refineResult(result) + ": ...\n";
+           result + ": ...\n";
 }
 
+/// Of abstract classes the library alone makes objects; nothing can be passed to what wants a Never.
 void writeConstructors(const BoundClass& bound, std::ostream& stubs) {
-    if (bound.isAbstract || bound.constructors.empty() || bound.constructors.front().isHidden)
-        return;
+    const bool isForUsers =
+        !bound.isAbstract && !bound.constructors.empty() && !bound.constructors.front().isHidden;
+    if (!isForUsers)
+        stubs << "    def __init__(self, nothing: Never, /) -> None: ...\n";
     for (const BoundConstructor& constructor : bound.constructors)
-        stubs << (bound.constructors.size() > 1 ? "    @overload\n" : "")
-              << formatFunction("__init__", constructor.signature, constructor.parameters, "None", false);
+        if (isForUsers)
+            stubs << (bound.constructors.size() > 1 ? "    @overload\n" : "")
+                  << formatFunction("__init__", constructor.signature, constructor.parameters, "None", false);
+}
+
+void writeReadOnly(const char* name, const std::string& type, std::ostream& stubs) {
+    stubs << "    @property\n    def " << name << "(self) -> " << type << ": ...\n";
 }
 
 void writeProperty(const BoundProperty& property, std::ostream& stubs) {
-    const std::string type = refineResult(getTypeName(property));
-    stubs << "    @property\n    def " << property.name << "(self) -> " << type << ": ...\n";
+    if (!property.set && std::strcmp(property.name, "Children") != 0)
+        writeReadOnly(property.name, getTypeName(property), stubs);
     if (property.set)
-        stubs << "    @" << property.name << ".setter\n    def " << property.name << "(self, value: " << type
-              << ") -> None: ...\n";
+        stubs << "    " << property.name << (property.mayBeEmpty ? ": _Optional[" : ": _Property[")
+              << getTypeName(property.type) << ", " << getGivenType(property.type) << "]\n";
 }
 
 bool takesAll(const SignatureWord& wide, const SignatureWord& narrow) {
@@ -148,7 +224,7 @@ void writeMethods(const BoundClass& bound, std::ostream& stubs) {
             stubs << (overload->isStatic ? "    @staticmethod\n" : "")
                   << (overloads.size() > 1 ? "    @overload\n" : "")
                   << formatFunction(overload->name, overload->signature, overload->parameters,
-                                    getTypeName(overload->result), overload->isStatic);
+                                    getResult(bound, *overload), overload->isStatic);
     }
 }
 
@@ -160,7 +236,12 @@ void writeClass(const BoundClass& bound, std::ostream& stubs) {
     writeConstructors(bound, stubs);
     for (const BoundProperty& property : bound.properties)
         writeProperty(property, stubs);
+    const std::string children = findRow(kChildren, bound.name);
+    if (!children.empty())
+        writeReadOnly("Children", children, stubs);
     writeMethods(bound, stubs);
+    if (std::strcmp(bound.name, "Object") == 0)
+        stubs << kObjectMethods;
     if (std::strcmp(bound.name, "Presentation") == 0)
         stubs << kPresentationMethods;
     if (!bound.events.empty())

@@ -1,7 +1,11 @@
 """Errors of the library as errors of Python."""
+import errno
+import os
 import pathlib
+import pickle
 import re
 import shutil
+import tempfile
 
 import numpy as np
 import pytest
@@ -36,6 +40,65 @@ def test_errors_carry_what_the_library_says(tmp_path, call, identifier, builtin,
     if arguments is not None:
         assert error.arguments == arguments
     assert len(str(error)) > 10 and all(argument in str(error) for argument in error.arguments)
+
+
+def test_errors_of_files_are_pythons_own(tmp_path):
+    (tmp_path / "folder.pptx").mkdir()
+    (tmp_path / "file").write_text("no deck")
+    output = tmp_path / "deck.pptx"
+    for template, builtin, ours, number in (
+        ("none.pptx", FileNotFoundError, ppt.PathNotFoundError, errno.ENOENT),
+        ("folder.pptx", IsADirectoryError, ppt.IsFolderError, errno.EISDIR),
+        ("file/x.pptx", NotADirectoryError, ppt.NoFolderError, errno.ENOTDIR),
+    ):
+        with pytest.raises(builtin) as caught:
+            ppt.Presentation(output, tmp_path / template).open()
+        error = caught.value
+        assert type(error) is ours and isinstance(error, ppt.FileError) and error.identifier.startswith("vellox:")
+        assert error.errno == number and str(tmp_path) in error.filename and "Errno" not in str(error)
+        again = pickle.loads(pickle.dumps(error))
+        assert type(again) is ours and (again.errno, again.identifier, str(again)) == (
+            number, error.identifier, str(error))
+    (tmp_path / "damaged.pptx").write_text("no deck")
+    with pytest.raises(ppt.Error) as caught:
+        ppt.Presentation(output, tmp_path / "damaged.pptx").open()
+    assert not isinstance(caught.value, FileNotFoundError)
+    deck = ppt.Presentation(output)
+    deck.open()
+    output.unlink()
+    with pytest.raises(FileNotFoundError) as caught:
+        deck.close()
+    assert caught.value.filename == str(output)
+
+
+def test_what_may_not_be_read_is_a_permission_error():
+    user = os.geteuid()
+    with tempfile.TemporaryDirectory() as folder:
+        os.chmod(folder, 0o755)
+        template = pathlib.Path(folder) / "secret.pptx"
+        template.touch(mode=0)
+        if user == 0:
+            os.seteuid(65534)  # root may read all
+        try:
+            with pytest.raises(PermissionError) as caught:
+                ppt.Presentation(f"{folder}/deck.pptx", template).open()
+        finally:
+            os.seteuid(user)
+    assert caught.value.errno == errno.EACCES and isinstance(caught.value, ppt.PermissionDeniedError)
+
+
+def test_refusals_name_the_value():
+    for call, words in (
+        (lambda: setattr(ppt.Paragraph("x"), "Bold", "no"), "Paragraph.Bold was given 'no'"),
+        (lambda: setattr(ppt.Paragraph("x"), "Style", "bold"), "Element.Style was given 'bold'"),
+        (lambda: setattr(ppt.Paragraph("x"), "Level", True), "TRUE"),
+        (lambda: ppt.Table([["a"], ["b", "c"]]), "Table was given [['a'], ['b', 'c']]"),
+        (lambda: ppt.TextBox().replace({}), "TextBox.replace was given {}"),
+        (lambda: setattr(ppt.TextBox(), "X", 3), "int 3"),
+    ):
+        with pytest.raises((TypeError, ValueError)) as caught:
+            call()
+        assert words in str(caught.value)
 
 
 def test_every_identifier_has_a_fitting_type():

@@ -4,6 +4,7 @@ import gc
 import pickle
 import subprocess
 import sys
+import warnings
 import weakref
 
 import pytest
@@ -164,12 +165,68 @@ def test_objects_are_no_bags():
         box.Widht = "2in"
     assert not hasattr(box, "__dict__")
     assert {"Width", "BackgroundColor", "add", "Children", "Tag"} <= set(dir(box))
-    for refused in (copy.copy, pickle.dumps):
-        with pytest.raises(TypeError):
-            refused(box)
+    with pytest.raises(TypeError):
+        pickle.dumps(box)
     for call in (lambda: ppt.TextBox(x=1), lambda: box.add(text="x")):
         with pytest.raises(TypeError, match="no keyword arguments"):
             call()
+
+
+@pytest.mark.parametrize("duplicate", [copy.copy, copy.deepcopy])
+def test_copies(duplicate, deck):
+    note = Note("one")
+    note.Width, note.Tag, note.itself, note.data = "2in", "mark", note, [1]
+    twin = duplicate(note)
+    is_deep = duplicate is copy.deepcopy
+    assert type(twin) is Note and twin.Width == "2in" and twin.Tag != "mark" and twin.Id != note.Id
+    assert (twin.itself is twin) == is_deep == (twin.data is not note.data) and twin.text == "one"
+    twin.Children[0].Children[0].Content = "two"
+    assert note.Children[0].Children[0].Content == "Note: one"
+    slide = deck.deck.add("Blank")
+    slide.add(note)
+    slide.add(twin)
+    for made in (ppt.Bold(True), ppt.FontColor("red"), ppt.FontColor(), ppt.Underline("wavy"), ppt.ColWidth("1in"),
+                 ppt.FontFamily("Arial", "David"), ppt.HAlign("left"), ppt.FontSize(), ppt.BaseDimension("3pt")):
+        twin = duplicate(made)
+        assert twin is not made and type(twin) is type(made)
+        assert all(getattr(twin, name) == getattr(made, name)
+                   for name in ("Value", "Style", "Font", "ComplexScriptFont") if hasattr(made, name))
+    assert duplicate(slide.Children[0]).Parent is None and duplicate(ppt.ColSpec("1in")).Width == "1in"
+    for refused in (deck.deck, ppt.MessageFilter(), ppt.MessageDispatcher.getTheDispatcher()):
+        with pytest.raises(TypeError, match="can't be copied"):
+            duplicate(refused)
+
+
+def test_an_open_deck_that_is_dropped_is_warned_of(tmp_path):
+    def leave_open():
+        deck = ppt.Presentation(tmp_path / "lost.pptx")
+        deck.add("Blank")
+        return deck.Children[0]
+
+    with pytest.warns(ResourceWarning, match="lost.pptx.* wasn't closed"):
+        leave_open()
+    with warnings.catch_warnings():
+        warnings.simplefilter("error")
+        ppt.Presentation(tmp_path / "never opened.pptx")
+        with ppt.Presentation(tmp_path / "closed.pptx") as deck:
+            deck.add("Blank")
+        with pytest.raises(KeyError):
+            with ppt.Presentation(tmp_path / "error.pptx") as deck:
+                deck.add("Blank")
+                raise KeyError
+        del deck
+
+
+def test_reprs_tell_objects_apart():
+    box = ppt.TextBox()
+    assert repr(box).startswith("<vellox.ppt.TextBox, tag ")
+    box.Name = "Remark"
+    box.add("Not in the annual means, which are of all runs")
+    assert repr(box) == "<vellox.ppt.TextBox 'Remark': 'Not in the annual means, which are of a…'>"
+    assert repr(ppt.Paragraph(3)) == "<vellox.ppt.Paragraph: '3'>"
+    assert repr(ppt.Table([["a", "b"], ["c", "d"]])) == "<vellox.ppt.Table: 'a b c d'>"
+    assert repr(ppt.Bold(False)) == "<vellox.ppt.Bold False>" and repr(ppt.FontColor("red")).endswith("'red'>")
+    assert "deck.pptx" in repr(ppt.Presentation("deck.pptx"))
 
 
 def test_nothing_crashes_after_close(deck):
@@ -238,7 +295,10 @@ def test_the_interpreter_ends_cleanly(tmp_path, mode):
 
 def test_other_interpreters_are_refused():
     script = """
-import _xxsubinterpreters as interpreters
+try:
+    import _xxsubinterpreters as interpreters
+except ImportError:
+    import _interpreters as interpreters
 other = interpreters.create()
 interpreters.run_string(other, '''
 try:

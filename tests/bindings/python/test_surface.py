@@ -1,4 +1,5 @@
 """The stubs, the docstrings, and the pages of the guide."""
+import inspect
 import pathlib
 import re
 import subprocess
@@ -11,20 +12,61 @@ import vellox.ppt as ppt
 GUIDE = pathlib.Path(__file__).parents[3] / "docs/python.md"
 
 
+TYPED = """
+import copy
+import datetime
+import pathlib
+
+import numpy as np
+
+import vellox.ppt as ppt
+
+ppt.Slide()  # type: ignore[call-arg]
+ppt.Format()  # type: ignore[call-arg]
+deck = ppt.Presentation(pathlib.Path("typed"))
+deck.OutputPath = pathlib.Path("typed.pptx")
+names: list[str] = deck.getLayoutNames(deck.getMasterNames()[0])
+styles: list[tuple[str, str]] = deck.getTableStyleNames()
+slide = deck.add("Blank", np.int64(1))
+shapes: list[ppt.Shape] = slide.Children + slide.find("Title")
+deck.find("Title")[0].append("x")  # type: ignore[union-attr]
+paragraph = ppt.Paragraph("x")
+paragraph.Bold = np.bool_(True)
+paragraph.Bold = "no"  # type: ignore[assignment]
+paragraph.Bold = None
+paragraph.Level = np.int8(2)
+paragraph.FontSize = 3  # type: ignore[assignment]
+paragraph.Style = (ppt.Bold(True), ppt.FontColor("red"))
+paragraph.Children[0].Content = datetime.date.today()
+paragraph.Children[0].Content = np.float32(2)
+twin: ppt.Paragraph = copy.copy(paragraph)
+"""
+
+
 def test_stubs_say_what_the_module_has(tmp_path):
     package = pathlib.Path(ppt.__file__).parent
-    script = tmp_path / "report.py"
+    script, typed = tmp_path / "report.py", tmp_path / "typed.py"
     script.write_text("\n".join(get_snippets()))
-    # What __init__ takes stands in tables that introspection doesn't reach.
+    typed.write_text(TYPED)
+    # One signature stands for all overloads.
     known = tmp_path / "known"
-    known.write_text(r"vellox\.ppt\.\w+\.__init__")
+    known.write_text("vellox\\.ppt\\.\\w+\\.(__init__|add|replace|append)")
     check = [sys.executable, "-m", "mypy", "--strict", "--ignore-missing-imports", "--cache-dir", str(tmp_path)]
     for command in (
-        [*check, str(script), str(package / "ppt.pyi")],
+        [*check, str(script), str(typed), str(package / "ppt.pyi"), str(package / "_frames.py")],
         [sys.executable, "-m", "mypy.stubtest", "--allowlist", str(known), "vellox.ppt"],
     ):
         checked = subprocess.run(command, capture_output=True, text=True, check=False, cwd=tmp_path)
         assert checked.returncode == 0, checked.stdout + checked.stderr
+
+
+def test_signatures_can_be_read():
+    for call, signature in ((ppt.Table.entry, "(self, row, column, /)"), (ppt.Table(2).entry, "(row, column, /)"),
+                            (ppt.Presentation.open, "(self, /)"), (ppt.MessageDispatcher.getTheDispatcher, "()"),
+                            (ppt.Slide.add, "(self, argument1, argument2=Ellipsis, /)"),
+                            (ppt.ExternalLink, "(target=Ellipsis, text=Ellipsis, /)")):
+        assert str(inspect.signature(call)) == signature
+    assert all(inspect.signature(each) for each in vars(ppt.Object).values() if callable(each))
 
 
 def test_help_lists_the_overloads():

@@ -1,7 +1,9 @@
 #include "vellox/host/binding/Adapters.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/host/values/HvViews.h"
 
 namespace vellox::ppt::hostbind {
 
@@ -12,6 +14,37 @@ bool toLogical(const hvArray& value) {
     if (code >= HvDoubleClass && code <= HvLastIntegerClass && value.getNElements() > 0)
         return value.getDouble() != 0;
     raise(ppt_error::invalidLogicalPropertyValue());
+}
+
+std::wstring describeValue(const hvArray& value) {
+    const HvContentPtr content = HvCell(&value).getContent();
+    const bool isCollection = ListContent::cast(content) || TableContent::cast(content);
+    return isCollection || (!content && value.getNElements() > 0) ? HvData(&value).getDispl()
+                                                                  : describeValue(content);
+}
+
+std::wstring describeValue(const HvContentPtr& content) {
+    switch (content ? content->getContentType() : HvContent::Empty) {
+    case HvContent::Boolean:
+        return bool2str(BooleanContent::getValue(content));
+    case HvContent::Integer:
+        return num2str(IntegerContent::getValue(content));
+    case HvContent::Double:
+        return num2str(DoubleContent::getValue(content));
+    case HvContent::String:
+        return StringContent::getValue(content);
+    case HvContent::Object:
+        if (const auto object = ObjectContent::getValue(content))
+            return toStringFromASCIIStringLiteral(object->getProxy()->getFullyQualifiedHostTypeName());
+        [[fallthrough]];
+    case HvContent::Unknown:
+        return DataContent::getValue(content)->getDispl();
+    case HvContent::List: // of several values, none of which is the one
+    case HvContent::Table:
+    case HvContent::Empty:
+        break;
+    }
+    return {};
 }
 
 } // namespace vellox::ppt::hostbind

@@ -51,6 +51,11 @@ template <> inline constexpr const char* kBoundName<MessageDispatcher> = "Messag
 /// @throws invalidLogicalPropertyValue for anything else
 bool toLogical(const hvArray& value);
 
+/// What a refused value is called in an error: a text or a number as it is, anything else by its class and shape.
+std::wstring describeValue(const hvArray& value);
+/// The same of an item of a list; the empty text for one without content.
+std::wstring describeValue(const HvContentPtr& content);
+
 /// @{ FromHost<T>: the word for an argument of type T, and its conversion from a value that matches the word.
 template <class C> struct FromHost {
     static constexpr const char* kWord = kBoundName<C>;
@@ -272,6 +277,32 @@ BoundProperty formatProperty(const char* name, const char* doc) {
 }
 /// @}
 
+/// @{ Copies. Nodes make theirs; a format is made anew of its value.
+template <class C, class = void> constexpr bool kHasClone = false;
+template <class C>
+constexpr bool kHasClone<C, std::void_t<decltype(std::declval<const C&>().clone())>> = true;
+template <class C, class = void> constexpr bool kHasValue = false;
+template <class C>
+constexpr bool kHasValue<C, std::void_t<decltype(C(std::declval<const C&>().getValue()))>> = true;
+
+template <class C> ObjectPtr copyFormat(const PPTObject& object) {
+    const auto value = static_cast<const C&>(object).getValue();
+    if constexpr (!std::is_same<std::decay_t<decltype(value)>, bool>::value)
+        if (value.empty()) // a format that has no value yet
+            return boost::make_shared<C>();
+    return boost::make_shared<C>(value);
+}
+
+template <class C> constexpr ObjectPtr (*findCopy())(const PPTObject&) {
+    if constexpr (kHasClone<C>)
+        return [](const PPTObject& object) -> ObjectPtr { return static_cast<const C&>(object).clone(); };
+    else if constexpr (std::is_base_of<Format, C>::value && kHasValue<C>)
+        return copyFormat<C>;
+    else
+        return nullptr;
+}
+/// @}
+
 /// The start of a class's row; the lists come behind.
 /// @param superclass without its package
 template <class C> BoundClass describe(const char* name, const char* superclass, const char* doc) {
@@ -281,7 +312,8 @@ template <class C> BoundClass describe(const char* name, const char* superclass,
         else
             return dynamic_cast<const C*>(&object) != nullptr;
     };
-    return {name, {std::string(kPackage) + "." + superclass}, false, doc, isInstance, {}, {}, {}, {}};
+    return {name,         {std::string(kPackage) + "." + superclass}, false, doc, isInstance, {}, {}, {}, {},
+            findCopy<C>()};
 }
 
 /// The same for a class whose objects the library alone makes.

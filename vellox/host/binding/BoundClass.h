@@ -79,6 +79,10 @@ struct BoundClass {
     std::vector<BoundProperty> properties;
     std::vector<BoundMethod> methods;
     std::vector<BoundEvent> events;
+    /// Makes another object like one of this class, which stands in no tree; null where nobody needs two.
+    ObjectPtr (*copy)(const PPTObject& object) = nullptr;
+    /// Whether what an object stands for is lost if it ends now; null for classes whose objects lose nothing.
+    bool (*isUnfinished)(const PPTObject& object) = nullptr;
 
     VELLOX_API std::string getFullName() const;
     /// The class that this one derives from; null for the first.

@@ -3,6 +3,7 @@
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/host/binding/ContentArguments.h"
 #include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/engine/PresentationImpl.h"
 
 namespace vellox::ppt::hostbind {
 
@@ -40,6 +41,12 @@ TextCells getTableStyleNames(Presentation& deck) {
     return cells;
 }
 
+/// Of the last handle on a presentation.
+bool isUnfinished(const PPTObject& deck) {
+    const auto* impl = implOf<PresentationImpl>(deck);
+    return impl->getState() == PresentationState::Open && impl->getRefCount() == 1;
+}
+
 /// replace by name, of slides and presentations.
 template <class C> std::vector<BoundMethod> makeReplaceByNameRows() {
     return {
@@ -64,6 +71,8 @@ BoundClass describePresentation() {
         describe<Deck>("Presentation", "Node", "A presentation, from its template to its file.");
     bound.constructors = {make<Deck>(), make<Deck, std::wstring>("outputPath"),
                           make<Deck, std::wstring, std::wstring>("outputPath, templatePath")};
+    bound.copy = nullptr; // it would write the same file
+    bound.isUnfinished = isUnfinished;
     bound.properties = {
         property<Deck, &Deck::getTemplatePath, &Deck::setTemplatePath>(
             "TemplatePath", "The template; can't be changed once the presentation is open."),

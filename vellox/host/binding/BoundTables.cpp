@@ -23,14 +23,13 @@ void setColSpecs(Table& table, const hvArray& value) {
     Table::ColSpecs columns;
     const boost::shared_ptr<HvList> list = ListContent::getValue(&value, true);
     if (!list && value.getNElements() > 0)
-        raise(ppt_error::invalidPropertyValue(HvData(&value).getDispl()));
+        raise(ppt_error::invalidPropertyValue(describeValue(value)));
     for (unsigned int i = 0; list && i < list->getSize(); ++i) {
-        const auto object = ObjectContent::getValue(list->getItem(i));
+        const HvContentPtr item = list->getItem(i);
+        const auto object = ObjectContent::getValue(item);
         const auto column = boost::dynamic_pointer_cast<ColSpec>(object ? object->getProxy() : ObjectPtr());
         if (!column)
-            raise(ppt_error::invalidPropertyValue(
-                object ? toStringFromASCIIStringLiteral(object->getProxy()->getFullyQualifiedHostTypeName())
-                       : std::wstring()));
+            raise(ppt_error::invalidPropertyValue(describeValue(item)));
         columns.push_back(boost::make_shared<ColSpec>(*column)); // the host's own handle may be let go
     }
     table.setColSpecs(columns);

@@ -9,22 +9,6 @@ namespace vellox::ppt::hostbind {
 
 namespace {
 
-/// What a refused value is called in the error.
-std::wstring describeValue(const hvArray& value) {
-    switch (const HvContentPtr content = HvCell(&value).getContent();
-            content ? content->getContentType() : HvContent::Empty) {
-    case HvContent::String:
-        return StringContent::getValue(content);
-    case HvContent::Integer:
-    case HvContent::Double:
-        return num2str(value.getDouble());
-    case HvContent::Empty:
-        return {};
-    default:
-        return HvData(&value).getDispl();
-    }
-}
-
 void setLevel(Paragraph& paragraph, const hvArray& value) {
     constexpr double kDeepest = 9;
     if (value.getNElements() == 0) {

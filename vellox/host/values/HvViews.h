@@ -13,6 +13,23 @@
 ///         bool isEmptyItem(unsigned int) const override { return false; }
 ///     };
 ///     slide.replace(L"Content", boost::make_shared<vellox::ListContent>(boost::make_shared<Names>()));
+///
+/// What a host's adapter gives for the values of its language, so that they look alike in every language:
+///
+/// - A value is read in the same way wherever it stands: alone, in a list, in a list of lists, in an array of any
+///   kind, in a column of a table.
+/// - A table with named columns is a cell array: first the names as texts, a row for each of their levels, then a row
+///   for each of its own. Names of rows are columns in front, if rows have names of several levels; else the user
+///   makes them a column. A name that stands for several neighbours is shown with the first of them.
+/// - A missing entry is an empty array (0x0), which leaves a list's paragraph or a table's cell without text. What a
+///   language has a mark for, such as NaN, NaT or NA, isn't missing but that mark, as the language shows it.
+/// - A date, a time and a span of time are texts, the same that the language shows: those of a whole column may have a
+///   form of their own, such as days without hours.
+/// - A category is its label; so is a value of an enumeration, unless it is a number in its language.
+/// - A whole number that no double holds exactly is a text of all its digits, in lists and tables and wherever a text
+///   may stand. Any other number is a number of its class.
+/// - A truth value is a logical, of which lists and tables show nothing.
+/// - What else has a text for users is that text. Only what has none is left to be described (HvData::getDispl()).
 
 #ifndef VELLOX_HOST_VALUES_HVVIEWS_H
 #define VELLOX_HOST_VALUES_HVVIEWS_H

@@ -78,6 +78,7 @@ public:
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
 
+    PresentationState getState() const { return state_; }
     /// @{ For the parser.
     void setState(PresentationState state) { state_ = state; }
     void clearSlides();

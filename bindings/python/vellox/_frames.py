@@ -1,0 +1,84 @@
+"""Tables and columns of other libraries, such as pandas, as rows and lists. The module vellox.ppt calls this.
+
+Numbers and texts stay what they are. What only a whole column knows how to show, such as dates without an hour, becomes
+the texts that pandas itself shows.
+"""
+from __future__ import annotations
+
+from typing import Any
+
+_TIMES = ("m", "M")
+
+
+def read_frame(frame: Any) -> list[list[Any]]:
+    """A row for each level of the columns' names, then the rows. The labels of rows are shown if they have levels."""
+    header = _read_levels(frame.columns)
+    columns = _read_columns(frame, len(header[0]))
+    index: Any = getattr(frame, "index", None)
+    if getattr(index, "nlevels", 1) > 1:
+        corner = ["" if name is None else str(name) for name in index.names]
+        columns = _leave_out_repeats(_read_levels(index)) + columns
+    else:
+        corner = []
+    rows = [[""] * len(corner) + level for level in _leave_out_repeats(header)]
+    rows[-1][: len(corner)] = corner
+    return rows + [list(row) for row in zip(*columns)] if columns else []
+
+
+def read_column(column: Any) -> Any:
+    """The values of a series, an index or an array: a list, or an array of NumPy."""
+    codes = getattr(getattr(column, "cat", column), "codes", None)
+    if hasattr(column.dtype, "categories") and codes is not None:
+        return _read_categories(column.dtype.categories, codes)
+    if getattr(column.dtype, "kind", "") in _TIMES:
+        return column.astype(str).tolist()
+    return column.to_numpy()
+
+
+def _read_columns(frame: Any, count: int) -> list[list[Any]]:
+    if hasattr(frame, "items"):
+        columns = [_to_list(read_column(column)) for _, column in frame.items()]
+    elif hasattr(frame, "get_columns"):
+        columns = [_to_list(read_column(column)) for column in frame.get_columns()]
+    else:
+        array = frame.to_numpy()
+        if len(array.shape) != 2:
+            raise ValueError("to_numpy() gives no table")
+        columns = [_to_list(array[:, i]) for i in range(array.shape[1])]
+    if len(columns) != count:
+        raise ValueError("a frame has other columns than it says")
+    return columns
+
+
+def _read_levels(labels: Any) -> list[list[Any]]:
+    """The labels of columns or rows as texts, a list for each of their levels."""
+    if not hasattr(labels, "to_numpy"):
+        return [[str(label) for label in labels]]
+    if getattr(labels, "nlevels", 1) == 1:
+        levels = [labels]
+    else:
+        levels = [labels.get_level_values(i) for i in range(labels.nlevels)]
+    return [["NaN" if label != label else str(label) for label in _to_list(read_column(level))] for level in levels]
+
+
+def _leave_out_repeats(levels: list[list[Any]]) -> list[list[Any]]:
+    """A label is shown once for all that stand under it; those of the last level always are."""
+    shown = [list(level) for level in levels]
+    for i in range(1, len(levels[0])):
+        for level, texts in zip(levels[:-1], shown):
+            if level[i] != level[i - 1]:
+                break
+            texts[i] = ""
+    return shown
+
+
+def _read_categories(categories: Any, codes: Any) -> list[Any]:
+    labels = _to_list(read_column(categories))
+    missing = "NaT" if getattr(categories.dtype, "kind", "") in _TIMES else "NaN"
+    return [labels[code] if code >= 0 else missing for code in codes]
+
+
+def _to_list(values: Any) -> list[Any]:
+    if not isinstance(values, list) and values.dtype.kind in _TIMES:
+        return [str(value) for value in values]
+    return list(values) if isinstance(values, list) else list(values.tolist())
