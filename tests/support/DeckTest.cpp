@@ -46,12 +46,11 @@ HvContentPtr list(std::initializer_list<HvContentPtr> items) {
 std::string runsOf(const std::string& slideXml) {
     std::string runs;
     for (const std::string& shape : findAll(slideXml, "p:sp")) {
-        const bool isFooter = shape.find("type='dt'") != std::string::npos ||
-                              shape.find("type='ftr'") != std::string::npos ||
-                              shape.find("type='sldNum'") != std::string::npos;
-        for (const std::string& run : findAll(shape, "a:t"))
-            if (!isFooter)
-                runs += (runs.empty() ? "" : "|") + run.substr(5, run.size() - 11);
+        const std::vector<std::string> types = valuesOf(shape, "p:ph", "type");
+        if (!types.empty() && (types[0] == "dt" || types[0] == "ftr" || types[0] == "sldNum"))
+            continue;
+        for (const std::string& run : textsOf(shape, "a:t"))
+            runs += (runs.empty() ? "" : "|") + run;
     }
     return runs;
 }

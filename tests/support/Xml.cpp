@@ -56,24 +56,41 @@ ppt::OwnedDocument parse(const std::string& xml) {
 } // namespace
 
 std::string canonical(const std::string& xml) {
-    return canonical(*parse(xml).get());
+    return canonical(*parse(xml)->getDocumentElement());
 }
 
-std::string canonical(DOMDocument& document) {
+std::string canonical(const DOMElement& element) {
     std::string text;
-    append(text, *document.getDocumentElement());
+    append(text, element);
     return text;
 }
 
-std::vector<std::string> findAll(const std::string& xml, const std::string& name) {
+namespace {
+
+template <class Read>
+std::vector<std::string> readAll(const std::string& xml, const std::string& name, Read read) {
     const ppt::OwnedDocument document = parse(xml);
     std::vector<std::string> found;
     for (const DOMElement* element :
-         ppt::getElementsByName(document.get(), opc::XercesString(fromUtf8(name)))) {
-        found.emplace_back();
-        append(found.back(), *element);
-    }
+         ppt::getElementsByName(document.get(), opc::XercesString(fromUtf8(name))))
+        found.push_back(read(*element));
     return found;
+}
+
+} // namespace
+
+std::vector<std::string> findAll(const std::string& xml, const std::string& name) {
+    return readAll(xml, name, [](const DOMElement& element) { return canonical(element); });
+}
+
+std::vector<std::string> valuesOf(const std::string& xml, const std::string& name,
+                                  const std::string& attribute) {
+    const opc::XercesString key(fromUtf8(attribute));
+    return readAll(xml, name, [&](const DOMElement& element) { return narrow(element.getAttribute(key)); });
+}
+
+std::vector<std::string> textsOf(const std::string& xml, const std::string& name) {
+    return readAll(xml, name, [](const DOMElement& element) { return narrow(element.getTextContent()); });
 }
 
 std::string findOne(const std::string& xml, const std::string& name) {

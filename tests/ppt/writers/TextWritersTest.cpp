@@ -198,10 +198,8 @@ TEST_F(TextWritersTest, BoxesAreFilledAnchoredAndPlaced) {
     close();
     const std::string shape = shapeXml(1, "Content");
     EXPECT_EQ(findOne(shape, "a:bodyPr"), "<a:bodyPr anchor='b' anchorCtr='1'><a:normAutofit/></a:bodyPr>");
-    const std::string spPr = findOne(shape, "p:spPr");
-    EXPECT_NE(spPr.find("<a:off x='914400' y='"), std::string::npos);
-    EXPECT_NE(spPr.find("</a:xfrm><a:solidFill><a:srgbClr val='FFD700'/></a:solidFill></p:spPr>"),
-              std::string::npos);
+    EXPECT_EQ(valuesOf(shape, "a:off", "x"), std::vector<std::string>{"914400"});
+    EXPECT_EQ(findOne(shape, "a:solidFill"), "<a:solidFill><a:srgbClr val='FFD700'/></a:solidFill>");
     EXPECT_EQ(findOne(shapeXml(1, "Free"), "a:bodyPr"), "<a:bodyPr anchor='ctr' anchorCtr='0'/>");
     EXPECT_EQ(findOne(shapeXml(1, "Free"), "a:rPr"), "<a:rPr b='1'/>");
     EXPECT_EQ(findOne(shapeXml(1, "Title"), "a:p"), "<a:p><a:endParaRPr/></a:p>"); // left empty

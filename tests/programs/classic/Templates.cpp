@@ -144,7 +144,7 @@ Template makeCustom() {
     return {L"custom", builder.build()};
 }
 
-// Layouts as other programs write them: indented, without identities, without a declaration for relationships,
+// Layouts as other programs write them: indented, without identities or a declaration for relationships,
 // empty.
 Template makeOdd() {
     TemplateBuilder builder;
