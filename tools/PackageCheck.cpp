@@ -1,4 +1,4 @@
-#include "tests/support/PackageCheck.h"
+#include "tools/PackageCheck.h"
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/host/services/Utf8.h"
@@ -11,7 +11,7 @@
 #include <boost/make_shared.hpp>
 #include <set>
 
-namespace vellox::test {
+namespace vellox::tools {
 
 namespace {
 
@@ -126,4 +126,4 @@ std::vector<std::string> findFaults(const std::wstring& packagePath) {
     }
 }
 
-} // namespace vellox::test
+} // namespace vellox::tools

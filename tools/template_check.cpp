@@ -1,10 +1,10 @@
-// Are these templates fit for vellox? For every package of a folder this makes a deck with one slide of every
-// layout, each placeholder filled, and checks that the deck is sound. A template that vellox refuses is told
+// Are these templates fit for vellox? For one template, or every one of a folder, this makes a deck with one slide of
+// every layout, each placeholder filled, and checks that the deck is sound. A template that vellox refuses is told
 // with the error; that is no failure of this program, but a deck with a fault in it is.
 //
-//     template_check <folder of templates> <folder for the decks>
+//     vellox-template-check <template, or folder of templates> <folder for the decks>
 
-#include "tests/support/PackageCheck.h"
+#include "tools/PackageCheck.h"
 
 #include <vellox/vellox.h>
 
@@ -14,6 +14,7 @@
 
 namespace fs = std::filesystem;
 using namespace vellox::ppt;
+using vellox::tools::findFaults;
 
 namespace {
 
@@ -43,8 +44,8 @@ unsigned makeDeck(const fs::path& templateFile, const fs::path& output) {
 
 // Faults that the deck has and its template hasn't.
 std::vector<std::string> findNewFaults(const fs::path& templateFile, const fs::path& deck) {
-    std::vector<std::string> former = vellox::test::findFaults(vellox::fromUtf8(templateFile.string()));
-    std::vector<std::string> faults = vellox::test::findFaults(vellox::fromUtf8(deck.string()));
+    std::vector<std::string> former = findFaults(vellox::fromUtf8(templateFile.string()));
+    std::vector<std::string> faults = findFaults(vellox::fromUtf8(deck.string()));
     const auto isFormer = [&](const std::string& fault) {
         return std::find(former.begin(), former.end(), fault) != former.end();
     };
@@ -70,22 +71,46 @@ bool check(const fs::path& templateFile, const fs::path& output) {
     }
 }
 
+std::vector<fs::path> findTemplates(const fs::path& place) {
+    if (!fs::is_directory(fs::canonical(place))) // which throws if there is nothing
+        return {place};
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(place))
+        if (isTemplate(entry.path()))
+            files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+bool checkAll(const fs::path& place, const fs::path& folder) {
+    const std::vector<fs::path> files = findTemplates(place);
+    if (files.empty())
+        std::cerr << "there is no template in " << place.string() << "\n";
+    fs::create_directories(folder);
+    bool isSound = !files.empty();
+    // Numbered: not every name of a template may be that of an output.
+    for (std::size_t i = 0; i < files.size(); ++i)
+        isSound = check(files[i], folder / ("deck" + std::to_string(i + 1) + ".pptx")) && isSound;
+    return isSound;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::cerr << "usage: template_check <folder of templates> <folder for the decks>\n";
+        std::cerr
+            << "usage: vellox-template-check <template, or folder of templates> <folder for the decks>\n";
         return 2;
     }
-    fs::create_directories(argv[2]);
-    std::vector<fs::path> files;
-    for (const auto& entry : fs::directory_iterator(argv[1]))
-        if (isTemplate(entry.path()))
-            files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    bool isSound = true;
-    // Numbered: not every name of a template may be that of an output.
-    for (std::size_t i = 0; i < files.size(); ++i)
-        isSound = check(files[i], fs::path(argv[2]) / ("deck" + std::to_string(i + 1) + ".pptx")) && isSound;
-    return isSound ? 0 : 1;
+    try {
+        // The library is in this program, which stands elsewhere than it: the texts are found from here.
+        vellox::host::setInstallRoot(
+            vellox::fromUtf8((fs::canonical("/proc/self/exe").parent_path() / VELLOX_ROOT_FROM_PROGRAM)
+                                 .lexically_normal()
+                                 .string()));
+        return checkAll(argv[1], argv[2]) ? 0 : 1;
+    } catch (const fs::filesystem_error& error) {
+        std::cerr << error.what() << "\n";
+        return 2;
+    }
 }
