@@ -76,7 +76,7 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
         return;
     isChanged_ = true;
     const std::wstring extension = name.getExtension();
-    const bool isOverridden = overrideByName_.count(name) > 0; // by a row for a part that isn't there any more
+    const bool isOverridden = overrideByName_.count(name) > 0; // a row that outlived its part
     if (type.isXml() || isOverridden || extension.empty() || defaultByExtension_.count(extension) > 0)
         setOverride(name, text);
     else
