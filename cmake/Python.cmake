@@ -1,4 +1,8 @@
-# Which Python the package is for, and where it is installed.
+# Which Python the package is for, and where it is installed. The tests run scripts of Python, too; a build without both
+# needs none.
+if(NOT VELLOX_PYTHON AND NOT VELLOX_TESTS)
+    return()
+endif()
 
 # Debian's own, unless another is asked for: one in front of it on the path may know none of Debian's packages.
 if(NOT DEFINED Python3_EXECUTABLE AND EXISTS /usr/bin/python3)

@@ -3,7 +3,7 @@
 //
 //     late_check <folder for the decks>
 
-#include "tests/support/PackageCheck.h"
+#include "tests/support/DeckTest.h"
 
 #include <vellox/vellox.h>
 

@@ -11,12 +11,14 @@
 
 #include "tests/support/Expect.h"
 #include "tests/support/Files.h"
-#include "tests/support/PackageCheck.h"
 #include "tests/support/Xml.h"
+#include "tools/PackageCheck.h"
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/engine/Presentation.h"
 
 namespace vellox::test {
+
+using tools::findFaults;
 
 /// A presentation on the default template, or on a changed one, in a folder of its own.
 class DeckTest : public testing::Test {

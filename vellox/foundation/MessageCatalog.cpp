@@ -1,9 +1,9 @@
 #include "vellox/foundation/MessageCatalog.h"
 
+#include "vellox/foundation/CatalogFile.h"
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 
-#include <boost/locale/gnu_gettext.hpp>
 #include <boost/regex.hpp>
 #include <fstream>
 #include <iterator>
@@ -15,16 +15,8 @@ namespace vellox {
 
 namespace {
 
-namespace gettext = boost::locale::gnu_gettext;
-using Texts = boost::locale::message_format<wchar_t>;
-
 // Languages are shipped as the library's texts are, so that a text missing from one is found in this one.
 constexpr char kSourceLanguage[] = "en";
-
-std::vector<char> readCatalogFile(const std::string& path, const std::string&) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // "vellox:ppt_error" is the file vellox-ppt_error.mo: a colon is no character for a file name.
 std::string toFileName(std::string catalog) {
@@ -45,17 +37,13 @@ std::string getLanguage(const std::locale& locale) {
     return language.size() == 2 || language.size() == 3 ? language : kSourceLanguage;
 }
 
-// A locale that holds nothing but the texts of one catalog in one language; none if the file is damaged, since a
-// message without its text is better than none at all.
+// None if the file is missing, or damaged: a message without its text is better than none at all.
 std::locale loadTexts(const std::string& root, const std::string& language, const std::string& catalog) {
-    gettext::messages_info info;
-    info.language = language;
-    info.encoding = "UTF-8";
-    info.paths = {root + "/resources/messages"};
-    info.domains = {gettext::messages_info::domain(toFileName(catalog))};
-    info.callback = readCatalogFile;
+    const std::string path =
+        root + "/resources/messages/" + language + "/LC_MESSAGES/" + toFileName(catalog) + ".mo";
+    std::ifstream file(path, std::ios::binary);
     try {
-        return std::locale(std::locale::classic(), gettext::create_messages_facet<wchar_t>(info));
+        return readCatalogFile({std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
     } catch (const std::runtime_error&) {
         return std::locale::classic();
     }
@@ -69,9 +57,9 @@ const wchar_t* findText(const std::string& language, const MsgID& message) {
     auto texts = cache.find(key);
     if (texts == cache.end())
         texts = cache.emplace(key, loadTexts(key[0], key[1], key[2])).first;
-    if (!std::has_facet<Texts>(texts->second))
+    if (!std::has_facet<CatalogTexts>(texts->second))
         return nullptr;
-    return std::use_facet<Texts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
+    return std::use_facet<CatalogTexts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
 }
 
 // The text with its blanks, %1% and so on, filled in. Any other percent sign stands for itself, and a blank without an

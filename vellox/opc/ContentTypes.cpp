@@ -82,7 +82,8 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
         return;
     isChanged_ = true;
     const std::wstring extension = name.getExtension();
-    if (type.isXml() || extension.empty() || defaultByExtension_.count(extension) > 0)
+    const bool isOverridden = overrideByName_.count(name) > 0; // a row that outlived its part
+    if (type.isXml() || isOverridden || extension.empty() || defaultByExtension_.count(extension) > 0)
         setOverride(name, text);
     else
         setDefault(extension, text);

@@ -1,0 +1,16 @@
+// The input is the file of a message catalog: it is read, or refused as a whole.
+
+#include "vellox/foundation/CatalogFile.h"
+
+#include <cstdint>
+#include <stdexcept>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        const std::locale texts = vellox::readCatalogFile({data, data + size});
+        for (const wchar_t* key : {L"invalidLayoutName", L"objCreated", L""})
+            std::use_facet<vellox::CatalogTexts>(texts).get(0, nullptr, key);
+    } catch (const std::runtime_error&) {
+    }
+    return 0;
+}
