@@ -1,6 +1,7 @@
 #include "vellox/opc/ZipPhysicalPackage.h"
 
 #include "vellox/host/services/Utf8.h"
+#include "vellox/opc/Deflater.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/ZipStreamSource.h"
@@ -89,6 +90,10 @@ bool isCompoundFile(std::istream& file) {
     if (isCompoundFile(file))
         throw Exception("it is encrypted, or in an old binary format");
     fail(reason);
+}
+
+bool isStored(const PhysicalPart& part) {
+    return part.getInfo().compressionType == 0;
 }
 
 // A link at the output path stays a link, and the file behind it is what gets replaced.
@@ -230,11 +235,12 @@ ZipPhysicalPackage::Archive ZipPhysicalPackage::openForWriting() const {
 
 void ZipPhysicalPackage::close(bool save) {
     if (save) {
+        const Deflater deflater(compression_);
         Archive target = openForWriting();
         if (contentTypes_)
-            writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_));
+            writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_), deflater);
         for (const auto& part : parts_)
-            writeEntry(target.get(), static_cast<const Entry&>(*part));
+            writeEntry(target.get(), static_cast<const Entry&>(*part), deflater);
         if (zip_close(target.get()) != 0)
             fail(zip_get_error(target.get()));
         static_cast<void>(target.release()); // zip_close has ended it
@@ -246,11 +252,14 @@ void ZipPhysicalPackage::close(bool save) {
         input_->close();
 }
 
-zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) const {
+zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry,
+                                             const Deflater& deflater) const {
     switch (entry.getContent()) {
     case PhysicalPart::Content::Original:
         return entry.makeSource(target);
     case PhysicalPart::Content::Bytes:
+        if (!isStored(entry))
+            return deflater.makeSource(target, entry.getBytes());
         return zip_source_buffer(target, entry.getBytes().data(), entry.getBytes().size(), 0);
     case PhysicalPart::Content::File:
         return zip_source_file(target, vellox::toUtf8(entry.getContentFile()).c_str(), 0, -1);
@@ -258,8 +267,8 @@ zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) 
     return nullptr;
 }
 
-void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
-    zip_source_t* source = makeSource(target, entry);
+void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const {
+    zip_source_t* source = makeSource(target, entry, deflater);
     if (!source)
         fail(zip_get_error(target));
     const zip_int64_t index = zip_file_add(target, entry.getEntryName().c_str(), source, ZIP_FL_ENC_UTF_8);
@@ -270,8 +279,8 @@ void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
     if (entry.getContent() == PhysicalPart::Content::Original)
         return;
     const auto place = static_cast<zip_uint64_t>(index);
-    const zip_int32_t method = entry.getInfo().compressionType == 0 ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
-    if (zip_set_file_compression(target, place, method, 0) != 0 ||
+    const zip_int32_t method = isStored(entry) ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
+    if (zip_set_file_compression(target, place, method, deflater.getZlibLevel()) != 0 ||
         zip_file_set_dostime(target, place, kNewEntryTime, kNewEntryDate, 0) != 0)
         fail(zip_get_error(target));
 }

@@ -13,6 +13,8 @@
 
 namespace opc {
 
+class Deflater;
+
 /// An archive through libzip: ZIP64, data descriptors, stored and deflated entries, in any order.
 ///
 /// Saving writes a new archive,
@@ -46,8 +48,8 @@ private:
     Archive openForReading() const;
     Archive openForWriting() const;
     void listEntries();
-    void writeEntry(zip_t* target, const Entry& entry) const;
-    zip_source_t* makeSource(zip_t* target, const Entry& entry) const;
+    void writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const;
+    zip_source_t* makeSource(zip_t* target, const Entry& entry, const Deflater& deflater) const;
 
     boost::shared_ptr<StdIStreamAdaptor> input_;
     boost::shared_ptr<StdOStreamAdaptor> output_;
