@@ -1,5 +1,6 @@
 #include "vellox/ppt/engine/Dom.h"
 
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/object/DomForward.h"
 
@@ -17,6 +18,25 @@ bool hasName(const DOMNode& node, const XMLCh* name) {
 }
 
 namespace {
+
+// Those of a name, or all for none. Steps to a first child and to a next sibling are the only ones that cost next
+// to nothing, other than those of lists and walkers.
+void collectElements(const DOMNode& parent, const XMLCh* name, std::vector<DOMElement*>& elements) {
+    for (DOMNode* child = parent.getFirstChild(); child; child = child->getNextSibling()) {
+        if (child->getNodeType() != DOMNode::ELEMENT_NODE)
+            continue;
+        if (!name || hasName(*child, name))
+            elements.push_back(static_cast<DOMElement*>(child));
+        collectElements(*child, name, elements);
+    }
+}
+
+// An element's first place for attributes; it grows where they are more.
+constexpr XMLSize_t kFirstAttributes = 4;
+
+DOMDocumentImpl* getOwner(const DOMElement& element) {
+    return static_cast<DOMDocumentImpl*>(element.getOwnerDocument());
+}
 
 DOMElement* getFirstChildElement(const DOMNode* parent) {
     const bool isElement = parent && parent->getNodeType() == DOMNode::ELEMENT_NODE;
@@ -57,17 +77,13 @@ std::vector<DOMElement*> getChildElements(const DOMNode* parent) {
 
 std::vector<DOMElement*> getAllElements(DOMDocument* document) {
     std::vector<DOMElement*> elements;
-    DOMTreeWalker* walker = document->createTreeWalker(document, DOMNodeFilter::SHOW_ELEMENT, nullptr, true);
-    while (DOMNode* node = walker->nextNode())
-        elements.push_back(static_cast<DOMElement*>(node));
+    collectElements(*document, nullptr, elements);
     return elements;
 }
 
 std::vector<DOMElement*> getElementsByName(DOMDocument* document, const XMLCh* name) {
     std::vector<DOMElement*> elements;
-    const DOMNodeList* list = document->getElementsByTagName(name);
-    for (XMLSize_t i = 0; i < list->getLength(); ++i)
-        elements.push_back(static_cast<DOMElement*>(list->item(i)));
+    collectElements(*document, name, elements);
     return elements;
 }
 
@@ -76,13 +92,29 @@ std::wstring getAttribute(const DOMElement* element, const XMLCh* name) {
 }
 
 void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& value) {
-    element->setAttribute(name, opc::XercesString(value));
+    setAttribute(element, name, opc::XercesString(value).get());
+}
+
+void setAttribute(DOMElement* element, const XMLCh* name, const XMLCh* value) {
+    if (DOMAttr* present = element->getAttributeNode(name))
+        return present->setValue(value);
+    DOMAttrMapImpl& attributes = *static_cast<DOMElementImpl*>(element)->fAttributes;
+    attributes.reserve(kFirstAttributes);
+    attributes.setNamedItemFast(opc::makeAttribute(getOwner(*element), name, value));
+}
+
+void appendNode(DOMNode* parent, DOMNode* child) {
+    opc::appendNew(*static_cast<DOMElementImpl*>(parent), *child);
 }
 
 DOMElement* appendElement(DOMElement* parent, const XMLCh* name) {
-    DOMElement* child = parent->getOwnerDocument()->createElement(name);
-    parent->appendChild(child);
+    DOMElement* child = opc::makeElement(getOwner(*parent), name);
+    appendNode(parent, child);
     return child;
+}
+
+void appendText(DOMElement* parent, const std::wstring& text) {
+    appendNode(parent, opc::makeText(getOwner(*parent), opc::XercesString(text)));
 }
 
 DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {

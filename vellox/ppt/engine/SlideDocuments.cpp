@@ -1,6 +1,7 @@
 #include "vellox/ppt/engine/SlideDocuments.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/DocumentCopy.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/XmlNames.h"
@@ -155,7 +156,7 @@ OwnedDocument makePrototype(TemplateLayout& layout) {
 } // namespace
 
 OwnedDocument copyDocument(const OwnedDocument& document) {
-    OwnedDocument copy(static_cast<DOMDocument*>(document->cloneNode(true)));
+    OwnedDocument copy(opc::copyDocument(*document.get()));
     copy->setXmlStandalone(true);
     return copy;
 }

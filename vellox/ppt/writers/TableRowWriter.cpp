@@ -22,13 +22,13 @@ TableRowWriter::TableRowWriter(const TableRowImpl& row, PPTWriter& writer, xerce
 
 void TableRowWriter::write() {
     xercesc::DOMElement* element = createElement(xml::kATr);
-    element->setAttribute(xml::kH, xml::kFalse); // as high as its text
+    setAttribute(element, xml::kH, xml::kFalse); // as high as its text
     for (const auto& entry : row_.getChildren())
         entry->acceptWriter(&getWriter(), element);
     // Readers refuse a row with fewer cells than the grid has columns.
     for (std::size_t i = row_.getChildren().size(); i < getWriter().getTableContext().colWidths.size(); ++i)
         appendEmptyCell(element);
-    getParentNode()->appendChild(element);
+    appendNode(getParentNode(), element);
     getWriter().nextRow();
 }
 
