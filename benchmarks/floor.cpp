@@ -1,10 +1,10 @@
 // What a deck costs at the least: its parts, ready as they are, deflated by zlib and written.
 //
-//     floor unpack <deck.pptx> <parts>          not measured: the parts of a finished deck, one after the other
-//     floor write <parts> <output> [<times>]    a program that knows nothing but how to make an archive of them
+//     floor unpack <deck.pptx> <parts>         not measured: the parts of a finished deck, one by one
+//     floor write <parts> <output> [<times>]   a program that knows nothing but how to make an archive of them
 //
-// Parts that are stored in the deck, as pictures are, are stored again. The output has all that an archive has
-// but the directory at its end.
+// Parts that are stored in the deck, as pictures are, are stored again. The output has all that an archive
+// has but the directory at its end.
 
 #include <zip.h>
 #include <zlib.h>

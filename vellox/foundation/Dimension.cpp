@@ -69,8 +69,8 @@ bool isOfUnits(wchar_t c) {
     return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'%' || c == L'*';
 }
 
-// Lengths come by the thousand, one for each cell of a table, and a regular expression would take longer over this
-// than all else that is done for a cell's size. What doesn't fit is ignored.
+// Lengths come by the thousand, one for each cell of a table, and a regular expression would take longer over
+// this than all else that is done for a cell's size. What doesn't fit is ignored.
 Pieces split(const std::wstring& text) {
     const auto end = text.end();
     const auto number = std::find_if_not(text.begin(), end, isBlank);

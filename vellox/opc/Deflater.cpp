@@ -20,7 +20,7 @@ const Levels& getLevels(Compression compression) {
     return kLevels[static_cast<std::size_t>(compression)];
 }
 
-/// What libzip asks of a source. It opens one at a time, once, and asks for the checksum when it has read all.
+/// What libzip asks of a source, which it opens once; it asks for the checksum when it has read all.
 class DeflatedBytes {
 public:
     DeflatedBytes(libdeflate_compressor* compressor, const std::string& bytes)

@@ -14,16 +14,16 @@
 
 namespace opc {
 
-/// One compressor for all entries of an archive: setting one up costs as much as it takes to deflate a small slide.
+/// One compressor for all entries of an archive: setting one up costs as much as deflating a small slide.
 class Deflater {
 public:
     explicit Deflater(Compression compression);
 
-    /// A source whose bytes arrive deflated, for libzip to copy as they are. They are deflated when libzip comes to
-    /// them, so that one entry at a time is in memory twice. Bytes and deflater must outlive the source.
+    /// A source whose bytes arrive deflated, for libzip to copy as they are. They are deflated when libzip comes
+    /// to them, so that one entry at a time is in memory twice. Bytes and deflater must outlive the source.
     /// @return a null pointer with the error in the archive if there is no memory left
     zip_source_t* makeSource(zip_t* archive, const std::string& bytes) const;
-    /// The level that stands for the same in libzip's own compression, which takes what is too large for memory.
+    /// The level that stands for the same in libzip's own compression, by which files are taken in small blocks.
     zip_uint32_t getZlibLevel() const;
 
 private:

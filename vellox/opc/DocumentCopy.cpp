@@ -9,7 +9,8 @@ using namespace xercesc;
 
 namespace {
 
-/// Copies for a document. Elements and attributes without namespaces and texts are made here, all else is imported.
+/// Copies for a document. Elements and attributes without namespaces and texts are made here, the rest is
+/// imported.
 class Copier {
 public:
     explicit Copier(DOMDocument& target) : target_(dynamic_cast<DOMDocumentImpl*>(&target)) {}

@@ -1,9 +1,9 @@
 /// @file
 /// How the nodes of a Xerces document hang together.
 ///
-/// Xerces asks a node for its class by dynamic casts whenever it touches one: six for a child that is appended, and they
-/// are most of what a document costs to read, to copy and to change. Here the kind of the node tells its class, for the
-/// two kinds of which documents consist.
+/// Xerces asks a node for its class by dynamic casts whenever it touches one: eight for a child that is
+/// appended, and they are most of what a document costs to read, to copy and to change. Here the kind of a node
+/// tells its class, for the two kinds of which documents consist.
 
 #ifndef VELLOX_OPC_NODELINKS_H
 #define VELLOX_OPC_NODELINKS_H
@@ -69,6 +69,20 @@ inline xercesc::DOMAttrImpl* makeAttribute(xercesc::DOMDocumentImpl* document, c
     return made;
 }
 /// @}
+
+inline xercesc::DOMElementImpl& appendElement(xercesc::DOMElementImpl& parent, const XMLCh* name) {
+    auto* const made = makeElement(static_cast<xercesc::DOMDocumentImpl*>(parent.getOwnerDocument()), name);
+    appendNew(parent, *made);
+    return *made;
+}
+
+/// Gives an element an attribute that it doesn't have yet.
+inline void addAttribute(xercesc::DOMElementImpl& element, const XMLCh* name, const XMLCh* value) {
+    constexpr XMLSize_t kFirstPlaces = 4; // where there are none; they grow
+    element.fAttributes->reserve(kFirstPlaces);
+    element.fAttributes->setNamedItemFast(
+        makeAttribute(static_cast<xercesc::DOMDocumentImpl*>(element.getOwnerDocument()), name, value));
+}
 
 } // namespace opc
 

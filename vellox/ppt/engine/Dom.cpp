@@ -19,8 +19,8 @@ bool hasName(const DOMNode& node, const XMLCh* name) {
 
 namespace {
 
-// Those of a name, or all for none. Steps to a first child and to a next sibling are the only ones that cost next
-// to nothing, other than those of lists and walkers.
+// Those of a name, or all for none. Steps to a first child and to a next sibling cost next to nothing, those of
+// lists and walkers much.
 void collectElements(const DOMNode& parent, const XMLCh* name, std::vector<DOMElement*>& elements) {
     for (DOMNode* child = parent.getFirstChild(); child; child = child->getNextSibling()) {
         if (child->getNodeType() != DOMNode::ELEMENT_NODE)
@@ -29,13 +29,6 @@ void collectElements(const DOMNode& parent, const XMLCh* name, std::vector<DOMEl
             elements.push_back(static_cast<DOMElement*>(child));
         collectElements(*child, name, elements);
     }
-}
-
-// An element's first place for attributes; it grows where they are more.
-constexpr XMLSize_t kFirstAttributes = 4;
-
-DOMDocumentImpl* getOwner(const DOMElement& element) {
-    return static_cast<DOMDocumentImpl*>(element.getOwnerDocument());
 }
 
 DOMElement* getFirstChildElement(const DOMNode* parent) {
@@ -98,9 +91,7 @@ void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& va
 void setAttribute(DOMElement* element, const XMLCh* name, const XMLCh* value) {
     if (DOMAttr* present = element->getAttributeNode(name))
         return present->setValue(value);
-    DOMAttrMapImpl& attributes = *static_cast<DOMElementImpl*>(element)->fAttributes;
-    attributes.reserve(kFirstAttributes);
-    attributes.setNamedItemFast(opc::makeAttribute(getOwner(*element), name, value));
+    opc::addAttribute(static_cast<DOMElementImpl&>(*element), name, value);
 }
 
 void appendNode(DOMNode* parent, DOMNode* child) {
@@ -108,13 +99,12 @@ void appendNode(DOMNode* parent, DOMNode* child) {
 }
 
 DOMElement* appendElement(DOMElement* parent, const XMLCh* name) {
-    DOMElement* child = opc::makeElement(getOwner(*parent), name);
-    appendNode(parent, child);
-    return child;
+    return &opc::appendElement(static_cast<DOMElementImpl&>(*parent), name);
 }
 
 void appendText(DOMElement* parent, const std::wstring& text) {
-    appendNode(parent, opc::makeText(getOwner(*parent), opc::XercesString(text)));
+    auto* const document = static_cast<DOMDocumentImpl*>(parent->getOwnerDocument());
+    appendNode(parent, opc::makeText(document, opc::XercesString(text)));
 }
 
 DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {
