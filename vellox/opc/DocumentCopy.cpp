@@ -13,7 +13,7 @@ namespace {
 /// imported.
 class Copier {
 public:
-    explicit Copier(DOMDocument& target) : target_(dynamic_cast<DOMDocumentImpl*>(&target)) {}
+    explicit Copier(DOMDocument& target) : target_(&dynamic_cast<DOMDocumentImpl&>(target)) {}
 
     DOMNode& copy(const DOMNode& source) {
         if (source.getNodeType() == DOMNode::ELEMENT_NODE && isPlain(source))
