@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "vellox/opc/Compression.h"
 #include "vellox/opc/PartName.h"
 #include "vellox/opc/Streams.h"
 
@@ -65,6 +66,9 @@ class PhysicalPackage {
 public:
     virtual ~PhysicalPackage();
 
+    /// How small new content is made where the container compresses; Normal if nothing is said.
+    void setCompression(Compression compression) { compression_ = compression; }
+
     /// Finds the entries.
     /// @throws opc::Exception if this isn't a container, or a damaged, encrypted or absurd one
     virtual void open(OpenMode mode) = 0;
@@ -92,6 +96,7 @@ protected:
     /// @throws opc::Exception for the content-type stream if there is one already
     void addEntry(const std::wstring& entryName, boost::shared_ptr<PhysicalPart> part);
 
+    Compression compression_ = Compression::Normal;
     std::vector<boost::shared_ptr<PhysicalPart>> parts_;
     boost::shared_ptr<PhysicalPart> contentTypes_;
     std::uint64_t size_ = 0;

@@ -29,10 +29,10 @@ void ParagraphWriter::write() {
     if (level.isSet() && level.get() != 0)
         setAttribute(getPPr(), xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
     if (pPr_)
-        element->appendChild(pPr_);
+        appendNode(element, pPr_);
     for (const auto& child : paragraph_.getChildren())
         child->acceptWriter(&getWriter(), element);
-    getParentNode()->appendChild(element);
+    appendNode(getParentNode(), element);
 }
 
 void ParagraphWriter::applyFormat(const Format& format) {
@@ -51,7 +51,7 @@ DOMElement* ParagraphWriter::getPPr() {
 }
 
 void ParagraphWriter::setPPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    getPPr()->setAttribute(name, mapping.xmlValue);
+    setAttribute(getPPr(), name, mapping.xmlValue);
 }
 
 } // namespace vellox::ppt

@@ -22,8 +22,8 @@ void TableEntryWriter::write() {
         child->acceptWriter(&getWriter(), body);
     ensureParagraph(cell);
     if (tcPr_)
-        cell->appendChild(tcPr_);
-    getParentNode()->appendChild(cell);
+        appendNode(cell, tcPr_);
+    appendNode(getParentNode(), cell);
     getWriter().nextEntry();
 }
 
@@ -43,11 +43,11 @@ DOMElement* TableEntryWriter::getTcPr() {
 }
 
 void TableEntryWriter::setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    getTcPr()->setAttribute(name, mapping.xmlValue);
+    setAttribute(getTcPr(), name, mapping.xmlValue);
 }
 
 void TableEntryWriter::setTcPrFlag(const XMLCh* name, bool value) {
-    getTcPr()->setAttribute(name, value ? xml::kTrue : xml::kFalse);
+    setAttribute(getTcPr(), name, value ? xml::kTrue : xml::kFalse);
 }
 
 DOMElement* TableEntryWriter::addTcPrChild(const XMLCh* name) {

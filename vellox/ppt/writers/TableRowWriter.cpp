@@ -12,10 +12,10 @@ TableRowWriter::TableRowWriter(const TableRowImpl& row, PPTWriter& writer, xerce
 
 void TableRowWriter::write() {
     xercesc::DOMElement* element = createElement(xml::kATr);
-    element->setAttribute(xml::kH, xml::kFalse); // as high as its text
+    setAttribute(element, xml::kH, xml::kFalse); // as high as its text
     for (const auto& entry : row_.getChildren())
         entry->acceptWriter(&getWriter(), element);
-    getParentNode()->appendChild(element);
+    appendNode(getParentNode(), element);
     getWriter().nextRow();
 }
 

@@ -1,6 +1,5 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
-#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -17,9 +16,9 @@ void TextWriter::write() {
     applyFormats(text_, inheritedFormatTypes());
     DOMElement* run = createElement(xml::kAR);
     if (rPr_)
-        run->appendChild(rPr_);
-    appendElement(run, xml::kAT)->setTextContent(opc::XercesString(text_.getTextContent()));
-    getParentNode()->appendChild(run);
+        appendNode(run, rPr_);
+    appendText(appendElement(run, xml::kAT), text_.getTextContent());
+    appendNode(getParentNode(), run);
 }
 
 void TextWriter::applyFormat(const Format& format) {
@@ -41,7 +40,7 @@ DOMElement* TextWriter::getRPr() {
 }
 
 void TextWriter::setRPrAttribute(const XMLCh* name, const XMLCh* value) {
-    getRPr()->setAttribute(name, value);
+    setAttribute(getRPr(), name, value);
 }
 
 void TextWriter::setRPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
