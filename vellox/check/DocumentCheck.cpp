@@ -6,6 +6,7 @@
 #include "vellox/opc/XercesString.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace vellox::check {
 
@@ -61,19 +62,23 @@ private:
     /// Namespaces that a reader may not know, for as long as this lives.
     class Tolerance {
     public:
-        Tolerance(Walk& walk, const XMLCh* prefixes) : walk_(walk), size_(walk.tolerated_.size()) {
+        Tolerance(Walk& walk, const DOMElement& element, const XMLCh* prefixes) : walk_(walk) {
             if (prefixes)
-                walk.forEachWord(prefixes, [&](std::u16string_view prefix) {
-                    walk.tolerated_.push_back(walk.nodes_.findPrefix(prefix));
+                forEachWord(prefixes, [&](std::u16string_view prefix) {
+                    spaces_.push_back(walk.findDeclared(element, prefix));
+                    ++walk.tolerated_[spaces_.back()];
                 });
         }
         Tolerance(const Tolerance&) = delete;
         Tolerance& operator=(const Tolerance&) = delete;
-        ~Tolerance() { walk_.tolerated_.resize(size_); }
+        ~Tolerance() {
+            for (const Namespace space : spaces_)
+                --walk_.tolerated_[space];
+        }
 
     private:
         Walk& walk_;
-        std::size_t size_;
+        std::vector<Namespace> spaces_;
     };
 
     template <class Action> static void forEachWord(std::u16string_view text, Action action) {
@@ -85,8 +90,17 @@ private:
         }
     }
 
+    Namespace findDeclared(const DOMElement& element, std::u16string_view prefix) {
+        const Namespace space = nodes_.findPrefix(prefix);
+        if (space == kUndeclared)
+            add(Code::unknownPrefix, element,
+                L"the prefix " + quote(widen(prefix)) + L" is named, and declared nowhere");
+        return space;
+    }
+
     bool isTolerated(Namespace space) const {
-        return std::find(tolerated_.begin(), tolerated_.end(), space) != tolerated_.end();
+        const auto found = tolerated_.find(space);
+        return found != tolerated_.end() && found->second > 0;
     }
 
     void add(Code code, const DOMElement& element, const std::wstring& text) {
@@ -110,7 +124,7 @@ private:
     }
 
     void visit(const DOMElement& element, const NodeNames::Scope& scope, TypeId typeId, bool isActive) {
-        const Tolerance tolerance(*this, scope.find(ignorable_));
+        const Tolerance tolerance(*this, element, scope.find(ignorable_));
         facts_.see(element, scope, isActive);
         if (getNamespace(scope.getKey()) == kUndeclared)
             add(Code::unknownPrefix, element,
@@ -231,7 +245,7 @@ private:
     // to fit into the place.
     void feedAlternate(const DOMElement& alternate, const NodeNames::Scope& alternateScope, Key parentKey,
                        ChildFeed& feed, bool isActive) {
-        const Tolerance tolerance(*this, alternateScope.find(ignorable_));
+        const Tolerance tolerance(*this, alternate, alternateScope.find(ignorable_));
         const ChildFeed before = feed;
         bool isChosen = false;
         for (const DOMElement* branch = alternate.getFirstElementChild(); branch;
@@ -239,7 +253,7 @@ private:
             const NodeNames::Scope scope(nodes_, *branch);
             const bool isChoice = scope.getKey() == choice_;
             const XMLCh* needed = isChoice ? scope.find(requires_) : nullptr;
-            const Tolerance branchTolerance(*this, needed);
+            const Tolerance branchTolerance(*this, *branch, needed);
             const bool isTaken = !isChosen && (!isChoice || knowsAll(needed));
             isChosen = isChosen || isTaken;
             ChildFeed trial = before;
@@ -261,7 +275,7 @@ private:
     NodeNames nodes_;
     ElementFacts facts_;
     Key alternate_, choice_, ignorable_, requires_;
-    std::vector<Namespace> tolerated_;
+    std::unordered_map<std::uint32_t, unsigned> tolerated_; // how often each namespace is
     Place place_;
     Report* report_ = nullptr;
 };

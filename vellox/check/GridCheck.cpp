@@ -13,6 +13,8 @@ namespace {
 
 /// How many cells a cell covers: the number in an attribute, or 1.
 unsigned readSpan(const DOMElement& cell, const XMLCh* name) {
+    if (!cell.hasAttributes())
+        return 1;
     const XMLCh* text = cell.getAttribute(name);
     unsigned span = 0;
     for (; *text >= u'0' && *text <= u'9' && span < 1000000; ++text)
@@ -21,6 +23,8 @@ unsigned readSpan(const DOMElement& cell, const XMLCh* name) {
 }
 
 bool isMerged(const DOMElement& cell, const XMLCh* name) {
+    if (!cell.hasAttributes())
+        return false;
     const std::u16string_view text(cell.getAttribute(name));
     return text == u"1" || text == u"true";
 }
@@ -33,13 +37,12 @@ public:
           report_(report) {}
 
     void check() {
-        unsigned row = 0;
         for (const DOMElement* child = table_.getFirstElementChild(); child;
              child = child->getNextElementSibling()) {
             if (getLocalName(*child) == u"tblGrid")
                 rowsLeft_.assign(count(*child, u"gridCol"), 0);
             else if (getLocalName(*child) == u"tr")
-                checkRow(*child, L"row " + std::to_wstring(++row));
+                checkRow(*child);
         }
         for (const unsigned left : rowsLeft_)
             if (left > 0)
@@ -57,17 +60,20 @@ private:
 
     void add(Code code, const std::wstring& text) { report_.add(code, place_, text, findShapeName(table_)); }
 
-    void checkRow(const DOMElement& row, const std::wstring& label) {
+    void checkRow(const DOMElement& row) {
+        ++row_;
+        column_ = 0;
         const std::size_t cells = count(row, u"tc");
         if (cells != rowsLeft_.size())
-            return add(Code::tableGrid, label + L" has " + std::to_wstring(cells) +
+            return add(Code::tableGrid, L"row " + std::to_wstring(row_) + L" has " + std::to_wstring(cells) +
                                             L" cells, and the grid has " + std::to_wstring(rowsLeft_.size()) +
                                             L" columns");
-        std::size_t column = 0;
         Span span;
         for (const DOMElement* cell = row.getFirstElementChild(); cell; cell = cell->getNextElementSibling())
-            if (getLocalName(*cell) == u"tc")
-                checkCell(*cell, column++, span, label);
+            if (getLocalName(*cell) == u"tc") {
+                checkCell(*cell, span);
+                ++column_;
+            }
     }
 
     /// The merged cell that the walk along a row is in.
@@ -76,35 +82,42 @@ private:
         unsigned rowsBelow = 0;
     };
 
-    void checkCell(const DOMElement& cell, std::size_t column, Span& span, const std::wstring& row) {
-        const std::wstring label = row + L", column " + std::to_wstring(column + 1) + L": ";
-        unsigned& rowsLeft = rowsLeft_[column];
+    void checkCell(const DOMElement& cell, Span& span) {
+        unsigned& rowsLeft = rowsLeft_[column_];
         const bool isBelow = rowsLeft > 0, isBeside = span.columnsLeft > 0;
-        checkMark(isMerged(cell, u"vMerge"), isBelow, label, L"above");
+        checkMark(isMerged(cell, u"vMerge"), isBelow, L"above");
         // In the lower rows of a merged block, some programs leave the width out.
         if (!isBelow)
-            checkMark(isMerged(cell, u"hMerge"), isBeside, label, L"to the left");
+            checkMark(isMerged(cell, u"hMerge"), isBeside, L"to the left");
         if (isBeside) {
             --span.columnsLeft;
         } else {
             span = {readSpan(cell, u"gridSpan") - 1, readSpan(cell, u"rowSpan") - 1};
-            if (span.columnsLeft >= rowsLeft_.size() - column)
-                add(Code::tableGrid, label + L"the cell spans more columns than there are");
+            if (span.columnsLeft >= rowsLeft_.size() - column_)
+                addForCell(Code::tableGrid, L"the cell spans more columns than there are");
         }
         rowsLeft = isBelow ? rowsLeft - 1 : span.rowsBelow;
     }
 
-    void checkMark(bool isMarked, bool isCovered, const std::wstring& label, const std::wstring& where) {
+    void checkMark(bool isMarked, bool isCovered, const wchar_t* where) {
         if (isCovered && !isMarked)
-            add(Code::tableSpan,
-                label + L"a cell " + where + L" spans this one, which isn't marked as merged");
+            addForCell(Code::tableSpan,
+                       std::wstring(L"a cell ") + where + L" spans this one, which isn't marked as merged");
         else if (isMarked && !isCovered)
-            add(Code::tableSpan, label + L"the cell is marked as merged, and none " + where + L" spans it");
+            addForCell(Code::tableSpan,
+                       std::wstring(L"the cell is marked as merged, and none ") + where + L" spans it");
+    }
+
+    void addForCell(Code code, const std::wstring& text) {
+        add(code,
+            L"row " + std::to_wstring(row_) + L", column " + std::to_wstring(column_ + 1) + L": " + text);
     }
 
     const DOMElement& table_;
     const Place& place_;
     Report& report_;
+    std::size_t row_ = 0;            // counted from 1
+    std::size_t column_ = 0;         // counted from 0
     std::vector<unsigned> rowsLeft_; // in each column, that a cell above still covers
 };
 

@@ -46,7 +46,8 @@ namespace vellox::ppt {
 /// - danglingRelationship (error): a target that doesn't exist in the package
 /// - strayRelationships (error): relationships of a part that doesn't exist
 /// - emptyTarget (error): a target outside the package that is empty
-/// - invalidTarget (warning): a target outside the package with characters that must be encoded
+/// - invalidTarget (error): a target outside the package that is no URI: two "#", or "%" and no digits
+/// - unencodedTarget (warning): a target outside the package with characters that must be encoded
 /// - targetSpelling (warning): a target that is spelled otherwise than the part
 /// - unreachablePart (warning): a part that nothing leads to
 ///
@@ -80,7 +81,8 @@ namespace vellox::ppt {
 /// - emptyReference (warning): they are empty, other than those of links
 /// - duplicateShapeId (warning): two shapes of a slide, layout or master with one id
 /// - shapeReference (warning): a connector or an animation names a shape that doesn't exist
-/// - tableGrid (error): a row with more or fewer cells than the table has columns; merged cells that reach out
+/// - tableGrid (error): a row with more or fewer cells than the table has columns, or merged cells that reach
+///   out of it
 /// - tableSpan (warning): merged cells that don't agree on who is merged
 /// - strictForm (warning): a package in the strict form; sequences and values in it are not checked
 ///

@@ -1,7 +1,6 @@
 #include "vellox/check/PartKinds.h"
 
-#include "vellox/foundation/Conversions.h"
-
+#include <algorithm>
 #include <iterator>
 
 namespace vellox::check {
@@ -49,8 +48,8 @@ constexpr MainType kMainTypes[] = {
     {L"application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml", L"ppsm"},
 };
 
-bool isSameType(const std::wstring& one, const wchar_t* other) {
-    return toLowerString(one) == toLowerString(other);
+wchar_t fold(wchar_t c) {
+    return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
 }
 
 } // namespace
@@ -62,6 +61,11 @@ const Need kNeeds[] = {
     {L"handoutMaster", L"theme", false},
 };
 const std::size_t kNeedCount = std::size(kNeeds);
+
+bool isSameType(const std::wstring& one, const std::wstring& other) {
+    return one.size() == other.size() && std::equal(one.begin(), one.end(), other.begin(),
+                                                    [](wchar_t a, wchar_t b) { return fold(a) == fold(b); });
+}
 
 const PartKind* findKindByRelationship(const std::wstring& relationship) {
     for (const PartKind& kind : kKinds)

@@ -19,6 +19,9 @@ const PartKind* findKindByRelationship(const std::wstring& relationship);
 /// By the content type, in any case.
 const PartKind* findKindByType(const std::wstring& contentType);
 
+/// Whether two content types are the same; the case of letters doesn't count.
+bool isSameType(const std::wstring& one, const std::wstring& other);
+
 /// The main part's content types, each with the extension of the files that have it.
 struct MainType {
     const wchar_t* contentType;

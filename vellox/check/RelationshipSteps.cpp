@@ -20,17 +20,19 @@ bool isHexDigit(wchar_t c) {
     return c < 0x80 && std::iswxdigit(static_cast<std::wint_t>(c));
 }
 
-/// What no reference can hold as it stands; backslashes are let pass, since office suites write them in paths
-/// of files.
+/// Whether each "%" begins an encoded byte, and one fragment is all there is.
 bool isReference(const std::wstring& target) {
-    static const std::wstring kForbidden = L"\"<>^`{|}";
-    for (std::size_t i = 0; i < target.size(); ++i) {
-        if (target[i] <= L' ' || kForbidden.find(target[i]) != std::wstring::npos)
+    for (std::size_t i = target.find(L'%'); i != target.npos; i = target.find(L'%', i + 1))
+        if (i + 2 >= target.size() || !isHexDigit(target[i + 1]) || !isHexDigit(target[i + 2]))
             return false;
-        if (target[i] == L'%' &&
-            (i + 2 >= target.size() || !isHexDigit(target[i + 1]) || !isHexDigit(target[i + 2])))
+    return target.find(L'#') == target.rfind(L'#');
+}
+
+/// Backslashes are let pass, since office suites write them in paths of files.
+bool isEncoded(const std::wstring& target) {
+    for (const wchar_t c : target)
+        if (c <= L' ' || std::wstring(L"\"<>^`{|}").find(c) != std::wstring::npos)
             return false;
-    }
     return true;
 }
 
@@ -57,6 +59,9 @@ private:
             report_.add(Code::emptyTarget, place_, label(row) + L" leads out of the package, to nothing");
         else if (!isReference(row.target))
             report_.add(Code::invalidTarget, place_,
+                        label(row) + L" has a target that is no URI: " + quote(row.target));
+        else if (!isEncoded(row.target))
+            report_.add(Code::unencodedTarget, place_,
                         label(row) + L" has a target with a character that must be encoded: " +
                             quote(row.target));
     }
@@ -67,8 +72,8 @@ private:
             return report_.add(Code::danglingRelationship, place_,
                                label(row) + L" leads to " + quote(row.target) + L", which doesn't exist");
         const std::wstring name = opc::resolveTarget(getFolder(index_.getName(source_)), row.target);
-        const bool isEncoded = row.target.find(L'%') != std::wstring::npos || row.target[0] == L'#';
-        if (!isEncoded && !source_.empty() && name != part->name)
+        const bool isComparable = row.target.find(L'%') == std::wstring::npos && row.target[0] != L'#';
+        if (isComparable && !source_.empty() && name != part->name)
             report_.add(Code::targetSpelling, place_,
                         label(row) + L" spells its target " + quote(row.target) +
                             L" otherwise than the part " + part->name);
@@ -81,7 +86,7 @@ private:
         std::wstring wanted;
         if (row.kind == L"image" && !boost::algorithm::istarts_with(part.type, L"image/"))
             wanted = L"that of an image";
-        else if (kind && toLowerString(part.type) != toLowerString(kind->contentType))
+        else if (kind && !isSameType(part.type, kind->contentType))
             wanted = kind->contentType;
         if (!wanted.empty() && !part.type.empty())
             report_.add(Code::wrongContentType, {part.name, part.slide},

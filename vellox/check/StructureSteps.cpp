@@ -1,9 +1,9 @@
 #include "vellox/check/PackageSteps.h"
 #include "vellox/check/PartKinds.h"
 
-#include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 namespace vellox::check {
 
@@ -53,53 +53,53 @@ private:
         return keys;
     }
 
-    bool isTarget(const PartKey& source, const wchar_t* kind, const PartKey& target) const {
-        const std::vector<PartKey> targets = index_.getTargets(source, kind);
-        return std::find(targets.begin(), targets.end(), target) != targets.end();
+    using Pairs = std::set<std::pair<PartKey, PartKey>>;
+
+    /// Which parts of a kind lead to which of another.
+    Pairs findPairs(const wchar_t* kind, const wchar_t* target) const {
+        Pairs pairs;
+        for (const PartKey& source : findParts(kind))
+            for (const PartKey& key : index_.getTargets(source, target))
+                pairs.emplace(source, key);
+        return pairs;
     }
 
     // A layout and its master name each other.
     void checkLayouts() {
         std::set<PartKey> used;
-        for (const PartKey& slide : findParts(L"slide"))
-            for (const PartKey& layout : index_.getTargets(slide, L"slideLayout"))
-                used.insert(layout);
-        std::map<PartKey, std::set<PartKey>> layoutsOf;
-        for (const PartKey& master : findParts(L"slideMaster"))
-            for (const PartKey& layout : index_.getTargets(master, L"slideLayout"))
-                layoutsOf[master].insert(layout);
-        for (const PartKey& layout : findParts(L"slideLayout"))
-            for (const PartKey& master : index_.getTargets(layout, L"slideMaster"))
-                if (layoutsOf[master].count(layout) == 0)
-                    report_.add(used.count(layout) > 0 ? Code::structure : Code::unlistedLayout,
-                                makePlace(*index_.find(layout)),
-                                L"its master " + index_.getName(master) + L" doesn't know it");
-        for (const auto& master : layoutsOf)
-            for (const PartKey& layout : master.second)
-                if (index_.find(layout) && !index_.getTargets(layout, L"slideMaster").empty() &&
-                    !isTarget(layout, L"slideMaster", master.first))
-                    report_.add(Code::structure, makePlace(*index_.find(layout)),
-                                index_.getName(master.first) +
-                                    L" lists it, and it belongs to another master");
+        for (const auto& pair : findPairs(L"slide", L"slideLayout"))
+            used.insert(pair.second);
+        const Pairs layouts = findPairs(L"slideMaster", L"slideLayout");
+        const Pairs masters = findPairs(L"slideLayout", L"slideMaster");
+        std::set<PartKey> withMaster;
+        for (const auto& pair : masters) {
+            withMaster.insert(pair.first);
+            if (layouts.count({pair.second, pair.first}) == 0)
+                report_.add(used.count(pair.first) > 0 ? Code::structure : Code::unlistedLayout,
+                            makePlace(*index_.find(pair.first)),
+                            L"its master " + index_.getName(pair.second) + L" doesn't know it");
+        }
+        for (const auto& pair : layouts)
+            if (withMaster.count(pair.second) > 0 && masters.count({pair.second, pair.first}) == 0)
+                report_.add(Code::structure, makePlace(*index_.find(pair.second)),
+                            index_.getName(pair.first) + L" lists it, and it belongs to another master");
     }
 
     void checkNotes() {
-        std::map<PartKey, unsigned> owners;
-        for (const PartKey& slide : findParts(L"slide")) {
-            const std::vector<PartKey> notes = index_.getTargets(slide, L"notesSlide");
-            if (notes.size() > 1)
-                report_.add(Code::structure, makePlace(*index_.find(slide)),
+        const Pairs notes = findPairs(L"slide", L"notesSlide");
+        std::map<PartKey, unsigned> pages, owners;
+        for (const auto& pair : notes) {
+            if (++pages[pair.first] == 2)
+                report_.add(Code::structure, makePlace(*index_.find(pair.first)),
                             L"it has more than one page of notes");
-            for (const PartKey& page : notes)
-                if (++owners[page] == 2 && index_.find(page))
-                    report_.add(Code::sharedPart, makePlace(*index_.find(page)),
-                                L"two slides share this page of notes");
+            if (++owners[pair.second] == 2 && index_.find(pair.second))
+                report_.add(Code::sharedPart, makePlace(*index_.find(pair.second)),
+                            L"two slides share this page of notes");
         }
-        for (const PartKey& page : findParts(L"notesSlide"))
-            for (const PartKey& slide : index_.getTargets(page, L"slide"))
-                if (!isTarget(slide, L"notesSlide", page))
-                    report_.add(Code::notesBacklink, makePlace(*index_.find(page)),
-                                L"its slide " + index_.getName(slide) + L" doesn't know these notes");
+        for (const auto& pair : findPairs(L"notesSlide", L"slide"))
+            if (notes.count({pair.second, pair.first}) == 0)
+                report_.add(Code::notesBacklink, makePlace(*index_.find(pair.first)),
+                            L"its slide " + index_.getName(pair.second) + L" doesn't know these notes");
     }
 
     void checkThemes() {
