@@ -110,6 +110,7 @@ ElementFacts::ElementFacts(Names& names)
       action_(names.makeKey(kNoNamespace, "action")) {
     for (const WatchRow& row : kWatched)
         watched_.emplace(names.makeKey(row.space, row.name), row.watch);
+    lastWatched_ = static_cast<std::uint32_t>(names.count());
     for (const KindRow& row : kKinds)
         kindRows_.emplace(names.makeKey(row.space, row.name), &row);
 }
@@ -126,9 +127,11 @@ void ElementFacts::begin(const Place& place, const RelationshipKinds* kinds, Rep
 
 void ElementFacts::see(const DOMElement& element, const NodeNames::Scope& scope, bool isActive) {
     const Key key = scope.getKey();
-    const auto found = watched_.find(key);
-    if (found != watched_.end())
-        act(found->second, element, scope, isActive);
+    if (static_cast<std::uint32_t>(key) < lastWatched_) {
+        const auto found = watched_.find(key);
+        if (found != watched_.end())
+            act(found->second, element, scope, isActive);
+    }
     if (!kinds_)
         return;
     for (const AttributeNode& attribute : scope)

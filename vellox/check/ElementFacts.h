@@ -52,6 +52,7 @@ private:
     Names& names_;
     Key id_, spid_, authorId_, relationshipId_, action_;
     std::unordered_map<Key, Watch> watched_;
+    std::uint32_t lastWatched_; // names are numbered as they come, and those of the map came first
     std::unordered_map<Key, const KindRow*> kindRows_; // by element
 
     Place place_;

@@ -5,6 +5,17 @@ namespace vellox::check {
 namespace {
 
 constexpr std::uint32_t kNoPrefix = 0; // the number of the empty one
+constexpr std::size_t kSlots = 512;    // to begin with; a power of two
+
+/// The value of an attribute. Asking the attribute itself costs Xerces more than all else of the walk, and
+/// nearly every one holds a single text.
+const XMLCh* readValue(const xercesc::DOMNode& attribute) {
+    const xercesc::DOMNode* text = attribute.getFirstChild();
+    if (!text)
+        return u"";
+    const bool isAlone = !text->getNextSibling() && text->getNodeType() == xercesc::DOMNode::TEXT_NODE;
+    return isAlone ? text->getNodeValue() : attribute.getNodeValue();
+}
 
 } // namespace
 
@@ -13,7 +24,8 @@ NodeNames::NodeNames(Names& names) : names_(names) {
 }
 
 void NodeNames::reset() {
-    spellings_.clear();
+    slots_.assign(kSlots, Slot());
+    usedSlots_ = 0;
     prefixNumbers_.clear();
     meanings_.clear();
     former_.clear();
@@ -35,23 +47,40 @@ Namespace NodeNames::findPrefix(std::u16string_view prefix) {
     return meanings_[findPrefixNumber(prefix)];
 }
 
-const NodeNames::Spelling& NodeNames::read(const XMLCh* name) {
-    const auto found = spellings_.find(name);
-    if (found != spellings_.end())
-        return found->second;
-    const std::u16string_view text(name);
-    const std::size_t colon = text.find(u':');
-    const std::u16string_view prefix = colon == text.npos ? u"" : text.substr(0, colon);
-    const std::u16string_view local = colon == text.npos ? text : text.substr(colon + 1);
-    Spelling spelling{};
-    if (prefix == u"xmlns" || text == u"xmlns") {
-        spelling.isDeclaration = true;
-        spelling.local = findPrefixNumber(prefix.empty() ? u"" : local);
-    } else {
-        spelling.prefix = findPrefixNumber(prefix);
-        spelling.local = names_.findName(local);
-    }
-    return spellings_.emplace(name, spelling).first->second;
+NodeNames::Slot& NodeNames::findSlot(const XMLCh* name) {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t at = (reinterpret_cast<std::uintptr_t>(name) >> 3) * 0x9E3779B1U & mask;
+    while (slots_[at].name && slots_[at].name != name)
+        at = (at + 1) & mask;
+    return slots_[at];
+}
+
+void NodeNames::grow() {
+    const std::vector<Slot> former = std::move(slots_);
+    slots_.assign(former.size() * 2, Slot());
+    for (const Slot& slot : former)
+        if (slot.name)
+            findSlot(slot.name) = slot;
+}
+
+NodeNames::Spelling NodeNames::read(const XMLCh* name) {
+    Slot& slot = findSlot(name);
+    if (slot.name)
+        return slot.spelling;
+    const Spelling spelling = takeApart(name);
+    slot = {name, spelling};
+    if (++usedSlots_ * 2 > slots_.size())
+        grow();
+    return spelling;
+}
+
+NodeNames::Spelling NodeNames::takeApart(std::u16string_view name) {
+    const std::size_t colon = name.find(u':');
+    const std::u16string_view prefix = colon == name.npos ? u"" : name.substr(0, colon);
+    const std::u16string_view local = colon == name.npos ? name : name.substr(colon + 1);
+    if (prefix == u"xmlns" || name == u"xmlns")
+        return {0, findPrefixNumber(prefix.empty() ? u"" : local), true};
+    return {findPrefixNumber(prefix), names_.findName(local), false};
 }
 
 void NodeNames::declare(std::uint32_t prefix, const XMLCh* uri) {
@@ -69,13 +98,13 @@ NodeNames::Scope::Scope(NodeNames& names, const xercesc::DOMElement& element)
         const XMLSize_t count = nodes.getLength();
         for (XMLSize_t i = 0; i < count; ++i) {
             const xercesc::DOMNode& node = *nodes.item(i);
-            const Spelling& spelling = names.read(node.getNodeName());
+            const Spelling spelling = names.read(node.getNodeName());
             if (spelling.isDeclaration)
-                names.declare(spelling.local, node.getNodeValue());
+                names.declare(spelling.local, readValue(node));
             else
                 names.attributes_.push_back(
                     {Names::makeKey(static_cast<Namespace>(spelling.prefix), spelling.local),
-                     node.getNodeValue()});
+                     readValue(node)});
         }
         // A prefix may be declared behind its use.
         attributeCount_ = names.attributes_.size() - firstAttribute_;
@@ -86,7 +115,7 @@ NodeNames::Scope::Scope(NodeNames& names, const xercesc::DOMElement& element)
             key = Names::makeKey(space, static_cast<std::uint32_t>(key));
         }
     }
-    const Spelling& spelling = names.read(element.getNodeName());
+    const Spelling spelling = names.read(element.getNodeName());
     key_ = Names::makeKey(names.meanings_[spelling.prefix], spelling.local);
 }
 

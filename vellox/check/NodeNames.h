@@ -66,13 +66,23 @@ private:
         bool isDeclaration; // of the prefix whose number stands in "local"
     };
 
-    const Spelling& read(const XMLCh* name);
+    struct Slot {
+        const XMLCh* name = nullptr;
+        Spelling spelling = {};
+    };
+
+    Spelling read(const XMLCh* name);
+    Spelling takeApart(std::u16string_view name);
+    Slot& findSlot(const XMLCh* name);
+    void grow();
     std::uint32_t findPrefixNumber(std::u16string_view prefix);
     void declare(std::uint32_t prefix, const XMLCh* uri);
 
     Names& names_;
-    // A document keeps one copy of each name, so that the address tells the name.
-    std::unordered_map<const XMLCh*, Spelling> spellings_;
+    // A document keeps one copy of each name, so that the address tells the name. This is asked for each
+    // element and attribute, and a plain table with open addresses is what keeps the walk quick.
+    std::vector<Slot> slots_;
+    std::size_t usedSlots_ = 0;
     std::unordered_map<std::u16string, std::uint32_t> prefixNumbers_;
     std::vector<Namespace> meanings_; // by the number of the prefix
     std::vector<std::pair<std::uint32_t, Namespace>> former_;
