@@ -146,8 +146,9 @@ private:
         if (equals != std::string_view::npos)
             return addState(source_.makeKey(name.substr(0, equals)),
                             source_.findType(name.substr(equals + 1)));
-        if (name == "any") {
+        if (name == "any" || name == "anyKnown") {
             model_.takesAny_ = true;
+            model_.takesKnownOnly_ = name == "anyKnown";
             return addState(kAnyKey, kNoType);
         }
         if (name.find("EG_") != std::string_view::npos) {

@@ -51,6 +51,8 @@ public:
     std::vector<Key> getExpected(State state) const;
     bool isEmpty() const { return states_.empty(); }
     bool takesAny() const { return takesAny_; }
+    /// Whether what can't stand alone is refused among elements of any kind.
+    bool takesKnownOnly() const { return takesKnownOnly_; }
 
 private:
     class Builder;
@@ -69,6 +71,7 @@ private:
     std::vector<State> first_;
     bool mayBeEmpty_ = true;
     bool takesAny_ = false;
+    bool takesKnownOnly_ = false;
 };
 
 } // namespace vellox::check

@@ -179,7 +179,7 @@ private:
         if (element.getFirstElementChild())
             add(Code::unknownElement, element,
                 names_.spell(key) + L" holds a value and has an element in it");
-        const XMLCh* text = element.getTextContent();
+        const XMLCh* text = type.isFree() ? nullptr : element.getTextContent();
         if (text && !type.accepts(text))
             add(Code::invalidValue, element,
                 quote(opc::toWideString(text)) + L" in " + names_.spell(key) + L" isn't " + type.describe());
@@ -216,20 +216,21 @@ private:
     }
 
     TypeId findChildType(const DOMElement& child, Key key, Key parentKey, ChildFeed& feed) {
+        const ContentModel& content = feed.getType().content;
         TypeId type = kNoType;
-        switch (feed.take(key, type)) {
-        case ChildFeed::Fault::None:
-            return feed.getType().content.takesAny() ? schema_.findRoot(key) : type;
-        case ChildFeed::Fault::Unknown:
+        ChildFeed::Fault fault = feed.take(key, type);
+        if (fault == ChildFeed::Fault::None && content.takesAny()) {
+            type = schema_.findRoot(key);
+            if (type == kNoType && content.takesKnownOnly() && schema_.knows(getNamespace(key)))
+                fault = ChildFeed::Fault::Unknown;
+        }
+        if (fault == ChildFeed::Fault::Unknown)
             add(Code::unknownElement, child,
                 names_.spell(key) + L" isn't allowed in " + names_.spell(parentKey));
-            return kNoType;
-        case ChildFeed::Fault::Disorder:
+        else if (fault == ChildFeed::Fault::Disorder)
             add(Code::elementOrder, child,
                 names_.spell(key) + L" comes too late in " + names_.spell(parentKey) +
                     L", or once too often");
-            return type;
-        }
         return type;
     }
 

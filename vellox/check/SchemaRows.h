@@ -14,7 +14,8 @@
 /// - CT_ is a type of elements: what stands in it, a semicolon, its attributes. "name=Type" is an element or
 ///   an attribute, and "!" behind an attribute's type says that it must be there.
 /// - Children follow one another; "|" within brackets means one of them. "?", "*", "+", "{2,}" and "{0,3}"
-///   say how often; "any" is an element of any kind; a name alone is an element that has a row of its own.
+///   say how often; "any" is an element of any kind, "anyKnown" one that has a row of its own or is of a
+///   namespace without tables; a name alone is an element that has a row of its own.
 /// - EG_ and AG_ are groups of children and attributes, inserted by name.
 /// - ST_ is a kind of value: a kind from below or another row, with a range of numbers or lengths; a list of
 ///   words; or one of several kinds. "percent" is a whole number and "%", "decimalPercent" may have a

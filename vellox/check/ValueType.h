@@ -23,6 +23,8 @@ public:
     static ValueType parse(std::string_view rule, const Lookup& lookup);
 
     bool accepts(std::u16string_view text) const;
+    /// Whether any text will do.
+    bool isFree() const { return kind_ == Kind::Any && low_ == INT64_MIN && high_ == INT64_MAX; }
     /// Such as "a whole number from 0 to 5".
     std::wstring describe() const;
 

@@ -87,7 +87,7 @@ CT_NonVisualGraphicFrameProperties: graphicFrameLocks=CT_GraphicalObjectFrameLoc
   extLst=CT_OfficeArtExtensionList?
 CT_NonVisualContentPartProperties: cpLocks=CT_ContentPartLocking? extLst=CT_OfficeArtExtensionList? ;
   isComment=boolean
-CT_GraphicalObjectData: any* ; uri=token!
+CT_GraphicalObjectData: anyKnown* ; uri=token!
 CT_GraphicalObject: graphicData=CT_GraphicalObjectData
 graphic = CT_GraphicalObject
 CT_AnimationDgmElement: ; id=s:ST_Guid bldStep=ST_DgmBuildStep
