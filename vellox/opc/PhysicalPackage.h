@@ -61,7 +61,7 @@ private:
     StringOutputStream output_{bytes_};
 };
 
-/// A container. Package alone works with it.
+/// A container. Package works with it, and so does who has to see what Package glosses over.
 class PhysicalPackage {
 public:
     virtual ~PhysicalPackage();
