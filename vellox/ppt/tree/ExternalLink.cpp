@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -28,10 +27,6 @@ ExternalLinkImpl::~ExternalLinkImpl() {
 
 const char* ExternalLinkImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.ExternalLink";
-}
-
-void ExternalLinkImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeExternalLink(*this, parent);
 }
 
 PPTNodeImpl::Child ExternalLinkImpl::makeInterface() {

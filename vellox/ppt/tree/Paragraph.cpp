@@ -5,7 +5,6 @@
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -29,10 +28,6 @@ ParagraphImpl::~ParagraphImpl() {
 
 const char* ParagraphImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Paragraph";
-}
-
-void ParagraphImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeParagraph(*this, parent);
 }
 
 PPTNodeImpl::Child ParagraphImpl::makeInterface() {

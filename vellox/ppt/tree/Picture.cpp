@@ -6,7 +6,6 @@
 #include "vellox/foundation/InfoUtils.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/PictureImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -41,10 +40,6 @@ PictureImpl::~PictureImpl() {
 
 const char* PictureImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Picture";
-}
-
-void PictureImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writePicture(*this, parent);
 }
 
 PPTNodeImpl::Child PictureImpl::makeInterface() {

@@ -3,7 +3,6 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -38,10 +37,6 @@ SlideImpl::~SlideImpl() {
 
 const char* SlideImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Slide";
-}
-
-void SlideImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeSlide(*this, parent);
 }
 
 PPTNodeImpl::Child SlideImpl::makeInterface() {

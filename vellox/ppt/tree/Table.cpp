@@ -6,7 +6,6 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 #include <algorithm>
 
@@ -52,10 +51,6 @@ TableImpl::~TableImpl() {
 
 const char* TableImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Table";
-}
-
-void TableImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTable(*this, parent);
 }
 
 PPTNodeImpl::Child TableImpl::makeInterface() {

@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -22,10 +21,6 @@ TableEntryImpl::~TableEntryImpl() {
 
 const char* TableEntryImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.TableEntry";
-}
-
-void TableEntryImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTableEntry(*this, parent);
 }
 
 PPTNodeImpl::Child TableEntryImpl::makeInterface() {

@@ -4,7 +4,6 @@
 #include "vellox/ppt/tree/TableEntry.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/tree/TableRowImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -24,10 +23,6 @@ TableRowImpl::~TableRowImpl() {
 
 const char* TableRowImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.TableRow";
-}
-
-void TableRowImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTableRow(*this, parent);
 }
 
 PPTNodeImpl::Child TableRowImpl::makeInterface() {

@@ -4,7 +4,6 @@
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -70,10 +69,6 @@ void TextImpl::setContent(const HvContentPtr& content) {
 
 const char* TextImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.Text";
-}
-
-void TextImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeText(*this, parent);
 }
 
 PPTNodeImpl::Child TextImpl::makeInterface() {

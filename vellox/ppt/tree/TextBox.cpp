@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextBoxImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -28,10 +27,6 @@ TextBoxImpl::~TextBoxImpl() {
 
 const char* TextBoxImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.TextBox";
-}
-
-void TextBoxImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTextBox(*this, parent);
 }
 
 PPTNodeImpl::Child TextBoxImpl::makeInterface() {

@@ -4,7 +4,6 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextBoxPlaceholderImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -33,10 +32,6 @@ TextBoxPlaceholderImpl::~TextBoxPlaceholderImpl() {
 
 const char* TextBoxPlaceholderImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.TextBoxPlaceholder";
-}
-
-void TextBoxPlaceholderImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTextBoxPlaceholder(*this, parent);
 }
 
 PPTNodeImpl::Child TextBoxPlaceholderImpl::makeInterface() {
