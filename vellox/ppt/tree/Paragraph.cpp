@@ -18,7 +18,10 @@ ParagraphImpl::ParagraphImpl(const BaseAttribute<unsigned int>& level) : level_(
     announceCreated(*this);
 }
 
-ParagraphImpl::ParagraphImpl(const ParagraphImpl& other) : ElementImpl(other), level_(other.level_) {
+ParagraphImpl::ParagraphImpl(const ParagraphImpl& other)
+    : ElementImpl(other),
+      level_(other.level_),
+      truthValue_(other.truthValue_) {
     announceCreated(*this);
 }
 
@@ -54,6 +57,12 @@ PPTNodeImpl::Child makeParagraph(const HvContentPtr& content) {
     return paragraph;
 }
 
+PPTNodeImpl::Child makeParagraphOfTruth(bool value) {
+    const PPTNodeImpl::Child paragraph = makeParagraph();
+    implOf<ParagraphImpl>(*paragraph)->setTruthValue(value);
+    return paragraph;
+}
+
 PPTNodeImpl::Child getParagraphObject(const HvContentPtr& content) {
     const auto object = ObjectContent::getValue(content);
     const auto handle = object ? object->getProxy() : boost::shared_ptr<PPTObject>();
@@ -75,6 +84,7 @@ PPTNodeImpl::Child contentToParagraph(const HvContentPtr& content) {
             return paragraph;
         return makeParagraph(content);
     case HvContent::Boolean: // a run can show one, a list item doesn't
+        return makeParagraphOfTruth(BooleanContent::getValue(content));
     case HvContent::List:
     case HvContent::Table:
     case HvContent::Empty:
@@ -94,6 +104,9 @@ Paragraph::Paragraph(const std::wstring& text, unsigned int level) : Paragraph(l
     append(text);
 }
 Paragraph::Paragraph(double number) : Paragraph() {
+    append(Text(number));
+}
+Paragraph::Paragraph(int number) : Paragraph() {
     append(Text(number));
 }
 Paragraph::Paragraph(double number, unsigned int level) : Paragraph(level) {

@@ -35,7 +35,7 @@ public:
     Paragraph(const std::wstring& text, unsigned int level);
     /// @{ With a run of a number, see Text.
     explicit Paragraph(double number);
-    explicit Paragraph(int number) : Paragraph(static_cast<double>(number)) {}
+    explicit Paragraph(int number);
     Paragraph(double number, unsigned int level);
     /// @}
     /// @{ With this very run, not a copy.

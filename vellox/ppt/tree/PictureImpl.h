@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_TREE_PICTUREIMPL_H
 #define VELLOX_PPT_TREE_PICTUREIMPL_H
 
+#include "vellox/foundation/InfoUtils.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
@@ -28,12 +29,16 @@ public:
 
     const std::wstring& getPath() const { return path_; }
     void setPath(const std::wstring& path);
+    /// The size of the file when the path was set, in pixels, whatever width and height are now; 0 by 0 without
+    /// a file.
+    const ImageInfo& getFileSize() const { return fileSize_; }
     Picture replace(const Picture& picture);
     /// @throws pictureCannotBeReplaced if this picture stands nowhere
     virtual void checkReplaceable() const;
 
 private:
     std::wstring path_;
+    ImageInfo fileSize_;
 };
 
 } // namespace vellox::ppt

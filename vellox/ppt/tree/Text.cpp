@@ -5,6 +5,8 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextImpl.h"
 
+#include <limits>
+
 namespace vellox::ppt {
 
 // TextImpl
@@ -17,8 +19,8 @@ TextImpl::TextImpl(const std::wstring& text) : textContent_(text) {
     announceCreated(*this);
 }
 
-TextImpl::TextImpl(double number) {
-    setNumContent(number);
+TextImpl::TextImpl(const Given& given) {
+    setGiven(given);
     announceCreated(*this);
 }
 
@@ -30,8 +32,7 @@ TextImpl::TextImpl(const HvContentPtr& content) {
 TextImpl::TextImpl(const TextImpl& other)
     : ElementImpl(other),
       textContent_(other.textContent_),
-      numContent_(other.numContent_),
-      isNum_(other.isNum_) {
+      given_(other.given_) {
     announceCreated(*this);
 }
 
@@ -44,13 +45,13 @@ void TextImpl::setContent(const HvContentPtr& content) {
         return;
     switch (content->getContentType()) {
     case HvContent::Boolean:
-        setNumContent(BooleanContent::getValue(content) ? 1 : 0);
+        setGiven(BooleanContent::getValue(content));
         break;
     case HvContent::Integer:
-        setNumContent(IntegerContent::getValue(content));
+        setGiven(static_cast<long long>(IntegerContent::getValue(content)));
         break;
     case HvContent::Double:
-        setNumContent(DoubleContent::getValue(content));
+        setGiven(DoubleContent::getValue(content));
         break;
     case HvContent::String:
         setTextContent(StringContent::getValue(content));
@@ -85,17 +86,27 @@ NodeType TextImpl::getNodeType() const {
 
 void TextImpl::setTextContent(const std::wstring& text) {
     textContent_ = text;
-    isNum_ = false;
+    given_ = {};
 }
+
+namespace {
+
+struct ToDouble {
+    const std::wstring& text;
+
+    double operator()(std::monostate) const { return str2double(text); }
+    template <class Number> double operator()(Number number) const { return static_cast<double>(number); }
+};
+
+} // namespace
 
 double TextImpl::getNumContent() const {
-    return isNum_ ? numContent_ : str2double(textContent_);
+    return std::visit(ToDouble{textContent_}, given_);
 }
 
-void TextImpl::setNumContent(double number) {
-    numContent_ = number;
-    textContent_ = num2str(number);
-    isNum_ = true;
+void TextImpl::setGiven(const Given& given) {
+    given_ = given;
+    textContent_ = isNumContent() ? num2str(getNumContent()) : std::wstring();
 }
 
 // Text
@@ -104,6 +115,19 @@ Text::Text() : Text(new TextImpl) {}
 Text::Text(const std::wstring& text) : Text(new TextImpl(text)) {}
 Text::Text(double number) : Text(new TextImpl(number)) {}
 Text::Text(TextImpl* impl) : Element(impl) {}
+
+TextImpl* Text::makeImpl(bool value) {
+    return new TextImpl(value);
+}
+
+TextImpl* Text::makeImpl(long long number) {
+    return new TextImpl(number);
+}
+
+TextImpl* Text::makeImpl(unsigned long long number) {
+    const bool fits = number <= static_cast<unsigned long long>(std::numeric_limits<long long>::max());
+    return fits ? makeImpl(static_cast<long long>(number)) : new TextImpl(static_cast<double>(number));
+}
 
 TextImpl* Text::pimpl() {
     return implOf<TextImpl>(*this);
@@ -126,7 +150,7 @@ double Text::getNumContent() const {
 }
 
 void Text::setNumContent(double number) {
-    pimpl()->setNumContent(number);
+    pimpl()->setGiven(number);
 }
 
 bool Text::isNumContent() const {
