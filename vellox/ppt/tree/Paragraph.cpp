@@ -19,7 +19,7 @@ ParagraphImpl::ParagraphImpl(const BaseAttribute<unsigned int>& level) : level_(
 }
 
 ParagraphImpl::ParagraphImpl(const ParagraphImpl& other)
-    : ElementImpl(other),
+    : NodeOf(other),
       level_(other.level_),
       truthValue_(other.truthValue_) {
     announceCreated(*this);
@@ -27,22 +27,6 @@ ParagraphImpl::ParagraphImpl(const ParagraphImpl& other)
 
 ParagraphImpl::~ParagraphImpl() {
     announceDestroyed(*this);
-}
-
-const char* ParagraphImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Paragraph";
-}
-
-PPTNodeImpl::Child ParagraphImpl::makeInterface() {
-    return Child(new Paragraph(this));
-}
-
-PPTNodeImpl::Child ParagraphImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ParagraphImpl::getNodeType() const {
-    return NodeType::Paragraph;
 }
 
 // Content to paragraphs

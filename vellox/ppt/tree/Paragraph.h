@@ -63,7 +63,7 @@ public:
     static boost::shared_ptr<Paragraph> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class ParagraphImpl;
+    friend struct ObjectAccess;
     explicit Paragraph(ParagraphImpl* impl);
     ParagraphImpl* pimpl();
     const ParagraphImpl* pimpl() const;

@@ -9,21 +9,19 @@
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/Paragraph.h"
 
 namespace vellox::ppt {
 
-class ParagraphImpl : public ElementImpl {
+class ParagraphImpl : public NodeOf<NodeType::Paragraph, ParagraphImpl, Paragraph, ElementImpl> {
 public:
     ParagraphImpl();
     explicit ParagraphImpl(const BaseAttribute<unsigned int>& level);
     ParagraphImpl(const ParagraphImpl& other);
     ~ParagraphImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     const BaseAttribute<unsigned int>& getLevel() const { return level_; }
     void setLevel(unsigned int level) { level_.set(level); }

@@ -14,7 +14,7 @@ PictureImpl::PictureImpl() {
     announceCreated(*this);
 }
 
-PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
 
@@ -31,7 +31,7 @@ void takeExtent(Extent& extent, const Extent& given) {
 } // namespace
 
 PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture)
-    : ShapeImpl(former, takeName),
+    : NodeOf(former, takeName),
       path_(picture.path_),
       fileSize_(picture.fileSize_) {
     takeExtent(geometry().cx, picture.getGeometry().cx);
@@ -40,7 +40,7 @@ PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const Pictu
 }
 
 PictureImpl::PictureImpl(const PictureImpl& other)
-    : ShapeImpl(other),
+    : NodeOf(other),
       path_(other.path_),
       fileSize_(other.fileSize_) {
     announceCreated(*this);
@@ -48,22 +48,6 @@ PictureImpl::PictureImpl(const PictureImpl& other)
 
 PictureImpl::~PictureImpl() {
     announceDestroyed(*this);
-}
-
-const char* PictureImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Picture";
-}
-
-PPTNodeImpl::Child PictureImpl::makeInterface() {
-    return Child(new Picture(this));
-}
-
-PPTNodeImpl::Child PictureImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType PictureImpl::getNodeType() const {
-    return NodeType::Picture;
 }
 
 void PictureImpl::setPath(const std::wstring& path) {

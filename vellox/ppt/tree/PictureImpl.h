@@ -5,12 +5,13 @@
 #define VELLOX_PPT_TREE_PICTUREIMPL_H
 
 #include "vellox/foundation/InfoUtils.h"
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
 namespace vellox::ppt {
 
-class PictureImpl : public ShapeImpl {
+class PictureImpl : public NodeOf<NodeType::Picture, PictureImpl, Picture, ShapeImpl> {
 public:
     using ShapeImpl::replace;
 
@@ -21,11 +22,7 @@ public:
     PictureImpl(const PictureImpl& other);
     ~PictureImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     const std::wstring& getPath() const { return path_; }
     void setPath(const std::wstring& path);

@@ -11,28 +11,12 @@ TableEntryImpl::TableEntryImpl() {
     announceCreated(*this);
 }
 
-TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : ElementImpl(other) {
+TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TableEntryImpl::~TableEntryImpl() {
     announceDestroyed(*this);
-}
-
-const char* TableEntryImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TableEntry";
-}
-
-PPTNodeImpl::Child TableEntryImpl::makeInterface() {
-    return Child(new TableEntry(this));
-}
-
-PPTNodeImpl::Child TableEntryImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TableEntryImpl::getNodeType() const {
-    return NodeType::TableEntry;
 }
 
 // TableEntry

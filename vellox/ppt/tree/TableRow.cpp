@@ -13,28 +13,12 @@ TableRowImpl::TableRowImpl() {
     announceCreated(*this);
 }
 
-TableRowImpl::TableRowImpl(const TableRowImpl& other) : ElementImpl(other) {
+TableRowImpl::TableRowImpl(const TableRowImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TableRowImpl::~TableRowImpl() {
     announceDestroyed(*this);
-}
-
-const char* TableRowImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TableRow";
-}
-
-PPTNodeImpl::Child TableRowImpl::makeInterface() {
-    return Child(new TableRow(this));
-}
-
-PPTNodeImpl::Child TableRowImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TableRowImpl::getNodeType() const {
-    return NodeType::TableRow;
 }
 
 void TableRowImpl::append(const Child& entry) {

@@ -30,7 +30,7 @@ TextImpl::TextImpl(const HvContentPtr& content) {
 }
 
 TextImpl::TextImpl(const TextImpl& other)
-    : ElementImpl(other),
+    : NodeOf(other),
       textContent_(other.textContent_),
       given_(other.given_) {
     announceCreated(*this);
@@ -66,22 +66,6 @@ void TextImpl::setContent(const HvContentPtr& content) {
     case HvContent::Empty:
         break;
     }
-}
-
-const char* TextImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Text";
-}
-
-PPTNodeImpl::Child TextImpl::makeInterface() {
-    return Child(new Text(this));
-}
-
-PPTNodeImpl::Child TextImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TextImpl::getNodeType() const {
-    return NodeType::Text;
 }
 
 void TextImpl::setTextContent(const std::wstring& text) {

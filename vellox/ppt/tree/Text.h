@@ -46,7 +46,7 @@ public:
     static boost::shared_ptr<Text> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TextImpl;
+    friend struct ObjectAccess;
     explicit Text(TextImpl* impl);
     TextImpl* pimpl();
     const TextImpl* pimpl() const;

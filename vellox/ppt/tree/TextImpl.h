@@ -9,10 +9,12 @@
 
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/Text.h"
 
 namespace vellox::ppt {
 
-class TextImpl : public ElementImpl {
+class TextImpl : public NodeOf<NodeType::Text, TextImpl, Text, ElementImpl> {
 public:
     /// What a run was given beside its text: nothing more, a number, a whole number, a truth value. A node may stand
     /// in no presentation yet, so how such a value is to look is for its writer to say.
@@ -27,11 +29,7 @@ public:
     TextImpl(const TextImpl& other);
     ~TextImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     const std::wstring& getTextContent() const { return textContent_; }
     void setTextContent(const std::wstring& text);
