@@ -4,6 +4,7 @@
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/host/binding/FormatRows.h"
 #include "vellox/host/values/HvViews.h"
+#include "vellox/ppt/tree/TextImpl.h"
 
 namespace vellox::ppt::hostbind {
 
@@ -35,7 +36,7 @@ void setContent(Text& text, const hvArray& value) {
     case HvContent::String:
         return text.setTextContent(StringContent::getValue(content));
     case HvContent::Boolean:
-        return text.setNumContent(BooleanContent::getValue(content) ? 1 : 0);
+        return implOf<TextImpl>(text)->setGiven(BooleanContent::getValue(content));
     case HvContent::Integer:
     case HvContent::Double:
         return text.setNumContent(value.getDouble());
