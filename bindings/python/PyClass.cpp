@@ -49,8 +49,8 @@ void deallocate(PyObject* self) {
 
 /// Whether objects of a class are made of a number that they show.
 bool takesNumber(const BoundClass& bound) {
-    const auto isNumber = [](const SignatureWord& word) {
-        return word.getKind() == SignatureWord::Kind::Double;
+    const auto isNumber = [](const Parameter& parameter) {
+        return parameter.word.getKind() == SignatureWord::Kind::Double;
     };
     return std::any_of(bound.constructors.begin(), bound.constructors.end(),
                        [&](const BoundConstructor& each) {

@@ -100,28 +100,6 @@ constexpr char kListenerMethods[] =
     def removeListener(self, listener: Callable[[MessageEventData], object], /) -> None: ...
 )";
 
-void replaceAll(std::string& text, const std::string& word, const std::string& other) {
-    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; at += other.size())
-        text.replace(at, word.size(), other);
-}
-
-/// What arguments may be, where Python knows more kinds than the table, or fewer.
-std::string refineParameters(std::string parameters) {
-    constexpr const char* kWords[][2] = {
-        {": str", ": _Text"},
-        {"name: Any", "name: _Text"},
-        {"master: Any", "master: _Text"},
-        // What a shape of a name is given may be an object, what a text box is given itself is a list.
-        {"_Text, content: Any", "_Text, content: _Content"},
-        {": Any", ": _Items"},
-        {": int", ": SupportsIndex"},
-        {": float", ": _Number"},
-    };
-    for (const auto& [word, refined] : kWords)
-        replaceAll(parameters, word, refined);
-    return parameters;
-}
-
 /// The second entry of the row that begins with a key; empty if there is none.
 template <std::size_t kCount>
 std::string findRow(const char* const (&rows)[kCount][2], const std::string& key) {
@@ -156,13 +134,34 @@ std::string getGivenType(const SignatureWord& word) {
     }
 }
 
-std::string formatFunction(const std::string& name, const Signature& signature, const char* parameters,
-                           const std::string& result, bool isStatic) {
-    const std::string list = refineParameters(formatParameters(signature, parameters));
-    const std::string self = isStatic ? "" : "self";
-    const std::string separator = self.empty() || list.empty() ? "" : ", ";
-    return "    def " + name + "(" + self + separator + list + (list.empty() ? "" : ", /") + ") -> " +
-           result + ": ...\n";
+/// What an argument may be, where Python knows more kinds than the table, or fewer.
+std::string getArgumentType(const Parameter& parameter, bool isFirst) {
+    switch (parameter.word.getKind()) {
+    case SignatureWord::Kind::Char:
+        return "_Text";
+    case SignatureWord::Kind::Uint32:
+        return "SupportsIndex";
+    case SignatureWord::Kind::Double:
+        return "_Number";
+    case SignatureWord::Kind::Any:
+        break;
+    default:
+        return getTypeName(parameter.word);
+    }
+    const std::string name = parameter.name;
+    if (name == "name" || name == "master")
+        return "_Text";
+    // What a shape of a name is given may be an object, what a text box is given itself is a list.
+    return isFirst ? "_Items" : "_Content";
+}
+
+std::string formatFunction(const std::string& name, const Signature& signature, const std::string& result,
+                           bool isStatic) {
+    std::string list = isStatic ? "" : "self";
+    for (const Parameter& parameter : signature)
+        list += (list.empty() ? "" : ", ") + std::string(parameter.name) + ": " +
+                getArgumentType(parameter, &parameter == &signature.front());
+    return "    def " + name + "(" + list + (signature.empty() ? "" : ", /") + ") -> " + result + ": ...\n";
 }
 
 /// Of abstract classes the library alone makes objects; nothing can be passed to what wants a Never.
@@ -174,7 +173,7 @@ void writeConstructors(const BoundClass& bound, std::ostream& stubs) {
     for (const BoundConstructor& constructor : bound.constructors)
         if (isForUsers)
             stubs << (bound.constructors.size() > 1 ? "    @overload\n" : "")
-                  << formatFunction("__init__", constructor.signature, constructor.parameters, "None", false);
+                  << formatFunction("__init__", constructor.signature, "None", false);
 }
 
 void writeReadOnly(const char* name, const std::string& type, std::ostream& stubs) {
@@ -201,7 +200,7 @@ bool takesAll(const SignatureWord& wide, const SignatureWord& narrow) {
 
 bool takesAll(const Signature& wide, const Signature& narrow) {
     return std::equal(wide.begin(), wide.end(), narrow.begin(), narrow.end(),
-                      [](const SignatureWord& w, const SignatureWord& n) { return takesAll(w, n); });
+                      [](const Parameter& w, const Parameter& n) { return takesAll(w.word, n.word); });
 }
 
 /// Type checkers take the first overload that fits: one that another would hide comes ahead of that.
@@ -223,8 +222,8 @@ void writeMethods(const BoundClass& bound, std::ostream& stubs) {
         for (const BoundMethod* overload : overloads)
             stubs << (overload->isStatic ? "    @staticmethod\n" : "")
                   << (overloads.size() > 1 ? "    @overload\n" : "")
-                  << formatFunction(overload->name, overload->signature, overload->parameters,
-                                    getResult(bound, *overload), overload->isStatic);
+                  << formatFunction(overload->name, overload->signature, getResult(bound, *overload),
+                                    overload->isStatic);
     }
 }
 
