@@ -1,6 +1,8 @@
 // Writes the stubs of vellox.ppt for type checkers, from the table that the module itself is made from.
 //
-//     vellox_python_stubs ppt.pyi
+//     vellox_python_stubs _conveniences.py ppt.pyi
+//
+// _conveniences.py is the layer in Python over the classes of the table, and typed there.
 
 #include "bindings/python/PyTerms.h"
 
@@ -20,8 +22,9 @@ constexpr char kHead[] = R"(# Written from the class table of the library.
 import datetime
 import os
 from collections.abc import Callable, Sequence
-from types import TracebackType
-from typing import Any, Generic, Literal, Never, Protocol, Self, SupportsFloat, SupportsIndex, TypeVar, overload
+from typing import Any, Generic, Never, Protocol, SupportsFloat, SupportsIndex, TypeVar, overload
+
+from . import _conveniences
 
 class _Array(Protocol):
     def __array__(self) -> Any: ...
@@ -68,10 +71,6 @@ class StateError(Error, RuntimeError): ...
 class PresentationWarning(UserWarning): ...
 )";
 
-constexpr char kObjectMethods[] = R"(    def __copy__(self) -> Self: ...
-    def __deepcopy__(self, memo: Any, /) -> Self: ...
-)";
-
 /// What stands in a node of a class.
 constexpr const char* kChildren[][2] = {
     {"Node", "Sequence[Node]"},         {"Presentation", "list[Slide]"},   {"Slide", "list[Shape]"},
@@ -87,13 +86,6 @@ constexpr const char* kResults[][2] = {
     {"Presentation.getLayoutNames", "list[str]"},
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
 };
-
-constexpr char kPresentationMethods[] = R"(    def __enter__(self) -> Presentation: ...
-    def __exit__(
-        self, type: type[BaseException] | None = ..., value: BaseException | None = ...,
-        traceback: TracebackType | None = ..., /
-    ) -> Literal[False]: ...
-)";
 
 constexpr char kListenerMethods[] =
     R"(    def addListener(self, listener: Callable[[MessageEventData], object], /) -> None: ...
@@ -227,10 +219,22 @@ void writeMethods(const BoundClass& bound, std::ostream& stubs) {
     }
 }
 
-void writeClass(const BoundClass& bound, std::ostream& stubs) {
-    const BoundClass* superclass = bound.getSuperclass();
-    stubs << "\nclass " << bound.name << (superclass ? "(" + std::string(superclass->name) + ")" : "")
-          << ":\n";
+/// The classes that a source of Python defines.
+std::set<std::string> readClassNames(std::istream& source) {
+    const std::string start = "class ";
+    std::set<std::string> names;
+    for (std::string line; std::getline(source, line);)
+        if (line.compare(0, start.size(), start) == 0)
+            names.insert(line.substr(start.size(), line.find_first_of("(:") - start.size()));
+    return names;
+}
+
+/// @param conveniences the classes to which the layer in Python adds something
+void writeClass(const BoundClass& bound, const std::set<std::string>& conveniences, std::ostream& stubs) {
+    std::string bases = bound.getSuperclass() ? bound.getSuperclass()->name : "";
+    if (conveniences.count(bound.name) > 0)
+        bases += (bases.empty() ? "" : ", ") + std::string("_conveniences.") + bound.name;
+    stubs << "\nclass " << bound.name << (bases.empty() ? "" : "(" + bases + ")") << ":\n";
     stubs << "    \"\"\"" << bound.doc << "\"\"\"\n";
     writeConstructors(bound, stubs);
     for (const BoundProperty& property : bound.properties)
@@ -239,10 +243,6 @@ void writeClass(const BoundClass& bound, std::ostream& stubs) {
     if (!children.empty())
         writeReadOnly("Children", children, stubs);
     writeMethods(bound, stubs);
-    if (std::strcmp(bound.name, "Object") == 0)
-        stubs << kObjectMethods;
-    if (std::strcmp(bound.name, "Presentation") == 0)
-        stubs << kPresentationMethods;
     if (!bound.events.empty())
         stubs << kListenerMethods;
 }
@@ -250,14 +250,16 @@ void writeClass(const BoundClass& bound, std::ostream& stubs) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "vellox_python_stubs <ppt.pyi>\n";
+    if (argc != 3) {
+        std::cerr << "vellox_python_stubs <_conveniences.py> <ppt.pyi>\n";
         return 2;
     }
-    std::ofstream stubs(argv[1]);
+    std::ifstream layer(argv[1]);
+    const std::set<std::string> conveniences = readClassNames(layer);
+    std::ofstream stubs(argv[2]);
     stubs << kHead;
     for (const BoundClass& bound : getBoundClasses())
-        writeClass(bound, stubs);
+        writeClass(bound, conveniences, stubs);
     stubs.close();
-    return stubs ? 0 : 1;
+    return stubs && layer.eof() ? 0 : 1;
 }
