@@ -11,7 +11,8 @@ using namespace xercesc;
 
 TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(entry, writer, parentNode),
-      entry_(entry) {}
+      entry_(entry),
+      tcPr_(xml::kATcPr) {}
 
 void TableEntryWriter::write() {
     applyFormats(entry_, inheritedFormatTypes());
@@ -21,8 +22,8 @@ void TableEntryWriter::write() {
     for (const auto& child : entry_.getChildren())
         child->acceptWriter(&getWriter(), body);
     ensureParagraph(cell);
-    if (tcPr_)
-        cell->appendChild(tcPr_);
+    if (!tcPr_.isEmpty())
+        tcPr_.appendTo(cell);
     getParentNode()->appendChild(cell);
     getWriter().nextEntry();
 }
@@ -36,22 +37,16 @@ const ElementWriter::FormatTypes& TableEntryWriter::inheritedFormatTypes() const
     return types;
 }
 
-DOMElement* TableEntryWriter::getTcPr() {
-    if (!tcPr_)
-        tcPr_ = createElement(xml::kATcPr);
-    return tcPr_;
-}
-
 void TableEntryWriter::setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    getTcPr()->setAttribute(name, mapping.xmlValue);
+    tcPr_.setAttribute(name, mapping.xmlValue);
 }
 
 void TableEntryWriter::setTcPrFlag(const XMLCh* name, bool value) {
-    getTcPr()->setAttribute(name, value ? xml::kTrue : xml::kFalse);
+    tcPr_.setAttribute(name, value ? xml::kTrue : xml::kFalse);
 }
 
-DOMElement* TableEntryWriter::addTcPrChild(const XMLCh* name) {
-    return appendElement(getTcPr(), name);
+PropertyElement& TableEntryWriter::addTcPrChild(const XMLCh* name) {
+    return tcPr_.addChild(name);
 }
 
 } // namespace vellox::ppt

@@ -6,6 +6,7 @@
 
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 
 namespace vellox::ppt {
 
@@ -19,16 +20,16 @@ public:
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
-    /// The cell's properties, made on first use; they are attached when the cell is written.
-    xercesc::DOMElement* getTcPr();
+    /// The cell's properties. They are written if anything is put in.
+    PropertyElement& getTcPr() { return tcPr_; }
     void setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping);
     void setTcPrFlag(const XMLCh* name, bool value);
     /// Appends a new element to the cell's properties.
-    xercesc::DOMElement* addTcPrChild(const XMLCh* name);
+    PropertyElement& addTcPrChild(const XMLCh* name);
 
 private:
     const TableEntryImpl& entry_;
-    xercesc::DOMElement* tcPr_ = nullptr;
+    PropertyElement tcPr_;
 };
 
 } // namespace vellox::ppt
