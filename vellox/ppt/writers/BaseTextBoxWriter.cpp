@@ -30,15 +30,14 @@ void BaseTextBoxWriter::write() {
         return;
     DOMElement* shape = findOrMakeShape();
     DOMElement* txBody = findChild(shape, xml::kTxBody);
-    applyFormats(textBox_, inheritedFormatTypes());
+    applyFormats();
     writeSpPr(shape);
     if (!txBody)
         return;
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
     writeBodyPr(txBody);
-    for (const auto& child : textBox_.getChildren())
-        child->acceptWriter(&getWriter(), txBody);
+    writeChildren(txBody);
     ensureParagraph(shape);
 }
 

@@ -24,15 +24,14 @@ ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writ
       pPr_(xml::kAPPr) {}
 
 void ParagraphWriter::write() {
-    applyFormats(paragraph_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* element = createElement(xml::kAP);
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
         pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
     if (!pPr_.isEmpty())
         pPr_.appendTo(element);
-    for (const auto& child : paragraph_.getChildren())
-        child->acceptWriter(&getWriter(), element);
+    writeChildren(element);
     getParentNode()->appendChild(element);
 }
 

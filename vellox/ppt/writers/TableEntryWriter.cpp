@@ -3,6 +3,7 @@
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -11,21 +12,19 @@ using namespace xercesc;
 
 TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(entry, writer, parentNode),
-      entry_(entry),
+      table_(writer.getFrame().table),
       tcPr_(xml::kATcPr) {}
 
 void TableEntryWriter::write() {
-    applyFormats(entry_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* cell = createElement(xml::kATc);
     DOMElement* body = appendElement(cell, xml::kATxBody);
     appendElement(body, xml::kABodyPr);
-    for (const auto& child : entry_.getChildren())
-        child->acceptWriter(&getWriter(), body);
+    writeChildren(body);
     ensureParagraph(cell);
     if (!tcPr_.isEmpty())
         tcPr_.appendTo(cell);
     getParentNode()->appendChild(cell);
-    getWriter().nextEntry();
 }
 
 void TableEntryWriter::applyFormat(const Format& format) {
@@ -47,6 +46,11 @@ void TableEntryWriter::setTcPrFlag(const XMLCh* name, bool value) {
 
 PropertyElement& TableEntryWriter::addTcPrChild(const XMLCh* name) {
     return tcPr_.addChild(name);
+}
+
+void TableEntryWriter::setColumnWidth(int widthEmu) {
+    if (table_)
+        table_->setColumnWidth(widthEmu);
 }
 
 } // namespace vellox::ppt

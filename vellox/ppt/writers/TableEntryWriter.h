@@ -11,6 +11,7 @@
 namespace vellox::ppt {
 
 class TableEntryImpl;
+struct TableContext;
 
 class TableEntryWriter : public ElementWriter {
 public:
@@ -26,9 +27,11 @@ public:
     void setTcPrFlag(const XMLCh* name, bool value);
     /// Appends a new element to the cell's properties.
     PropertyElement& addTcPrChild(const XMLCh* name);
+    /// Widens the column that the cell stands in.
+    void setColumnWidth(int widthEmu);
 
 private:
-    const TableEntryImpl& entry_;
+    TableContext* table_;
     PropertyElement tcPr_;
 };
 

@@ -15,7 +15,7 @@ TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentN
       rPr_(xml::kARPr) {}
 
 void TextWriter::write() {
-    applyFormats(text_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* run = createElement(xml::kAR);
     if (!rPr_.isEmpty())
         rPr_.appendTo(run);
