@@ -56,9 +56,9 @@ BENCHMARK(tables)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
 void pictures(benchmark::State& state) {
     const auto slides = static_cast<unsigned>(state.range(0));
     const std::wstring image = inTempFolder(L"vellox-bench.png");
-    writePng(image, 300000);
+    writePng(image, 300000, 1);
     for (auto _ : state)
-        makePictureDeck(getOutput(), slides, image);
+        makePictureDeck(getOutput(), slides, {image});
     state.SetBytesProcessed(state.iterations() * slides * 300000);
     std::filesystem::remove(toUtf8(image));
     removeOutput();
@@ -92,7 +92,7 @@ BENCHMARK(openMasterShapes)->Arg(400)->Arg(4000)->Unit(benchmark::kMillisecond);
 // What the pictures' bytes cost by themselves.
 void copyOfPictures(benchmark::State& state) {
     const std::wstring image = inTempFolder(L"vellox-bench.png");
-    writePng(image, 300000);
+    writePng(image, 300000, 1);
     for (auto _ : state)
         for (int i = 0; i < 200; ++i)
             std::filesystem::copy_file(toUtf8(image), toUtf8(getOutput()),

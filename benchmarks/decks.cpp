@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <vector>
 
 namespace vellox::bench {
 
@@ -20,16 +19,30 @@ std::wstring say(const wchar_t* text, unsigned number) {
     return text + std::to_wstring(number);
 }
 
+Slide addTextSlide(Presentation& deck, unsigned number) {
+    Slide slide = deck.add(L"Title and Content");
+    slide.replace(L"Title", say(L"Results of run ", number));
+    for (unsigned bullet = 0; bullet < 5; ++bullet)
+        slide.add(L"Content", say(L"The value of this quantity was measured as ", number * bullet));
+    return slide;
+}
+
+TableEntry makeCell(unsigned number, bool isHeader) {
+    Text run(say(L"cell ", number));
+    run.setFontSize(L"10pt");
+    if (isHeader)
+        run.setBold(true);
+    Paragraph paragraph;
+    paragraph.append(run);
+    return TableEntry(paragraph);
+}
+
 } // namespace
 
 void makeTextDeck(const std::wstring& output, unsigned slides) {
     Presentation deck(output);
-    for (unsigned i = 0; i < slides; ++i) {
-        Slide slide = deck.add(L"Title and Content");
-        slide.replace(L"Title", say(L"Results of run ", i));
-        for (unsigned bullet = 0; bullet < 5; ++bullet)
-            slide.add(L"Content", say(L"The value of this quantity was measured as ", i * bullet));
-    }
+    for (unsigned i = 0; i < slides; ++i)
+        addTextSlide(deck, i);
     deck.close();
 }
 
@@ -60,7 +73,7 @@ void makeTableDeck(const std::wstring& output, unsigned slides) {
         for (unsigned r = 0; r < 20; ++r) {
             TableRow row;
             for (unsigned c = 0; c < 8; ++c)
-                row.append(TableEntry(say(L"cell ", r * c)));
+                row.append(makeCell(r * c, r == 0));
             table.append(row);
         }
         slide.add(table);
@@ -68,10 +81,10 @@ void makeTableDeck(const std::wstring& output, unsigned slides) {
     deck.close();
 }
 
-void makePictureDeck(const std::wstring& output, unsigned slides, const std::wstring& image) {
+void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images) {
     Presentation deck(output);
     for (unsigned i = 0; i < slides; ++i)
-        deck.add(L"Title Only").add(Picture(image));
+        deck.add(L"Title Only").add(Picture(images[i % images.size()]));
     deck.close();
 }
 
@@ -104,13 +117,21 @@ void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
     zip_close(archive);
 }
 
-void writePng(const std::wstring& path, unsigned bytes) {
+void makeSmallDeck(const std::wstring& output, const std::wstring& image) {
+    Presentation deck(output);
+    for (unsigned i = 0; i < 4; ++i)
+        addTextSlide(deck, i);
+    addTextSlide(deck, 4).add(Picture(image));
+    deck.close();
+}
+
+void writePng(const std::wstring& path, unsigned bytes, unsigned seed) {
     // Signature and header of a picture of 640 by 480, then noise: what is in it plays no role here.
     static const unsigned char kHead[] = {0x89, 'P',  'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A, 0,    0, 0,
                                           13,   'I',  'H', 'D', 'R',  0,    0,    2,    0x80, 0, 0,
                                           1,    0xE0, 8,   2,   0,    0,    0,    0,    0,    0, 0};
     std::vector<unsigned char> content(kHead, kHead + sizeof kHead);
-    std::mt19937 noise(1);
+    std::mt19937 noise(seed);
     while (content.size() < bytes)
         content.push_back(static_cast<unsigned char>(noise()));
     std::ofstream(toUtf8(path), std::ios::binary)

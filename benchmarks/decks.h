@@ -5,6 +5,7 @@
 #define VELLOX_BENCHMARKS_DECKS_H
 
 #include <string>
+#include <vector>
 
 namespace vellox::bench {
 
@@ -12,18 +13,20 @@ namespace vellox::bench {
 void makeTextDeck(const std::wstring& output, unsigned slides);
 /// One paragraph of runs on each slide, each run with five formats that it inherits.
 void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide);
-/// A table of 20 rows and 8 columns on each slide.
+/// A table of 20 rows and 8 columns on each slide, with a size on each run and a bold first row.
 void makeTableDeck(const std::wstring& output, unsigned slides);
-/// A picture on each slide.
-void makePictureDeck(const std::wstring& output, unsigned slides, const std::wstring& image);
+/// A picture on each slide: one image after the other, and again from the first.
+void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images);
+/// Five slides as makeTextDeck() makes them, and a picture on the last.
+void makeSmallDeck(const std::wstring& output, const std::wstring& image);
 
 /// Opens a deck as template, as a presentation does that adds nothing.
 void openDeck(const std::wstring& output, const std::wstring& templatePath);
 /// Writes the default template with that many small vector shapes on its master.
 void writeHeavyMaster(const std::wstring& path, unsigned shapes);
 
-/// Writes a PNG of about that many bytes, which no compression makes smaller.
-void writePng(const std::wstring& path, unsigned bytes);
+/// Writes a PNG of that many bytes, which no compression makes smaller; another one for each seed.
+void writePng(const std::wstring& path, unsigned bytes, unsigned seed);
 
 } // namespace vellox::bench
 

@@ -1,7 +1,10 @@
-// Makes one deck, to be measured from outside:
+// Makes decks, to be measured from outside:
 //
-//     make_deck text|styled|table|picture <slides> <output.pptx> [<image>]
-//     make_deck master <shapes> <output.pptx>     the default template with shapes on its master
+//     make_deck text|styled|table <slides> <output.pptx>
+//     make_deck picture <slides> <output.pptx> <folder>    a different picture on each slide
+//     make_deck small <decks> <output.pptx> <folder>       one deck after the other, over the last
+//     make_deck images <count> <folder>                    the pictures for these
+//     make_deck master <shapes> <output.pptx>              the default template with shapes on its master
 //     make_deck open <template.pptx> <output.pptx>
 
 #include "benchmarks/decks.h"
@@ -10,32 +13,56 @@
 
 #include <iostream>
 
+namespace {
+
+using namespace vellox::bench;
+
+std::wstring nameImage(const std::wstring& folder, unsigned number) {
+    return folder + L"/" + std::to_wstring(number) + L".png";
+}
+
+std::vector<std::wstring> nameImages(const std::wstring& folder, unsigned count) {
+    std::vector<std::wstring> names;
+    for (unsigned i = 0; i < count; ++i)
+        names.push_back(nameImage(folder, i));
+    return names;
+}
+
+bool run(const std::string& kind, unsigned count, const std::wstring& output, const std::wstring& folder) {
+    if (kind == "text")
+        makeTextDeck(output, count);
+    else if (kind == "styled")
+        makeStyledDeck(output, count, 100);
+    else if (kind == "table")
+        makeTableDeck(output, count);
+    else if (kind == "picture")
+        makePictureDeck(output, count, nameImages(folder, count));
+    else if (kind == "master")
+        writeHeavyMaster(output, count);
+    else if (kind == "small")
+        for (unsigned i = 0; i < count; ++i)
+            makeSmallDeck(output, nameImage(folder, 0));
+    else if (kind == "images")
+        for (unsigned i = 0; i < count; ++i)
+            writePng(nameImage(output, i), 300000, i);
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    using namespace vellox::bench;
-    if (argc < 4) {
-        std::cerr << "usage: make_deck text|styled|table|picture <slides> <output.pptx> [<image>]\n"
-                     "       make_deck master <shapes> <output.pptx>\n"
-                     "       make_deck open <template.pptx> <output.pptx>\n";
-        return 2;
-    }
-    const std::string kind = argv[1];
-    const std::wstring output = vellox::fromUtf8(argv[3]);
-    if (kind == "open") {
-        openDeck(output, vellox::fromUtf8(argv[2]));
+    if (argc == 4 && std::string(argv[1]) == "open") {
+        openDeck(vellox::fromUtf8(argv[3]), vellox::fromUtf8(argv[2]));
         return 0;
     }
-    const auto slides = static_cast<unsigned>(std::stoul(argv[2]));
-    if (kind == "text")
-        makeTextDeck(output, slides);
-    else if (kind == "styled")
-        makeStyledDeck(output, slides, 100);
-    else if (kind == "table")
-        makeTableDeck(output, slides);
-    else if (kind == "master")
-        writeHeavyMaster(output, slides);
-    else if (kind == "picture" && argc > 4)
-        makePictureDeck(output, slides, vellox::fromUtf8(argv[4]));
-    else
+    if (argc < 4 || !run(argv[1], static_cast<unsigned>(std::stoul(argv[2])), vellox::fromUtf8(argv[3]),
+                         vellox::fromUtf8(argc > 4 ? argv[4] : ""))) {
+        std::cerr
+            << "usage: make_deck text|styled|table|picture|small|images|master <count> <output> [<folder>]\n"
+               "       make_deck open <template> <output>\n";
         return 2;
+    }
     return 0;
 }

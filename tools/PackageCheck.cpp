@@ -8,6 +8,7 @@
 #include "vellox/ppt/xml/Dom.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
+#include <boost/algorithm/string/predicate.hpp>
 #include <boost/make_shared.hpp>
 #include <set>
 
@@ -94,7 +95,9 @@ private:
 
     void checkAttributes(const opc::PartName& name, const xercesc::DOMElement& element,
                          const std::set<std::wstring>& ids) {
-        if (element.hasAttribute(xml::kDataUid))
+        // What isn't written keeps the marks that its template has.
+        if (element.hasAttribute(xml::kDataUid) &&
+            boost::algorithm::istarts_with(name.toString(), L"/ppt/slides/"))
             report(name, "it has a data-uid");
         for (const XMLCh* attribute : {u"r:id", u"r:embed", u"r:link"}) {
             const std::wstring id = getAttribute(&element, attribute);

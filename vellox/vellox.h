@@ -15,6 +15,7 @@
 #ifndef VELLOX_VELLOX_H
 #define VELLOX_VELLOX_H
 
+#include "vellox/check/PackageCheck.h"
 #include "vellox/foundation/ByteArray.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Dimension.h"
@@ -35,6 +36,7 @@
 #include "vellox/ppt/formats/Color.h"
 #include "vellox/ppt/formats/Format.h"
 #include "vellox/ppt/formats/Formats.h"
+#include "vellox/ppt/messages/Finding.h"
 #include "vellox/ppt/messages/Message.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/messages/MessageFilter.h"

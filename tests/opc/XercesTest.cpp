@@ -1,5 +1,6 @@
 #include "vellox/opc/XercesHelper.h"
 
+#include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/XercesProcess.h"
@@ -10,6 +11,8 @@
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+#include <xercesc/dom/impl/DOMLSOutputImpl.hpp>
+#include <xercesc/framework/MemBufFormatTarget.hpp>
 
 #include <sstream>
 
@@ -33,11 +36,37 @@ protected:
         return "none";
     }
 
-    std::string rewrite(const std::string& xml) {
+    std::string write(xercesc::DOMDocument* document) {
         std::string bytes;
         StringOutputStream stream(bytes);
-        XercesHelper::writeDocumentToStream(serializer_.get(), read(xml).get(), stream);
+        try {
+            XercesHelper::writeDocumentToStream(serializer_.get(), document, stream);
+        } catch (const Exception& failure) {
+            return failure.what();
+        }
+        return bytes;
+    }
+
+    std::string rewrite(const std::string& xml) {
+        const std::string bytes = write(read(xml).get());
         return bytes.substr(bytes.find("?>") + 2);
+    }
+
+    // By the library's own serializer.
+    static std::string writeByXerces(const xercesc::DOMDocument* document) {
+        const auto implementation = xercesc::DOMImplementationRegistry::getDOMImplementation(u"LS");
+        const SerializerScope serializer(implementation->createLSSerializer());
+        xercesc::MemBufFormatTarget target;
+        xercesc::DOMLSOutputImpl output;
+        output.setEncoding(u"UTF-8");
+        output.setByteStream(&target);
+        try {
+            if (!serializer->write(document, &output))
+                return "a document can't be written";
+        } catch (const xercesc::DOMException& failure) {
+            return vellox::toUtf8(toWideString(failure.getMessage()));
+        }
+        return {reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen()};
     }
 
 private:
@@ -157,6 +186,61 @@ TEST_F(XercesTest, WritesADocumentAsItStands) {
         "<a:t> blanks &amp; \xF0\x9F\x98\x80 &#xD;</a:t></p:a>";
     EXPECT_EQ(vellox::test::canonical(rewrite(xml)), vellox::test::canonical(xml));
     EXPECT_EQ(rewrite(toUtf16("<a>x</a>")), "<a>x</a>"); // always UTF-8
+}
+
+TEST_F(XercesTest, WritesToTheByteAsXercesDoes) {
+    const std::string documents[] = {
+        "<n a=''><n b='1' a='2'><n>x</n></n><!-- & < --><?pi?><?pi  & data?></n>",
+        "<?xml version='1.0' standalone='yes'?>\n<!--x-->\n<?a b?><a/><!-- y -->\n",
+        "<?xml version='1.1'?><a b='&#x1;&#x85;'>\xC2\x85\xE2\x80\xA8</a>",
+        "<a><![CDATA[x ]] > &<]]><b/><![CDATA[]]></a>",
+        "<\xC3\xA4 \xC3\xB6='\xE2\x82\xAC'>\r\n\t&#xD; &gt; ' \" </\xC3\xA4>",
+        toUtf16("<a>x</a>"),
+    };
+    for (const std::string& xml : documents) {
+        const DocumentScope document = read(xml);
+        EXPECT_EQ(write(document.get()), writeByXerces(document.get())) << xml;
+    }
+}
+
+// A character at a time, with what XML can't hold and halves of pairs, wherever a text can stand.
+TEST_F(XercesTest, WritesEveryCharacterAsXercesDoes) {
+    for (unsigned unit = 1; unit < 0x10000; unit += unit < 0x100 || unit > 0xFFF8 ? 1 : 997)
+        for (const std::u16string& text :
+             {std::u16string{char16_t(unit)}, std::u16string{char16_t(unit), 0xDC00},
+              std::u16string{u'a', 0xD83D, char16_t(unit), u'b'}}) {
+            const DocumentScope document(XercesHelper::createDocument(u"a"));
+            xercesc::DOMElement* root = document->getDocumentElement();
+            xercesc::DOMNode* kinds[] = {document->createTextNode(text.c_str()),
+                                         document->createComment(text.c_str()),
+                                         document->createProcessingInstruction(u"x", text.c_str())};
+            root->setAttribute(u"b", text.c_str());
+            EXPECT_EQ(write(document.get()), writeByXerces(document.get())) << unit;
+            root->removeAttribute(u"b");
+            for (xercesc::DOMNode* kind : kinds) {
+                root->appendChild(kind);
+                EXPECT_EQ(write(document.get()), writeByXerces(document.get())) << unit;
+                root->removeChild(kind);
+            }
+        }
+}
+
+// Texts that go beyond a buffer, with pairs across its ends; nodes that belong to namespaces.
+TEST_F(XercesTest, WritesLongTextsAndNamespacesAsXercesDoes) {
+    const DocumentScope document(XercesHelper::createDocument(u"a"));
+    xercesc::DOMElement* root = document->getDocumentElement();
+    std::u16string text = u"x";
+    for (int i = 0; i < 20000; ++i)
+        text += u"\U0001F600<&\"\u20AC";
+    root->setAttribute(u"b", text.c_str());
+    root->appendChild(document->createTextNode(text.c_str()));
+    EXPECT_EQ(write(document.get()), writeByXerces(document.get()));
+    root->appendChild(document->createElementNS(u"urn:b", u"p:c"));
+    EXPECT_EQ(write(document.get()), writeByXerces(document.get()));
+    EXPECT_NE(write(document.get()).find("xmlns:p=\"urn:b\""), std::string::npos);
+    root->setAttributeNS(u"urn:d", u"q:d", u"1");
+    root->removeChild(root->getLastChild());
+    EXPECT_EQ(write(document.get()), writeByXerces(document.get()));
 }
 
 TEST(XercesString, DropsWhatXmlCantHold) {

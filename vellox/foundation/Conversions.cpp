@@ -40,6 +40,12 @@ template <class Number> Number readWhole(const std::wstring& text) {
     return value;
 }
 
+// std::to_wstring goes through a format string and takes ten times as long.
+template <class Number> std::wstring writeWhole(Number value) {
+    char digits[std::numeric_limits<Number>::digits10 + 3];
+    return std::wstring(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+}
+
 double readNumber(std::string number);
 
 // The value of a decimal number that no double can hold: none of it is left, or more than all. Which of the two
@@ -95,11 +101,11 @@ std::wstring mapCharacters(const std::wstring& text, wchar_t first, wchar_t last
 } // namespace
 
 std::wstring num2str(int value) {
-    return std::to_wstring(value);
+    return writeWhole(value);
 }
 
 std::wstring num2str(unsigned int value) {
-    return std::to_wstring(value);
+    return writeWhole(value);
 }
 
 std::wstring num2str(double value) {

@@ -4,8 +4,9 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 
+#include <algorithm>
 #include <array>
-#include <boost/regex.hpp>
+#include <locale>
 
 namespace vellox {
 
@@ -55,16 +56,28 @@ struct Pieces {
     std::wstring units;
 };
 
+// Beyond ASCII the global locale rules.
+bool isBlank(wchar_t c) {
+    return c < 0x80 ? c == L' ' || (c >= L'\t' && c <= L'\r') : std::isspace(c, std::locale());
+}
+
+bool isOfNumber(wchar_t c) {
+    return (c >= L'0' && c <= L'9') || c == L'.';
+}
+
+bool isOfUnits(wchar_t c) {
+    return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'%' || c == L'*';
+}
+
+// Lengths come by the thousand, one for each cell of a table, and a regular expression would take longer over
+// this than all else that is done for a cell's size. What doesn't fit is ignored.
 Pieces split(const std::wstring& text) {
-    static const boost::wregex& pattern = *new const boost::wregex(L"\\s*"
-                                                                   L"(?<number>-?[0-9.]*)"
-                                                                   L"\\s*"
-                                                                   L"(?<units>[a-zA-Z%*]*)"
-                                                                   L"\\s*");
-    boost::wsmatch match;
-    // A search that may match nothing always succeeds at the first character: what doesn't fit is ignored.
-    boost::regex_search(text, match, pattern);
-    return {toLowerString(match[L"number"].str()), match[L"units"].str()};
+    const auto end = text.end();
+    const auto number = std::find_if_not(text.begin(), end, isBlank);
+    const auto digits = number != end && *number == L'-' ? number + 1 : number;
+    const auto afterNumber = std::find_if_not(digits, end, isOfNumber);
+    const auto units = std::find_if_not(afterNumber, end, isBlank);
+    return {std::wstring(number, afterNumber), std::wstring(units, std::find_if_not(units, end, isOfUnits))};
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/MarkupGuard.h"
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesProcess.h"
 #include "vellox/opc/XercesString.h"
@@ -95,8 +96,8 @@ BoundedParser::BoundedParser(boost::shared_ptr<XmlBudget> budget)
 }
 
 void BoundedParser::setNamespaceAware(bool aware) {
-    isNamespaceAware_ = aware;
     getDomConfig()->setParameter(XMLUni::fgDOMNamespaces, aware);
+    isNamespaceAware_ = aware;
 }
 
 DOMDocument* BoundedParser::readDocument(InputStream& stream) {
@@ -167,19 +168,49 @@ void BoundedParser::startElement(const XMLElementDecl& declaration, const unsign
         if (isNamespaceAware_)
             countNamespace(attribute);
     }
-    DOMLSParserImpl::startElement(declaration, uriId, prefix, attributes, attributeCount, isEmpty, isRoot);
+    if (isRoot || !isWithinPlainElement())
+        return DOMLSParserImpl::startElement(declaration, uriId, prefix, attributes, attributeCount, isEmpty,
+                                             isRoot);
+    appendElement(declaration.getFullName(), attributes, attributeCount);
+    if (isEmpty)
+        endElement(declaration, uriId, isRoot, prefix);
+}
+
+bool BoundedParser::isWithinPlainElement() const {
+    return !isNamespaceAware_ && fCurrentParent->getNodeType() == DOMNode::ELEMENT_NODE;
+}
+
+void BoundedParser::appendElement(const XMLCh* name, const RefVectorOf<XMLAttr>& attributes,
+                                  XMLSize_t attributeCount) {
+    DOMElementImpl* const element = makeElement(fDocument, name);
+    if (attributeCount > 0)
+        element->fAttributes->reserve(attributeCount);
+    for (XMLSize_t i = 0; i < attributeCount; ++i) {
+        const XMLAttr& attribute = *attributes.elementAt(i);
+        element->fAttributes->setNamedItemFast(
+            makeAttribute(fDocument, attribute.getName(), attribute.getValue()));
+    }
+    appendNew(static_cast<DOMElementImpl&>(*fCurrentParent), *element);
+    fCurrentParent = fCurrentNode = element;
 }
 
 void BoundedParser::endElement(const XMLElementDecl& declaration, const unsigned int uriId, const bool isRoot,
                                const XMLCh* const prefix) {
     --depth_;
-    DOMLSParserImpl::endElement(declaration, uriId, isRoot, prefix);
+    if (isRoot || !isWithinPlainElement())
+        return DOMLSParserImpl::endElement(declaration, uriId, isRoot, prefix);
+    fCurrentNode = fCurrentParent;
+    fCurrentParent = NodeLinks::of(*fCurrentNode).up.fOwnerNode;
 }
 
 void BoundedParser::docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCData) {
     countNodes(1);
     charge(length * kXmlTextCharacterCost);
-    DOMLSParserImpl::docCharacters(text, length, isCData);
+    const bool isMore = fCurrentNode->getNodeType() == DOMNode::TEXT_NODE;
+    if (isCData || isMore || !isWithinPlainElement())
+        return DOMLSParserImpl::docCharacters(text, length, isCData);
+    fCurrentNode = new (fDocument, DOMMemoryManager::TEXT_OBJECT) DOMTextImpl(fDocument, text, length);
+    appendNew(static_cast<DOMElementImpl&>(*fCurrentParent), *fCurrentNode);
 }
 
 void BoundedParser::docComment(const XMLCh* const text) {

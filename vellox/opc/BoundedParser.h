@@ -17,7 +17,8 @@
 namespace opc {
 
 /// Parses for well-formedness only, fetches nothing, refuses document types, and counts depth, nodes and names
-/// while the document grows.
+/// while the document grows. What documents mostly consist of, elements within others and their text, it puts
+/// in place itself, which takes the base class much longer.
 class BoundedParser : public xercesc::DOMLSParserImpl, private xercesc::DOMErrorHandler {
 public:
     /// @param budget what all that this parser reads is charged to; empty for none
@@ -41,6 +42,9 @@ public:
                  const XMLCh* const actualEncoding) override;
 
 private:
+    void appendElement(const XMLCh* name, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                       XMLSize_t attributeCount);
+    bool isWithinPlainElement() const;
     bool handleError(const xercesc::DOMError& error) override;
     void charge(std::uint64_t cost);
     void countNodes(XMLSize_t count);

@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -20,12 +21,11 @@ std::wstring getAttribute(const DOMElement& element, const XMLCh* name) {
     return toWideString(element.getAttribute(name));
 }
 
-void appendRow(DOMDocument& document, const XMLCh* element, const XMLCh* key, const std::wstring& keyText,
+void appendRow(DOMElementImpl& root, const XMLCh* element, const XMLCh* key, const std::wstring& keyText,
                const std::wstring& type) {
-    DOMElement* row = document.createElement(element);
-    row->setAttribute(key, XercesString(keyText));
-    row->setAttribute(u"ContentType", XercesString(type));
-    document.getDocumentElement()->appendChild(row);
+    DOMElementImpl& row = appendElement(root, element);
+    addAttribute(row, key, XercesString(keyText));
+    addAttribute(row, u"ContentType", XercesString(type));
 }
 
 } // namespace
@@ -58,11 +58,12 @@ void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
 
 void ContentTypes::write(DOMLSSerializer& serializer, OutputStream& stream) const {
     const DocumentScope document(XercesHelper::createDocument(u"Types"));
-    document->getDocumentElement()->setAttribute(u"xmlns", kNamespace);
+    auto& root = static_cast<DOMElementImpl&>(*document->getDocumentElement());
+    addAttribute(root, u"xmlns", kNamespace);
     for (const Row& row : defaults_)
-        appendRow(*document, u"Default", u"Extension", row.first, row.second);
+        appendRow(root, u"Default", u"Extension", row.first, row.second);
     for (const Row& row : overrides_)
-        appendRow(*document, u"Override", u"PartName", row.first, row.second);
+        appendRow(root, u"Override", u"PartName", row.first, row.second);
     XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "vellox/opc/Compression.h"
 #include "vellox/opc/PartName.h"
 #include "vellox/opc/Streams.h"
 
@@ -60,10 +61,13 @@ private:
     StringOutputStream output_{bytes_};
 };
 
-/// A container. Package alone works with it.
+/// A container. Package works with it, and so does who has to see what Package glosses over.
 class PhysicalPackage {
 public:
     virtual ~PhysicalPackage();
+
+    /// How small new content is made where the container compresses; Normal if nothing is said.
+    void setCompression(Compression compression) { compression_ = compression; }
 
     /// Finds the entries.
     /// @throws opc::Exception if this isn't a container, or a damaged, encrypted or absurd one
@@ -92,6 +96,7 @@ protected:
     /// @throws opc::Exception for the content-type stream if there is one already
     void addEntry(const std::wstring& entryName, boost::shared_ptr<PhysicalPart> part);
 
+    Compression compression_ = Compression::Normal;
     std::vector<boost::shared_ptr<PhysicalPart>> parts_;
     boost::shared_ptr<PhysicalPart> contentTypes_;
     std::uint64_t size_ = 0;

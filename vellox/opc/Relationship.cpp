@@ -1,6 +1,7 @@
 #include "vellox/opc/Relationship.h"
 
 #include "vellox/opc/Exception.h"
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 
 #include <algorithm>
@@ -36,16 +37,15 @@ void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
 
 void RelationshipTable::write(DOMLSSerializer& serializer, OutputStream& stream) const {
     const DocumentScope document(XercesHelper::createDocument(u"Relationships"));
-    DOMElement* root = document->getDocumentElement();
-    root->setAttribute(u"xmlns", kNamespace);
+    auto& root = static_cast<DOMElementImpl&>(*document->getDocumentElement());
+    addAttribute(root, u"xmlns", kNamespace);
     for (const Relationship& relationship : rows_) {
-        DOMElement* row = document->createElement(u"Relationship");
-        row->setAttribute(u"Id", XercesString(relationship.getID()));
-        row->setAttribute(u"Type", XercesString(relationship.getType()));
-        row->setAttribute(u"Target", XercesString(relationship.getTarget()));
+        DOMElementImpl& row = appendElement(root, u"Relationship");
+        addAttribute(row, u"Id", XercesString(relationship.getID()));
+        addAttribute(row, u"Type", XercesString(relationship.getType()));
+        addAttribute(row, u"Target", XercesString(relationship.getTarget()));
         if (relationship.isExternal())
-            row->setAttribute(u"TargetMode", u"External");
-        root->appendChild(row);
+            addAttribute(row, u"TargetMode", u"External");
     }
     XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
 }

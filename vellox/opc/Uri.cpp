@@ -4,6 +4,7 @@
 #include <arpa/inet.h>
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/algorithm/string/trim.hpp>
+#include <string_view>
 #include <vector>
 
 namespace opc {
@@ -83,13 +84,13 @@ void appendEncoded(std::wstring& text, wchar_t c) {
 // Percent-encodes what stands nowhere in a reference, and some more that doesn't belong where the text does.
 // What is encoded already stays; a backslash is allowed, and letters of other scripts are.
 std::wstring encode(const std::wstring& text, const std::wstring& more) {
-    static const std::wstring never(L"\"<>^`{|}\x7f");
+    constexpr std::wstring_view never = L"\"<>^`{|}\x7f";
     std::wstring result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
         const bool isStray =
             c == L'%' && !(i + 2 < text.size() && isHexDigit(text[i + 1]) && isHexDigit(text[i + 2]));
-        if (isStray || c <= L' ' || (c < 0x80 && (never + more).find(c) != std::wstring::npos))
+        if (isStray || c <= L' ' || (c < 0x80 && (never.find(c) != never.npos || more.find(c) != more.npos)))
             appendEncoded(result, c);
         else
             result.push_back(c);

@@ -33,7 +33,7 @@ public:
     static xercesc::DOMDocument* readDocumentFromStream(xercesc::DOMLSParser* parser, InputStream& stream,
                                                         bool validate, const std::wstring& encoding,
                                                         const std::wstring& systemId);
-    /// Writes a document as it stands, in UTF-8.
+    /// Writes a document as it stands, in UTF-8, with a serializer of createWriter().
     /// @throws opc::Exception
     static void writeDocumentToStream(xercesc::DOMLSSerializer* serializer, xercesc::DOMDocument* document,
                                       OutputStream& stream);

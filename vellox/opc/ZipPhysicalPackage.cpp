@@ -2,6 +2,7 @@
 
 #include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/Utf8.h"
+#include "vellox/opc/Deflater.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/ZipStreamSource.h"
@@ -92,6 +93,10 @@ bool isCompoundFile(std::istream& file) {
     if (isCompoundFile(file))
         throw Exception("it is encrypted, or in an old binary format");
     fail(reason);
+}
+
+bool isStored(const PhysicalPart& part) {
+    return part.getInfo().compressionType == 0;
 }
 
 } // namespace
@@ -261,24 +266,28 @@ void ZipPhysicalPackage::saveInPlace() const {
 }
 
 void ZipPhysicalPackage::writeArchive(std::ostream& stream) const {
+    const Deflater deflater(compression_);
     ZipError error;
     Archive target = openSource(makeWriteSource(stream, error.get()), ZIP_CREATE | ZIP_TRUNCATE, error.get());
     if (!target)
         fail(error.get());
     if (contentTypes_)
-        writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_));
+        writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_), deflater);
     for (const auto& part : parts_)
-        writeEntry(target.get(), static_cast<const Entry&>(*part));
+        writeEntry(target.get(), static_cast<const Entry&>(*part), deflater);
     if (zip_close(target.get()) != 0)
         fail(zip_get_error(target.get()));
     static_cast<void>(target.release()); // zip_close has ended it
 }
 
-zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) const {
+zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry,
+                                             const Deflater& deflater) const {
     switch (entry.getContent()) {
     case PhysicalPart::Content::Original:
         return entry.makeSource(target);
     case PhysicalPart::Content::Bytes:
+        if (!isStored(entry))
+            return deflater.makeSource(target, entry.getBytes());
         return zip_source_buffer(target, entry.getBytes().data(), entry.getBytes().size(), 0);
     case PhysicalPart::Content::File:
         return zip_source_file(target, vellox::toUtf8(entry.getContentFile()).c_str(), 0, -1);
@@ -286,8 +295,8 @@ zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry) 
     return nullptr;
 }
 
-void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
-    zip_source_t* source = makeSource(target, entry);
+void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const {
+    zip_source_t* source = makeSource(target, entry, deflater);
     if (!source)
         fail(zip_get_error(target));
     const zip_int64_t index = zip_file_add(target, entry.getEntryName().c_str(), source, ZIP_FL_ENC_UTF_8);
@@ -302,8 +311,8 @@ void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry) const {
             fail(zip_get_error(target));
         return;
     }
-    const zip_int32_t method = entry.getInfo().compressionType == 0 ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
-    if (zip_set_file_compression(target, place, method, 0) != 0 ||
+    const zip_int32_t method = isStored(entry) ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
+    if (zip_set_file_compression(target, place, method, deflater.getZlibLevel()) != 0 ||
         zip_file_set_dostime(target, place, kNewEntryTime, kNewEntryDate, 0) != 0)
         fail(zip_get_error(target));
 }

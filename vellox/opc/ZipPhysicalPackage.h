@@ -14,6 +14,8 @@
 
 namespace opc {
 
+class Deflater;
+
 /// An archive through libzip: ZIP64, data descriptors, stored and deflated entries, in any order.
 ///
 /// Saving writes a new archive,
@@ -50,8 +52,8 @@ private:
     void listEntries();
     void saveInPlace() const;
     void writeArchive(std::ostream& stream) const;
-    void writeEntry(zip_t* target, const Entry& entry) const;
-    zip_source_t* makeSource(zip_t* target, const Entry& entry) const;
+    void writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const;
+    zip_source_t* makeSource(zip_t* target, const Entry& entry, const Deflater& deflater) const;
 
     boost::shared_ptr<StdIStreamAdaptor> input_;
     boost::shared_ptr<StdOStreamAdaptor> output_;

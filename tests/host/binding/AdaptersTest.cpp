@@ -92,7 +92,7 @@ TEST_F(AdaptersTest, LevelContentStyleAndColumnsJudgeTheirValues) {
     EXPECT_EQ(shownAfter(table, "ColSpecs", makeCell({column, column})), "[ColSpec ColSpec]");
     EXPECT_EQ(shownAfter(table, "ColSpecs", makeCell({column, bold})),
               "ppt_error:invalidPropertyValue vellox.ppt.Bold");
-    EXPECT_EQ(shownAfter(table, "ColSpecs", makeNumeric({5})), "ppt_error:invalidPropertyValue double [1x1]");
+    EXPECT_EQ(shownAfter(table, "ColSpecs", makeNumeric({5})), "ppt_error:invalidPropertyValue 5");
     EXPECT_EQ(shownAfter(table, "ColSpecs", empty), "[]");
 }
 

@@ -137,9 +137,10 @@ TEST_F(SlideDocumentsTest, PartsAreFoundHoweverTheyAreSpelled) {
 }
 
 TEST_F(SlideDocumentsTest, MarksAndPrefixesOfNobodyStayBehind) {
-    useLayout(layout(shape(7, "Title", "<p:ph type='title'/>", "<x:fill y:z='1'/>") +
-                     "<p:sp data-uid='1'><p:nvSpPr/></p:sp><p:extLst xmlns:d='urn:d' u:v='1' d:w='2'>"
-                     "<d:kept/><u:gone><d:kept/></u:gone></p:extLst>"));
+    own->shapes = shape(7, "Title", kTitle, "<x:fill y:z='1'/>") +
+                  "<p:sp data-uid='1'><p:nvSpPr/></p:sp><p:extLst xmlns:d='urn:d' u:v='1' d:w='2'>"
+                  "<d:kept/><u:gone><d:kept/></u:gone></p:extLst>";
+    useBuilt();
     deck.add(L"Own").replace(L"Title", L"text");
     close();
     EXPECT_EQ(findOne(slideXml(1), "p:extLst"), "<p:extLst d:w='2'><d:kept/></p:extLst>");

@@ -11,9 +11,18 @@
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <boost/algorithm/string/trim.hpp>
-#include <boost/regex.hpp>
 
 namespace vellox::ppt {
+
+namespace {
+
+// Of a text in lower case: "#" and six hexadecimal digits.
+bool isHex(const std::wstring& text) {
+    return text.size() == 7 && text[0] == L'#' &&
+           text.find_first_not_of(L"0123456789abcdef", 1) == std::wstring::npos;
+}
+
+} // namespace
 
 // ColorImpl
 
@@ -40,9 +49,8 @@ private:
 };
 
 void ColorImpl::setValue(const std::wstring& value) {
-    static const boost::wregex& digits = *new const boost::wregex(L"^#[0-9a-fA-F]{6}");
     const std::wstring trimmed = toLowerString(boost::algorithm::trim_copy(value));
-    if (!boost::regex_match(trimmed, digits) && !findColor(trimmed))
+    if (!isHex(trimmed) && !findColor(trimmed))
         raise(ppt_error::invalidPropertyValue(value));
     value_ = trimmed;
 }

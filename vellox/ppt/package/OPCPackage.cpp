@@ -36,6 +36,7 @@ template <class Body> void OPCPackage::openGuarded(opc::OpenMode mode, Body make
     exceptionsAtOpen_ = std::uncaught_exceptions();
     try {
         makePhysicalPackage();
+        physicalPackage_->setCompression(compression_);
         package_ = boost::make_shared<opc::Package>(physicalPackage_, true);
         package_->open(mode);
     } catch (const std::exception& failure) {

@@ -24,6 +24,8 @@ public:
     OPCPackage& operator=(const OPCPackage&) = delete;
     virtual ~OPCPackage();
 
+    /// How small what is written is made: for a package that is opened after this. Normal if nothing is said.
+    void setCompression(opc::Compression compression) { compression_ = compression; }
     /// @{ @throws cannotOpenFile with what is wrong and the path
     void openRead(bool allowFolder);
     void openWrite(bool asFolder);
@@ -49,6 +51,7 @@ private:
     boost::shared_ptr<opc::PhysicalPackage> physicalPackage_;
     boost::shared_ptr<opc::Package> package_;
     std::wstring path_;
+    opc::Compression compression_ = opc::Compression::Normal;
     int exceptionsAtOpen_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "vellox/ppt/template/SlideDocuments.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/DocumentCopy.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -194,7 +195,7 @@ OwnedDocument makePrototype(TemplateLayout& layout) {
 } // namespace
 
 OwnedDocument copyDocument(const OwnedDocument& document) {
-    OwnedDocument copy(static_cast<DOMDocument*>(document->cloneNode(true)));
+    OwnedDocument copy(opc::copyDocument(*document.get()));
     copy->setXmlStandalone(true);
     return copy;
 }

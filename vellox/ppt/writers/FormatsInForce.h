@@ -33,7 +33,7 @@ public:
     void layOver(const Formats& nearer);
 
 private:
-    std::array<const Format*, static_cast<std::size_t>(FormatType::VAlign) + 1> formats_{};
+    std::array<const Format*, kFormatTypeCount> formats_{}; // by the number of the kind
 };
 
 } // namespace vellox::ppt

@@ -32,7 +32,7 @@ void ParagraphWriter::write() {
     if (!pPr_.isEmpty())
         pPr_.appendTo(element);
     writeChildren(element);
-    getParentNode()->appendChild(element);
+    appendNode(getParentNode(), element);
 }
 
 void ParagraphWriter::applyFormat(const Format& format) {

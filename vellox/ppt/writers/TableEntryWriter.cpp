@@ -24,7 +24,7 @@ void TableEntryWriter::write() {
     ensureParagraph(cell);
     if (!tcPr_.isEmpty())
         tcPr_.appendTo(cell);
-    getParentNode()->appendChild(cell);
+    appendNode(getParentNode(), cell);
 }
 
 void TableEntryWriter::applyFormat(const Format& format) {

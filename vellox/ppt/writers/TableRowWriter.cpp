@@ -16,7 +16,7 @@ void TableRowWriter::write() {
     if (!table)
         return; // rows stand in tables alone
     xercesc::DOMElement* element = createElement(xml::kATr);
-    element->setAttribute(xml::kH, xml::kFalse); // as high as its text
+    setAttribute(element, xml::kH, xml::kFalse); // as high as its text
     const FormatsInForce above = getFormatsAbove();
     for (const auto& entry : row_.getChildren()) {
         FormatsInForce formats = above;
@@ -26,7 +26,7 @@ void TableRowWriter::write() {
         entry->acceptWriter(&getWriter(), element);
         table->nextEntry();
     }
-    getParentNode()->appendChild(element);
+    appendNode(getParentNode(), element);
     table->nextRow();
 }
 

@@ -1,6 +1,5 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
-#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -19,8 +18,8 @@ void TextWriter::write() {
     DOMElement* run = createElement(xml::kAR);
     if (!rPr_.isEmpty())
         rPr_.appendTo(run);
-    appendElement(run, xml::kAT)->setTextContent(opc::XercesString(text_.getTextContent()));
-    getParentNode()->appendChild(run);
+    appendText(appendElement(run, xml::kAT), text_.getTextContent());
+    appendNode(getParentNode(), run);
 }
 
 void TextWriter::applyFormat(const Format& format) {

@@ -1,5 +1,6 @@
 #include "vellox/ppt/xml/Dom.h"
 
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/object/DomForward.h"
 
@@ -18,21 +19,21 @@ bool hasName(const DOMNode& node, const XMLCh* name) {
 
 namespace {
 
+// Those of a name, or all for none. Steps to a first child and to a next sibling cost next to nothing, those of
+// lists and walkers much.
+void collectElements(const DOMNode& parent, const XMLCh* name, std::vector<DOMElement*>& elements) {
+    for (DOMNode* child = parent.getFirstChild(); child; child = child->getNextSibling()) {
+        if (child->getNodeType() != DOMNode::ELEMENT_NODE)
+            continue;
+        if (!name || hasName(*child, name))
+            elements.push_back(static_cast<DOMElement*>(child));
+        collectElements(*child, name, elements);
+    }
+}
+
 DOMElement* getFirstChildElement(const DOMNode* parent) {
     const bool isElement = parent && parent->getNodeType() == DOMNode::ELEMENT_NODE;
     return isElement ? static_cast<const DOMElement*>(parent)->getFirstElementChild() : nullptr;
-}
-
-// The element behind another in document order, or null behind the last. The walker of Xerces calls itself for
-// each node that it passes over, and its node lists count from the start whenever their length is asked for.
-DOMElement* getNextElement(const DOMElement* element) {
-    if (DOMElement* child = element->getFirstElementChild())
-        return child;
-    for (const DOMNode* node = element; node && node->getNodeType() == DOMNode::ELEMENT_NODE;
-         node = node->getParentNode())
-        if (DOMElement* next = static_cast<const DOMElement*>(node)->getNextElementSibling())
-            return next;
-    return nullptr;
 }
 
 } // namespace
@@ -69,16 +70,13 @@ std::vector<DOMElement*> getChildElements(const DOMNode* parent) {
 
 std::vector<DOMElement*> getAllElements(DOMDocument* document) {
     std::vector<DOMElement*> elements;
-    for (DOMElement* element = document->getDocumentElement(); element; element = getNextElement(element))
-        elements.push_back(element);
+    collectElements(*document, nullptr, elements);
     return elements;
 }
 
 std::vector<DOMElement*> getElementsByName(DOMDocument* document, const XMLCh* name) {
     std::vector<DOMElement*> elements;
-    for (DOMElement* element = document->getDocumentElement(); element; element = getNextElement(element))
-        if (hasName(*element, name))
-            elements.push_back(element);
+    collectElements(*document, name, elements);
     return elements;
 }
 
@@ -87,13 +85,26 @@ std::wstring getAttribute(const DOMElement* element, const XMLCh* name) {
 }
 
 void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& value) {
-    element->setAttribute(name, opc::XercesString(value));
+    setAttribute(element, name, opc::XercesString(value).get());
+}
+
+void setAttribute(DOMElement* element, const XMLCh* name, const XMLCh* value) {
+    if (DOMAttr* present = element->getAttributeNode(name))
+        return present->setValue(value);
+    opc::addAttribute(static_cast<DOMElementImpl&>(*element), name, value);
+}
+
+void appendNode(DOMNode* parent, DOMNode* child) {
+    opc::appendNew(*static_cast<DOMElementImpl*>(parent), *child);
 }
 
 DOMElement* appendElement(DOMElement* parent, const XMLCh* name) {
-    DOMElement* child = parent->getOwnerDocument()->createElement(name);
-    parent->appendChild(child);
-    return child;
+    return &opc::appendElement(static_cast<DOMElementImpl&>(*parent), name);
+}
+
+void appendText(DOMElement* parent, const std::wstring& text) {
+    auto* const document = static_cast<DOMDocumentImpl*>(parent->getOwnerDocument());
+    appendNode(parent, opc::makeText(document, opc::XercesString(text)));
 }
 
 DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {

@@ -48,10 +48,17 @@ std::vector<xercesc::DOMElement*> getElementsByName(xercesc::DOMDocument* docume
 
 /// The text of an attribute; empty for a null element or if it has none.
 std::wstring getAttribute(const xercesc::DOMElement* element, const XMLCh* name);
+/// @{ A new value for an attribute, which is made if there is none.
 void setAttribute(xercesc::DOMElement* element, const XMLCh* name, const std::wstring& value);
+void setAttribute(xercesc::DOMElement* element, const XMLCh* name, const XMLCh* value);
+/// @}
 
+/// Makes a node that has no parent yet the last child of an element.
+void appendNode(xercesc::DOMNode* parent, xercesc::DOMNode* child);
 /// Makes an element and appends it.
 xercesc::DOMElement* appendElement(xercesc::DOMElement* parent, const XMLCh* name);
+/// Makes a text and appends it.
+void appendText(xercesc::DOMElement* parent, const std::wstring& text);
 /// The first child element of a name, made and appended if there is none.
 xercesc::DOMElement* requireChild(xercesc::DOMElement* parent, const XMLCh* name);
 /// Takes a node out of its parent, if it has one. The document keeps it.

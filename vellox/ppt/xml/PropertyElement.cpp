@@ -42,32 +42,36 @@ PropertyElement& PropertyElement::putChild(const XMLCh* name) {
 
 // Into a document
 
-DOMElement* PropertyElement::makeFor(const DOMElement& neighbour) const {
-    DOMElement* element = neighbour.getOwnerDocument()->createElement(name_.data());
-    fill(element);
-    for (const PropertyElement& child : children_)
-        child.appendTo(element);
-    return element;
+void PropertyElement::setAttributesOf(DOMElement* element) const {
+    for (const Attribute& attribute : attributes_)
+        ppt::setAttribute(element, attribute.name.data(), attribute.value.c_str());
 }
 
 void PropertyElement::fill(DOMElement* element) const {
-    for (const Attribute& attribute : attributes_)
-        element->setAttribute(attribute.name.data(), attribute.value.c_str());
+    setAttributesOf(element);
+    for (const PropertyElement& child : children_)
+        child.appendTo(element);
 }
 
 void PropertyElement::appendTo(DOMElement* parent) const {
-    parent->appendChild(makeFor(*parent));
+    fill(appendElement(parent, name_.data()));
 }
 
 void PropertyElement::applyTo(DOMElement* element) const {
-    fill(element);
+    setAttributesOf(element);
     for (const PropertyElement& child : children_) {
         DOMElement* former = findChild(element, child.name_.data());
         if (former)
-            element->replaceChild(child.makeFor(*element), former);
+            child.replace(element, former);
         else
             child.appendTo(element);
     }
+}
+
+void PropertyElement::replace(DOMElement* parent, DOMElement* former) const {
+    DOMElement* element = parent->getOwnerDocument()->createElement(name_.data());
+    fill(element);
+    parent->replaceChild(element, former);
 }
 
 // As a value

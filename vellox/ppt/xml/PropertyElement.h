@@ -52,8 +52,9 @@ private:
         bool operator==(const Attribute& other) const { return name == other.name && value == other.value; }
     };
 
-    xercesc::DOMElement* makeFor(const xercesc::DOMElement& neighbour) const;
+    void setAttributesOf(xercesc::DOMElement* element) const;
     void fill(xercesc::DOMElement* element) const;
+    void replace(xercesc::DOMElement* parent, xercesc::DOMElement* former) const;
 
     std::u16string_view name_;          // a whole constant, and so with a null behind it
     std::vector<Attribute> attributes_; // in the order of their names

@@ -1,0 +1,104 @@
+"""What decks cost as whole processes, beside the floor: a program that only deflates and writes the same parts.
+
+    workloads.py <folder of the build> [--runs 3] [--decks 1000] [--no-growth] [--cpu]
+
+Times are from the start of a process to its end, medians of the runs, in which the programs take turns: by the clock
+on the wall, or with --cpu that of the processor, for a machine that is shared.
+"""
+import argparse
+import os
+import statistics
+import sys
+import tempfile
+import time
+
+SOURCES = os.path.dirname(os.path.abspath(__file__))
+
+# Name, kind and count of make_deck, what to divide by for one deck, and whether there is a Python version.
+WORKLOADS = [
+    ("W1  1,000 slides of a title and five bullets", "text", 1000, 1, True),
+    ("W1  5,000 slides", "text", 5000, 1, False),
+    ("W2  200 slides with a table of 20 by 8", "table", 200, 1, False),
+    ("W3  200 slides, each with a picture of 300 kB", "picture", 200, 1, False),
+    ("W4  one deck of five slides", "text", 5, 1, False),
+    ("W5  such a deck with a picture, of 50 in a process", "small", 50, 50, True),
+]
+
+
+def run(command, by_cpu=False):
+    """Seconds and peak kB of a process."""
+    start = time.perf_counter()
+    pid = os.posix_spawn(command[0], command, os.environ)
+    _, status, used = os.wait4(pid, 0)
+    if status != 0:
+        sys.exit(f"failed: {' '.join(command)}")
+    seconds = used.ru_utime + used.ru_stime if by_cpu else time.perf_counter() - start
+    return seconds, used.ru_maxrss
+
+
+class Bench:
+    def __init__(self, build, folder, runs, by_cpu):
+        self.by_cpu = by_cpu
+        self.programs = os.path.join(build, "bin")
+        self.folder = folder
+        self.runs = runs
+        os.environ.update(PYTHONPATH=os.path.join(build, "python"), PYTHONDONTWRITEBYTECODE="1")
+        run([os.path.join(self.programs, "make_deck"), "images", "200", folder])
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def deck(self, kind, count):
+        return [os.path.join(self.programs, "make_deck"), kind, str(count), self.path("deck.pptx"), self.folder]
+
+    def python_deck(self, kind, count):
+        script = os.path.join(SOURCES, "python", "make_deck.py")
+        return ["/usr/bin/python3", script, kind, str(count), self.path("deck.pptx"), self.folder]
+
+    def floor(self, times):
+        return [os.path.join(self.programs, "floor"), "write", self.path("parts"), self.path("floor"), str(times)]
+
+    def measure(self, commands):
+        """The median (seconds, kB) of each command."""
+        rounds = [[run(command, self.by_cpu) for command in commands] for _ in range(self.runs)]
+        return [tuple(statistics.median(figures) for figures in zip(*runs)) for runs in zip(*rounds)]
+
+    def workload(self, title, kind, count, decks, with_python):
+        run(self.deck(kind, count))
+        run([os.path.join(self.programs, "floor"), "unpack", self.path("deck.pptx"), self.path("parts")])
+        commands = [self.deck(kind, count), self.floor(decks)]
+        if with_python:
+            commands.append(self.python_deck(kind, count))
+        (seconds, peak), (least, _), *python = self.measure(commands)
+        from_python = f"{python[0][0] / seconds:10.2f}" if python else ""
+        print(f"{title:52}{1000 * seconds / decks:9.1f} ms{1000 * least / decks:9.1f} ms"
+              f"{seconds / least:8.1f}{peak / 1024:8.0f} MB{from_python}", flush=True)
+        return seconds, peak
+
+
+def main():
+    arguments = argparse.ArgumentParser(usage=__doc__)
+    arguments.add_argument("build")
+    arguments.add_argument("--runs", type=int, default=3)
+    arguments.add_argument("--decks", type=int, default=1000)
+    arguments.add_argument("--no-growth", action="store_true")
+    arguments.add_argument("--cpu", action="store_true")
+    options = arguments.parse_args()
+    with tempfile.TemporaryDirectory() as folder:
+        bench = Bench(os.path.abspath(options.build), folder, options.runs, options.cpu)
+        print(f"{'':52}{'a deck':>12}{'floor':>12}{'times':>8}{'peak':>11}{'Python':>10}")
+        results = {(kind, count): bench.workload(title, kind, count, decks, with_python)
+                   for title, kind, count, decks, with_python in WORKLOADS}
+        more = results["text", 5000][1] - results["text", 1000][1]
+        print(f"\nMemory for each further slide of text: {more / 4000:.1f} kB")
+        if options.no_growth:
+            return
+        (seconds, _), = bench.measure([bench.deck("text", 10000)])
+        print(f"10,000 such slides: {seconds / results['text', 1000][0]:.1f} times the time of 1,000")
+        (_, few), = bench.measure([bench.deck("small", 20)])
+        _, many = run(bench.deck("small", options.decks))
+        print(f"Peak memory of {options.decks} decks of W5 in one process: {many / few:.2f} times that of 20")
+
+
+if __name__ == "__main__":
+    main()

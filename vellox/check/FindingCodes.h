@@ -1,0 +1,142 @@
+/// @file
+/// The kinds of findings of the check, with what each is worth. One table for code, tests and documents.
+
+#ifndef VELLOX_CHECK_FINDINGCODES_H
+#define VELLOX_CHECK_FINDINGCODES_H
+
+#include "vellox/ppt/messages/Finding.h"
+
+namespace vellox::check {
+
+enum class Code {
+    cannotOpen,
+    entryName,
+    duplicateEntry,
+    unsupportedCompression,
+    folderEntry,
+    unreadablePart,
+    notWellFormed,
+    contentTypes,
+    duplicateContentType,
+    missingContentType,
+    phantomContentType,
+    prefixedContentTypes,
+    wrongContentType,
+    wrongFileExtension,
+    relationship,
+    duplicateRelationship,
+    danglingRelationship,
+    strayRelationships,
+    emptyTarget,
+    invalidTarget,
+    unencodedTarget,
+    targetSpelling,
+    unreachablePart,
+    mainPart,
+    slideId,
+    duplicateSlideId,
+    slideList,
+    unlistedSlide,
+    masterId,
+    duplicateMasterId,
+    masterList,
+    layoutList,
+    unlistedLayout,
+    sectionSlide,
+    sectionMembership,
+    structure,
+    sharedPart,
+    notesBacklink,
+    commentAuthor,
+    missingProperties,
+    rootElement,
+    unknownElement,
+    elementOrder,
+    missingElement,
+    unknownAttribute,
+    missingAttribute,
+    invalidValue,
+    unexpectedText,
+    unknownPrefix,
+    unknownReference,
+    wrongReference,
+    emptyReference,
+    duplicateShapeId,
+    shapeReference,
+    tableGrid,
+    tableSpan,
+    strictForm,
+    moreFindings
+};
+
+struct CodeRow {
+    Code code;
+    const char* name;
+    ppt::Severity severity;
+};
+
+/// In the order of the enumeration.
+constexpr CodeRow kCodes[] = {
+    {Code::cannotOpen, "cannotOpen", ppt::Severity::Error},
+    {Code::entryName, "entryName", ppt::Severity::Error},
+    {Code::duplicateEntry, "duplicateEntry", ppt::Severity::Error},
+    {Code::unsupportedCompression, "unsupportedCompression", ppt::Severity::Error},
+    {Code::folderEntry, "folderEntry", ppt::Severity::Info},
+    {Code::unreadablePart, "unreadablePart", ppt::Severity::Error},
+    {Code::notWellFormed, "notWellFormed", ppt::Severity::Error},
+    {Code::contentTypes, "contentTypes", ppt::Severity::Error},
+    {Code::duplicateContentType, "duplicateContentType", ppt::Severity::Error},
+    {Code::missingContentType, "missingContentType", ppt::Severity::Error},
+    {Code::phantomContentType, "phantomContentType", ppt::Severity::Warning},
+    {Code::prefixedContentTypes, "prefixedContentTypes", ppt::Severity::Warning},
+    {Code::wrongContentType, "wrongContentType", ppt::Severity::Error},
+    {Code::wrongFileExtension, "wrongFileExtension", ppt::Severity::Error},
+    {Code::relationship, "relationship", ppt::Severity::Error},
+    {Code::duplicateRelationship, "duplicateRelationship", ppt::Severity::Error},
+    {Code::danglingRelationship, "danglingRelationship", ppt::Severity::Error},
+    {Code::strayRelationships, "strayRelationships", ppt::Severity::Error},
+    {Code::emptyTarget, "emptyTarget", ppt::Severity::Error},
+    {Code::invalidTarget, "invalidTarget", ppt::Severity::Error},
+    {Code::unencodedTarget, "unencodedTarget", ppt::Severity::Warning},
+    {Code::targetSpelling, "targetSpelling", ppt::Severity::Warning},
+    {Code::unreachablePart, "unreachablePart", ppt::Severity::Warning},
+    {Code::mainPart, "mainPart", ppt::Severity::Error},
+    {Code::slideId, "slideId", ppt::Severity::Error},
+    {Code::duplicateSlideId, "duplicateSlideId", ppt::Severity::Error},
+    {Code::slideList, "slideList", ppt::Severity::Error},
+    {Code::unlistedSlide, "unlistedSlide", ppt::Severity::Warning},
+    {Code::masterId, "masterId", ppt::Severity::Error},
+    {Code::duplicateMasterId, "duplicateMasterId", ppt::Severity::Error},
+    {Code::masterList, "masterList", ppt::Severity::Error},
+    {Code::layoutList, "layoutList", ppt::Severity::Error},
+    {Code::unlistedLayout, "unlistedLayout", ppt::Severity::Warning},
+    {Code::sectionSlide, "sectionSlide", ppt::Severity::Error},
+    {Code::sectionMembership, "sectionMembership", ppt::Severity::Warning},
+    {Code::structure, "structure", ppt::Severity::Error},
+    {Code::sharedPart, "sharedPart", ppt::Severity::Warning},
+    {Code::notesBacklink, "notesBacklink", ppt::Severity::Warning},
+    {Code::commentAuthor, "commentAuthor", ppt::Severity::Warning},
+    {Code::missingProperties, "missingProperties", ppt::Severity::Info},
+    {Code::rootElement, "rootElement", ppt::Severity::Error},
+    {Code::unknownElement, "unknownElement", ppt::Severity::Error},
+    {Code::elementOrder, "elementOrder", ppt::Severity::Error},
+    {Code::missingElement, "missingElement", ppt::Severity::Error},
+    {Code::unknownAttribute, "unknownAttribute", ppt::Severity::Error},
+    {Code::missingAttribute, "missingAttribute", ppt::Severity::Error},
+    {Code::invalidValue, "invalidValue", ppt::Severity::Error},
+    {Code::unexpectedText, "unexpectedText", ppt::Severity::Error},
+    {Code::unknownPrefix, "unknownPrefix", ppt::Severity::Error},
+    {Code::unknownReference, "unknownReference", ppt::Severity::Error},
+    {Code::wrongReference, "wrongReference", ppt::Severity::Error},
+    {Code::emptyReference, "emptyReference", ppt::Severity::Warning},
+    {Code::duplicateShapeId, "duplicateShapeId", ppt::Severity::Warning},
+    {Code::shapeReference, "shapeReference", ppt::Severity::Warning},
+    {Code::tableGrid, "tableGrid", ppt::Severity::Error},
+    {Code::tableSpan, "tableSpan", ppt::Severity::Warning},
+    {Code::strictForm, "strictForm", ppt::Severity::Warning},
+    {Code::moreFindings, "moreFindings", ppt::Severity::Info},
+};
+
+} // namespace vellox::check
+
+#endif
