@@ -48,11 +48,12 @@ void ElementWriter::applyFormats() {
 }
 
 // The way down begins at a shape, which finds no frame. Below, a node may stand in the list of one that it doesn't
-// link to; it is the link that counts.
+// link to, as the items of lists do; it is the link that counts.
 FormatsInForce ElementWriter::getFormatsAbove() const {
     const PPTWriter::Frame& frame = writer_.getFrame();
     const PPTNodeImpl* parent = element_.getParent();
-    return frame.formats && frame.element == parent ? *frame.formats : FormatsInForce::at(parent);
+    const bool isOnTheWay = frame.formats && frame.element == parent;
+    return isOnTheWay ? *frame.formats : FormatsInForce::at(parent, frame.table);
 }
 
 const FormatsInForce& ElementWriter::getFormatsInForce() const {
@@ -61,6 +62,10 @@ const FormatsInForce& ElementWriter::getFormatsInForce() const {
         inForce_->layOver(element_.getStyle());
     }
     return *inForce_;
+}
+
+void ElementWriter::writeChildren(DOMNode* parentNode) const {
+    writeChildren(parentNode, writer_.getFrame().table);
 }
 
 void ElementWriter::writeChildren(DOMNode* parentNode, TableContext* table) const {

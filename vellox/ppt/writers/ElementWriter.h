@@ -69,9 +69,11 @@ protected:
     FormatsInForce getFormatsAbove() const;
     /// What is in force at the element, found when it is first asked for: until then listeners may run.
     const FormatsInForce& getFormatsInForce() const;
-    /// Writes the element's children below a DOM node.
-    /// @param table what their writers move on, if they are rows
-    void writeChildren(xercesc::DOMNode* parentNode, TableContext* table = nullptr) const;
+    /// @{ Writes the element's children below a DOM node.
+    /// @param table that around them; that around this element if none is given
+    void writeChildren(xercesc::DOMNode* parentNode) const;
+    void writeChildren(xercesc::DOMNode* parentNode, TableContext* table) const;
+    /// @}
 
 private:
     const ElementImpl& element_;

@@ -12,6 +12,7 @@
 namespace vellox::ppt {
 
 class PPTNodeImpl;
+struct TableContext;
 
 /// For each kind of format the element's own, or that of the nearest element above it that has one. Writers make
 /// it on the way down, each for the children of its element:
@@ -25,7 +26,8 @@ public:
     /// None.
     FormatsInForce() = default;
     /// At a node, found on the way up from it. None for a null pointer.
-    static FormatsInForce at(const PPTNodeImpl* node);
+    /// @param table the table that is being written, whose column rows on the way take in; may be null
+    static FormatsInForce at(const PPTNodeImpl* node, const TableContext* table);
 
     /// Null if there is none of the kind.
     const Format* find(FormatType type) const { return formats_[static_cast<std::size_t>(type)]; }

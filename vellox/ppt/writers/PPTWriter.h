@@ -42,7 +42,7 @@ public:
     struct Frame {
         const PPTNodeImpl* element = nullptr;
         const FormatsInForce* formats = nullptr; ///< at the element
-        TableContext* table = nullptr;           ///< if the element is a table or a row of it
+        TableContext* table = nullptr;           ///< around the children, if there is one
     };
 
     /// Sets the frame for as long as children are written.

@@ -16,6 +16,8 @@ class TableImpl;
 /// Where the writing of a table is, and what its columns have to say. It belongs to the writer of the table; those
 /// of the rows move it on, and those of the entries widen its columns.
 struct TableContext {
+    /// Of no table.
+    TableContext() = default;
     explicit TableContext(const TableImpl& table);
 
     void nextEntry() { ++col; }
@@ -25,8 +27,8 @@ struct TableContext {
     /// Widens that column. A column that the table doesn't have is passed over.
     void setColumnWidth(int widthEmu);
 
-    unsigned int rowCount;
-    unsigned int colCount;
+    unsigned int rowCount = 0;
+    unsigned int colCount = 0;
     unsigned int row = 0;                      ///< from 0
     unsigned int col = 0;                      ///< of the entry within its row, from 0
     std::vector<Formats> colFormats;           ///< one for each column specification

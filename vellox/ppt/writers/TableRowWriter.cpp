@@ -12,22 +12,22 @@ TableRowWriter::TableRowWriter(const TableRowImpl& row, PPTWriter& writer, xerce
       row_(row) {}
 
 void TableRowWriter::write() {
-    TableContext* table = getWriter().getFrame().table;
-    if (!table)
-        return; // rows stand in tables alone
+    TableContext none; // for a row that has got into something else, by way of the handle that stood there
+    TableContext* around = getWriter().getFrame().table;
+    TableContext& table = around ? *around : none;
     xercesc::DOMElement* element = createElement(xml::kATr);
     setAttribute(element, xml::kH, xml::kFalse); // as high as its text
     const FormatsInForce above = getFormatsAbove();
     for (const auto& entry : row_.getChildren()) {
         FormatsInForce formats = above;
-        formats.layOver(table->getColumnFormats());
+        formats.layOver(table.getColumnFormats());
         formats.layOver(row_.getStyle());
-        const PPTWriter::FrameScope scope(getWriter(), {&row_, &formats, table});
+        const PPTWriter::FrameScope scope(getWriter(), {&row_, &formats, &table});
         entry->acceptWriter(&getWriter(), element);
-        table->nextEntry();
+        table.nextEntry();
     }
     appendNode(getParentNode(), element);
-    table->nextRow();
+    table.nextRow();
 }
 
 } // namespace vellox::ppt
