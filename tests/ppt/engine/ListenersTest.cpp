@@ -82,6 +82,26 @@ TEST_F(ListenersTest, MayChangeADeckThatIsBeingClosed) {
     EXPECT_EQ(deck.getNChildren(), 42u);
 }
 
+// What is written after the listener has the styles that it left, whichever formats ended with the old ones.
+TEST_F(ListenersTest, MayChangeStylesOfWhatIsBeingWritten) {
+    Slide slide = addReportedTable();
+    const auto table = boost::dynamic_pointer_cast<Table>(slide.find(L"Table").front());
+    const auto style = [](const wchar_t* color) {
+        Formats formats;
+        formats.appendFormat(boost::make_shared<FontColor>(color));
+        return formats;
+    };
+    slide.setStyle(style(L"#000001"));
+    table->setStyle(style(L"#000002"));
+    action = [&](const Message&) {
+        slide.setStyle(style(L"#000003"));
+        table->setStyle(Formats());
+        table->row(0)->setStyle(style(L"#000004"));
+    };
+    close();
+    EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"), (std::vector<std::string>{"000004", "000003"}));
+}
+
 TEST_F(ListenersTest, MayLetGoOfTheDeckThatTheyHearOf) {
     const std::wstring path = folder / L"own.pptx";
     auto own = boost::make_shared<Presentation>(path);

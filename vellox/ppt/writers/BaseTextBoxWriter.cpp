@@ -11,7 +11,9 @@ using namespace xercesc;
 
 BaseTextBoxWriter::BaseTextBoxWriter(const BaseTextBoxImpl& textBox, PPTWriter& writer, DOMNode* parentNode)
     : ShapeWriter(textBox, writer, parentNode),
-      textBox_(textBox) {}
+      textBox_(textBox),
+      spPr_(xml::kSpPr),
+      bodyPr_(xml::kABodyPr) {}
 
 DOMElement* BaseTextBoxWriter::findOrMakeShape() {
     const ShapeGeometry& geometry = textBox_.getGeometry();
@@ -28,17 +30,14 @@ void BaseTextBoxWriter::write() {
         return;
     DOMElement* shape = findOrMakeShape();
     DOMElement* txBody = findChild(shape, xml::kTxBody);
-    spPr_ = findChild(shape, xml::kSpPr);
-    bodyPr_ = findChild(txBody, xml::kABodyPr);
-    applyFormats(textBox_, inheritedFormatTypes());
+    applyFormats();
+    writeSpPr(shape);
     if (!txBody)
         return;
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
-    if (bodyPr_ && !findChild(txBody, xml::kABodyPr))
-        txBody->appendChild(bodyPr_);
-    for (const auto& child : textBox_.getChildren())
-        child->acceptWriter(&getWriter(), txBody);
+    writeBodyPr(txBody);
+    writeChildren(txBody);
     ensureParagraph(shape);
 }
 
@@ -51,42 +50,40 @@ const ElementWriter::FormatTypes& BaseTextBoxWriter::inheritedFormatTypes() cons
     return types;
 }
 
-DOMElement* BaseTextBoxWriter::getBodyPr() {
-    if (!bodyPr_)
-        bodyPr_ = createElement(xml::kABodyPr);
-    return bodyPr_;
-}
-
 void BaseTextBoxWriter::setBodyPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    getBodyPr()->setAttribute(name, mapping.xmlValue);
+    bodyPr_.setAttribute(name, mapping.xmlValue);
 }
 
 void BaseTextBoxWriter::setBodyPrAttribute(const XMLCh* name, const std::wstring& text) {
-    setAttribute(getBodyPr(), name, text);
+    bodyPr_.setAttribute(name, text);
 }
 
 void BaseTextBoxWriter::setBodyPrFlag(const XMLCh* name, bool value) {
-    getBodyPr()->setAttribute(name, value ? xml::kTrue : xml::kFalse);
+    bodyPr_.setAttribute(name, value ? xml::kTrue : xml::kFalse);
 }
 
-DOMElement* BaseTextBoxWriter::getSpPr() {
-    if (!spPr_)
-        spPr_ = createElement(xml::kASpPr);
-    return spPr_;
+PropertyElement& BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
+    return spPr_.putChild(name);
 }
 
 // A shape has one fill: what a template's shape has instead, such as a:noFill, gives way.
-DOMElement* BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
+void BaseTextBoxWriter::writeSpPr(DOMElement* shape) const {
+    DOMElement* properties = findChild(shape, xml::kSpPr);
+    if (!properties || spPr_.isEmpty())
+        return;
     for (const XMLCh* other :
          {xml::kANoFill, xml::kAGradFill, xml::kABlipFill, xml::kAPattFill, xml::kAGrpFill})
-        removeChildElements(getSpPr(), other);
-    DOMElement* child = createElement(name);
-    DOMElement* former = findChild(getSpPr(), name);
-    if (former)
-        getSpPr()->replaceChild(child, former);
+        removeChildElements(properties, other);
+    spPr_.applyTo(properties);
+}
+
+void BaseTextBoxWriter::writeBodyPr(DOMElement* txBody) const {
+    if (bodyPr_.isEmpty())
+        return;
+    if (DOMElement* properties = findChild(txBody, xml::kABodyPr))
+        bodyPr_.applyTo(properties);
     else
-        getSpPr()->appendChild(child);
-    return child;
+        bodyPr_.appendTo(txBody);
 }
 
 } // namespace vellox::ppt

@@ -14,7 +14,7 @@ ExternalLinkWriter::ExternalLinkWriter(const ExternalLinkImpl& link, PPTWriter& 
 void ExternalLinkWriter::write() {
     const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
     // Ahead of what the formats append: this order is how links have always been written here.
-    setAttribute(addRPrChild(xml::kAHlinkClick), xml::kRId, id);
+    addRPrChild(xml::kAHlinkClick).setAttribute(xml::kRId, id);
     TextWriter::write();
 }
 

@@ -1,13 +1,9 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
-#include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/template/SlideDocuments.h"
-#include "vellox/ppt/tree/ColSpec.h"
-#include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 
-#include <algorithm>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
@@ -64,42 +60,6 @@ void PPTWriter::rollBack() {
     }
     formers_.clear();
     slides_.clear();
-}
-
-// Tables
-
-void PPTWriter::enterTable(const TableImpl& table) {
-    tableContext_ = TableContext();
-    tableContext_.rowCount = static_cast<unsigned int>(table.getChildren().size());
-    tableContext_.colCount = table.getNCols();
-    tableContext_.colWidths.resize(table.getNCols());
-    for (const auto& spec : table.getColSpecs()) {
-        const std::size_t column = tableContext_.colFormats.size();
-        tableContext_.colFormats.push_back(spec ? spec->getStyle() : Formats());
-        const boost::shared_ptr<ColWidth> width = spec ? spec->getWidth() : boost::shared_ptr<ColWidth>();
-        if (width && column < tableContext_.colWidths.size())
-            tableContext_.colWidths[column] = std::max(0, width->getDimension().getEMUNumber());
-    }
-}
-
-void PPTWriter::leaveTable() {
-    tableContext_ = TableContext();
-}
-
-void PPTWriter::nextEntry() {
-    ++tableContext_.col;
-}
-
-void PPTWriter::nextRow() {
-    ++tableContext_.row;
-    tableContext_.col = 0;
-}
-
-void PPTWriter::setColumnWidth(int widthEmu) {
-    if (tableContext_.col >= tableContext_.colWidths.size())
-        return;
-    std::optional<int>& width = tableContext_.colWidths[tableContext_.col];
-    width = std::max(width.value_or(0), widthEmu);
 }
 
 } // namespace vellox::ppt

@@ -10,21 +10,22 @@
 #define VELLOX_PPT_WRITERS_PPTWRITER_H
 
 #include <boost/shared_ptr.hpp>
-#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/object/DomForward.h"
 
 namespace vellox::ppt {
 
 class ExternalLinkImpl;
+class FormatsInForce;
 class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
 class PPTNode;
+class PPTNodeImpl;
 class PPTPartWriter;
 class SlideImpl;
 class TableEntryImpl;
@@ -33,17 +34,30 @@ class TableRowImpl;
 class TextBoxImpl;
 class TextBoxPlaceholderImpl;
 class TextImpl;
+struct TableContext;
 
 class PPTWriter {
 public:
-    /// Where the writing of a table is, and what its columns have to say.
-    struct TableContext {
-        unsigned int rowCount = 0;
-        unsigned int colCount = 0;
-        unsigned int row = 0;                      ///< from 0
-        unsigned int col = 0;                      ///< of the entry within its row, from 0
-        std::vector<Formats> colFormats;           ///< one for each column specification
-        std::vector<std::optional<int>> colWidths; ///< colCount of them, in EMU
+    /// What the writer of an element has for those of its children.
+    struct Frame {
+        const PPTNodeImpl* element = nullptr;
+        const FormatsInForce* formats = nullptr; ///< at the element
+        TableContext* table = nullptr;           ///< around the children, if there is one
+    };
+
+    /// Sets the frame for as long as children are written.
+    class FrameScope {
+    public:
+        FrameScope(PPTWriter& writer, const Frame& frame)
+            : writer_(writer),
+              outer_(std::exchange(writer.frame_, frame)) {}
+        FrameScope(const FrameScope&) = delete;
+        FrameScope& operator=(const FrameScope&) = delete;
+        ~FrameScope() { writer_.frame_ = outer_; }
+
+    private:
+        PPTWriter& writer_;
+        const Frame outer_;
     };
 
     PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package);
@@ -82,13 +96,8 @@ public:
     /// were, since nothing else could bring them back.
     void leaveSlide();
 
-    const TableContext& getTableContext() const { return tableContext_; }
-    void enterTable(const TableImpl& table);
-    void leaveTable();
-    void nextEntry();
-    void nextRow();
-    /// Widens the column that the table is at. A column that the table doesn't have is passed over.
-    void setColumnWidth(int widthEmu);
+    /// Empty but within shapes.
+    const Frame& getFrame() const { return frame_; }
 
 private:
     struct Former;
@@ -98,7 +107,7 @@ private:
     PresentationModel::Slides slides_;
     std::vector<Former> formers_;
     boost::shared_ptr<TemplateSlide> currentSlide_;
-    TableContext tableContext_;
+    Frame frame_;
 };
 
 } // namespace vellox::ppt

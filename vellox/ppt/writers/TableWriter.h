@@ -11,6 +11,7 @@
 namespace vellox::ppt {
 
 class TableImpl;
+struct TableContext;
 
 class TableWriter : public ShapeWriter {
 public:
@@ -21,7 +22,7 @@ private:
     xercesc::DOMElement* makeFrame();
     bool applyTableStyle(xercesc::DOMElement* tbl) const;
     void reportMissingStyle() const;
-    void updateGrid(xercesc::DOMElement* tbl) const;
+    void updateGrid(xercesc::DOMElement* tbl, const TableContext& context) const;
 
     const TableImpl& table_;
 };

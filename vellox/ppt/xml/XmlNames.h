@@ -72,7 +72,6 @@ inline constexpr XMLCh kAGradFill[] = u"a:gradFill";
 inline constexpr XMLCh kABlipFill[] = u"a:blipFill";
 inline constexpr XMLCh kAPattFill[] = u"a:pattFill";
 inline constexpr XMLCh kAGrpFill[] = u"a:grpFill";
-inline constexpr XMLCh kASpPr[] = u"a:spPr";
 inline constexpr XMLCh kASrgbClr[] = u"a:srgbClr";
 inline constexpr XMLCh kAStretch[] = u"a:stretch";
 inline constexpr XMLCh kAT[] = u"a:t";
