@@ -1,8 +1,8 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
-#include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -20,7 +20,7 @@ DOMElement* BaseTextBoxWriter::findOrMakeShape() {
     DOMElement* shape = getSlideElement();
     if (!shape)
         return makeFreeTextBox(*getCurrentSlide(), geometry.shapeName, geometry).sp;
-    placeExistingTextShape(shape, *getCurrentSlide(), getLayoutElement(), geometry);
+    placeExistingTextShape(shape, getTemplateShape()->textPlace.get(), geometry);
     shape->removeAttribute(xml::kDataUid);
     return shape;
 }

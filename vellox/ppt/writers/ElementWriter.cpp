@@ -1,7 +1,7 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
 #include "vellox/ppt/object/ElementImpl.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -82,37 +82,22 @@ PresentationModel& ElementWriter::getModel() const {
     return *writer_.getModel();
 }
 
-TemplateSlide* ElementWriter::getCurrentSlide() const {
-    return writer_.getCurrentSlide().get();
+SlideDocument* ElementWriter::getCurrentSlide() const {
+    return writer_.getCurrentSlide();
 }
 
 std::wstring ElementWriter::getCurrentSlidePartName() const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? slide->partName : std::wstring();
+    return writer_.getCurrentSlidePartName();
 }
 
 DOMElement* ElementWriter::createElement(const XMLCh* name) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? slide->document->createElement(name) : nullptr;
+    const SlideDocument* slide = getCurrentSlide();
+    return slide ? slide->createElement(name) : nullptr;
 }
-
-namespace {
-
-DOMElement* findByUid(const ElementMap& elements, const std::wstring& uid) {
-    const auto found = elements.find(uid);
-    return found == elements.end() ? nullptr : found->second;
-}
-
-} // namespace
 
 DOMElement* ElementWriter::findSlideElement(const std::wstring& uid) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? findByUid(slide->elementsByUid, uid) : nullptr;
-}
-
-DOMElement* ElementWriter::findLayoutElement(const std::wstring& uid) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide && slide->layout ? findByUid(slide->layout->elementsByUid, uid) : nullptr;
+    const SlideDocument* slide = getCurrentSlide();
+    return slide ? slide->findElement(uid) : nullptr;
 }
 
 void removeChildElements(DOMElement* parent, const XMLCh* name) {

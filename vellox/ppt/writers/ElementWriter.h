@@ -21,8 +21,8 @@ class ElementImpl;
 class PPTPartWriter;
 class PPTWriter;
 class PresentationModel;
+class SlideDocument;
 struct TableContext;
-struct TemplateSlide;
 
 /// Writes one element. A writer lives for the writing of one node, on the stack of the driver.
 class ElementWriter {
@@ -50,16 +50,14 @@ public:
     PPTPartWriter& getPartWriter() const;
     PresentationModel& getModel() const;
     /// The slide being written, or null.
-    TemplateSlide* getCurrentSlide() const;
+    SlideDocument* getCurrentSlide() const;
     /// The name of its part; empty without a slide.
     std::wstring getCurrentSlidePartName() const;
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
     xercesc::DOMElement* createElement(const XMLCh* name) const;
-    /// @{ The element that bears a data-uid in the slide, or in its layout; null if there is none.
+    /// The element that bears a data-uid in the slide; null if there is none.
     xercesc::DOMElement* findSlideElement(const std::wstring& uid) const;
-    xercesc::DOMElement* findLayoutElement(const std::wstring& uid) const;
-    /// @}
 
 protected:
     /// Applies the element's own formats in the order of their kinds, then what it inherits in the order of

@@ -1,25 +1,18 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/object/PPTNode.h"
-#include "vellox/ppt/template/SlideDocuments.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/SlideList.h"
 
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
 
-/// What a slide's record held before the slide was written.
-struct PPTWriter::Former {
-    boost::shared_ptr<TemplateSlide> record;
-    bool isNew; // its document can be made again from the layout, and its part is gone with the package
-    OwnedDocument document;
-    unsigned int nextShapeId;
-};
-
 PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package)
     : model_(std::move(model)),
       partWriter_(boost::make_shared<PPTPartWriter>(std::move(package))) {
-    partWriter_->setSlideCounter(static_cast<unsigned int>(model_->getSlides()->size()));
+    partWriter_->setSlideCounter(static_cast<unsigned int>(model_->getSlides().size()));
 }
 
 PPTWriter::~PPTWriter() = default;
@@ -29,37 +22,29 @@ void PPTWriter::write(const PPTNode& node) {
 }
 
 void PPTWriter::finish() {
-    model_->updateSlideList(*partWriter_, slides_);
-    partWriter_->alignMainType(model_->getPresentationPartName());
-}
-
-void PPTWriter::enterSlide(const boost::shared_ptr<TemplateSlide>& slide) {
-    currentSlide_ = slide;
-    slides_.push_back(slide);
-    const bool isNew = slide->partName.empty();
-    formers_.push_back(
-        {slide, isNew, isNew ? OwnedDocument() : copyDocument(slide->document), slide->nextShapeId});
-}
-
-void PPTWriter::leaveSlide() {
-    currentSlide_->elementsByUid.clear();
-    currentSlide_->document.reset();
-}
-
-void PPTWriter::rollBack() {
-    for (Former& former : formers_) {
-        TemplateSlide& slide = *former.record;
-        slide.nextShapeId = former.nextShapeId;
-        if (former.isNew) {
-            slide.partName.clear();
-            slide.document = makeSlideDocument(*slide.layout);
-        } else {
-            slide.document = std::move(former.document);
-        }
-        slide.elementsByUid = mapElementsByUid(slide.document.get());
+    std::vector<boost::shared_ptr<TemplateSlide>> slides;
+    for (const Written& written : slides_) {
+        written.slide->partName = written.partName;
+        slides.push_back(written.slide);
     }
-    formers_.clear();
-    slides_.clear();
+    updateSlideList(model_->getTemplate(), slides, *partWriter_);
+    partWriter_->alignMainType(model_->getTemplate().presentationPartName);
+}
+
+PPTWriter::Visit::Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide,
+                        SlideDocument& document, const std::wstring& partName)
+    : writer_(writer) {
+    writer_.slides_.push_back({slide, partName});
+    writer_.written_.insert(slide.get());
+    writer_.currentSlide_ = &document;
+}
+
+PPTWriter::Visit::~Visit() {
+    writer_.currentSlide_ = nullptr;
+}
+
+std::wstring PPTWriter::getCurrentSlidePartName() const {
+    return currentSlide_ ? slides_.back().partName : std::wstring();
 }
 
 } // namespace vellox::ppt

@@ -10,12 +10,13 @@
 #define VELLOX_PPT_WRITERS_PPTWRITER_H
 
 #include <boost/shared_ptr.hpp>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/object/DomForward.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 
@@ -27,6 +28,8 @@ class PictureImpl;
 class PPTNode;
 class PPTNodeImpl;
 class PPTPartWriter;
+class PresentationModel;
+class SlideDocument;
 class SlideImpl;
 class TableEntryImpl;
 class TableImpl;
@@ -60,6 +63,19 @@ public:
         const Frame outer_;
     };
 
+    /// Makes a slide the current one, for as long as this lives.
+    class Visit {
+    public:
+        Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide, SlideDocument& document,
+              const std::wstring& partName);
+        Visit(const Visit&) = delete;
+        Visit& operator=(const Visit&) = delete;
+        ~Visit();
+
+    private:
+        PPTWriter& writer_;
+    };
+
     PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package);
     PPTWriter(const PPTWriter&) = delete;
     PPTWriter& operator=(const PPTWriter&) = delete;
@@ -68,12 +84,10 @@ public:
     /// Writes a slide with all that it holds.
     void write(const PPTNode& node);
     /// Ends the writing: lists the slides in the presentation part, in the order in which they were written.
+    /// Only now do the records of new slides learn the names of their parts: had the writing failed, it could
+    /// have been done again.
     /// @throws opc::Exception
     void finish();
-    /// Gives the records of all slides written so far back the documents that they had, so that after a
-    /// failure everything can be written again.
-    void rollBack();
-
     /// @{ Writes one node below a DOM node.
     void writeSlide(const SlideImpl& slide, xercesc::DOMNode* parent);
     void writeParagraph(const ParagraphImpl& paragraph, xercesc::DOMNode* parent);
@@ -89,24 +103,27 @@ public:
 
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
-    /// The record of the slide being written; empty before the first.
-    const boost::shared_ptr<TemplateSlide>& getCurrentSlide() const { return currentSlide_; }
-    void enterSlide(const boost::shared_ptr<TemplateSlide>& slide);
-    /// Lets go of the document of the slide, whose part holds it now. Only slides of the template are kept as they
-    /// were, since nothing else could bring them back.
-    void leaveSlide();
+    /// The slide being written; null between slides.
+    SlideDocument* getCurrentSlide() const { return currentSlide_; }
+    /// The name of its part; empty between slides.
+    std::wstring getCurrentSlidePartName() const;
+    /// Whether a slide has had its turn.
+    bool hasWritten(const TemplateSlide& slide) const { return written_.count(&slide) > 0; }
 
     /// Empty but within shapes.
     const Frame& getFrame() const { return frame_; }
 
 private:
-    struct Former;
+    struct Written {
+        boost::shared_ptr<TemplateSlide> slide;
+        std::wstring partName;
+    };
 
     boost::shared_ptr<PresentationModel> model_;
     boost::shared_ptr<PPTPartWriter> partWriter_;
-    PresentationModel::Slides slides_;
-    std::vector<Former> formers_;
-    boost::shared_ptr<TemplateSlide> currentSlide_;
+    std::vector<Written> slides_;
+    std::set<const TemplateSlide*> written_;
+    SlideDocument* currentSlide_ = nullptr;
     Frame frame_;
 };
 

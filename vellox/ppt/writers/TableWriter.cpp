@@ -4,10 +4,11 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -43,14 +44,14 @@ void TableWriter::write() {
 }
 
 DOMElement* TableWriter::makeFrame() {
-    TemplateSlide& slide = *getCurrentSlide();
+    SlideDocument& slide = *getCurrentSlide();
     const ShapeGeometry& geometry = table_.getGeometry();
     DOMElement* former = getSlideElement();
     if (!former)
         return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols()).frame;
     DOMNode* parent = former->getParentNode();
-    const auto make = getShapeType() == NodeType::Table ? makeTableForTable : makeTableForPlaceholder;
-    DOMElement* frame = make(slide, former, getLayoutElement(), table_.getNCols()).frame;
+    const PlaceText* place = getTemplateShape()->successorPlace.get();
+    DOMElement* frame = makeTableInPlace(slide, former, place, table_.getNCols()).frame;
     if (parent)
         parent->replaceChild(frame, former);
     return frame;
