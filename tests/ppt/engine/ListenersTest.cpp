@@ -1,5 +1,6 @@
 // Listeners run in the middle of things. Whatever they do there, nothing is lost and nothing dangles.
 
+#include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/Picture.h"

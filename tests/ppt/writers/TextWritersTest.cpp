@@ -166,8 +166,8 @@ TEST_F(TextWritersTest, TheNearestFormatCounts) {
 // A list's items don't link to the box that lists them: what is in force for them is what is above their links.
 TEST_F(TextWritersTest, FormatsAreFoundByTheLinksOfNodes) {
     Slide slide = deck.add(L"Blank");
-    TextBox box(L"Box"), other(L"Other");
-    box.setFontColor(L"#000001");
+    TextBox listing(L"Box"), other(L"Other");
+    listing.setFontColor(L"#000001");
     other.setFontColor(L"#000002");
     Table table(1);
     TableRow row;
@@ -178,18 +178,18 @@ TEST_F(TextWritersTest, FormatsAreFoundByTheLinksOfNodes) {
     slide.add(other);
     slide.add(table);
     const Paragraph shared(L"shared"), mine(L"mine");
-    box.add(list({object(shared), object(Paragraph(L"of nobody"))}));
+    listing.add(list({object(shared), object(Paragraph(L"of nobody"))}));
     other.add(shared);
-    box.add(mine);
-    box.add(L"replaced");
-    *box.getChildren().back() = *entry.getChildren().front();
-    slide.add(box);
+    listing.add(mine);
+    listing.add(L"replaced");
+    *listing.getChildren().back() = *entry.getChildren().front();
+    slide.add(listing);
     close();
-    Texts colors;
+    std::vector<std::string> colors;
     for (const std::string& run : findAll(shapeXml(1, "Box"), "a:r"))
         colors.push_back(findAll(run, "a:srgbClr").empty() ? "none"
                                                            : valuesOf(run, "a:srgbClr", "val").front());
-    EXPECT_EQ(colors, (Texts{"000002", "none", "000001", "000003"}));
+    EXPECT_EQ(colors, (std::vector<std::string>{"000002", "none", "000001", "000003"}));
 }
 
 TEST_F(TextWritersTest, LinksHaveRelationshipsOfTheirOwn) {
