@@ -32,10 +32,7 @@ struct NodeKind {
     NodeType isA = NodeType::None; ///< what it counts as too, if it does; the bases of the class say more
     Searched searched = Searched::No;
     Takes takes = Takes::Nothing;
-    /// @{ Of what a template may have; null for other kinds.
-    const char16_t* nonVisual = nullptr; ///< the element that keeps a shape's id and name
-    Maker make = nullptr;
-    /// @}
+    Maker make = nullptr; ///< null for what no template has
 };
 
 /// The row of a type. That of None is of nothing.

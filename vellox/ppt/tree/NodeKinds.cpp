@@ -9,7 +9,6 @@
 #include "vellox/ppt/tree/TablePlaceholderImpl.h"
 #include "vellox/ppt/tree/TextBoxImpl.h"
 #include "vellox/ppt/tree/TextBoxPlaceholderImpl.h"
-#include "vellox/ppt/xml/XmlNames.h"
 
 #include <iterator>
 
@@ -36,32 +35,29 @@ constexpr NodeKind kKinds[] = {
     {T::None, ""},
     {T::BaseTextBox, "vellox.ppt.BaseTextBox", T::None, Searched::Itself},
     {T::BodyPlaceholder, "vellox.ppt.BodyPlaceholder", T::TextBoxPlaceholder, Searched::Itself,
-     Takes::TextAndContent, xml::kNvSpPr, makeHolder<BodyPlaceholderImpl>},
+     Takes::TextAndContent, makeHolder<BodyPlaceholderImpl>},
     {T::ColSpec, "vellox.ppt.ColSpec"},
     {T::ContentPlaceholder, "vellox.ppt.ContentPlaceholder", T::PicturePlaceholder, Searched::Itself,
-     Takes::TextAndContent, xml::kNvSpPr, makeHolder<ContentPlaceholderImpl>},
+     Takes::TextAndContent, makeHolder<ContentPlaceholderImpl>},
     {T::ExternalLink, "vellox.ppt.ExternalLink"},
-    {T::Group, "vellox.ppt.Group", T::None, Searched::ItselfAndBelow, Takes::Nothing, xml::kNvGrpSpPr,
-     make<GroupImpl>},
-    {T::Picture, "vellox.ppt.Picture", T::None, Searched::Itself, Takes::Nothing, xml::kNvPicPr,
-     make<PictureImpl>},
+    {T::Group, "vellox.ppt.Group", T::None, Searched::ItselfAndBelow, Takes::Nothing, make<GroupImpl>},
+    {T::Picture, "vellox.ppt.Picture", T::None, Searched::Itself, Takes::Nothing, make<PictureImpl>},
     {T::PicturePlaceholder, "vellox.ppt.PicturePlaceholder", T::BodyPlaceholder, Searched::Itself,
-     Takes::TextAndContent, xml::kNvSpPr, makeHolder<PicturePlaceholderImpl>},
+     Takes::TextAndContent, makeHolder<PicturePlaceholderImpl>},
     {T::Paragraph, "vellox.ppt.Paragraph"},
     {T::Presentation, "vellox.ppt.Presentation"},
     {T::Shape, "vellox.ppt.Shape"},
     {T::Slide, "vellox.ppt.Slide", T::None, Searched::ItselfAndBelow},
-    {T::Table, "vellox.ppt.Table", T::None, Searched::Itself, Takes::Content, xml::kNvGraphicFramePr,
-     make<TableImpl>},
+    {T::Table, "vellox.ppt.Table", T::None, Searched::Itself, Takes::Content, make<TableImpl>},
     {T::TableEntry, "vellox.ppt.TableEntry"},
     {T::TablePlaceholder, "vellox.ppt.TablePlaceholder", T::BodyPlaceholder, Searched::Itself, Takes::Content,
-     xml::kNvSpPr, makeHolder<TablePlaceholderImpl>},
+     makeHolder<TablePlaceholderImpl>},
     {T::TableRow, "vellox.ppt.TableRow"},
     {T::Text, "vellox.ppt.Text"},
-    {T::TextBox, "vellox.ppt.TextBox", T::BaseTextBox, Searched::Itself, Takes::TextAndContent, xml::kNvSpPr,
+    {T::TextBox, "vellox.ppt.TextBox", T::BaseTextBox, Searched::Itself, Takes::TextAndContent,
      make<TextBoxImpl>},
     {T::TextBoxPlaceholder, "vellox.ppt.TextBoxPlaceholder", T::BaseTextBox, Searched::Itself,
-     Takes::TextAndContent, xml::kNvSpPr, makeHolder<TextBoxPlaceholderImpl>},
+     Takes::TextAndContent, makeHolder<TextBoxPlaceholderImpl>},
 };
 
 constexpr bool areInOrder() {
