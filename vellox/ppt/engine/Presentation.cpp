@@ -144,6 +144,7 @@ template <class Warning> void PresentationImpl::warnThatPathStays() {
     if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
         MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, *makeInterface()));
     reportWarning(id);
+    report(MsgID(ppt_finding::kCatalog, id.id, id.args), *this);
 }
 
 template <class Warning>
@@ -287,6 +288,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         return;
     }
     PPTWriter writer(model_, package);
+    FindingList::Attempt attempt(findings_);
     try {
         const Children slides = getChildren(); // those that a listener adds now come too late
         for (const Child& slide : slides)
@@ -296,6 +298,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         throw;
     }
     state_ = PresentationState::Closed;
+    attempt.keep();
     writer.finish();
 }
 
@@ -308,7 +311,7 @@ void PresentationImpl::clearSlides() {
 void PresentationImpl::appendChild(const Child& child) {
     open();
     if (state_ != PresentationState::Parsed && state_ != PresentationState::Open)
-        return;
+        return report(ppt_finding::slideAfterClose(), *this);
     PPTNodeImpl::appendChild(child);
     if (getClient() && wantsProgress()) {
         const ppt_progress::appendChildMsg id(child->getTag());
@@ -335,14 +338,22 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
 
 void PresentationImpl::insertSlide(const Child& slide) {
     PPTNodeImpl::appendChild(slide);
+    reportIfClosed(slide);
 }
 
 void PresentationImpl::insertSlideAt(const Child& slide, unsigned int index) {
     PPTNodeImpl::insertChildAt(slide, index);
+    reportIfClosed(slide);
 }
 
 void PresentationImpl::insertSlideBefore(const Child& slide, const Slide& reference) {
     PPTNodeImpl::insertChildBefore(slide, reference);
+    reportIfClosed(slide);
+}
+
+void PresentationImpl::reportIfClosed(const Child& slide) const {
+    if (state_ == PresentationState::Closed)
+        report(ppt_finding::slideAfterClose(), *implOf<PPTNodeImpl>(*slide));
 }
 
 // PresentationImpl: names
@@ -470,6 +481,10 @@ const Presentation::Names Presentation::getLayoutNames(const std::wstring& maste
 
 const Presentation::NamePairs Presentation::getTableStyleNames() {
     return pimpl()->getTableStyleNames();
+}
+
+const std::vector<Finding> Presentation::getFindings() const {
+    return pimpl()->getFindings();
 }
 
 const std::wstring Presentation::getOutputPath() const {

@@ -35,20 +35,20 @@ void copyAttributes(const DOMElement& from, DOMElement& to) {
 
 // Turns p:sldLayout into p:sld. Only the first child element comes across, p:cSld: colour map, transition,
 // timing and the like are the layout's own.
-void replaceRoot(DOMDocument& document) {
+void replaceRoot(DOMDocument& document, TemplateLayout& layout) {
     DOMElement* layoutRoot = document.getDocumentElement();
     DOMElement* slideRoot = document.createElement(xml::kSld);
     try {
         copyAttributes(*layoutRoot, *slideRoot);
     } catch (const DOMException&) {
-        // An attribute that can't be copied is no reason to have no slide.
+        layout.isCopiedInPart = true; // an attribute that can't be copied is no reason to have no slide
     }
     if (DOMElement* data = layoutRoot->getFirstElementChild())
         slideRoot->appendChild(data);
     try {
         document.replaceChild(slideRoot, layoutRoot);
     } catch (const DOMException&) {
-        // Likewise: the slide then keeps the layout's root.
+        layout.isCopiedInPart = true; // likewise: the slide then keeps the layout's root
     }
 }
 
@@ -181,7 +181,7 @@ void removeUndeclared(DOMDocument& document) {
 OwnedDocument makePrototype(TemplateLayout& layout) {
     OwnedDocument document = copyDocument(layout.document);
     removeIndentation(*document.get());
-    replaceRoot(*document.get());
+    replaceRoot(*document.get(), layout);
     if (DOMElement* data = document->getDocumentElement()->getFirstElementChild())
         data->removeAttribute(xml::kName);
     stripShapeTree(*document.get());

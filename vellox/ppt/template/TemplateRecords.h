@@ -82,6 +82,7 @@ struct TemplateLayout {
     unsigned int maxShapeId = 1;                        ///< greatest id of a p:cNvPr among the shapes
     OwnedDocument slidePrototype;      ///< a new slide of this layout, made with the first; copied for each
     unsigned int lastSlideShapeId = 0; ///< the last id that was given out in the prototype; 0 if none was
+    bool isCopiedInPart = false;       ///< not all of it could be had in the prototype
     std::vector<std::wstring> slideRelationshipIds; ///< the layout's relationships that the prototype needs
 };
 

@@ -1,5 +1,7 @@
 #include "vellox/ppt/tree/ByName.h"
 
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
@@ -24,16 +26,49 @@ constexpr Row kRows[] = {
     {NodeType::Table, false, true},
 };
 
+bool takes(const PPTNode& node, bool Row::*what) {
+    for (const Row& row : kRows)
+        if (row.type == node.getNodeType() && row.*what)
+            return true;
+    return false;
+}
+
+const PPTNodeImpl* getSlide(const PPTNodeImpl* node) {
+    while (node && node->getNodeType() != NodeType::Slide)
+        node = node->getParent();
+    return node;
+}
+
+// Reports what a caller may not have meant. The nodes of one slide stand side by side in the list.
+template <class Takes>
+void reportBearers(const PPTNode& start, const std::wstring& name, const PPTNode::Children& found,
+                   Takes takes) {
+    if (found.empty())
+        report(ppt_finding::unknownName(name), *implOf<PPTNodeImpl>(start));
+    const PPTNodeImpl* slide = nullptr;
+    unsigned int taking = 0;
+    for (const boost::shared_ptr<PPTNode>& node : found) {
+        const auto* impl = implOf<PPTNodeImpl>(*node);
+        if (getSlide(impl) != slide)
+            taking = 0;
+        slide = getSlide(impl);
+        if (!takes(*node))
+            report(ppt_finding::contentRefused(name), *impl);
+        else if (++taking == 2)
+            report(ppt_finding::ambiguousName(name), *impl);
+    }
+}
+
 // Calls an action with the implementation of every node of the name that takes what a column of the table
 // says.
 template <class Impl, class Action>
-void forEach(const PPTNode& start, const std::wstring& name, bool Row::*takes, Action action) {
+void forEach(const PPTNode& start, const std::wstring& name, bool Row::*what, Action action) {
     PPTNode::Children found;
     findNodes(&start, name, found);
+    reportBearers(start, name, found, [&](const PPTNode& node) { return takes(node, what); });
     for (const boost::shared_ptr<PPTNode>& node : found)
-        for (const Row& row : kRows)
-            if (row.type == node->getNodeType() && row.*takes)
-                action(*implOf<Impl>(*node));
+        if (takes(*node, what))
+            action(*implOf<Impl>(*node));
 }
 
 } // namespace

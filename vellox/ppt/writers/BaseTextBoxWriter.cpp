@@ -1,8 +1,10 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -31,8 +33,10 @@ void BaseTextBoxWriter::write() {
     spPr_ = findChild(shape, xml::kSpPr);
     bodyPr_ = findChild(txBody, xml::kABodyPr);
     applyFormats(textBox_, inheritedFormatTypes());
+    if (spPr_ && !spPr_->getParentNode())
+        getWriter().report(ppt_finding::noShapeProperties());
     if (!txBody)
-        return;
+        return reportLostText();
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
     if (bodyPr_ && !findChild(txBody, xml::kABodyPr))
@@ -40,6 +44,11 @@ void BaseTextBoxWriter::write() {
     for (const auto& child : textBox_.getChildren())
         child->acceptWriter(&getWriter(), txBody);
     ensureParagraph(shape);
+}
+
+void BaseTextBoxWriter::reportLostText() const {
+    if (!textBox_.getChildren().empty() || bodyPr_)
+        getWriter().report(ppt_finding::noTextBody());
 }
 
 void BaseTextBoxWriter::applyFormat(const Format& format) {

@@ -27,13 +27,14 @@ public:
     void setBodyPrAttribute(const XMLCh* name, const std::wstring& text);
     void setBodyPrFlag(const XMLCh* name, bool value);
     /// The shape's properties. For a shape without any they are made and attached nowhere, so that what is
-    /// written into them is lost.
+    /// written into them is lost, and reported.
     xercesc::DOMElement* getSpPr();
     /// A new element in the shape's properties, in the place of one of its name or at the end.
     xercesc::DOMElement* addSpPrChild(const XMLCh* name);
 
 private:
     xercesc::DOMElement* findOrMakeShape();
+    void reportLostText() const;
 
     const BaseTextBoxImpl& textBox_;
     xercesc::DOMElement* spPr_ = nullptr;

@@ -18,6 +18,10 @@
 #include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/object/DomForward.h"
 
+namespace vellox {
+class MsgID;
+}
+
 namespace vellox::ppt {
 
 class ExternalLinkImpl;
@@ -25,6 +29,7 @@ class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
 class PPTNode;
+class PPTNodeImpl;
 class PPTPartWriter;
 class SlideImpl;
 class TableEntryImpl;
@@ -73,6 +78,11 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
+    void report(const MsgID& finding) const;
+    /// Null between shapes.
+    void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
+
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The record of the slide being written; empty before the first.
@@ -94,6 +104,7 @@ private:
     struct Former;
 
     boost::shared_ptr<PresentationModel> model_;
+    const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     PresentationModel::Slides slides_;
     std::vector<Former> formers_;

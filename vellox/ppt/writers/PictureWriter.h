@@ -16,6 +16,7 @@ public:
     void write() override;
 
 private:
+    void reportMissingPath() const;
     void reportUnknownType() const;
 
     const PictureImpl& picture_;

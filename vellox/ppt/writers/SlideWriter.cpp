@@ -1,11 +1,14 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/template/SlideDocuments.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/SlideReports.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <set>
@@ -20,7 +23,7 @@ SlideWriter::SlideWriter(const SlideImpl& slide, PPTWriter& writer, xercesc::DOM
 void SlideWriter::write() {
     const boost::shared_ptr<TemplateSlide>& record = slide_.getTemplateSlide();
     if (!record || !record->document)
-        return;
+        return report(ppt_finding::slideNotWritten(), slide_);
     getWriter().enterSlide(record);
     declarePrefixes(record->document->getDocumentElement());
     if (xercesc::DOMElement* data = findChild(record->document->getDocumentElement(), xml::kCSld))
@@ -43,8 +46,10 @@ void SlideWriter::write() {
 void SlideWriter::writeShapes(TemplateSlide& record) {
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
+    reportOnSlide(slide_);
     for (const auto& shape : shapes) {
         const auto* impl = implAs<ShapeImpl>(*shape);
+        getWriter().setReporter(impl);
         const std::wstring uid = impl ? impl->getTemplateUid() : std::wstring();
         const bool isCopy = !uid.empty() && !taken.insert(uid).second;
         auto hidden = isCopy ? record.elementsByUid.extract(uid) : ElementMap::node_type();
@@ -52,6 +57,7 @@ void SlideWriter::writeShapes(TemplateSlide& record) {
         if (hidden)
             record.elementsByUid.insert(std::move(hidden));
     }
+    getWriter().setReporter(nullptr);
 }
 
 } // namespace vellox::ppt
