@@ -45,15 +45,11 @@ std::string removePackage(std::string text) {
     return text;
 }
 
-std::string formatSignature(const Signature& signature, const std::string& parameters) {
-    std::istringstream names(parameters);
+std::string formatSignature(const Signature& signature) {
     std::string text;
-    for (const SignatureWord& word : signature) {
-        std::string name;
-        names >> name;
-        text += (text.empty() ? "" : ", ") + removePackage(word.getText()) + " *" +
-                name.substr(0, name.find(',')) + "*";
-    }
+    for (const Parameter& parameter : signature)
+        text += (text.empty() ? "" : ", ") + removePackage(parameter.word.getText()) + " *" + parameter.name +
+                "*";
     return "(" + text + ")";
 }
 
@@ -66,7 +62,7 @@ void writeClass(const BoundClass& bound, std::ostream& page) {
     if (!bound.constructors.empty())
         page << "\n";
     for (const BoundConstructor& constructor : bound.constructors)
-        page << "- `" << bound.name << "`" << formatSignature(constructor.signature, constructor.parameters)
+        page << "- `" << bound.name << "`" << formatSignature(constructor.signature)
              << (constructor.isHidden ? " for the library alone" : "") << "\n";
     if (!bound.properties.empty())
         page << "\n| property | holds | |\n|---|---|---|\n";
@@ -76,7 +72,7 @@ void writeClass(const BoundClass& bound, std::ostream& page) {
     if (!bound.methods.empty())
         page << "\n| method | gives | |\n|---|---|---|\n";
     for (const BoundMethod& method : bound.methods)
-        page << "| `" << method.name << "`" << formatSignature(method.signature, method.parameters) << " | "
+        page << "| `" << method.name << "`" << formatSignature(method.signature) << " | "
              << removePackage(method.result.getText()) << " | " << method.doc
              << (method.isStatic ? " Of the class, not of an object." : "") << " |\n";
     for (const BoundEvent& event : bound.events)

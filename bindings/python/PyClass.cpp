@@ -2,10 +2,10 @@
 
 #include "bindings/python/PyCall.h"
 #include "bindings/python/PyClassSystem.h"
-#include "bindings/python/PyConveniences.h"
 #include "bindings/python/PyInstance.h"
 #include "bindings/python/PyListeners.h"
 #include "bindings/python/PyMethod.h"
+#include "bindings/python/PyPrimitives.h"
 #include "bindings/python/PyRepr.h"
 #include "bindings/python/PyResults.h"
 #include "bindings/python/PyTerms.h"
@@ -42,15 +42,14 @@ PyObject* newObject(PyTypeObject* type, PyObject*, PyObject*) {
 }
 
 void deallocate(PyObject* self) {
-    warnOfLoss(self);
     clearInstance(self);
     freeInstance(self);
 }
 
 /// Whether objects of a class are made of a number that they show.
 bool takesNumber(const BoundClass& bound) {
-    const auto isNumber = [](const SignatureWord& word) {
-        return word.getKind() == SignatureWord::Kind::Double;
+    const auto isNumber = [](const Parameter& parameter) {
+        return parameter.word.getKind() == SignatureWord::Kind::Double;
     };
     return std::any_of(bound.constructors.begin(), bound.constructors.end(),
                        [&](const BoundConstructor& each) {
@@ -161,6 +160,26 @@ void PyClassBuilder::declareEvent(const BoundEvent&) {
     hasListeners_ = true;
 }
 
+namespace {
+
+/// What the layer in Python adds to a class: a class of the same name, as a further base. Null if it adds nothing.
+PyRef findConveniences(const char* name) {
+    const PyRef layer = checked(PyImport_ImportModule("vellox._conveniences"));
+    if (!PyObject_HasAttrString(layer.get(), name))
+        return {};
+    return checked(PyObject_GetAttrString(layer.get(), name));
+}
+
+} // namespace
+
+PyRef PyClassBuilder::makeBases() const {
+    const PyRef base = PyRef::share(reinterpret_cast<PyObject*>(base_));
+    const PyRef conveniences = findConveniences(class_.bound.name);
+    if (base && conveniences)
+        return checked(PyTuple_Pack(2, base.get(), conveniences.get()));
+    return base ? base : conveniences;
+}
+
 void PyClassBuilder::makeType() {
     static PyMemberDef members[] = {
         {"__weaklistoffset__", T_PYSSIZET, offsetof(PyInstanceHead, weakReferences), READONLY, nullptr}, {}};
@@ -174,18 +193,21 @@ void PyClassBuilder::makeType() {
                                    {Py_tp_init, reinterpret_cast<void*>(initObject)},
                                    {Py_tp_repr, reinterpret_cast<void*>(represent)},
                                    {Py_tp_members, members}});
-    PyMethodDef* methods = hasListeners_ ? getListeningMethods() : findConveniences(class_.bound);
-    if (methods)
-        slots.push_back({Py_tp_methods, methods});
+    if (hasListeners_)
+        class_.methods = getListeningMethods();
+    if (class_.isRoot())
+        class_.methods = getPrimitives();
+    class_.methods.push_back({});
     class_.getSets.push_back({});
     slots.insert(slots.end(), {{Py_tp_doc, const_cast<char*>(class_.doc.c_str())},
                                {Py_tp_getset, class_.getSets.data()},
+                               {Py_tp_methods, class_.methods.data()},
                                {0, nullptr}});
     const std::size_t size = hasListeners_ ? sizeof(PyListeningInstance) : sizeof(PyInstance);
     const unsigned int flags =
         Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | (hasListeners_ ? Py_TPFLAGS_HAVE_GC : 0);
     PyType_Spec spec = {class_.fullName.c_str(), static_cast<int>(size), 0, flags, slots.data()};
-    PyObject* type = PyType_FromSpecWithBases(&spec, reinterpret_cast<PyObject*>(base_));
+    PyObject* type = PyType_FromSpecWithBases(&spec, makeBases().get());
     class_.type = reinterpret_cast<PyTypeObject*>(checked(type).release());
     addMethods();
 }

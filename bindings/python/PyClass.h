@@ -31,6 +31,7 @@ struct PyClass {
     std::vector<const hostbind::Signature*> constructorSignatures;
     std::deque<PyProperty> properties;
     std::vector<PyGetSetDef> getSets;
+    std::vector<PyMethodDef> methods; ///< those that aren't rows of the table
 
     explicit PyClass(const hostbind::BoundClass& boundClass);
     /// Whether this is the class of what all objects have.
@@ -51,6 +52,8 @@ public:
     void makeType();
 
 private:
+    /// The types that the type derives from, or the only one; null for none.
+    PyRef makeBases() const;
     void addMethods();
 
     PyClass& class_;

@@ -3,6 +3,7 @@
 #include "bindings/python/PyClass.h"
 #include "bindings/python/PyClassSystem.h"
 #include "bindings/python/PyErrors.h"
+#include "bindings/python/PyRepr.h"
 #include "vellox/host/binding/BindingRegistry.h"
 
 #include <new>
@@ -50,7 +51,31 @@ PyRef allocateInstance(PyTypeObject* type) {
     return made;
 }
 
+namespace {
+
+/// Warns of a Python object that is dropped with work in it that nobody else can finish.
+void warnOfLoss(PyObject* self) {
+    const PySlot& slot = slotOf(self);
+    const ObjectPtr facade = slot.getProxy();
+    const bool isOnlyHandle = facade.use_count() == 2; // beside the slot's own
+    if (!isOnlyHandle || slot.isGivenUp() || !slot.getClass()->bound.isUnfinished ||
+        !slot.getClass()->bound.isUnfinished(*facade))
+        return;
+    const ErrorKept kept;
+    const int result = guarded<int>(-1, [&] {
+        // Nothing may hold the object any more, not even for the time of a call.
+        const PyRef words = checked(represent(self));
+        return PyErr_WarnFormat(PyExc_ResourceWarning, 1, "%U wasn't closed: its slides are lost",
+                                words.get());
+    });
+    if (result < 0)
+        PyErr_WriteUnraisable(nullptr);
+}
+
+} // namespace
+
 void clearInstance(PyObject* self) {
+    warnOfLoss(self);
     if (reinterpret_cast<PyInstanceHead*>(self)->weakReferences)
         PyObject_ClearWeakRefs(self);
     slotOf(self).~PySlot();

@@ -129,19 +129,16 @@ std::vector<PyType_Slot> getListeningSlots() {
             {Py_tp_dealloc, reinterpret_cast<void*>(deallocate)}};
 }
 
-PyMethodDef* getListeningMethods() {
-    static PyMethodDef methods[] = {
-        {"addListener", addListener, METH_O,
-         "addListener($self, listener, /)\n--\n\n"
-         "addListener(listener: Callable[[MessageEventData], object]) -> None\n"
-         "    Lets a callable hear every message that passes the filter. What it raises reaches\n"
-         "    whoever caused the message."},
-        {"removeListener", removeListener, METH_O,
-         "removeListener($self, listener, /)\n--\n\n"
-         "removeListener(listener: Callable[[MessageEventData], object]) -> None\n"
-         "    Takes a listener off again. Does nothing for one that isn't listening."},
-        {}};
-    return methods;
+std::vector<PyMethodDef> getListeningMethods() {
+    return {{"addListener", addListener, METH_O,
+             "addListener($self, listener, /)\n--\n\n"
+             "addListener(listener: Callable[[MessageEventData], object]) -> None\n"
+             "    Lets a callable hear every message that passes the filter. What it raises reaches\n"
+             "    whoever caused the message."},
+            {"removeListener", removeListener, METH_O,
+             "removeListener($self, listener, /)\n--\n\n"
+             "removeListener(listener: Callable[[MessageEventData], object]) -> None\n"
+             "    Takes a listener off again. Does nothing for one that isn't listening."}};
 }
 
 void callListeners(PyObject* object, const MessageEventData& payload) {

@@ -27,7 +27,7 @@ struct PyListeningInstance {
 
 /// @{ The type slots and the methods that a type whose objects have listeners needs.
 std::vector<PyType_Slot> getListeningSlots();
-PyMethodDef* getListeningMethods();
+std::vector<PyMethodDef> getListeningMethods();
 /// @}
 
 /// Calls the listeners of an object, in the order in which they were added.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <sstream>
 
 namespace vellox::ppt::python {
 
@@ -45,19 +44,15 @@ std::string getTypeName(const BoundProperty& property) {
     return getTypeName(property.type) + (property.mayBeEmpty ? " | None" : "");
 }
 
-std::string formatParameters(const Signature& signature, const char* parameters) {
-    std::istringstream names(parameters);
+std::string formatParameters(const Signature& signature) {
     std::string text;
-    for (const SignatureWord& word : signature) {
-        std::string name;
-        names >> name;
-        text += (text.empty() ? "" : ", ") + name.substr(0, name.find(',')) + ": " + getTypeName(word);
-    }
+    for (const Parameter& parameter : signature)
+        text += (text.empty() ? "" : ", ") + std::string(parameter.name) + ": " + getTypeName(parameter.word);
     return text;
 }
 
 std::string formatMethod(const BoundMethod& method) {
-    return std::string(method.name) + "(" + formatParameters(method.signature, method.parameters) + ") -> " +
+    return std::string(method.name) + "(" + formatParameters(method.signature) + ") -> " +
            getTypeName(method.result);
 }
 
@@ -66,39 +61,31 @@ std::string formatConstructors(const BoundClass& bound) {
     for (const BoundConstructor& constructor : bound.constructors)
         if (!constructor.isHidden)
             text += (text.empty() ? "" : "\n") + std::string(bound.name) + "(" +
-                    formatParameters(constructor.signature, constructor.parameters) + ")";
+                    formatParameters(constructor.signature) + ")";
     return text;
 }
 
 namespace {
 
-std::vector<std::string> splitNames(const char* parameters) {
-    std::istringstream words(parameters);
-    std::vector<std::string> names;
-    for (std::string name; words >> name;)
-        names.push_back(name.substr(0, name.find(',')));
-    return names;
-}
-
 /// The name of a parameter that all overloads give it, else a word for all of them.
-std::string mergeNames(const std::vector<std::vector<std::string>>& overloads, std::size_t i) {
+std::string mergeNames(const std::vector<const Signature*>& overloads, std::size_t i) {
     std::string merged;
-    for (const std::vector<std::string>& names : overloads) {
-        if (i >= names.size() || names[i] == merged)
+    for (const Signature* signature : overloads) {
+        if (i >= signature->size() || (*signature)[i].name == merged)
             continue;
         if (!merged.empty())
             return "argument" + std::to_string(i + 1);
-        merged = names[i];
+        merged = (*signature)[i].name;
     }
     return merged;
 }
 
-std::string mergeParameters(std::string text, const std::vector<std::vector<std::string>>& overloads) {
-    std::size_t least = overloads.empty() ? 0 : overloads.front().size();
+std::string mergeParameters(std::string text, const std::vector<const Signature*>& overloads) {
+    std::size_t least = overloads.empty() ? 0 : overloads.front()->size();
     std::size_t most = 0;
-    for (const std::vector<std::string>& names : overloads) {
-        least = std::min(least, names.size());
-        most = std::max(most, names.size());
+    for (const Signature* signature : overloads) {
+        least = std::min(least, signature->size());
+        most = std::max(most, signature->size());
     }
     for (std::size_t i = 0; i < most; ++i)
         text += (text.empty() ? "" : ", ") + mergeNames(overloads, i) + (i < least ? "" : "=...");
@@ -108,18 +95,18 @@ std::string mergeParameters(std::string text, const std::vector<std::vector<std:
 } // namespace
 
 std::string formatTextSignature(const std::vector<const BoundMethod*>& overloads) {
-    std::vector<std::vector<std::string>> names;
+    std::vector<const Signature*> signatures;
     for (const BoundMethod* overload : overloads)
-        names.push_back(splitNames(overload->parameters));
-    return mergeParameters(overloads.front()->isStatic ? "" : "$self", names);
+        signatures.push_back(&overload->signature);
+    return mergeParameters(overloads.front()->isStatic ? "" : "$self", signatures);
 }
 
 std::string formatTextSignature(const BoundClass& bound) {
-    std::vector<std::vector<std::string>> names;
+    std::vector<const Signature*> signatures;
     for (const BoundConstructor& constructor : bound.constructors)
         if (!constructor.isHidden)
-            names.push_back(splitNames(constructor.parameters));
-    return bound.name + mergeParameters("", names) + "\n--\n\n";
+            signatures.push_back(&constructor.signature);
+    return bound.name + mergeParameters("", signatures) + "\n--\n\n";
 }
 
 std::string describeOverloads(const std::vector<const BoundMethod*>& overloads) {

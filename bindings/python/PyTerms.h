@@ -17,7 +17,7 @@ std::string getTypeName(const hostbind::SignatureWord& word);
 /// The type of what a property holds, such as "str | None".
 std::string getTypeName(const hostbind::BoundProperty& property);
 /// Names and types of parameters, such as "text: str, level: int".
-std::string formatParameters(const hostbind::Signature& signature, const char* parameters);
+std::string formatParameters(const hostbind::Signature& signature);
 /// Such as "add(text: str) -> Paragraph".
 std::string formatMethod(const hostbind::BoundMethod& method);
 /// Such as "Paragraph(text: str)", one line for each constructor.

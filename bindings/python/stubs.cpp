@@ -1,6 +1,8 @@
 // Writes the stubs of vellox.ppt for type checkers, from the table that the module itself is made from.
 //
-//     vellox_python_stubs ppt.pyi
+//     vellox_python_stubs _conveniences.py ppt.pyi
+//
+// _conveniences.py is the layer in Python over the classes of the table, and typed there.
 
 #include "bindings/python/PyTerms.h"
 
@@ -20,8 +22,9 @@ constexpr char kHead[] = R"(# Written from the class table of the library.
 import datetime
 import os
 from collections.abc import Callable, Sequence
-from types import TracebackType
-from typing import Any, Generic, Literal, Never, Protocol, Self, SupportsFloat, SupportsIndex, TypeVar, overload
+from typing import Any, Generic, Never, Protocol, SupportsFloat, SupportsIndex, TypeVar, overload
+
+from . import _conveniences
 
 class _Array(Protocol):
     def __array__(self) -> Any: ...
@@ -68,10 +71,6 @@ class StateError(Error, RuntimeError): ...
 class PresentationWarning(UserWarning): ...
 )";
 
-constexpr char kObjectMethods[] = R"(    def __copy__(self) -> Self: ...
-    def __deepcopy__(self, memo: Any, /) -> Self: ...
-)";
-
 /// What stands in a node of a class.
 constexpr const char* kChildren[][2] = {
     {"Node", "Sequence[Node]"},         {"Presentation", "list[Slide]"},   {"Slide", "list[Shape]"},
@@ -88,39 +87,10 @@ constexpr const char* kResults[][2] = {
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
 };
 
-constexpr char kPresentationMethods[] = R"(    def __enter__(self) -> Presentation: ...
-    def __exit__(
-        self, type: type[BaseException] | None = ..., value: BaseException | None = ...,
-        traceback: TracebackType | None = ..., /
-    ) -> Literal[False]: ...
-)";
-
 constexpr char kListenerMethods[] =
     R"(    def addListener(self, listener: Callable[[MessageEventData], object], /) -> None: ...
     def removeListener(self, listener: Callable[[MessageEventData], object], /) -> None: ...
 )";
-
-void replaceAll(std::string& text, const std::string& word, const std::string& other) {
-    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; at += other.size())
-        text.replace(at, word.size(), other);
-}
-
-/// What arguments may be, where Python knows more kinds than the table, or fewer.
-std::string refineParameters(std::string parameters) {
-    constexpr const char* kWords[][2] = {
-        {": str", ": _Text"},
-        {"name: Any", "name: _Text"},
-        {"master: Any", "master: _Text"},
-        // What a shape of a name is given may be an object, what a text box is given itself is a list.
-        {"_Text, content: Any", "_Text, content: _Content"},
-        {": Any", ": _Items"},
-        {": int", ": SupportsIndex"},
-        {": float", ": _Number"},
-    };
-    for (const auto& [word, refined] : kWords)
-        replaceAll(parameters, word, refined);
-    return parameters;
-}
 
 /// The second entry of the row that begins with a key; empty if there is none.
 template <std::size_t kCount>
@@ -156,13 +126,34 @@ std::string getGivenType(const SignatureWord& word) {
     }
 }
 
-std::string formatFunction(const std::string& name, const Signature& signature, const char* parameters,
-                           const std::string& result, bool isStatic) {
-    const std::string list = refineParameters(formatParameters(signature, parameters));
-    const std::string self = isStatic ? "" : "self";
-    const std::string separator = self.empty() || list.empty() ? "" : ", ";
-    return "    def " + name + "(" + self + separator + list + (list.empty() ? "" : ", /") + ") -> " +
-           result + ": ...\n";
+/// What an argument may be, where Python knows more kinds than the table, or fewer.
+std::string getArgumentType(const Parameter& parameter, bool isFirst) {
+    switch (parameter.word.getKind()) {
+    case SignatureWord::Kind::Char:
+        return "_Text";
+    case SignatureWord::Kind::Uint32:
+        return "SupportsIndex";
+    case SignatureWord::Kind::Double:
+        return "_Number";
+    case SignatureWord::Kind::Any:
+        break;
+    default:
+        return getTypeName(parameter.word);
+    }
+    const std::string name = parameter.name;
+    if (name == "name" || name == "master")
+        return "_Text";
+    // What a shape of a name is given may be an object, what a text box is given itself is a list.
+    return isFirst ? "_Items" : "_Content";
+}
+
+std::string formatFunction(const std::string& name, const Signature& signature, const std::string& result,
+                           bool isStatic) {
+    std::string list = isStatic ? "" : "self";
+    for (const Parameter& parameter : signature)
+        list += (list.empty() ? "" : ", ") + std::string(parameter.name) + ": " +
+                getArgumentType(parameter, &parameter == &signature.front());
+    return "    def " + name + "(" + list + (signature.empty() ? "" : ", /") + ") -> " + result + ": ...\n";
 }
 
 /// Of abstract classes the library alone makes objects; nothing can be passed to what wants a Never.
@@ -174,7 +165,7 @@ void writeConstructors(const BoundClass& bound, std::ostream& stubs) {
     for (const BoundConstructor& constructor : bound.constructors)
         if (isForUsers)
             stubs << (bound.constructors.size() > 1 ? "    @overload\n" : "")
-                  << formatFunction("__init__", constructor.signature, constructor.parameters, "None", false);
+                  << formatFunction("__init__", constructor.signature, "None", false);
 }
 
 void writeReadOnly(const char* name, const std::string& type, std::ostream& stubs) {
@@ -201,7 +192,7 @@ bool takesAll(const SignatureWord& wide, const SignatureWord& narrow) {
 
 bool takesAll(const Signature& wide, const Signature& narrow) {
     return std::equal(wide.begin(), wide.end(), narrow.begin(), narrow.end(),
-                      [](const SignatureWord& w, const SignatureWord& n) { return takesAll(w, n); });
+                      [](const Parameter& w, const Parameter& n) { return takesAll(w.word, n.word); });
 }
 
 /// Type checkers take the first overload that fits: one that another would hide comes ahead of that.
@@ -223,15 +214,27 @@ void writeMethods(const BoundClass& bound, std::ostream& stubs) {
         for (const BoundMethod* overload : overloads)
             stubs << (overload->isStatic ? "    @staticmethod\n" : "")
                   << (overloads.size() > 1 ? "    @overload\n" : "")
-                  << formatFunction(overload->name, overload->signature, overload->parameters,
-                                    getResult(bound, *overload), overload->isStatic);
+                  << formatFunction(overload->name, overload->signature, getResult(bound, *overload),
+                                    overload->isStatic);
     }
 }
 
-void writeClass(const BoundClass& bound, std::ostream& stubs) {
-    const BoundClass* superclass = bound.getSuperclass();
-    stubs << "\nclass " << bound.name << (superclass ? "(" + std::string(superclass->name) + ")" : "")
-          << ":\n";
+/// The classes that a source of Python defines.
+std::set<std::string> readClassNames(std::istream& source) {
+    const std::string start = "class ";
+    std::set<std::string> names;
+    for (std::string line; std::getline(source, line);)
+        if (line.compare(0, start.size(), start) == 0)
+            names.insert(line.substr(start.size(), line.find_first_of("(:") - start.size()));
+    return names;
+}
+
+/// @param conveniences the classes to which the layer in Python adds something
+void writeClass(const BoundClass& bound, const std::set<std::string>& conveniences, std::ostream& stubs) {
+    std::string bases = bound.getSuperclass() ? bound.getSuperclass()->name : "";
+    if (conveniences.count(bound.name) > 0)
+        bases += (bases.empty() ? "" : ", ") + std::string("_conveniences.") + bound.name;
+    stubs << "\nclass " << bound.name << (bases.empty() ? "" : "(" + bases + ")") << ":\n";
     stubs << "    \"\"\"" << bound.doc << "\"\"\"\n";
     writeConstructors(bound, stubs);
     for (const BoundProperty& property : bound.properties)
@@ -240,10 +243,6 @@ void writeClass(const BoundClass& bound, std::ostream& stubs) {
     if (!children.empty())
         writeReadOnly("Children", children, stubs);
     writeMethods(bound, stubs);
-    if (std::strcmp(bound.name, "Object") == 0)
-        stubs << kObjectMethods;
-    if (std::strcmp(bound.name, "Presentation") == 0)
-        stubs << kPresentationMethods;
     if (!bound.events.empty())
         stubs << kListenerMethods;
 }
@@ -251,14 +250,16 @@ void writeClass(const BoundClass& bound, std::ostream& stubs) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "vellox_python_stubs <ppt.pyi>\n";
+    if (argc != 3) {
+        std::cerr << "vellox_python_stubs <_conveniences.py> <ppt.pyi>\n";
         return 2;
     }
-    std::ofstream stubs(argv[1]);
+    std::ifstream layer(argv[1]);
+    const std::set<std::string> conveniences = readClassNames(layer);
+    std::ofstream stubs(argv[2]);
     stubs << kHead;
     for (const BoundClass& bound : getBoundClasses())
-        writeClass(bound, stubs);
+        writeClass(bound, conveniences, stubs);
     stubs.close();
-    return stubs ? 0 : 1;
+    return stubs && layer.eof() ? 0 : 1;
 }

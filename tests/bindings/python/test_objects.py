@@ -197,6 +197,19 @@ def test_copies(duplicate, deck):
             duplicate(refused)
 
 
+def test_conveniences_are_inherited(tmp_path):
+    class Report(ppt.Presentation):
+        def close(self):
+            self.add("Blank")
+            return super().close()
+
+    with Report(tmp_path / "report.pptx") as deck:
+        assert type(deck) is Report and not deck.Children
+    assert len(deck.Children) == 1 and (tmp_path / "report.pptx").exists()
+    # Also by a class whose objects have methods of their own beside the table's.
+    assert ppt.MessageDispatcher.__copy__ is ppt.Object.__copy__ and ppt.MessageDispatcher.addListener
+
+
 def test_an_open_deck_that_is_dropped_is_warned_of(tmp_path):
     def leave_open():
         deck = ppt.Presentation(tmp_path / "lost.pptx")

@@ -1,5 +1,7 @@
 #include "vellox/ppt/object/PPTNode.h"
 
+#include "vellox/host/binding/BoundClass.h"
+#include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 #include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/Paragraph.h"
@@ -122,6 +124,22 @@ TEST(PPTNode, KnowsItsKindAndFamily) {
     EXPECT_TRUE(BaseTextBox::cast(node));
     EXPECT_FALSE(Paragraph::cast(node));
     EXPECT_FALSE(Shape::cast(boost::shared_ptr<PPTNode>()));
+}
+
+TEST(NodeKinds, AreAsTheClassTreeOfHostsHasThem) {
+    for (int number = 1; number <= static_cast<int>(NodeType::TextBoxPlaceholder); ++number) {
+        const NodeKind& kind = getNodeKind(static_cast<NodeType>(number));
+        const hostbind::BoundClass* bound = hostbind::findBoundClass(kind.hostName);
+        ASSERT_TRUE(bound) << kind.hostName;
+        const NodeType family = kind.isA;
+        while (bound && family != NodeType::None && bound->getFullName() != getNodeKind(family).hostName)
+            bound = bound->getSuperclass();
+        EXPECT_TRUE(bound) << kind.hostName << " as " << getNodeKind(family).hostName;
+        EXPECT_EQ(kind.make == nullptr, kind.nonVisual == nullptr) << kind.hostName;
+    }
+    EXPECT_TRUE(isKindOf(NodeType::ContentPlaceholder, NodeType::TextBoxPlaceholder));
+    EXPECT_FALSE(isKindOf(NodeType::TablePlaceholder, NodeType::PicturePlaceholder));
+    EXPECT_FALSE(isKindOf(NodeType::TextBox, NodeType::None));
 }
 
 TEST(FindNodes, FindsEveryMatchInDocumentOrder) {

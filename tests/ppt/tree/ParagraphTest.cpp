@@ -2,6 +2,7 @@
 
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
@@ -46,24 +47,43 @@ TEST(Text, TakesContentOfEveryKind) {
     struct Row {
         HvContentPtr content;
         const wchar_t* text;
-        bool isNumber;
+        TextImpl::Given given;
     };
+    const TextImpl::Given nothing;
     const Row rows[] = {
-        {HvContentPtr(), L"", false},
+        {HvContentPtr(), L"", nothing},
         {boost::make_shared<BooleanContent>(true), L"1", true},
-        {boost::make_shared<IntegerContent>(-7), L"-7", true},
-        {test::number(2.5), L"2.5", true},
-        {test::text(L"text"), L"text", false},
+        {boost::make_shared<IntegerContent>(-7), L"-7", -7LL},
+        {test::number(2.5), L"2.5", 2.5},
+        {test::text(L"text"), L"text", nothing},
         {boost::make_shared<DataContent>(boost::make_shared<HvData>(data.get()), HvContent::Unknown),
-         L"struct [1x1]", false},
-        {test::object(Paragraph(L"p")), L"", false},
-        {test::list({test::text(L"a")}), L"", false},
+         L"struct [1x1]", nothing},
+        {test::object(Paragraph(L"p")), L"", nothing},
+        {test::list({test::text(L"a")}), L"", nothing},
     };
     for (const Row& row : rows) {
         const boost::intrusive_ptr<TextImpl> run(new TextImpl(row.content));
         EXPECT_EQ(run->getTextContent(), row.text);
-        EXPECT_EQ(run->isNumContent(), row.isNumber);
+        EXPECT_TRUE(run->getGiven() == row.given);
+        EXPECT_EQ(run->isNumContent(), row.given != nothing);
     }
+}
+
+TEST(Text, KeepsWhatItWasGiven) {
+    const auto given = [](const Text& run) { return implOf<TextImpl>(*run.clone())->getGiven(); };
+    const long long large = 9007199254740993; // no double has its last digit
+    EXPECT_TRUE(given(Text(large)) == TextImpl::Given(large));
+    EXPECT_EQ(Text(large).getTextContent(), L"9007199254740992");
+    EXPECT_TRUE(given(Text(std::size_t(7))) == TextImpl::Given(7LL));
+    EXPECT_TRUE(given(Text(~0ULL)) ==
+                TextImpl::Given(18446744073709551615.0)); // beyond all whole numbers here
+    EXPECT_TRUE(given(Text(true)) == TextImpl::Given(true));
+    EXPECT_EQ(Text(true).getNumContent(), 1);
+    const Paragraph whole(2);
+    EXPECT_TRUE(implOf<TextImpl>(*whole.getChildren().at(0))->getGiven() == TextImpl::Given(2LL));
+    Text run(7);
+    run.setTextContent(L"7");
+    EXPECT_TRUE(given(run) == TextImpl::Given());
 }
 
 TEST(Paragraph, IsBuiltOfRuns) {
@@ -82,6 +102,21 @@ TEST(Paragraph, IsBuiltOfRuns) {
     EXPECT_EQ(Paragraph(2.5, 3).getLevel().get(), 3u);
     const auto copy = paragraph.clone();
     EXPECT_EQ(static_cast<const ExternalLink&>(*copy->getChildren()[2]).getTarget(), L"http://target");
+}
+
+TEST(Paragraph, OfATruthValueKeepsItWithoutShowingIt) {
+    const auto isTrue = boost::make_shared<BooleanContent>(true);
+    TextBox box;
+    box.replace(test::list({isTrue, test::text(L"text")}));
+    const Table table(boost::make_shared<test::MemoryTable>(1, std::initializer_list<HvContentPtr>{isTrue}));
+    const auto copy = box.clone();
+    const auto cell = table.getChildren().at(0)->getChildren().at(0);
+    for (const auto& paragraph :
+         {box.getChildren().at(0), copy->getChildren().at(0), cell->getChildren().at(0)}) {
+        EXPECT_EQ(paragraph->getNChildren(), 0u);
+        EXPECT_EQ(implOf<ParagraphImpl>(*paragraph)->getTruthValue(), std::optional<bool>(true));
+    }
+    EXPECT_FALSE(implOf<ParagraphImpl>(*box.getChildren().at(1))->getTruthValue());
 }
 
 } // namespace

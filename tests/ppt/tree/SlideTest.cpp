@@ -1,7 +1,9 @@
 #include "vellox/ppt/tree/Slide.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/GroupImpl.h"
+#include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/tree/PicturePlaceholder.h"
 #include "vellox/ppt/tree/PicturePlaceholderImpl.h"
 #include "vellox/ppt/tree/TablePlaceholder.h"
@@ -125,6 +127,41 @@ TEST_F(SlideTest, AReplacedPlaceholderIsOutOfUse) {
     EXPECT_EQ(again.getName(), L"Content");
     slide.replace(L"Content", object(given)); // a picture isn't replaced by name
     EXPECT_EQ(*slide.getChildren()[1], again);
+}
+
+// The size of a picture as it can be read, and a star where it is its file's.
+std::wstring sizeOf(const Picture& picture) {
+    const ShapeGeometry& geometry = implOf<PictureImpl>(picture)->getGeometry();
+    std::wstring text;
+    for (const Extent* extent : {&geometry.cx, &geometry.cy}) {
+        text += extent->isSet() ? extent->get().getRawValue() : L"none";
+        text += extent->isFromFile() ? L"* " : L" ";
+    }
+    const ImageInfo& file = implOf<PictureImpl>(picture)->getFileSize();
+    return text + num2str(file.getWidth()) + L"x" + num2str(file.getHeight());
+}
+
+TEST_F(SlideTest, PicturesTellTheirFilesSizeFromOneThatWasSet) {
+    const std::wstring small = folder / L"small.png", large = folder / L"large.png";
+    writeFile(small, makePng(20, 10));
+    writeFile(large, makePng(800, 600));
+    EXPECT_EQ(sizeOf(Picture()), L"none none 0x0");
+    Picture picture(large);
+    EXPECT_EQ(sizeOf(picture), L"800px* 600px* 800x600");
+    picture.setWidth(L"1in"); // the height stays as it is
+    EXPECT_EQ(sizeOf(picture), L"1in 600px* 800x600");
+    EXPECT_EQ(sizeOf(*Picture::cast(picture.clone())), L"1in 600px* 800x600");
+    picture.setHeight(L"600px"); // even if the file's is the same
+    EXPECT_EQ(sizeOf(picture), L"1in 600px 800x600");
+    picture.setPath(small);
+    EXPECT_EQ(sizeOf(picture), L"20px* 10px* 20x10");
+    picture.unsetWidth();
+    EXPECT_EQ(sizeOf(picture), L"none 10px* 20x10");
+
+    Slide slide = deck.add(L"Title and Picture");
+    Picture onSlide = get<PicturePlaceholder>(slide, L"Picture").replace(Picture(large));
+    EXPECT_EQ(sizeOf(onSlide), L"800px* 600px* 800x600");
+    EXPECT_EQ(sizeOf(onSlide.replace(picture)), L"800px 10px* 20x10"); // the former's width isn't this file's
 }
 
 TEST_F(SlideTest, NothingGivesWayInsideAGroup) {

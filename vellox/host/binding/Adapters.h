@@ -2,13 +2,14 @@
 /// From facade members to rows of the class table. The types of a member say what the words of its signature
 /// are and how its arguments and its result are converted, so that the three can't differ:
 ///
-///     make<Paragraph, std::wstring, unsigned int>("text, level")       // (char, uint32 scalar)
+///     make<Paragraph, std::wstring, unsigned int>({"text", "level"})   // (char, uint32 scalar)
 ///     property<Slide, &Slide::getName, &Slide::setName>("Name", "...")
-///     Method<Paragraph, Text(Wide)>::row<&Paragraph::append>("append", "text", "...")
+///     Method<Paragraph, Text(Wide)>::row<&Paragraph::append>("append", {"text"}, "...")
 
 #ifndef VELLOX_HOST_BINDING_ADAPTERS_H
 #define VELLOX_HOST_BINDING_ADAPTERS_H
 
+#include <array>
 #include <boost/make_shared.hpp>
 #include <string>
 #include <type_traits>
@@ -129,6 +130,21 @@ template <class T> struct ToHost<BaseAttribute<T>> {
 };
 /// @}
 
+/// @{ Signatures.
+/// The names of a function's parameters, one for each.
+template <std::size_t kCount> struct ParameterNames : std::array<const char*, kCount> {
+    template <class... Names, class = std::enable_if_t<sizeof...(Names) == kCount>>
+    ParameterNames(Names... names) : std::array<const char*, kCount>{{names...}} {}
+};
+
+/// The parameters of a function that takes arguments of types A.
+template <class... A, std::size_t... kI>
+Signature makeSignature(const ParameterNames<sizeof...(A)>& names, std::index_sequence<kI...>) {
+    static_cast<void>(names); // nothing to name for a function that takes nothing
+    return {Parameter{names[kI], SignatureWord(FromHost<A>::kWord)}...};
+}
+/// @}
+
 /// @{ Constructors.
 template <class C, class... A, std::size_t... kI>
 ObjectPtr construct(const Arguments& arguments, std::index_sequence<kI...>) {
@@ -137,8 +153,8 @@ ObjectPtr construct(const Arguments& arguments, std::index_sequence<kI...>) {
 }
 
 /// The constructor of C that takes arguments of types A.
-template <class C, class... A> BoundConstructor make(const char* parameters = "") {
-    return {{SignatureWord(FromHost<A>::kWord)...}, parameters, [](const Arguments& arguments) {
+template <class C, class... A> BoundConstructor make(const ParameterNames<sizeof...(A)>& names = {}) {
+    return {makeSignature<A...>(names, std::index_sequence_for<A...>()), [](const Arguments& arguments) {
                 return construct<C, A...>(arguments, std::index_sequence_for<A...>());
             }};
 }
@@ -149,22 +165,24 @@ template <class C, class... A> BoundConstructor make(const char* parameters = ""
 template <class C, class Form> struct Method;
 
 template <class C, class R, class... A> struct Method<C, R(A...)> {
+    using Names = ParameterNames<sizeof...(A)>;
+
     template <R (C::*kMember)(A...)>
-    static BoundMethod row(const char* name, const char* parameters, const char* doc) {
+    static BoundMethod row(const char* name, const Names& parameters, const char* doc) {
         return makeRow(name, parameters, doc, [](PPTObject* self, const Arguments& arguments) {
             return call([](C& facade, A... a) { return (facade.*kMember)(a...); }, self, arguments,
                         std::index_sequence_for<A...>());
         });
     }
     template <R (C::*kMember)(A...) const>
-    static BoundMethod row(const char* name, const char* parameters, const char* doc) {
+    static BoundMethod row(const char* name, const Names& parameters, const char* doc) {
         return makeRow(name, parameters, doc, [](PPTObject* self, const Arguments& arguments) {
             return call([](C& facade, A... a) { return (facade.*kMember)(a...); }, self, arguments,
                         std::index_sequence_for<A...>());
         });
     }
     template <R (*kAdapter)(C&, A...)>
-    static BoundMethod row(const char* name, const char* parameters, const char* doc) {
+    static BoundMethod row(const char* name, const Names& parameters, const char* doc) {
         return makeRow(name, parameters, doc, [](PPTObject* self, const Arguments& arguments) {
             return call(kAdapter, self, arguments, std::index_sequence_for<A...>());
         });
@@ -173,14 +191,13 @@ template <class C, class R, class... A> struct Method<C, R(A...)> {
 private:
     template <class T> using Plain = std::remove_cv_t<std::remove_reference_t<T>>;
 
-    static BoundMethod makeRow(const char* name, const char* parameters, const char* doc,
+    static BoundMethod makeRow(const char* name, const Names& parameters, const char* doc,
                                BoundMethod::Invoker invoke) {
         const char* result = "void";
         if constexpr (!std::is_void<R>::value)
             result = ToHost<Plain<R>>::kWord;
-        return {
-            name, {SignatureWord(FromHost<Plain<A>>::kWord)...}, SignatureWord(result), invoke, parameters,
-            doc};
+        return {name, makeSignature<Plain<A>...>(parameters, std::index_sequence_for<A...>()),
+                SignatureWord(result), invoke, doc};
     }
     template <class F, std::size_t... kI>
     static HostResult call(F function, PPTObject* self, const Arguments& arguments,

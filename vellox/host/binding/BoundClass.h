@@ -22,9 +22,8 @@ struct BoundConstructor {
     using Maker = ObjectPtr (*)(const Arguments& arguments);
 
     Signature signature;
-    const char* parameters; ///< names for readers, separated by ", "
-    Maker make;             ///< null for a class without objects of the library
-    bool isHidden = false;  ///< for the library alone
+    Maker make;            ///< null for a class without objects of the library
+    bool isHidden = false; ///< for the library alone
 };
 
 struct BoundProperty {
@@ -55,7 +54,6 @@ struct BoundMethod {
     Signature signature;
     SignatureWord result;
     Invoker invoke;
-    const char* parameters; ///< names for readers, separated by ", "
     const char* doc;
     bool isStatic = false;
 };

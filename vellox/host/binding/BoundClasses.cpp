@@ -32,7 +32,7 @@ namespace {
 bool areSame(const Signature& one, const Signature& other) {
     return std::equal(
         one.begin(), one.end(), other.begin(), other.end(),
-        [](const SignatureWord& a, const SignatureWord& b) { return a.getText() == b.getText(); });
+        [](const Parameter& a, const Parameter& b) { return a.word.getText() == b.word.getText(); });
 }
 
 } // namespace

@@ -12,7 +12,7 @@ namespace {
 /// A format that is one truth value.
 template <class C> BoundClass describeLogical(const char* name, const char* doc) {
     BoundClass bound = describe<C>(name, "Format", doc);
-    bound.constructors = {make<C>(), make<C, bool>("value")};
+    bound.constructors = {make<C>(), make<C, bool>({"value"})};
     constexpr void (C::*kSet)(bool) = &C::setValue; // the one that refuses no texts
     bound.properties = {property<C, &C::getValue, kSet>("Value", "Whether it is so.")};
     return bound;
@@ -23,7 +23,7 @@ template <class C>
 BoundClass describeText(const char* name, const char* superclass, const char* doc,
                         const std::vector<BoundProperty>& properties = {}) {
     BoundClass bound = describe<C>(name, superclass, doc);
-    bound.constructors = {make<C>(), make<C, std::wstring>("value")};
+    bound.constructors = {make<C>(), make<C, std::wstring>({"value"})};
     bound.properties = properties;
     return bound;
 }
@@ -32,8 +32,8 @@ BoundClass describeFontFamily() {
     BoundClass bound = describe<FontFamily>("FontFamily", "Format",
                                             "The fonts of text, \"Times New Roman\" and none by default. One "
                                             "font alone is passed over: give two, or set Font.");
-    bound.constructors = {make<FontFamily>(), make<FontFamily, std::wstring>("font"),
-                          make<FontFamily, std::wstring, std::wstring>("font, complexScriptFont")};
+    bound.constructors = {make<FontFamily>(), make<FontFamily, std::wstring>({"font"}),
+                          make<FontFamily, std::wstring, std::wstring>({"font", "complexScriptFont"})};
     bound.properties = {
         property<FontFamily, &FontFamily::getFont, &FontFamily::setFont>("Font",
                                                                          "The font for Latin scripts."),

@@ -14,18 +14,18 @@ BoundClass describeMessage() {
     bound.properties.back().mayBeEmpty = true;
     bound.methods = {
         Method<Message, std::wstring()>::row<&Message::formatAsHTML>(
-            "formatAsHTML", "", "The same as a paragraph of HTML; nothing is escaped."),
-        Method<Message, std::wstring()>::row<&Message::formatAsText>("formatAsText", "",
+            "formatAsHTML", {}, "The same as a paragraph of HTML; nothing is escaped."),
+        Method<Message, std::wstring()>::row<&Message::formatAsText>("formatAsText", {},
                                                                      "The source's tag and the text."),
         Method<Message, bool(const MessageFilter&)>::row<&Message::passesFilter>(
-            "passesFilter", "filter", "Whether a filter lets the message through."),
+            "passesFilter", {"filter"}, "Whether a filter lets the message through."),
     };
     return bound;
 }
 
 template <class C> BoundClass describeKind(const char* name, const char* doc) {
     BoundClass bound = describe<C>(name, "Message", doc);
-    bound.constructors = {make<C, std::wstring, PPTObject>("text, source")};
+    bound.constructors = {make<C, std::wstring, PPTObject>({"text", "source"})};
     return bound;
 }
 
@@ -57,7 +57,6 @@ BoundClass describeDispatcher() {
     BoundClass bound =
         describe<Dispatcher>("MessageDispatcher", "Object", "Hands messages to the listeners. There is one.");
     bound.constructors = {{{},
-                           "",
                            [](const Arguments&) -> ObjectPtr {
                                return boost::make_shared<Dispatcher>(Dispatcher::getTheDispatcher());
                            },
@@ -70,11 +69,10 @@ BoundClass describeDispatcher() {
                                     [](PPTObject*, const Arguments&) {
                                         return ToHost<Dispatcher>::convert(Dispatcher::getTheDispatcher());
                                     },
-                                    "",
                                     "The one dispatcher."};
     getTheDispatcher.isStatic = true;
     bound.methods = {getTheDispatcher, Method<Dispatcher, void(const Message&)>::row<&Dispatcher::dispatch>(
-                                           "dispatch", "message",
+                                           "dispatch", {"message"},
                                            "Lets all listeners hear a message, if it passes the filter.")};
     bound.events = {{"Message", "Fired when a message is appended to the Reporter Message Log",
                      "vellox.ppt.MessageEventData"}};
@@ -83,7 +81,7 @@ BoundClass describeDispatcher() {
 
 BoundClass describeEventData() {
     BoundClass bound = describe<MessageEventData>("MessageEventData", "Object", "What a listener gets.");
-    bound.constructors = {make<MessageEventData, Message>("message")};
+    bound.constructors = {make<MessageEventData, Message>({"message"})};
     bound.properties = {
         readOnlyProperty<MessageEventData, &MessageEventData::getMessage>("Message", "The message.")};
     return bound;

@@ -17,10 +17,10 @@ BoundClass describeNull() {
                         nullptr, {},
                         {},      {},
                         {}};
-    bound.constructors = {{{}, "", nullptr}};
+    bound.constructors = {{{}, nullptr}};
     const auto makeGap = [](PPTObject*, const Arguments&) -> HostResult { return ObjectPtr(); };
-    BoundMethod method = {"DefaultObjectArrayElement", {}, SignatureWord("Null"), makeGap, "",
-                          "What stands in a gap."};
+    BoundMethod method = {
+        "DefaultObjectArrayElement", {}, SignatureWord("Null"), makeGap, "What stands in a gap."};
     method.isStatic = true;
     bound.methods = {method};
     return bound;

@@ -46,7 +46,7 @@ BoundClass describeTextBox() {
 BoundClass describePicture() {
     BoundClass bound =
         describe<Picture>("Picture", "Shape", "An image from a file, in its own size unless told otherwise.");
-    bound.constructors = {make<Picture>(), make<Picture, std::wstring>("path")};
+    bound.constructors = {make<Picture>(), make<Picture, std::wstring>({"path"})};
     bound.methods = {makeReplaceRow<Picture, Picture>("picture")};
     return bound;
 }

@@ -51,11 +51,11 @@ bool isUnfinished(const PPTObject& deck) {
 template <class C> std::vector<BoundMethod> makeReplaceByNameRows() {
     return {
         Method<C, void(Wide, Wide)>::template row<&C::replace>(
-            "replace", "name, text", "Makes a new paragraph the only one of the shapes of a name."),
+            "replace", {"name", "text"}, "Makes a new paragraph the only one of the shapes of a name."),
         Method<C, void(Wide, const Paragraph&)>::template row<&C::replace>(
-            "replace", "name, paragraph", "Makes a paragraph the only one of the shapes of a name."),
+            "replace", {"name", "paragraph"}, "Makes a paragraph the only one of the shapes of a name."),
         Method<C, void(const hvArray&, const hvArray&)>::template row<&replaceAnyByName<C>>(
-            "replace", "name, content",
+            "replace", {"name", "content"},
             "Gives the shapes of a name the items of a list, a Picture or a Table, whichever they take."),
     };
 }
@@ -69,8 +69,8 @@ BoundClass describePresentation() {
     using Deck = Presentation;
     BoundClass bound =
         describe<Deck>("Presentation", "Node", "A presentation, from its template to its file.");
-    bound.constructors = {make<Deck>(), make<Deck, std::wstring>("outputPath"),
-                          make<Deck, std::wstring, std::wstring>("outputPath, templatePath")};
+    bound.constructors = {make<Deck>(), make<Deck, std::wstring>({"outputPath"}),
+                          make<Deck, std::wstring, std::wstring>({"outputPath", "templatePath"})};
     bound.copy = nullptr; // it would write the same file
     bound.isUnfinished = isUnfinished;
     bound.properties = {
@@ -80,35 +80,35 @@ BoundClass describePresentation() {
             "OutputPath", "The file to be made; can't be changed once the presentation is open."),
     };
     bound.methods = {
-        Method<Deck, bool()>::row<&Deck::open>("open", "",
+        Method<Deck, bool()>::row<&Deck::open>("open", {},
                                                "Reads the template. False if it was open before."),
         Method<Deck, bool()>::row<&Deck::close>(
-            "close", "", "Writes all slides and saves the file. False if it isn't open."),
-        Method<Deck, PPTNode::Children(Wide)>::row<&Deck::find>("find", "name",
+            "close", {}, "Writes all slides and saves the file. False if it isn't open."),
+        Method<Deck, PPTNode::Children(Wide)>::row<&Deck::find>("find", {"name"},
                                                                 "All slides and shapes of a name."),
         describeAddParagraph(
-            Method<Deck, void(Wide, const Paragraph&)>::row<&Deck::add>("add", "name, paragraph", "")),
+            Method<Deck, void(Wide, const Paragraph&)>::row<&Deck::add>("add", {"name", "paragraph"}, "")),
     };
     append(bound.methods, makeReplaceByNameRows<Deck>());
-    append(
-        bound.methods,
-        {Method<Deck, Slide(Wide)>::row<&Deck::add>("add", "layout", "Adds a slide of a layout at the end."),
-         Method<Deck, Slide(Wide, Wide)>::row<&Deck::add>("add", "layout, master",
-                                                          "The same, of the layout of one slide master."),
-         Method<Deck, Slide(Wide, const Slide&)>::row<&Deck::add>("add", "layout, before",
-                                                                  "Adds a slide before a slide."),
-         Method<Deck, Slide(Wide, Wide, const Slide&)>::row<&Deck::add>(
-             "add", "layout, master, before", "The same, of the layout of one slide master."),
-         Method<Deck, Slide(Wide, unsigned int)>::row<&addAt>(
-             "add", "layout, position", "Adds a slide at a position, which counts from 1."),
-         Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
-             "add", "layout, master, position", "The same, of the layout of one slide master."),
-         Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", "",
-                                                         "The names of the slide masters."),
-         Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
-             "getLayoutNames", "master", "The names of a slide master's layouts."),
-         Method<Deck, TextCells()>::row<&getTableStyleNames>(
-             "getTableStyleNames", "", "The name and the id of each table style of the template.")});
+    append(bound.methods,
+           {Method<Deck, Slide(Wide)>::row<&Deck::add>("add", {"layout"},
+                                                       "Adds a slide of a layout at the end."),
+            Method<Deck, Slide(Wide, Wide)>::row<&Deck::add>("add", {"layout", "master"},
+                                                             "The same, of the layout of one slide master."),
+            Method<Deck, Slide(Wide, const Slide&)>::row<&Deck::add>("add", {"layout", "before"},
+                                                                     "Adds a slide before a slide."),
+            Method<Deck, Slide(Wide, Wide, const Slide&)>::row<&Deck::add>(
+                "add", {"layout", "master", "before"}, "The same, of the layout of one slide master."),
+            Method<Deck, Slide(Wide, unsigned int)>::row<&addAt>(
+                "add", {"layout", "position"}, "Adds a slide at a position, which counts from 1."),
+            Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
+                "add", {"layout", "master", "position"}, "The same, of the layout of one slide master."),
+            Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", {},
+                                                            "The names of the slide masters."),
+            Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
+                "getLayoutNames", {"master"}, "The names of a slide master's layouts."),
+            Method<Deck, TextCells()>::row<&getTableStyleNames>(
+                "getTableStyleNames", {}, "The name and the id of each table style of the template.")});
     return bound;
 }
 
@@ -121,14 +121,14 @@ BoundClass describeSlide() {
     };
     constexpr const char* kAddObject = "Puts this very object on the slide, on top of what is there.";
     bound.methods = {
-        Method<Slide, Picture(const Picture&)>::row<&Slide::add>("add", "picture", kAddObject),
-        Method<Slide, Table(const Table&)>::row<&Slide::add>("add", "table", kAddObject),
-        Method<Slide, TextBox(const TextBox&)>::row<&Slide::add>("add", "textBox", kAddObject),
-        Method<Slide, PPTNode::Children(Wide)>::row<&Slide::find>("find", "name", "All shapes of a name."),
+        Method<Slide, Picture(const Picture&)>::row<&Slide::add>("add", {"picture"}, kAddObject),
+        Method<Slide, Table(const Table&)>::row<&Slide::add>("add", {"table"}, kAddObject),
+        Method<Slide, TextBox(const TextBox&)>::row<&Slide::add>("add", {"textBox"}, kAddObject),
+        Method<Slide, PPTNode::Children(Wide)>::row<&Slide::find>("find", {"name"}, "All shapes of a name."),
         Method<Slide, void(Wide, Wide)>::row<&Slide::add>(
-            "add", "name, text", "Adds a new paragraph to the text boxes and placeholders of a name."),
+            "add", {"name", "text"}, "Adds a new paragraph to the text boxes and placeholders of a name."),
         describeAddParagraph(
-            Method<Slide, void(Wide, const Paragraph&)>::row<&Slide::add>("add", "name, paragraph", "")),
+            Method<Slide, void(Wide, const Paragraph&)>::row<&Slide::add>("add", {"name", "paragraph"}, "")),
     };
     append(bound.methods, makeReplaceByNameRows<Slide>());
     return bound;

@@ -60,8 +60,8 @@ boost::shared_ptr<TableEntry> getEntry(Table& table, unsigned int r, unsigned in
 BoundClass describeTable() {
     BoundClass bound = describe<Table>("Table", "Shape", "Rows of entries.");
     bound.constructors = {make<Table>(),
-                          make<Table, unsigned int>("nCols"),
-                          {{SignatureWord("any")}, "content", makeTableOfContent}};
+                          make<Table, unsigned int>({"nCols"}),
+                          {{{"content", SignatureWord("any")}}, makeTableOfContent}};
     bound.properties = makeFontRows<Table>();
     append(bound.properties,
            {optionalProperty<Table, &Table::getStyleName, &Table::setStyleName, &Table::unsetStyleName>(
@@ -73,12 +73,12 @@ BoundClass describeTable() {
             readOnlyProperty<Table, &Table::getNCols>("NCols", "The number of entries of the widest row.")});
     bound.methods = {
         Method<Table, TableRow(const TableRow&)>::row<&Table::append>(
-            "append", "row", "Appends this very row, which must not stand anywhere yet."),
+            "append", {"row"}, "Appends this very row, which must not stand anywhere yet."),
         makeReplaceRow<Table, Table>("table"),
         Method<Table, boost::shared_ptr<TableEntry>(unsigned int, unsigned int)>::row<&getEntry>(
-            "entry", "row, column", "The entry at a row and a column, which count from 1."),
+            "entry", {"row", "column"}, "The entry at a row and a column, which count from 1."),
         Method<Table, boost::shared_ptr<TableRow>(unsigned int)>::row<&getRow>(
-            "row", "row", "The row of a number, which counts from 1."),
+            "row", {"row"}, "The row of a number, which counts from 1."),
     };
     return bound;
 }
@@ -89,21 +89,21 @@ BoundClass describeTableRow() {
     bound.properties = makeFontRows<TableRow>();
     bound.properties.push_back(makeBackgroundRow<TableRow>());
     bound.methods = {Method<TableRow, TableEntry(const TableEntry&)>::row<&TableRow::append>(
-        "append", "entry", "Appends this very entry, which must not stand anywhere yet.")};
+        "append", {"entry"}, "Appends this very entry, which must not stand anywhere yet.")};
     return bound;
 }
 
 BoundClass describeTableEntry() {
     BoundClass bound = describe<TableEntry>("TableEntry", "Element", "One cell of a table, with paragraphs.");
-    bound.constructors = {make<TableEntry>(), make<TableEntry, std::wstring>("text"),
-                          make<TableEntry, Paragraph>("paragraph")};
+    bound.constructors = {make<TableEntry>(), make<TableEntry, std::wstring>({"text"}),
+                          make<TableEntry, Paragraph>({"paragraph"})};
     bound.properties = makeFontRows<TableEntry>();
     append(bound.properties,
            {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>()});
     bound.methods = {
         Method<TableEntry, Paragraph(const Paragraph&)>::row<&TableEntry::append>(
-            "append", "paragraph", "Appends this very paragraph, which must not stand anywhere yet."),
-        Method<TableEntry, Paragraph(Wide)>::row<&TableEntry::append>("append", "text",
+            "append", {"paragraph"}, "Appends this very paragraph, which must not stand anywhere yet."),
+        Method<TableEntry, Paragraph(Wide)>::row<&TableEntry::append>("append", {"text"},
                                                                       "Appends a new paragraph."),
     };
     return bound;
@@ -111,7 +111,7 @@ BoundClass describeTableEntry() {
 
 BoundClass describeColSpec() {
     BoundClass bound = describe<ColSpec>("ColSpec", "Element", "Width and formats of a table's column.");
-    bound.constructors = {make<ColSpec>(), make<ColSpec, std::wstring>("width")};
+    bound.constructors = {make<ColSpec>(), make<ColSpec, std::wstring>({"width"})};
     bound.properties = makeCharacterRows<ColSpec>();
     append(bound.properties,
            {formatProperty<ColSpec, &ColSpec::getWidth, &ColWidth::getValue, &ColSpec::setWidth,

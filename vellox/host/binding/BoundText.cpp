@@ -4,6 +4,7 @@
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/host/binding/FormatRows.h"
 #include "vellox/host/values/HvViews.h"
+#include "vellox/ppt/tree/TextImpl.h"
 
 namespace vellox::ppt::hostbind {
 
@@ -35,7 +36,7 @@ void setContent(Text& text, const hvArray& value) {
     case HvContent::String:
         return text.setTextContent(StringContent::getValue(content));
     case HvContent::Boolean:
-        return text.setNumContent(BooleanContent::getValue(content) ? 1 : 0);
+        return implOf<TextImpl>(text)->setGiven(BooleanContent::getValue(content));
     case HvContent::Integer:
     case HvContent::Double:
         return text.setNumContent(value.getDouble());
@@ -48,12 +49,12 @@ BoundClass describeParagraph() {
     BoundClass bound = describe<Paragraph>("Paragraph", "Element", "A paragraph of one text or several.");
     bound.constructors = {
         make<Paragraph>(),
-        make<Paragraph, std::wstring>("text"),
-        make<Paragraph, std::wstring, unsigned int>("text, level"),
-        make<Paragraph, double>("number"),
-        make<Paragraph, double, unsigned int>("number, level"),
-        make<Paragraph, Text>("text"),
-        make<Paragraph, Text, unsigned int>("text, level"),
+        make<Paragraph, std::wstring>({"text"}),
+        make<Paragraph, std::wstring, unsigned int>({"text", "level"}),
+        make<Paragraph, double>({"number"}),
+        make<Paragraph, double, unsigned int>({"number", "level"}),
+        make<Paragraph, Text>({"text"}),
+        make<Paragraph, Text, unsigned int>({"text", "level"}),
     };
     bound.properties = makeCharacterRows<Paragraph>();
     bound.properties.push_back(makeHAlignRow<Paragraph>());
@@ -61,11 +62,11 @@ BoundClass describeParagraph() {
         {"Level", SignatureWord("uint32 scalar"), true, ClassGetter<Paragraph, &Paragraph::getLevel>::get,
          AdaptedClassSetter<Paragraph, setLevel>::set, "The list level, from 1 to 9."});
     bound.methods = {
-        Method<Paragraph, Text(Wide)>::row<&Paragraph::append>("append", "text", "Appends a new text."),
+        Method<Paragraph, Text(Wide)>::row<&Paragraph::append>("append", {"text"}, "Appends a new text."),
         Method<Paragraph, Text(const Text&)>::row<&Paragraph::append>(
-            "append", "text", "Appends this very object, which must not stand anywhere yet."),
+            "append", {"text"}, "Appends this very object, which must not stand anywhere yet."),
         Method<Paragraph, ExternalLink(const ExternalLink&)>::row<&Paragraph::append>(
-            "append", "link", "Appends this very object, which must not stand anywhere yet."),
+            "append", {"link"}, "Appends this very object, which must not stand anywhere yet."),
     };
     return bound;
 }
@@ -73,7 +74,7 @@ BoundClass describeParagraph() {
 BoundClass describeRun() {
     BoundClass bound =
         describe<Text>("Text", "Element", "A piece of a paragraph that looks the same throughout.");
-    bound.constructors = {make<Text>(), make<Text, std::wstring>("text"), make<Text, double>("number")};
+    bound.constructors = {make<Text>(), make<Text, std::wstring>({"text"}), make<Text, double>({"number"})};
     bound.properties = makeCharacterRows<Text>();
     bound.properties.push_back(
         {"Content", SignatureWord("char or double scalar"), false, AdaptedClassGetter<Text, getContent>::get,
@@ -84,7 +85,7 @@ BoundClass describeRun() {
 BoundClass describeLink() {
     BoundClass bound = describe<ExternalLink>("ExternalLink", "Text", "A text that leads somewhere.");
     bound.constructors = {make<ExternalLink>(),
-                          make<ExternalLink, std::wstring, std::wstring>("target, text")};
+                          make<ExternalLink, std::wstring, std::wstring>({"target", "text"})};
     bound.properties = {property<ExternalLink, &ExternalLink::getTarget, &ExternalLink::setTarget>(
         "Target", "Where it leads, such as \"https://example.org/report\".")};
     return bound;

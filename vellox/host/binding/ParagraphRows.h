@@ -15,13 +15,13 @@ namespace vellox::ppt::hostbind {
 inline std::vector<BoundMethod> makeParagraphRows() {
     using Box = BaseTextBox;
     return {
-        Method<Box, Paragraph(Wide)>::row<&Box::add>("add", "text", "Adds a new paragraph."),
+        Method<Box, Paragraph(Wide)>::row<&Box::add>("add", {"text"}, "Adds a new paragraph."),
         Method<Box, Paragraph(const Paragraph&)>::row<&Box::add>(
-            "add", "paragraph", "Adds this very paragraph, which must not stand anywhere yet."),
-        Method<Box, Paragraph(Wide)>::row<&Box::replace>("replace", "text",
+            "add", {"paragraph"}, "Adds this very paragraph, which must not stand anywhere yet."),
+        Method<Box, Paragraph(Wide)>::row<&Box::replace>("replace", {"text"},
                                                          "Makes a new paragraph the only one."),
         Method<Box, Paragraph(const Paragraph&)>::row<&Box::replace>(
-            "replace", "paragraph", "Makes a paragraph, or a copy if it stands somewhere, the only one."),
+            "replace", {"paragraph"}, "Makes a paragraph, or a copy if it stands somewhere, the only one."),
     };
 }
 
@@ -30,9 +30,9 @@ inline std::vector<BoundMethod> makeContentRows() {
     using Box = BaseTextBox;
     return {
         Method<Box, void(const hvArray&)>::row<&addAny<Box>>(
-            "add", "items", "Adds the items of a list; a list within it is one level deeper."),
+            "add", {"items"}, "Adds the items of a list; a list within it is one level deeper."),
         Method<Box, void(const hvArray&)>::row<&replaceAny<Box>>(
-            "replace", "items",
+            "replace", {"items"},
             "Makes the items of a list the paragraphs; a list within it is one level deeper."),
     };
 }
@@ -40,7 +40,7 @@ inline std::vector<BoundMethod> makeContentRows() {
 /// replace with an object that takes the place of this one.
 template <class C, class Object> BoundMethod makeReplaceRow(const char* parameter) {
     return Method<C, Object(const Object&)>::template row<&C::replace>(
-        "replace", parameter, "Puts a new object, made from this one, in the place. Returns the new one.");
+        "replace", {parameter}, "Puts a new object, made from this one, in the place. Returns the new one.");
 }
 
 } // namespace vellox::ppt::hostbind

@@ -102,7 +102,7 @@ bool fits(const Signature& signature, const Arguments& arguments, Fit fit) {
     if (signature.size() != arguments.count)
         return false;
     for (std::size_t i = 0; i < signature.size(); ++i)
-        if (!fits(signature[i], arguments[i], fit))
+        if (!fits(signature[i].word, arguments[i], fit))
             return false;
     return true;
 }

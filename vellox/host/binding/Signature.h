@@ -58,7 +58,13 @@ private:
     std::string className_;
 };
 
-using Signature = std::vector<SignatureWord>;
+/// One parameter of a bound function.
+struct Parameter {
+    const char* name; ///< for readers
+    SignatureWord word;
+};
+
+using Signature = std::vector<Parameter>;
 
 /// The first signature that fits the arguments exactly; else the first that fits once numbers are converted;
 /// else the first with "any" in it that fits. So "any" only serves what nothing else takes.

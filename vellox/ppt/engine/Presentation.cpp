@@ -97,7 +97,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
 }
 
 PresentationImpl::PresentationImpl(const PresentationImpl& other)
-    : PPTNodeImpl(other),
+    : NodeOf(other),
       state_(other.state_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
@@ -114,22 +114,6 @@ PresentationImpl::~PresentationImpl() {
 
 void PresentationImpl::useDefaultTemplate() {
     setTemplatePath(FileUtils::appendPath(FileUtils::getHostRoot(), kDefaultTemplate));
-}
-
-const char* PresentationImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Presentation";
-}
-
-PPTNodeImpl::Child PresentationImpl::makeInterface() {
-    return Child(new Presentation(this));
-}
-
-PPTNodeImpl::Child PresentationImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType PresentationImpl::getNodeType() const {
-    return NodeType::Presentation;
 }
 
 // PresentationImpl: paths

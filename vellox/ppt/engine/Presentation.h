@@ -135,7 +135,7 @@ public:
     /// @}
 
 protected:
-    friend class PresentationImpl;
+    friend struct ObjectAccess;
     explicit Presentation(PresentationImpl* impl);
     PresentationImpl* pimpl();
     const PresentationImpl* pimpl() const;

@@ -9,6 +9,7 @@
 
 #include "vellox/ppt/engine/Presentation.h"
 #include "vellox/ppt/messages/FindingList.h"
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 
 namespace vellox::ppt {
@@ -44,7 +45,7 @@ struct Report {
     std::wstring outputPath;
 };
 
-class PresentationImpl : public PPTNodeImpl {
+class PresentationImpl : public NodeOf<NodeType::Presentation, PresentationImpl, Presentation, PPTNodeImpl> {
 public:
     PresentationImpl();
     explicit PresentationImpl(const std::wstring& outputPath);
@@ -53,10 +54,6 @@ public:
     PresentationImpl(const PresentationImpl& other);
     ~PresentationImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
     /// Serves the slides of the template, and a caller who appends a node: opens first, and does nothing
     /// once the presentation is closed.
     void appendChild(const Child& child) override;

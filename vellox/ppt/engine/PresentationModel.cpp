@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Limits.h"
 #include "vellox/opc/Package.h"
+#include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
 #include "vellox/ppt/template/SlideDocuments.h"
@@ -227,24 +228,8 @@ NodeType classifyShape(const DOMElement* shape) {
     return NodeType::None;
 }
 
-// The element in which a shape of this type keeps its id and name.
-const XMLCh* getNonVisualName(NodeType type) {
-    switch (type) {
-    case NodeType::Group:
-        return xml::kNvGrpSpPr;
-    case NodeType::Picture:
-        return xml::kNvPicPr;
-    case NodeType::Table:
-        return xml::kNvGraphicFramePr;
-    default:
-        return xml::kNvSpPr;
-    }
-}
-
 bool isPlaceholder(NodeType type) {
-    return type == NodeType::BodyPlaceholder || type == NodeType::ContentPlaceholder ||
-           type == NodeType::PicturePlaceholder || type == NodeType::TablePlaceholder ||
-           type == NodeType::TextBoxPlaceholder;
+    return isKindOf(type, NodeType::TextBoxPlaceholder);
 }
 
 // Those whose type in the XML is worth keeping: for the others it follows from the type of the node.
@@ -279,7 +264,7 @@ void PresentationModel::parseShape(DOMElement* element, TemplateShapes& shapes,
     const auto shape = boost::make_shared<TemplateShape>();
     shape->id = nextShapeUid();
     shape->type = type;
-    if (const DOMElement* properties = findDescendant(element, {getNonVisualName(type), xml::kCNvPr})) {
+    if (const DOMElement* properties = findDescendant(element, {getNodeKind(type).nonVisual, xml::kCNvPr})) {
         const std::wstring name = getAttribute(properties, xml::kName);
         if (!name.empty())
             shape->shapeName.set(name);

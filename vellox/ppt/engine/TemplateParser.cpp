@@ -4,19 +4,12 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
 #include "vellox/ppt/template/SlideDocuments.h"
-#include "vellox/ppt/tree/BodyPlaceholderImpl.h"
-#include "vellox/ppt/tree/ContentPlaceholderImpl.h"
-#include "vellox/ppt/tree/GroupImpl.h"
-#include "vellox/ppt/tree/PictureImpl.h"
-#include "vellox/ppt/tree/PicturePlaceholderImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
-#include "vellox/ppt/tree/TableImpl.h"
-#include "vellox/ppt/tree/TablePlaceholderImpl.h"
-#include "vellox/ppt/tree/TextBoxImpl.h"
-#include "vellox/ppt/tree/TextBoxPlaceholderImpl.h"
 
+#include <algorithm>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
@@ -65,50 +58,16 @@ TemplateParser::createSlide(const boost::shared_ptr<TemplateLayout>& layout) {
     return slide;
 }
 
-namespace {
-
-using Child = PPTNodeImpl::Child;
-using Record = ShapeImpl::Record;
-
-template <class Impl> Child make(const Record& record, const std::wstring& name) {
-    return (new Impl(name, record))->makeInterface();
-}
-
-template <class Impl> Child makePlaceholder(const Record& record, const std::wstring& name) {
-    return (new Impl(name, record, record->placeholderType))->makeInterface();
-}
-
-Child makeGroup(const Record& record, const std::wstring& name) {
-    const Child group = make<GroupImpl>(record, name);
-    TemplateParser::buildChildren(*implOf<PPTNodeImpl>(*group), *record->children);
-    return group;
-}
-
-struct Row {
-    NodeType type;
-    Child (*make)(const Record& record, const std::wstring& name);
-};
-
-constexpr Row kRows[] = {
-    {NodeType::BodyPlaceholder, makePlaceholder<BodyPlaceholderImpl>},
-    {NodeType::ContentPlaceholder, makePlaceholder<ContentPlaceholderImpl>},
-    {NodeType::Group, makeGroup},
-    {NodeType::Picture, make<PictureImpl>},
-    {NodeType::PicturePlaceholder, makePlaceholder<PicturePlaceholderImpl>},
-    {NodeType::Table, make<TableImpl>},
-    {NodeType::TablePlaceholder, makePlaceholder<TablePlaceholderImpl>},
-    {NodeType::TextBox, make<TextBoxImpl>},
-    {NodeType::TextBoxPlaceholder, makePlaceholder<TextBoxPlaceholderImpl>},
-};
-
-} // namespace
-
 void TemplateParser::buildChildren(PPTNodeImpl& parent, const TemplateShapes& shapes) {
-    for (const Record& record : shapes) {
+    for (const boost::shared_ptr<TemplateShape>& record : shapes) {
+        const NodeKind& kind = getNodeKind(record->type);
+        if (!kind.make)
+            continue;
         const std::wstring name = record->shapeName.isSet() ? record->shapeName.get() : std::wstring();
-        for (const Row& row : kRows)
-            if (row.type == record->type)
-                parent.appendChild(row.make(record, name));
+        const PPTNodeImpl::Child node = kind.make(record, name);
+        if (record->children)
+            buildChildren(*implOf<PPTNodeImpl>(*node), *record->children);
+        parent.appendChild(node);
     }
 }
 

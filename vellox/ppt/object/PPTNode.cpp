@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ void PPTNodeImpl::acceptWriter(PPTWriter*, xercesc::DOMNode*) const {}
 void PPTNodeImpl::hear(const MsgID&, const ReportPlace&) const {}
 
 bool PPTNodeImpl::isA(NodeType type) const {
-    return type == getNodeType();
+    return isKindOf(getNodeType(), type);
 }
 
 void PPTNodeImpl::setName(const std::wstring& name) {
@@ -149,46 +150,11 @@ void PPTNode::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
 
 // Searching
 
-namespace {
-
-enum class Searched { No, Itself, ItselfAndBelow };
-
-Searched getSearched(NodeType type) {
-    switch (type) {
-    case NodeType::Group:
-    case NodeType::Slide:
-        return Searched::ItselfAndBelow;
-    case NodeType::BaseTextBox:
-    case NodeType::BodyPlaceholder:
-    case NodeType::ContentPlaceholder:
-    case NodeType::Picture:
-    case NodeType::PicturePlaceholder:
-    case NodeType::Table:
-    case NodeType::TablePlaceholder:
-    case NodeType::TextBox:
-    case NodeType::TextBoxPlaceholder:
-        return Searched::Itself;
-    case NodeType::None:
-    case NodeType::ColSpec:
-    case NodeType::ExternalLink:
-    case NodeType::Paragraph:
-    case NodeType::Presentation:
-    case NodeType::Shape:
-    case NodeType::TableEntry:
-    case NodeType::TableRow:
-    case NodeType::Text:
-        break;
-    }
-    return Searched::No;
-}
-
-} // namespace
-
 void findNodes(const PPTNode* start, const std::wstring& name, PPTNode::Children& result) {
     if (!start)
         return;
     for (const boost::shared_ptr<PPTNode>& child : start->getChildren()) {
-        const Searched searched = child ? getSearched(child->getNodeType()) : Searched::No;
+        const Searched searched = getNodeKind(child ? child->getNodeType() : NodeType::None).searched;
         if (searched != Searched::No && child->getName() == name)
             result.push_back(child);
         if (searched == Searched::ItselfAndBelow)

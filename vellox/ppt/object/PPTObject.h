@@ -51,8 +51,10 @@ protected:
     /// A handle on an existing object; a null pointer gives a handle on nothing.
     explicit PPTObject(PPTObjectImpl* impl);
 
+    /// @{ For layers above the library; nothing in it calls these.
     boost::shared_ptr<PPTClientImpl> getPPTClientImpl();
     void setPPTClientImpl(const boost::shared_ptr<PPTClientImpl>& client);
+    /// @}
 
     PPTObjectImpl* pimpl() { return impl_; }
     const PPTObjectImpl* pimpl() const { return impl_; }

@@ -68,10 +68,14 @@ private:
     Life life_ = Life::Whole;
 };
 
-/// The way from a facade to its implementation, for code inside the library.
+/// The way from a facade to its implementation and back, for code inside the library.
 struct ObjectAccess {
     static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
     static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
+    /// A new facade of a class of nodes, around its implementation.
+    template <class Facade, class Impl> static boost::shared_ptr<Facade> makeFacade(Impl* impl) {
+        return boost::shared_ptr<Facade>(new Facade(impl));
+    }
     /// Makes a handle stand for nothing without releasing its object, which is ending already.
     static void abandon(PPTObject& handle) { handle.impl_ = nullptr; }
 };

@@ -27,10 +27,34 @@ struct TemplateShape;
 using ElementMap = std::map<std::wstring, xercesc::DOMElement*>;
 using TemplateShapes = std::vector<boost::shared_ptr<TemplateShape>>;
 
+/// A width or a height. That of a picture may be its file's, which counts as set like any other, and yet nobody
+/// has asked for it.
+class Extent : public BaseAttribute<Dimension> {
+public:
+    void set(const Dimension& value) override { set(value, false); }
+    void unset() override {
+        BaseAttribute::unset();
+        isFromFile_ = false;
+    }
+    void setFromFile(const Dimension& value) { set(value, true); }
+    /// The same length, set by somebody from now on.
+    void adopt() { isFromFile_ = false; }
+    bool isFromFile() const { return isFromFile_; }
+
+private:
+    void set(const Dimension& value, bool isFromFile) {
+        BaseAttribute::set(value);
+        isFromFile_ = isFromFile;
+    }
+
+    bool isFromFile_ = false;
+};
+
 /// Name, place and size as far as somebody has set them; a length that isn't set is inherited.
 struct ShapeGeometry {
     BaseAttribute<std::wstring> shapeName;
-    BaseAttribute<Dimension> x, y, cx, cy;
+    BaseAttribute<Dimension> x, y;
+    Extent cx, cy;
 
     bool hasPlacement() const { return x.isSet() || y.isSet() || cx.isSet() || cy.isSet(); }
 };

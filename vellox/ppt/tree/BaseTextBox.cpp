@@ -16,40 +16,20 @@ BaseTextBoxImpl::BaseTextBoxImpl() {
     announceCreated(*this);
 }
 
-BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name) : ShapeImpl(name) {
+BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name) : NodeOf(name) {
     announceCreated(*this);
 }
 
-BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
 
-BaseTextBoxImpl::BaseTextBoxImpl(const BaseTextBoxImpl& other) : ShapeImpl(other) {
+BaseTextBoxImpl::BaseTextBoxImpl(const BaseTextBoxImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 BaseTextBoxImpl::~BaseTextBoxImpl() {
     announceDestroyed(*this);
-}
-
-const char* BaseTextBoxImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.BaseTextBox";
-}
-
-PPTNodeImpl::Child BaseTextBoxImpl::makeInterface() {
-    return Child(new BaseTextBox(this));
-}
-
-PPTNodeImpl::Child BaseTextBoxImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType BaseTextBoxImpl::getNodeType() const {
-    return NodeType::BaseTextBox;
-}
-
-bool BaseTextBoxImpl::isA(NodeType type) const {
-    return type == NodeType::BaseTextBox; // no text box counts as a Shape here
 }
 
 namespace {

@@ -48,7 +48,7 @@ public:
     static boost::shared_ptr<BaseTextBox> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class BaseTextBoxImpl;
+    friend struct ObjectAccess;
     explicit BaseTextBox(BaseTextBoxImpl* impl);
     BaseTextBoxImpl* pimpl();
     const BaseTextBoxImpl* pimpl() const;

@@ -5,12 +5,14 @@
 #define VELLOX_PPT_TREE_BASETEXTBOXIMPL_H
 
 #include "vellox/host/values/HvViews.h"
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/BaseTextBox.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
 namespace vellox::ppt {
 
-class BaseTextBoxImpl : public ShapeImpl {
+class BaseTextBoxImpl : public NodeOf<NodeType::BaseTextBox, BaseTextBoxImpl, BaseTextBox, ShapeImpl> {
 public:
     BaseTextBoxImpl();
     explicit BaseTextBoxImpl(const std::wstring& name);
@@ -18,11 +20,6 @@ public:
     BaseTextBoxImpl(const BaseTextBoxImpl& other);
     ~BaseTextBoxImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
     void replace(const HvContentPtr& content) override;
 
     /// Puts the items of a list behind the present paragraphs. Unlike all other ways in, this one doesn't

@@ -13,36 +13,16 @@ BodyPlaceholderImpl::BodyPlaceholderImpl() {
 
 BodyPlaceholderImpl::BodyPlaceholderImpl(const std::wstring& name, const Record& record,
                                          const std::wstring& placeholderType)
-    : TextBoxPlaceholderImpl(name, record, placeholderType) {
+    : NodeOf(name, record, placeholderType) {
     announceCreated(*this);
 }
 
-BodyPlaceholderImpl::BodyPlaceholderImpl(const BodyPlaceholderImpl& other) : TextBoxPlaceholderImpl(other) {
+BodyPlaceholderImpl::BodyPlaceholderImpl(const BodyPlaceholderImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 BodyPlaceholderImpl::~BodyPlaceholderImpl() {
     announceDestroyed(*this);
-}
-
-const char* BodyPlaceholderImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.BodyPlaceholder";
-}
-
-PPTNodeImpl::Child BodyPlaceholderImpl::makeInterface() {
-    return Child(new BodyPlaceholder(this));
-}
-
-PPTNodeImpl::Child BodyPlaceholderImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType BodyPlaceholderImpl::getNodeType() const {
-    return NodeType::BodyPlaceholder;
-}
-
-bool BodyPlaceholderImpl::isA(NodeType type) const {
-    return type == NodeType::BodyPlaceholder || TextBoxPlaceholderImpl::isA(type);
 }
 
 // BodyPlaceholder

@@ -19,7 +19,7 @@ public:
     static boost::shared_ptr<BodyPlaceholder> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class BodyPlaceholderImpl;
+    friend struct ObjectAccess;
     explicit BodyPlaceholder(BodyPlaceholderImpl* impl);
 };
 

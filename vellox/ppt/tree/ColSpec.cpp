@@ -11,28 +11,12 @@ ColSpecImpl::ColSpecImpl() {
     announceCreated(*this);
 }
 
-ColSpecImpl::ColSpecImpl(const ColSpecImpl& other) : ElementImpl(other) {
+ColSpecImpl::ColSpecImpl(const ColSpecImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 ColSpecImpl::~ColSpecImpl() {
     announceDestroyed(*this);
-}
-
-const char* ColSpecImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.ColSpec";
-}
-
-PPTNodeImpl::Child ColSpecImpl::makeInterface() {
-    return Child(new ColSpec(this));
-}
-
-PPTNodeImpl::Child ColSpecImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ColSpecImpl::getNodeType() const {
-    return NodeType::ColSpec;
 }
 
 // ColSpec

@@ -31,7 +31,7 @@ public:
     static boost::shared_ptr<ColSpec> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class ColSpecImpl;
+    friend struct ObjectAccess;
     explicit ColSpec(ColSpecImpl* impl);
 };
 

@@ -14,37 +14,16 @@ ContentPlaceholderImpl::ContentPlaceholderImpl() {
 
 ContentPlaceholderImpl::ContentPlaceholderImpl(const std::wstring& name, const Record& record,
                                                const std::wstring& placeholderType)
-    : PicturePlaceholderImpl(name, record, placeholderType) {
+    : NodeOf(name, record, placeholderType) {
     announceCreated(*this);
 }
 
-ContentPlaceholderImpl::ContentPlaceholderImpl(const ContentPlaceholderImpl& other)
-    : PicturePlaceholderImpl(other) {
+ContentPlaceholderImpl::ContentPlaceholderImpl(const ContentPlaceholderImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 ContentPlaceholderImpl::~ContentPlaceholderImpl() {
     announceDestroyed(*this);
-}
-
-const char* ContentPlaceholderImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.ContentPlaceholder";
-}
-
-PPTNodeImpl::Child ContentPlaceholderImpl::makeInterface() {
-    return Child(new ContentPlaceholder(this));
-}
-
-PPTNodeImpl::Child ContentPlaceholderImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ContentPlaceholderImpl::getNodeType() const {
-    return NodeType::ContentPlaceholder;
-}
-
-bool ContentPlaceholderImpl::isA(NodeType type) const {
-    return type == NodeType::ContentPlaceholder || PicturePlaceholderImpl::isA(type);
 }
 
 void ContentPlaceholderImpl::replace(const HvContentPtr& content) {

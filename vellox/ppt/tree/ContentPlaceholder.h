@@ -28,7 +28,7 @@ public:
     static boost::shared_ptr<ContentPlaceholder> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class ContentPlaceholderImpl;
+    friend struct ObjectAccess;
     explicit ContentPlaceholder(ContentPlaceholderImpl* impl);
     ContentPlaceholderImpl* pimpl();
     const ContentPlaceholderImpl* pimpl() const;

@@ -4,12 +4,15 @@
 #ifndef VELLOX_PPT_TREE_CONTENTPLACEHOLDERIMPL_H
 #define VELLOX_PPT_TREE_CONTENTPLACEHOLDERIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/PicturePlaceholderImpl.h"
 #include "vellox/ppt/tree/Table.h"
 
 namespace vellox::ppt {
 
-class ContentPlaceholderImpl : public PicturePlaceholderImpl {
+class ContentPlaceholderImpl : public NodeOf<NodeType::ContentPlaceholder, ContentPlaceholderImpl,
+                                             ContentPlaceholder, PicturePlaceholderImpl> {
 public:
     using PicturePlaceholderImpl::replace;
 
@@ -19,11 +22,6 @@ public:
     ContentPlaceholderImpl(const ContentPlaceholderImpl& other);
     ~ContentPlaceholderImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
     void replace(const HvContentPtr& content) override;
     Table replace(const Table& table);
 };

@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -13,37 +12,17 @@ ExternalLinkImpl::ExternalLinkImpl() {
 }
 
 ExternalLinkImpl::ExternalLinkImpl(const std::wstring& target, const std::wstring& text)
-    : TextImpl(text),
+    : NodeOf(text),
       target_(target) {
     announceCreated(*this);
 }
 
-ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other) : TextImpl(other), target_(other.target_) {
+ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other) : NodeOf(other), target_(other.target_) {
     announceCreated(*this);
 }
 
 ExternalLinkImpl::~ExternalLinkImpl() {
     announceDestroyed(*this);
-}
-
-const char* ExternalLinkImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.ExternalLink";
-}
-
-void ExternalLinkImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeExternalLink(*this, parent);
-}
-
-PPTNodeImpl::Child ExternalLinkImpl::makeInterface() {
-    return Child(new ExternalLink(this));
-}
-
-PPTNodeImpl::Child ExternalLinkImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ExternalLinkImpl::getNodeType() const {
-    return NodeType::ExternalLink;
 }
 
 // ExternalLink

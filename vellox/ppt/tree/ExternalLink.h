@@ -26,7 +26,7 @@ public:
     void setTarget(const std::wstring& target);
 
 protected:
-    friend class ExternalLinkImpl;
+    friend struct ObjectAccess;
     explicit ExternalLink(ExternalLinkImpl* impl);
     ExternalLinkImpl* pimpl();
     const ExternalLinkImpl* pimpl() const;

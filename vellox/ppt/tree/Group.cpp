@@ -9,36 +9,20 @@ GroupImpl::GroupImpl() {
     announceCreated(*this);
 }
 
-GroupImpl::GroupImpl(const std::wstring& name) : ShapeImpl(name) {
+GroupImpl::GroupImpl(const std::wstring& name) : NodeOf(name) {
     announceCreated(*this);
 }
 
-GroupImpl::GroupImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+GroupImpl::GroupImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
 
-GroupImpl::GroupImpl(const GroupImpl& other) : ShapeImpl(other) {
+GroupImpl::GroupImpl(const GroupImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 GroupImpl::~GroupImpl() {
     announceDestroyed(*this);
-}
-
-const char* GroupImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Group";
-}
-
-PPTNodeImpl::Child GroupImpl::makeInterface() {
-    return Child(new Group(this));
-}
-
-PPTNodeImpl::Child GroupImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType GroupImpl::getNodeType() const {
-    return NodeType::Group;
 }
 
 Group::Group() : Group(new GroupImpl) {}

@@ -20,7 +20,7 @@ public:
     explicit Group(const std::wstring& name);
 
 protected:
-    friend class GroupImpl;
+    friend struct ObjectAccess;
     explicit Group(GroupImpl* impl);
 };
 

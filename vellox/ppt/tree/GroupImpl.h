@@ -4,22 +4,19 @@
 #ifndef VELLOX_PPT_TREE_GROUPIMPL_H
 #define VELLOX_PPT_TREE_GROUPIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/Group.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
 namespace vellox::ppt {
 
-class GroupImpl : public ShapeImpl {
+class GroupImpl : public NodeOf<NodeType::Group, GroupImpl, Group, ShapeImpl> {
 public:
     GroupImpl();
     explicit GroupImpl(const std::wstring& name);
     GroupImpl(const std::wstring& name, const Record& record);
     GroupImpl(const GroupImpl& other);
     ~GroupImpl() override;
-
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 };
 
 } // namespace vellox::ppt

@@ -5,7 +5,6 @@
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -19,32 +18,15 @@ ParagraphImpl::ParagraphImpl(const BaseAttribute<unsigned int>& level) : level_(
     announceCreated(*this);
 }
 
-ParagraphImpl::ParagraphImpl(const ParagraphImpl& other) : ElementImpl(other), level_(other.level_) {
+ParagraphImpl::ParagraphImpl(const ParagraphImpl& other)
+    : NodeOf(other),
+      level_(other.level_),
+      truthValue_(other.truthValue_) {
     announceCreated(*this);
 }
 
 ParagraphImpl::~ParagraphImpl() {
     announceDestroyed(*this);
-}
-
-const char* ParagraphImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Paragraph";
-}
-
-void ParagraphImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeParagraph(*this, parent);
-}
-
-PPTNodeImpl::Child ParagraphImpl::makeInterface() {
-    return Child(new Paragraph(this));
-}
-
-PPTNodeImpl::Child ParagraphImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ParagraphImpl::getNodeType() const {
-    return NodeType::Paragraph;
 }
 
 // Content to paragraphs
@@ -56,6 +38,12 @@ PPTNodeImpl::Child makeParagraph() {
 PPTNodeImpl::Child makeParagraph(const HvContentPtr& content) {
     const PPTNodeImpl::Child paragraph = makeParagraph();
     implOf<ParagraphImpl>(*paragraph)->appendChild((new TextImpl(content))->makeInterface());
+    return paragraph;
+}
+
+PPTNodeImpl::Child makeParagraphOfTruth(bool value) {
+    const PPTNodeImpl::Child paragraph = makeParagraph();
+    implOf<ParagraphImpl>(*paragraph)->setTruthValue(value);
     return paragraph;
 }
 
@@ -80,6 +68,7 @@ PPTNodeImpl::Child contentToParagraph(const HvContentPtr& content) {
             return paragraph;
         return makeParagraph(content);
     case HvContent::Boolean: // a run can show one, a list item doesn't
+        return makeParagraphOfTruth(BooleanContent::getValue(content));
     case HvContent::List:
     case HvContent::Table:
     case HvContent::Empty:
@@ -99,6 +88,9 @@ Paragraph::Paragraph(const std::wstring& text, unsigned int level) : Paragraph(l
     append(text);
 }
 Paragraph::Paragraph(double number) : Paragraph() {
+    append(Text(number));
+}
+Paragraph::Paragraph(int number) : Paragraph() {
     append(Text(number));
 }
 Paragraph::Paragraph(double number, unsigned int level) : Paragraph(level) {

@@ -35,7 +35,7 @@ public:
     Paragraph(const std::wstring& text, unsigned int level);
     /// @{ With a run of a number, see Text.
     explicit Paragraph(double number);
-    explicit Paragraph(int number) : Paragraph(static_cast<double>(number)) {}
+    explicit Paragraph(int number);
     Paragraph(double number, unsigned int level);
     /// @}
     /// @{ With this very run, not a copy.
@@ -63,7 +63,7 @@ public:
     static boost::shared_ptr<Paragraph> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class ParagraphImpl;
+    friend struct ObjectAccess;
     explicit Paragraph(ParagraphImpl* impl);
     ParagraphImpl* pimpl();
     const ParagraphImpl* pimpl() const;

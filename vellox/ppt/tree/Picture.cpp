@@ -3,10 +3,8 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
-#include "vellox/foundation/InfoUtils.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/PictureImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -16,22 +14,35 @@ PictureImpl::PictureImpl() {
     announceCreated(*this);
 }
 
-PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+PictureImpl::PictureImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
+
+namespace {
+
+// What a former picture had from its file is a size to keep: it isn't that of the new one's file.
+void takeExtent(Extent& extent, const Extent& given) {
+    if (given.isSet())
+        extent = given;
+    else
+        extent.adopt();
+}
+
+} // namespace
 
 PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture)
-    : ShapeImpl(former, takeName),
-      path_(picture.path_) {
-    const ShapeGeometry& given = picture.getGeometry();
-    if (given.cx.isSet())
-        geometry().cx = given.cx;
-    if (given.cy.isSet())
-        geometry().cy = given.cy;
+    : NodeOf(former, takeName),
+      path_(picture.path_),
+      fileSize_(picture.fileSize_) {
+    takeExtent(geometry().cx, picture.getGeometry().cx);
+    takeExtent(geometry().cy, picture.getGeometry().cy);
     announceCreated(*this);
 }
 
-PictureImpl::PictureImpl(const PictureImpl& other) : ShapeImpl(other), path_(other.path_) {
+PictureImpl::PictureImpl(const PictureImpl& other)
+    : NodeOf(other),
+      path_(other.path_),
+      fileSize_(other.fileSize_) {
     announceCreated(*this);
 }
 
@@ -39,31 +50,11 @@ PictureImpl::~PictureImpl() {
     announceDestroyed(*this);
 }
 
-const char* PictureImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Picture";
-}
-
-void PictureImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writePicture(*this, parent);
-}
-
-PPTNodeImpl::Child PictureImpl::makeInterface() {
-    return Child(new Picture(this));
-}
-
-PPTNodeImpl::Child PictureImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType PictureImpl::getNodeType() const {
-    return NodeType::Picture;
-}
-
 void PictureImpl::setPath(const std::wstring& path) {
-    const ImageInfo info = InfoUtils::getImageInfo(path);
+    fileSize_ = InfoUtils::getImageInfo(path);
     path_ = path;
-    geometry().cx.set(Dimension(num2str(info.getWidth())));
-    geometry().cy.set(Dimension(num2str(info.getHeight())));
+    geometry().cx.setFromFile(Dimension(num2str(fileSize_.getWidth())));
+    geometry().cy.setFromFile(Dimension(num2str(fileSize_.getHeight())));
 }
 
 void PictureImpl::checkReplaceable() const {

@@ -40,7 +40,7 @@ public:
     static boost::shared_ptr<Picture> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class PictureImpl;
+    friend struct ObjectAccess;
     explicit Picture(PictureImpl* impl);
     PictureImpl* pimpl();
     const PictureImpl* pimpl() const;

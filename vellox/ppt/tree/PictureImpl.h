@@ -4,12 +4,14 @@
 #ifndef VELLOX_PPT_TREE_PICTUREIMPL_H
 #define VELLOX_PPT_TREE_PICTUREIMPL_H
 
+#include "vellox/foundation/InfoUtils.h"
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 
 namespace vellox::ppt {
 
-class PictureImpl : public ShapeImpl {
+class PictureImpl : public NodeOf<NodeType::Picture, PictureImpl, Picture, ShapeImpl> {
 public:
     using ShapeImpl::replace;
 
@@ -20,20 +22,20 @@ public:
     PictureImpl(const PictureImpl& other);
     ~PictureImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     const std::wstring& getPath() const { return path_; }
     void setPath(const std::wstring& path);
+    /// The size of the file when the path was set, in pixels, whatever width and height are now; 0 by 0 without
+    /// a file.
+    const ImageInfo& getFileSize() const { return fileSize_; }
     Picture replace(const Picture& picture);
     /// @throws pictureCannotBeReplaced if this picture stands nowhere
     virtual void checkReplaceable() const;
 
 private:
     std::wstring path_;
+    ImageInfo fileSize_;
 };
 
 } // namespace vellox::ppt

@@ -14,37 +14,16 @@ PicturePlaceholderImpl::PicturePlaceholderImpl() {
 
 PicturePlaceholderImpl::PicturePlaceholderImpl(const std::wstring& name, const Record& record,
                                                const std::wstring& placeholderType)
-    : BodyPlaceholderImpl(name, record, placeholderType) {
+    : NodeOf(name, record, placeholderType) {
     announceCreated(*this);
 }
 
-PicturePlaceholderImpl::PicturePlaceholderImpl(const PicturePlaceholderImpl& other)
-    : BodyPlaceholderImpl(other) {
+PicturePlaceholderImpl::PicturePlaceholderImpl(const PicturePlaceholderImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 PicturePlaceholderImpl::~PicturePlaceholderImpl() {
     announceDestroyed(*this);
-}
-
-const char* PicturePlaceholderImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.PicturePlaceholder";
-}
-
-PPTNodeImpl::Child PicturePlaceholderImpl::makeInterface() {
-    return Child(new PicturePlaceholder(this));
-}
-
-PPTNodeImpl::Child PicturePlaceholderImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType PicturePlaceholderImpl::getNodeType() const {
-    return NodeType::PicturePlaceholder;
-}
-
-bool PicturePlaceholderImpl::isA(NodeType type) const {
-    return type == NodeType::PicturePlaceholder || BodyPlaceholderImpl::isA(type);
 }
 
 void PicturePlaceholderImpl::replace(const HvContentPtr& content) {

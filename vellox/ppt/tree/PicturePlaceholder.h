@@ -28,7 +28,7 @@ public:
     static boost::shared_ptr<PicturePlaceholder> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class PicturePlaceholderImpl;
+    friend struct ObjectAccess;
     explicit PicturePlaceholder(PicturePlaceholderImpl* impl);
     PicturePlaceholderImpl* pimpl();
     const PicturePlaceholderImpl* pimpl() const;

@@ -4,12 +4,15 @@
 #ifndef VELLOX_PPT_TREE_PICTUREPLACEHOLDERIMPL_H
 #define VELLOX_PPT_TREE_PICTUREPLACEHOLDERIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/BodyPlaceholderImpl.h"
 #include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/PicturePlaceholder.h"
 
 namespace vellox::ppt {
 
-class PicturePlaceholderImpl : public BodyPlaceholderImpl {
+class PicturePlaceholderImpl : public NodeOf<NodeType::PicturePlaceholder, PicturePlaceholderImpl,
+                                             PicturePlaceholder, BodyPlaceholderImpl> {
 public:
     using BodyPlaceholderImpl::replace;
 
@@ -19,11 +22,6 @@ public:
     PicturePlaceholderImpl(const PicturePlaceholderImpl& other);
     ~PicturePlaceholderImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
     void replace(const HvContentPtr& content) override;
     Picture replace(const Picture& picture);
 };

@@ -27,7 +27,7 @@ ShapeImpl::ShapeImpl(const std::wstring& name, const Record& record)
 }
 
 ShapeImpl::ShapeImpl(const ShapeImpl& other)
-    : ElementImpl(other),
+    : NodeOf(other),
       contentReplaced_(other.contentReplaced_),
       templateUid_(other.templateUid_),
       templateShape_(other.templateShape_),
@@ -54,22 +54,6 @@ ShapeImpl::~ShapeImpl() {
 void ShapeImpl::extendId() {
     if (!templateUid_.empty())
         setId(getId() + L":" + templateUid_);
-}
-
-const char* ShapeImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Shape";
-}
-
-PPTNodeImpl::Child ShapeImpl::makeInterface() {
-    return Child(new Shape(this));
-}
-
-PPTNodeImpl::Child ShapeImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType ShapeImpl::getNodeType() const {
-    return NodeType::Shape;
 }
 
 void ShapeImpl::setName(const std::wstring& name) {

@@ -56,7 +56,7 @@ public:
     static boost::shared_ptr<Shape> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class ShapeImpl;
+    friend struct ObjectAccess;
     explicit Shape(ShapeImpl* impl);
     ShapeImpl* pimpl();
     const ShapeImpl* pimpl() const;

@@ -8,12 +8,14 @@
 
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/tree/Shape.h"
 
 namespace vellox::ppt {
 
 /// A place, a size, and the link to the template's record of the shape if it came from there.
-class ShapeImpl : public ElementImpl {
+class ShapeImpl : public NodeOf<NodeType::Shape, ShapeImpl, Shape, ElementImpl> {
 public:
     using Record = boost::shared_ptr<TemplateShape>;
     /// Whose name a shape that takes another's place gets.
@@ -27,10 +29,6 @@ public:
     ShapeImpl(const ShapeImpl& former, TakeName takeName);
     ~ShapeImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
     void setName(const std::wstring& name) override;
     virtual void replace(const HvContentPtr& content);
 

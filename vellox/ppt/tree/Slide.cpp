@@ -3,7 +3,6 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -14,7 +13,7 @@ SlideImpl::SlideImpl() {
 }
 
 SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
-    : ElementImpl(templateSlide->name),
+    : NodeOf(templateSlide->name),
       templateSlide_(templateSlide) {
     if (const auto& layout = templateSlide_->layout) {
         layoutName_ = layout->name;
@@ -25,7 +24,7 @@ SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
 }
 
 SlideImpl::SlideImpl(const SlideImpl& other)
-    : ElementImpl(other),
+    : NodeOf(other),
       slideMasterName_(other.slideMasterName_),
       layoutName_(other.layoutName_),
       templateSlide_(other.templateSlide_) {
@@ -34,26 +33,6 @@ SlideImpl::SlideImpl(const SlideImpl& other)
 
 SlideImpl::~SlideImpl() {
     announceDestroyed(*this);
-}
-
-const char* SlideImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Slide";
-}
-
-void SlideImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeSlide(*this, parent);
-}
-
-PPTNodeImpl::Child SlideImpl::makeInterface() {
-    return Child(new Slide(this));
-}
-
-PPTNodeImpl::Child SlideImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType SlideImpl::getNodeType() const {
-    return NodeType::Slide;
 }
 
 // Slide

@@ -64,7 +64,7 @@ public:
     static boost::shared_ptr<Slide> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class SlideImpl;
+    friend struct ObjectAccess;
     /// A slide of no layout, which can't be written.
     Slide();
     explicit Slide(SlideImpl* impl);

@@ -5,11 +5,13 @@
 #define VELLOX_PPT_TREE_SLIDEIMPL_H
 
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/tree/Slide.h"
 
 namespace vellox::ppt {
 
-class SlideImpl : public ElementImpl {
+class SlideImpl : public NodeOf<NodeType::Slide, SlideImpl, Slide, ElementImpl> {
 public:
     SlideImpl();
     /// A slide of a layout or of the template, still without its shapes.
@@ -17,11 +19,7 @@ public:
     SlideImpl(const SlideImpl& other);
     ~SlideImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     const std::wstring& getLayoutName() const { return layoutName_; }
     const std::wstring& getSlideMasterName() const { return slideMasterName_; }

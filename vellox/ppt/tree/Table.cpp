@@ -6,7 +6,6 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 #include <algorithm>
 
@@ -22,16 +21,16 @@ TableImpl::TableImpl(unsigned int nCols) : nCols_(nCols) {
     announceCreated(*this);
 }
 
-TableImpl::TableImpl(const std::wstring& name) : ShapeImpl(name) {
+TableImpl::TableImpl(const std::wstring& name) : NodeOf(name) {
     announceCreated(*this);
 }
 
-TableImpl::TableImpl(const std::wstring& name, const Record& record) : ShapeImpl(name, record) {
+TableImpl::TableImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
 
 TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table)
-    : ShapeImpl(former, takeName),
+    : NodeOf(former, takeName),
       nCols_(table.nCols_),
       colSpecs_(table.colSpecs_) {
     setStyle(table.getStyle());
@@ -39,7 +38,7 @@ TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl
 }
 
 TableImpl::TableImpl(const TableImpl& other)
-    : ShapeImpl(other),
+    : NodeOf(other),
       nCols_(other.nCols_),
       styleName_(other.styleName_),
       colSpecs_(other.colSpecs_) {
@@ -48,26 +47,6 @@ TableImpl::TableImpl(const TableImpl& other)
 
 TableImpl::~TableImpl() {
     announceDestroyed(*this);
-}
-
-const char* TableImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Table";
-}
-
-void TableImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTable(*this, parent);
-}
-
-PPTNodeImpl::Child TableImpl::makeInterface() {
-    return Child(new Table(this));
-}
-
-PPTNodeImpl::Child TableImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TableImpl::getNodeType() const {
-    return NodeType::Table;
 }
 
 namespace {

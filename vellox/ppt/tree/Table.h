@@ -76,7 +76,7 @@ public:
     Table replace(const Table& table);
 
 protected:
-    friend class TableImpl;
+    friend struct ObjectAccess;
     explicit Table(TableImpl* impl);
     TableImpl* pimpl();
     const TableImpl* pimpl() const;

@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -12,32 +11,12 @@ TableEntryImpl::TableEntryImpl() {
     announceCreated(*this);
 }
 
-TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : ElementImpl(other) {
+TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TableEntryImpl::~TableEntryImpl() {
     announceDestroyed(*this);
-}
-
-const char* TableEntryImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TableEntry";
-}
-
-void TableEntryImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTableEntry(*this, parent);
-}
-
-PPTNodeImpl::Child TableEntryImpl::makeInterface() {
-    return Child(new TableEntry(this));
-}
-
-PPTNodeImpl::Child TableEntryImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TableEntryImpl::getNodeType() const {
-    return NodeType::TableEntry;
 }
 
 // TableEntry

@@ -38,7 +38,7 @@ public:
     static boost::shared_ptr<TableEntry> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TableEntryImpl;
+    friend struct ObjectAccess;
     explicit TableEntry(TableEntryImpl* impl);
     TableEntryImpl* pimpl();
     const TableEntryImpl* pimpl() const;

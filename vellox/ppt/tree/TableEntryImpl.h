@@ -5,20 +5,18 @@
 #define VELLOX_PPT_TREE_TABLEENTRYIMPL_H
 
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/TableEntry.h"
 
 namespace vellox::ppt {
 
-class TableEntryImpl : public ElementImpl {
+class TableEntryImpl : public NodeOf<NodeType::TableEntry, TableEntryImpl, TableEntry, ElementImpl> {
 public:
     TableEntryImpl();
     TableEntryImpl(const TableEntryImpl& other);
     ~TableEntryImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 };
 
 } // namespace vellox::ppt

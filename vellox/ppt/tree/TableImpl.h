@@ -4,12 +4,13 @@
 #ifndef VELLOX_PPT_TREE_TABLEIMPL_H
 #define VELLOX_PPT_TREE_TABLEIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/Table.h"
 
 namespace vellox::ppt {
 
-class TableImpl : public ShapeImpl {
+class TableImpl : public NodeOf<NodeType::Table, TableImpl, Table, ShapeImpl> {
 public:
     TableImpl();
     explicit TableImpl(unsigned int nCols);
@@ -20,11 +21,7 @@ public:
     TableImpl(const TableImpl& other);
     ~TableImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
     void replace(const HvContentPtr& content) override;
 
     unsigned int getNCols() const { return nCols_; }

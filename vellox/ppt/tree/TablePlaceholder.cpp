@@ -14,36 +14,16 @@ TablePlaceholderImpl::TablePlaceholderImpl() {
 
 TablePlaceholderImpl::TablePlaceholderImpl(const std::wstring& name, const Record& record,
                                            const std::wstring& placeholderType)
-    : BodyPlaceholderImpl(name, record, placeholderType) {
+    : NodeOf(name, record, placeholderType) {
     announceCreated(*this);
 }
 
-TablePlaceholderImpl::TablePlaceholderImpl(const TablePlaceholderImpl& other) : BodyPlaceholderImpl(other) {
+TablePlaceholderImpl::TablePlaceholderImpl(const TablePlaceholderImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TablePlaceholderImpl::~TablePlaceholderImpl() {
     announceDestroyed(*this);
-}
-
-const char* TablePlaceholderImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TablePlaceholder";
-}
-
-PPTNodeImpl::Child TablePlaceholderImpl::makeInterface() {
-    return Child(new TablePlaceholder(this));
-}
-
-PPTNodeImpl::Child TablePlaceholderImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TablePlaceholderImpl::getNodeType() const {
-    return NodeType::TablePlaceholder;
-}
-
-bool TablePlaceholderImpl::isA(NodeType type) const {
-    return type == NodeType::TablePlaceholder || BodyPlaceholderImpl::isA(type);
 }
 
 void TablePlaceholderImpl::replace(const HvContentPtr& content) {

@@ -28,7 +28,7 @@ public:
     static boost::shared_ptr<TablePlaceholder> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TablePlaceholderImpl;
+    friend struct ObjectAccess;
     explicit TablePlaceholder(TablePlaceholderImpl* impl);
     TablePlaceholderImpl* pimpl();
     const TablePlaceholderImpl* pimpl() const;

@@ -4,12 +4,15 @@
 #ifndef VELLOX_PPT_TREE_TABLEPLACEHOLDERIMPL_H
 #define VELLOX_PPT_TREE_TABLEPLACEHOLDERIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/BodyPlaceholderImpl.h"
 #include "vellox/ppt/tree/Table.h"
+#include "vellox/ppt/tree/TablePlaceholder.h"
 
 namespace vellox::ppt {
 
-class TablePlaceholderImpl : public BodyPlaceholderImpl {
+class TablePlaceholderImpl
+    : public NodeOf<NodeType::TablePlaceholder, TablePlaceholderImpl, TablePlaceholder, BodyPlaceholderImpl> {
 public:
     using BodyPlaceholderImpl::replace;
 
@@ -18,11 +21,6 @@ public:
     TablePlaceholderImpl(const TablePlaceholderImpl& other);
     ~TablePlaceholderImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
     void replace(const HvContentPtr& content) override;
     Table replace(const Table& table);
 };

@@ -4,7 +4,6 @@
 #include "vellox/ppt/tree/TableEntry.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/tree/TableRowImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -14,32 +13,12 @@ TableRowImpl::TableRowImpl() {
     announceCreated(*this);
 }
 
-TableRowImpl::TableRowImpl(const TableRowImpl& other) : ElementImpl(other) {
+TableRowImpl::TableRowImpl(const TableRowImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TableRowImpl::~TableRowImpl() {
     announceDestroyed(*this);
-}
-
-const char* TableRowImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TableRow";
-}
-
-void TableRowImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTableRow(*this, parent);
-}
-
-PPTNodeImpl::Child TableRowImpl::makeInterface() {
-    return Child(new TableRow(this));
-}
-
-PPTNodeImpl::Child TableRowImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TableRowImpl::getNodeType() const {
-    return NodeType::TableRow;
 }
 
 void TableRowImpl::append(const Child& entry) {

@@ -27,7 +27,7 @@ public:
     static boost::shared_ptr<TableRow> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TableRowImpl;
+    friend struct ObjectAccess;
     explicit TableRow(TableRowImpl* impl);
     TableRowImpl* pimpl();
     const TableRowImpl* pimpl() const;

@@ -5,20 +5,18 @@
 #define VELLOX_PPT_TREE_TABLEROWIMPL_H
 
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/tree/TableRow.h"
 
 namespace vellox::ppt {
 
-class TableRowImpl : public ElementImpl {
+class TableRowImpl : public NodeOf<NodeType::TableRow, TableRowImpl, TableRow, ElementImpl> {
 public:
     TableRowImpl();
     TableRowImpl(const TableRowImpl& other);
     ~TableRowImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
 
     void append(const Child& entry);
 };

@@ -4,7 +4,8 @@
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
+
+#include <limits>
 
 namespace vellox::ppt {
 
@@ -18,8 +19,8 @@ TextImpl::TextImpl(const std::wstring& text) : textContent_(text) {
     announceCreated(*this);
 }
 
-TextImpl::TextImpl(double number) {
-    setNumContent(number);
+TextImpl::TextImpl(const Given& given) {
+    setGiven(given);
     announceCreated(*this);
 }
 
@@ -29,10 +30,9 @@ TextImpl::TextImpl(const HvContentPtr& content) {
 }
 
 TextImpl::TextImpl(const TextImpl& other)
-    : ElementImpl(other),
+    : NodeOf(other),
       textContent_(other.textContent_),
-      numContent_(other.numContent_),
-      isNum_(other.isNum_) {
+      given_(other.given_) {
     announceCreated(*this);
 }
 
@@ -45,13 +45,13 @@ void TextImpl::setContent(const HvContentPtr& content) {
         return;
     switch (content->getContentType()) {
     case HvContent::Boolean:
-        setNumContent(BooleanContent::getValue(content) ? 1 : 0);
+        setGiven(BooleanContent::getValue(content));
         break;
     case HvContent::Integer:
-        setNumContent(IntegerContent::getValue(content));
+        setGiven(static_cast<long long>(IntegerContent::getValue(content)));
         break;
     case HvContent::Double:
-        setNumContent(DoubleContent::getValue(content));
+        setGiven(DoubleContent::getValue(content));
         break;
     case HvContent::String:
         setTextContent(StringContent::getValue(content));
@@ -68,39 +68,29 @@ void TextImpl::setContent(const HvContentPtr& content) {
     }
 }
 
-const char* TextImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.Text";
-}
-
-void TextImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeText(*this, parent);
-}
-
-PPTNodeImpl::Child TextImpl::makeInterface() {
-    return Child(new Text(this));
-}
-
-PPTNodeImpl::Child TextImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TextImpl::getNodeType() const {
-    return NodeType::Text;
-}
-
 void TextImpl::setTextContent(const std::wstring& text) {
     textContent_ = text;
-    isNum_ = false;
+    given_ = {};
 }
+
+namespace {
+
+struct ToDouble {
+    const std::wstring& text;
+
+    double operator()(std::monostate) const { return str2double(text); }
+    template <class Number> double operator()(Number number) const { return static_cast<double>(number); }
+};
+
+} // namespace
 
 double TextImpl::getNumContent() const {
-    return isNum_ ? numContent_ : str2double(textContent_);
+    return std::visit(ToDouble{textContent_}, given_);
 }
 
-void TextImpl::setNumContent(double number) {
-    numContent_ = number;
-    textContent_ = num2str(number);
-    isNum_ = true;
+void TextImpl::setGiven(const Given& given) {
+    given_ = given;
+    textContent_ = isNumContent() ? num2str(getNumContent()) : std::wstring();
 }
 
 // Text
@@ -109,6 +99,19 @@ Text::Text() : Text(new TextImpl) {}
 Text::Text(const std::wstring& text) : Text(new TextImpl(text)) {}
 Text::Text(double number) : Text(new TextImpl(number)) {}
 Text::Text(TextImpl* impl) : Element(impl) {}
+
+TextImpl* Text::makeImpl(bool value) {
+    return new TextImpl(value);
+}
+
+TextImpl* Text::makeImpl(long long number) {
+    return new TextImpl(number);
+}
+
+TextImpl* Text::makeImpl(unsigned long long number) {
+    const bool fits = number <= static_cast<unsigned long long>(std::numeric_limits<long long>::max());
+    return fits ? makeImpl(static_cast<long long>(number)) : new TextImpl(static_cast<double>(number));
+}
 
 TextImpl* Text::pimpl() {
     return implOf<TextImpl>(*this);
@@ -131,7 +134,7 @@ double Text::getNumContent() const {
 }
 
 void Text::setNumContent(double number) {
-    pimpl()->setNumContent(number);
+    pimpl()->setGiven(number);
 }
 
 bool Text::isNumContent() const {

@@ -24,10 +24,11 @@ public:
     /// An empty run.
     Text();
     explicit Text(const std::wstring& text);
-    /// @{ A run set from a number, see setNumContent().
+    /// @{ A run set from a number, see setNumContent(); from a truth value, from 1 or 0.
     explicit Text(double number);
     template <class Integer, class = std::enable_if_t<std::is_integral_v<Integer>>>
-    explicit Text(Integer number) : Text(static_cast<double>(number)) {} // or 0 could be a pointer
+    explicit Text(Integer number)
+        : Text(makeImpl(static_cast<Widest<Integer>>(number))) {} // or 0 could be a pointer
     /// @}
 
     /// The text; of a number, its text.
@@ -45,10 +46,20 @@ public:
     static boost::shared_ptr<Text> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TextImpl;
+    friend struct ObjectAccess;
     explicit Text(TextImpl* impl);
     TextImpl* pimpl();
     const TextImpl* pimpl() const;
+
+private:
+    // Whole numbers and truth values stay what they are behind the facade.
+    template <class Integer>
+    using Widest =
+        std::conditional_t<std::is_same_v<Integer, bool>, bool,
+                           std::conditional_t<std::is_signed_v<Integer>, long long, unsigned long long>>;
+    static TextImpl* makeImpl(bool value);
+    static TextImpl* makeImpl(long long number);
+    static TextImpl* makeImpl(unsigned long long number);
 };
 
 } // namespace vellox::ppt

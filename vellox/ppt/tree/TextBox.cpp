@@ -2,7 +2,6 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextBoxImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -10,44 +9,20 @@ TextBoxImpl::TextBoxImpl() {
     announceCreated(*this);
 }
 
-TextBoxImpl::TextBoxImpl(const std::wstring& name) : BaseTextBoxImpl(name) {
+TextBoxImpl::TextBoxImpl(const std::wstring& name) : NodeOf(name) {
     announceCreated(*this);
 }
 
-TextBoxImpl::TextBoxImpl(const std::wstring& name, const Record& record) : BaseTextBoxImpl(name, record) {
+TextBoxImpl::TextBoxImpl(const std::wstring& name, const Record& record) : NodeOf(name, record) {
     announceCreated(*this);
 }
 
-TextBoxImpl::TextBoxImpl(const TextBoxImpl& other) : BaseTextBoxImpl(other) {
+TextBoxImpl::TextBoxImpl(const TextBoxImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 
 TextBoxImpl::~TextBoxImpl() {
     announceDestroyed(*this);
-}
-
-const char* TextBoxImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TextBox";
-}
-
-void TextBoxImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTextBox(*this, parent);
-}
-
-PPTNodeImpl::Child TextBoxImpl::makeInterface() {
-    return Child(new TextBox(this));
-}
-
-PPTNodeImpl::Child TextBoxImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TextBoxImpl::getNodeType() const {
-    return NodeType::TextBox;
-}
-
-bool TextBoxImpl::isA(NodeType type) const {
-    return type == NodeType::TextBox || BaseTextBoxImpl::isA(type);
 }
 
 TextBox::TextBox() : TextBox(new TextBoxImpl) {}

@@ -28,7 +28,7 @@ public:
     static boost::shared_ptr<TextBox> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TextBoxImpl;
+    friend struct ObjectAccess;
     explicit TextBox(TextBoxImpl* impl);
 };
 

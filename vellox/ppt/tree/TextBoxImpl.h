@@ -4,11 +4,13 @@
 #ifndef VELLOX_PPT_TREE_TEXTBOXIMPL_H
 #define VELLOX_PPT_TREE_TEXTBOXIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/tree/TextBox.h"
 
 namespace vellox::ppt {
 
-class TextBoxImpl : public BaseTextBoxImpl {
+class TextBoxImpl : public NodeOf<NodeType::TextBox, TextBoxImpl, TextBox, BaseTextBoxImpl> {
 public:
     TextBoxImpl();
     explicit TextBoxImpl(const std::wstring& name);
@@ -16,12 +18,7 @@ public:
     TextBoxImpl(const TextBoxImpl& other);
     ~TextBoxImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
 };
 
 } // namespace vellox::ppt

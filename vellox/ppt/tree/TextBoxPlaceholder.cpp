@@ -4,7 +4,6 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TextBoxPlaceholderImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 
 namespace vellox::ppt {
 
@@ -16,43 +15,19 @@ TextBoxPlaceholderImpl::TextBoxPlaceholderImpl() {
 
 TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const std::wstring& name, const Record& record,
                                                const std::wstring& placeholderType)
-    : BaseTextBoxImpl(name, record),
+    : NodeOf(name, record),
       placeholderType_(placeholderType) {
     announceCreated(*this);
 }
 
 TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other)
-    : BaseTextBoxImpl(other),
+    : NodeOf(other),
       placeholderType_(other.placeholderType_) {
     announceCreated(*this);
 }
 
 TextBoxPlaceholderImpl::~TextBoxPlaceholderImpl() {
     announceDestroyed(*this);
-}
-
-const char* TextBoxPlaceholderImpl::getFullyQualifiedHostTypeName() const {
-    return "vellox.ppt.TextBoxPlaceholder";
-}
-
-void TextBoxPlaceholderImpl::acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const {
-    writer->writeTextBoxPlaceholder(*this, parent);
-}
-
-PPTNodeImpl::Child TextBoxPlaceholderImpl::makeInterface() {
-    return Child(new TextBoxPlaceholder(this));
-}
-
-PPTNodeImpl::Child TextBoxPlaceholderImpl::clone() const {
-    return copyOf(*this);
-}
-
-NodeType TextBoxPlaceholderImpl::getNodeType() const {
-    return NodeType::TextBoxPlaceholder;
-}
-
-bool TextBoxPlaceholderImpl::isA(NodeType type) const {
-    return type == NodeType::TextBoxPlaceholder || BaseTextBoxImpl::isA(type);
 }
 
 void TextBoxPlaceholderImpl::checkNotReplaced() const {

@@ -23,7 +23,7 @@ public:
     static boost::shared_ptr<TextBoxPlaceholder> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
-    friend class TextBoxPlaceholderImpl;
+    friend struct ObjectAccess;
     explicit TextBoxPlaceholder(TextBoxPlaceholderImpl* impl);
 };
 

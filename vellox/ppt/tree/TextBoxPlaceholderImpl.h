@@ -4,11 +4,14 @@
 #ifndef VELLOX_PPT_TREE_TEXTBOXPLACEHOLDERIMPL_H
 #define VELLOX_PPT_TREE_TEXTBOXPLACEHOLDERIMPL_H
 
+#include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/tree/TextBoxPlaceholder.h"
 
 namespace vellox::ppt {
 
-class TextBoxPlaceholderImpl : public BaseTextBoxImpl {
+class TextBoxPlaceholderImpl : public NodeOf<NodeType::TextBoxPlaceholder, TextBoxPlaceholderImpl,
+                                             TextBoxPlaceholder, BaseTextBoxImpl> {
 public:
     using BaseTextBoxImpl::add;
     using BaseTextBoxImpl::replace;
@@ -19,12 +22,7 @@ public:
     TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other);
     ~TextBoxPlaceholderImpl() override;
 
-    const char* getFullyQualifiedHostTypeName() const override;
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
-    Child makeInterface() override;
-    Child clone() const override;
-    NodeType getNodeType() const override;
-    bool isA(NodeType type) const override;
 
     Paragraph add(const Paragraph& paragraph) override;
     Paragraph add(const std::wstring& text) override;
@@ -38,7 +36,7 @@ public:
 private:
     void checkNotReplaced() const;
 
-    std::wstring placeholderType_;
+    std::wstring placeholderType_; // as the template has it; for layers above, nothing here reads it
 };
 
 } // namespace vellox::ppt

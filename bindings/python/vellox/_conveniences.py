@@ -1,0 +1,66 @@
+"""What Python users expect of objects besides what the class table says.
+
+A class here is a further base of the class of its name in vellox.ppt, so that all classes that derive from that have
+what it adds. What the table says goes first. The module vellox.ppt reads this while its classes are made; the stubs
+name these classes as bases, so that the types here are those that checkers see.
+"""
+from __future__ import annotations
+
+import copy
+from types import TracebackType
+from typing import TYPE_CHECKING, Any, Literal, Self
+
+
+class Object:
+    """Copies."""
+
+    __slots__ = ()
+
+    if TYPE_CHECKING:
+        def __vellox_twin__(self) -> Self: ...
+        def __vellox_give_up__(self) -> None: ...
+
+    def __copy__(self) -> Self:
+        """A copy with copies of all that it holds, without tag, name and parent."""
+        twin = self.__vellox_twin__()
+        if hasattr(self, "__dict__"):  # what a user's class has put into it goes along
+            twin.__dict__.update(self.__dict__)
+        return twin
+
+    def __deepcopy__(self, memo: Any, /) -> Self:
+        """The same; what your class has added is copied too."""
+        if not isinstance(memo, dict):
+            raise TypeError(f"a memo is a dictionary, not {memo!r}")
+        twin = self.__vellox_twin__()
+        memo[id(self)] = twin  # it may hold itself
+        if hasattr(self, "__dict__"):
+            twin.__dict__.update(copy.deepcopy(self.__dict__, memo))
+        return twin
+
+
+class Presentation:
+    """The with statement."""
+
+    __slots__ = ()
+
+    if TYPE_CHECKING:
+        def __vellox_give_up__(self) -> None: ...
+        def open(self) -> bool: ...
+        def close(self) -> bool: ...
+
+    def __enter__(self) -> Self:
+        """Gives the presentation itself."""
+        return self
+
+    def __exit__(self, kind: type[BaseException] | None = None, value: BaseException | None = None,
+                 traceback: TracebackType | None = None, /) -> Literal[False]:
+        """Closes the presentation, unless the block was left by an error.
+
+        One that nothing has opened yet becomes a copy of its template all the same.
+        """
+        if kind is None:
+            self.open()
+            self.close()
+        else:
+            self.__vellox_give_up__()
+        return False
