@@ -3,7 +3,10 @@
 
 #include "fuzz/xml.h"
 
-#include "vellox/ppt/template/SlideDocuments.h"
+#include "vellox/ppt/rules/ClassicRules.h"
+#include "vellox/ppt/template/ShapeReader.h"
+#include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 using namespace vellox;
 
@@ -15,27 +18,37 @@ xercesc::DOMDocument* parse(const std::string& bytes) {
     return opc::XercesHelper::readDocumentFromStream(parser.get(), stream, false, {}, {});
 }
 
-std::string write(const ppt::OwnedDocument& document) {
+std::string write(xercesc::DOMDocument* document) {
     std::string bytes;
     opc::StringOutputStream stream(bytes);
-    opc::XercesHelper::writeDocumentToStream(fuzz::Xml::get().serializer.get(), document.get(), stream);
+    opc::XercesHelper::writeDocumentToStream(fuzz::Xml::get().serializer.get(), document, stream);
     return bytes;
+}
+
+void chooseFates(ppt::TemplateLayout& layout, const ppt::Rules& rules) {
+    const xercesc::DOMElement* shape = ppt::findFirstShape(layout.document.get(), rules.findsTree());
+    for (; shape; shape = shape->getNextElementSibling())
+        layout.fates.push_back(shape->hasAttribute(ppt::xml::kDataUid)
+                                   ? ppt::Fate::Empty
+                                   : rules.fateOf(ppt::readFacts(*shape)));
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Xml::get(); // keeps Xerces running
-    ppt::TemplateLayout layout;
+    const ppt::ClassicRules rules;
+    ppt::TemplateSlide slide;
+    slide.layout = boost::make_shared<ppt::TemplateLayout>();
     try {
-        layout.document.reset(parse(fuzz::toString(data, size)));
+        slide.layout->document.reset(parse(fuzz::toString(data, size)));
     } catch (const opc::Exception&) {
         return 0;
     }
-    layout.elementsByUid = ppt::mapElementsByUid(layout.document.get());
-    layout.shapes = boost::make_shared<ppt::TemplateShapes>();
-    const std::string first = write(ppt::makeSlideDocument(layout));
+    chooseFates(*slide.layout, rules);
+    const std::string first = write(ppt::SlideDocument(slide, rules).get());
     const ppt::OwnedDocument read(parse(first));
-    fuzz::require(write(ppt::makeSlideDocument(layout)) == first, "the slides of one layout are alike");
+    fuzz::require(write(ppt::SlideDocument(slide, rules).get()) == first,
+                  "the slides of one layout are alike");
     return 0;
 }

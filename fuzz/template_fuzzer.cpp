@@ -7,9 +7,10 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/engine/TemplateParser.h"
 #include "vellox/ppt/package/OPCPackage.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/rules/ClassicRules.h"
+#include "vellox/ppt/template/TemplateReader.h"
 
 #include <vellox/vellox.h>
 
@@ -105,12 +106,15 @@ private:
 void readTemplate(const std::wstring& path) {
     const auto package = boost::make_shared<ppt::OPCPackage>(path);
     package->openRead(true);
-    ppt::PresentationModel model(boost::make_shared<ppt::PartDOMBuilder>(*package));
-    if (!model.load())
+    ppt::PartDOMBuilder builder(*package);
+    const auto rules = boost::make_shared<ppt::ClassicRules>();
+    ppt::TemplateReader reader(builder, *rules);
+    if (reader.load() != ppt::Refusal::None)
         return;
+    const ppt::PresentationModel model(reader.getTemplate(), rules);
     for (const std::wstring& master : model.getMasterNames())
         for (const std::wstring& layout : model.getLayoutNames(master))
-            ppt::TemplateParser::createSlide(model.findLayout(layout, master));
+            model.createSlide(model.findLayout(layout, master));
 }
 
 } // namespace

@@ -216,7 +216,7 @@ std::wstring FileUtils::getContentType(const std::wstring& path) {
     return found == getContentTypes().end() ? std::wstring() : found->second;
 }
 
-void FileUtils::validateFileName(const std::wstring& name) {
+FileNameFault FileUtils::judgeFileName(const std::wstring& name) {
     // The rule of device names: "nul" is refused at the beginning of a stem, the others anywhere in it. Scripts choose
     // their names by it.
     static const boost::wregex& reserved = *new const boost::wregex(
@@ -224,9 +224,19 @@ void FileUtils::validateFileName(const std::wstring& name) {
     static const boost::wregex& forbidden = *new const boost::wregex(L".*[:<>\"/\\|?*].*");
     const std::wstring stem = getFileNameStem(name);
     if (boost::regex_search(stem, reserved))
-        raise(dom_error::reservedWindowsFileName(stem));
-    if (boost::regex_search(stem, forbidden))
-        raise(dom_error::reservedWindowsFileNameChar(stem));
+        return FileNameFault::ReservedName;
+    return boost::regex_search(stem, forbidden) ? FileNameFault::ReservedCharacter : FileNameFault::None;
+}
+
+void FileUtils::refuseFileName(FileNameFault fault, const std::wstring& name) {
+    if (fault == FileNameFault::ReservedName)
+        raise(dom_error::reservedWindowsFileName(getFileNameStem(name)));
+    if (fault == FileNameFault::ReservedCharacter)
+        raise(dom_error::reservedWindowsFileNameChar(getFileNameStem(name)));
+}
+
+void FileUtils::validateFileName(const std::wstring& name) {
+    refuseFileName(judgeFileName(name), name);
 }
 
 bool FileUtils::unzip(const std::wstring& zipPath, const std::wstring& folder) {

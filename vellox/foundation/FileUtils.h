@@ -11,6 +11,9 @@
 
 namespace vellox {
 
+/// Why a file of some name couldn't be kept everywhere.
+enum class FileNameFault { None, ReservedName, ReservedCharacter };
+
 /// Class-level operations only. Those that give a bool give true when they return, but for unzip().
 class VELLOX_API FileUtils {
 public:
@@ -74,11 +77,15 @@ public:
     /// known.
     /// @throws failedToDetermineFilename
     static std::wstring getContentType(const std::wstring& path);
-    /// Checks the name of a file that is to be made, so that a deck made here can be kept anywhere. Only
-    /// the stem of the name is looked at.
-    /// @throws reservedWindowsFileName for "nul" at its start, or "con", "aux", "prn", "com1" to "com9",
-    ///         "lpt1" to "lpt9" anywhere in it, in any case
-    /// @throws reservedWindowsFileNameChar for one of : < > " / | ? *
+    /// What is wrong with the name of a file. Only its stem is looked at: a ReservedName is "nul" at its start,
+    /// or "con", "aux", "prn", "com1" to "com9", "lpt1" to "lpt9" anywhere in it, in any case, and a
+    /// ReservedCharacter one of : < > " / | ? *
+    static FileNameFault judgeFileName(const std::wstring& name);
+    /// Raises what a fault is called; nothing for None.
+    /// @throws reservedWindowsFileName, reservedWindowsFileNameChar with the stem of the name
+    static void refuseFileName(FileNameFault fault, const std::wstring& name);
+    /// Checks the name of a file that is to be made, so that a deck made here can be kept anywhere.
+    /// @throws reservedWindowsFileName, reservedWindowsFileNameChar
     static void validateFileName(const std::wstring& name);
 
     /// Unpacks a ZIP archive into a folder.

@@ -1,5 +1,6 @@
 // Listeners run in the middle of things. Whatever they do there, nothing is lost and nothing dangles.
 
+#include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/Picture.h"
@@ -80,6 +81,26 @@ TEST_F(ListenersTest, MayChangeADeckThatIsBeingClosed) {
     EXPECT_NE(findOne(slideXml(1), "a:tbl").find(">cell<"), std::string::npos);
     EXPECT_EQ(runsOf(slideXml(1)), "behind");
     EXPECT_EQ(deck.getNChildren(), 42u);
+}
+
+// What is written after the listener has the styles that it left, whichever formats ended with the old ones.
+TEST_F(ListenersTest, MayChangeStylesOfWhatIsBeingWritten) {
+    Slide slide = addReportedTable();
+    const auto table = boost::dynamic_pointer_cast<Table>(slide.find(L"Table").front());
+    const auto style = [](const wchar_t* color) {
+        Formats formats;
+        formats.appendFormat(boost::make_shared<FontColor>(color));
+        return formats;
+    };
+    slide.setStyle(style(L"#000001"));
+    table->setStyle(style(L"#000002"));
+    action = [&](const Message&) {
+        slide.setStyle(style(L"#000003"));
+        table->setStyle(Formats());
+        table->row(0)->setStyle(style(L"#000004"));
+    };
+    close();
+    EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"), (std::vector<std::string>{"000004", "000003"}));
 }
 
 TEST_F(ListenersTest, MayLetGoOfTheDeckThatTheyHearOf) {

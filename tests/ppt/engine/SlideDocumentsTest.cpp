@@ -1,6 +1,5 @@
 // How slides come from layouts, and what of a template is understood.
 
-#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/tree/ExternalLink.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Picture.h"
@@ -250,42 +249,6 @@ TEST(Sections, FollowTheSlides) {
         updateSections(*document.get(), row.formerIds, 256);
         EXPECT_EQ(canonical(*document->getDocumentElement()), canonical(make(row.after))) << row.why;
     }
-}
-
-TEST(PresentationModel, ClassifiesShapes) {
-    const auto ph = [](const std::string& attributes) {
-        return "<p:sp><p:nvSpPr><p:nvPr><p:ph " + attributes + "/></p:nvPr></p:nvSpPr></p:sp>";
-    };
-    const std::pair<std::string, NodeType> rows[] = {
-        {ph(""), NodeType::ContentPlaceholder},
-        {ph("type=''"), NodeType::ContentPlaceholder},
-        {ph("type='obj'"), NodeType::None}, // written out it isn't the same
-        {ph("type='body'"), NodeType::BodyPlaceholder},
-        {ph("type='pic'"), NodeType::PicturePlaceholder},
-        {ph("type='clipArt'"), NodeType::PicturePlaceholder},
-        {ph("type='tbl'"), NodeType::TablePlaceholder},
-        {ph("type='ctrTitle'"), NodeType::TextBoxPlaceholder},
-        {ph("type='subTitle'"), NodeType::TextBoxPlaceholder},
-        {ph("type='Title'"), NodeType::None},
-        {ph("type='sldNum'"), NodeType::None},
-        {"<p:sp/>", NodeType::TextBox},
-        {"<p:pic/>", NodeType::Picture},
-        {"<p:grpSp/>", NodeType::Group},
-        {"<p:graphicFrame/>", NodeType::None},
-        {"<p:graphicFrame><a:graphic><a:graphicData><a:tbl/></a:graphicData></a:graphic></p:graphicFrame>",
-         NodeType::Table},
-        {"<p:cxnSp/>", NodeType::None},
-        {"<sp/>", NodeType::None},
-    };
-    const opc::XercesProcess xerces;
-    const opc::ParserScope parser(opc::XercesHelper::createParser());
-    for (const auto& row : rows) {
-        opc::StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(row.first));
-        const OwnedDocument document(
-            opc::XercesHelper::readDocumentFromStream(parser.get(), stream, false, {}, {}));
-        EXPECT_EQ(PresentationModel::classify(document->getDocumentElement()), row.second) << row.first;
-    }
-    EXPECT_EQ(PresentationModel::classify(nullptr), NodeType::None);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
 
@@ -160,6 +161,35 @@ TEST_F(TextWritersTest, TheNearestFormatCounts) {
               "<a:p><a:pPr algn='r'/><a:r><a:rPr b='1'/><a:t>of the slide</a:t></a:r></a:p>");
     EXPECT_EQ(findOne(shapeXml(1, "Content"), "a:p"),
               "<a:p><a:pPr algn='l'/><a:r><a:rPr b='0'/><a:t>of the paragraph</a:t></a:r></a:p>");
+}
+
+// A list's items don't link to the box that lists them: what is in force for them is what is above their links.
+TEST_F(TextWritersTest, FormatsAreFoundByTheLinksOfNodes) {
+    Slide slide = deck.add(L"Blank");
+    TextBox listing(L"Box"), other(L"Other");
+    listing.setFontColor(L"#000001");
+    other.setFontColor(L"#000002");
+    Table table(1);
+    TableRow row;
+    TableEntry entry(L"in a cell");
+    row.append(entry);
+    table.append(row);
+    row.setFontColor(L"#000003");
+    slide.add(other);
+    slide.add(table);
+    const Paragraph shared(L"shared"), mine(L"mine");
+    listing.add(list({object(shared), object(Paragraph(L"of nobody"))}));
+    other.add(shared);
+    listing.add(mine);
+    listing.add(L"replaced");
+    *listing.getChildren().back() = *entry.getChildren().front();
+    slide.add(listing);
+    close();
+    std::vector<std::string> colors;
+    for (const std::string& run : findAll(shapeXml(1, "Box"), "a:r"))
+        colors.push_back(findAll(run, "a:srgbClr").empty() ? "none"
+                                                           : valuesOf(run, "a:srgbClr", "val").front());
+    EXPECT_EQ(colors, (std::vector<std::string>{"000002", "none", "000001", "000003"}));
 }
 
 TEST_F(TextWritersTest, LinksHaveRelationshipsOfTheirOwn) {

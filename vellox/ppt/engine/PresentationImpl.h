@@ -17,7 +17,8 @@ namespace vellox::ppt {
 class OutputFile;
 class PartDOMBuilder;
 class PresentationModel;
-struct TemplateLayout;
+class Rules;
+struct TemplateSlide;
 
 /// The life of a presentation:
 ///
@@ -82,10 +83,6 @@ public:
     const std::vector<Finding>& getFindings() const { return findings_.get(getChildren()); }
 
     PresentationState getState() const { return state_; }
-    /// @{ For the parser.
-    void setState(PresentationState state) { state_ = state; }
-    void clearSlides();
-    /// @}
 
 private:
     void useDefaultTemplate();
@@ -95,11 +92,14 @@ private:
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
+    void takeSlide(const boost::shared_ptr<TemplateSlide>& slide);
+    [[noreturn]] void rejectTemplate();
     void makeWorkingCopy(const std::wstring& templateFile);
     void copyToOutput(const std::wstring& outputFile);
     void removeWorkingCopy();
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
+    boost::shared_ptr<const Rules> rules_;
     PresentationState state_ = PresentationState::Created;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;

@@ -1,12 +1,8 @@
 #include "vellox/ppt/engine/TemplateParser.h"
 
-#include "vellox/foundation/IdentifiedException.h"
-#include "vellox/foundation/Identifiers.h"
-#include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/object/NodeKinds.h"
-#include "vellox/ppt/package/PartDOMBuilder.h"
-#include "vellox/ppt/template/SlideDocuments.h"
+#include "vellox/ppt/template/TemplateReader.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
 #include <algorithm>
@@ -14,48 +10,23 @@
 
 namespace vellox::ppt {
 
-TemplateParser::TemplateParser(boost::shared_ptr<PartDOMBuilder> builder,
-                               boost::shared_ptr<OPCPackage> package, PresentationImpl& presentation)
-    : builder_(std::move(builder)),
-      package_(std::move(package)),
-      presentation_(presentation) {}
+TemplateParser::TemplateParser(PartDOMBuilder& builder, boost::shared_ptr<const Rules> rules)
+    : builder_(builder),
+      rules_(std::move(rules)) {}
 
 boost::shared_ptr<PresentationModel> TemplateParser::parse() {
-    presentation_.clearSlides();
-    const auto model = boost::make_shared<PresentationModel>(builder_);
-    if (!model->load())
-        reject();
-    presentation_.setState(PresentationState::Parsed);
-    for (const auto& slide : *model->getSlides()) {
-        if (!slide->layout || !slide->layout->master)
-            reject();
-        appendSlide(slide);
-    }
-    return model;
-}
-
-void TemplateParser::reject() {
-    presentation_.setState(PresentationState::TemplateInvalid);
-    raise(ppt_error::invalidTemplate(builder_->getPath()));
-}
-
-void TemplateParser::appendSlide(const boost::shared_ptr<TemplateSlide>& slide) {
-    auto* node = new SlideImpl(slide);
-    presentation_.appendChild(node->makeInterface());
-    buildChildren(*node, *slide->shapes);
-}
-
-boost::shared_ptr<TemplateSlide>
-TemplateParser::createSlide(const boost::shared_ptr<TemplateLayout>& layout) {
-    if (!layout)
+    TemplateReader reader(builder_, *rules_);
+    if (reader.load() != Refusal::None)
         return {};
-    const auto slide = boost::make_shared<TemplateSlide>();
-    slide->layout = layout;
-    slide->shapes = layout->shapes;
-    slide->document = makeSlideDocument(*layout);
-    slide->nextShapeId = std::max(layout->maxShapeId, layout->lastSlideShapeId);
-    slide->elementsByUid = mapElementsByUid(slide->document.get());
-    return slide;
+    return boost::make_shared<PresentationModel>(reader.getTemplate(), rules_);
+}
+
+bool TemplateParser::hasMaster(const TemplateSlide& slide) {
+    return slide.layout && !slide.layout->master.expired();
+}
+
+PPTNodeImpl::Child TemplateParser::makeSlide(const boost::shared_ptr<TemplateSlide>& slide) {
+    return (new SlideImpl(slide))->makeInterface();
 }
 
 void TemplateParser::buildChildren(PPTNodeImpl& parent, const TemplateShapes& shapes) {

@@ -3,7 +3,6 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/BaseDimensionImpl.h"
-#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableEntryWriter.h"
 
 namespace vellox::ppt {
@@ -77,7 +76,7 @@ public:
     FormatType getFormatType() const override { return FormatType::ColWidth; }
     /// Writes nothing itself: the width goes into the table's grid when the whole table is done.
     void applyToTableEntry(TableEntryWriter& writer) const override {
-        writer.getWriter().setColumnWidth(getDimension().getEMUNumber());
+        writer.setColumnWidth(getDimension().getEMUNumber());
     }
     virtual boost::shared_ptr<ColWidth> clone() const {
         return boost::shared_ptr<ColWidth>(new ColWidth(new ColWidthImpl(*this)));

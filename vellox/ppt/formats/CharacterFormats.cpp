@@ -277,7 +277,7 @@ public:
 private:
     static void write(TextWriter& writer, const XMLCh* element, const std::wstring& font) {
         if (!font.empty())
-            writer.addRPrChild(element)->setAttribute(xml::kTypeface, opc::XercesString(font));
+            writer.addRPrChild(element).setAttribute(xml::kTypeface, font);
     }
 
     std::wstring font_;

@@ -3,13 +3,11 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
-#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/ColorTable.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 #include "vellox/ppt/writers/TableEntryWriter.h"
 #include "vellox/ppt/writers/TextWriter.h"
-#include "vellox/ppt/xml/Dom.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <boost/algorithm/string/trim.hpp>
@@ -42,8 +40,8 @@ public:
 
 protected:
     /// Makes this the colour of a fill.
-    void writeTo(xercesc::DOMElement* fill) const {
-        setAttribute(appendElement(fill, xml::kASrgbClr), xml::kVal, toHex());
+    void writeTo(PropertyElement& fill) const {
+        fill.addChild(xml::kASrgbClr).setAttribute(xml::kVal, toHex());
     }
 
 private:

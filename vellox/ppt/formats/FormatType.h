@@ -25,6 +25,9 @@ enum class FormatType : int {
     VAlign = 13
 };
 
+/// One more than the number of the last.
+inline constexpr unsigned int kFormatTypeCount = 14;
+
 } // namespace vellox::ppt
 
 #endif

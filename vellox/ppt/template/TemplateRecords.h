@@ -1,7 +1,6 @@
 /// @file
-/// What the library knows of a template: plain records, held by shared handles. A record owns the DOM
-/// document of its part, and the documents of slides are the ones that are written out. Records and
-/// documents are tied together by the attribute data-uid, which never reaches a file:
+/// What the library knows of a template: plain records, held by shared handles, which stay as they were read.
+/// Records and documents are tied together by the attribute data-uid, which never reaches a file:
 ///
 ///     node (tree) --> TemplateShape.id == "17"  <-->  <p:sp data-uid="17"> (document)
 
@@ -9,6 +8,7 @@
 #define VELLOX_PPT_TEMPLATE_TEMPLATERECORDS_H
 
 #include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
 #include <map>
 #include <string>
 #include <vector>
@@ -16,15 +16,17 @@
 #include "vellox/foundation/Dimension.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/NodeType.h"
+#include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
 
+struct SlidePrototype;
 struct TemplateLayout;
 struct TemplateMaster;
 struct TemplateShape;
 
-using ElementMap = std::map<std::wstring, xercesc::DOMElement*>;
+using Place = boost::shared_ptr<const PlaceText>;
 using TemplateShapes = std::vector<boost::shared_ptr<TemplateShape>>;
 
 /// A width or a height. That of a picture may be its file's, which counts as set like any other, and yet nobody
@@ -59,14 +61,16 @@ struct ShapeGeometry {
     bool hasPlacement() const { return x.isSet() || y.isSet() || cx.isSet() || cy.isSet(); }
 };
 
-/// One shape element of a layout or a slide. Its geometry holds the name only: positions are read from the
-/// documents when they are needed.
+/// One shape element of a layout or a slide. Its geometry holds the name only: places are texts until somebody
+/// stands there.
 struct TemplateShape : ShapeGeometry {
     std::wstring id;                ///< the value of data-uid; counted for the process
     NodeType type = NodeType::None; ///< what the element is
     std::wstring xmlId;             ///< id of p:cNvPr
     std::wstring placeholderType;   ///< type of p:ph, for picture, table and title placeholders
-    std::wstring layoutShapeUid;    ///< id of the layout's record with the same xmlId; slides only
+    Place place;                    ///< the element's own, in a layout; empty if it gives none
+    Place successorPlace;           ///< for a picture or a table in its stead; empty if there is none
+    Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
     boost::shared_ptr<TemplateShapes> children; ///< of a group
 };
 
@@ -84,10 +88,10 @@ struct TemplateMaster {
     std::wstring id;             ///< of p:sldMasterId
     std::wstring relationshipId; ///< of p:sldMasterId
     std::wstring partName;
-    boost::shared_ptr<TemplateTheme> theme; ///< may be empty
-    std::wstring name;                      ///< the theme's; empty without one
-    OwnedDocument document;
-    ElementMap shapeElementsById; ///< from the id of a p:cNvPr to the shape that it is in
+    boost::shared_ptr<TemplateTheme> theme;   ///< may be empty
+    std::wstring name;                        ///< as the rules make it of the theme's; empty without one
+    std::map<std::wstring, Place> placesById; ///< from the id of a p:cNvPr to the place of the shape it is in
+    unsigned int maxShapeId = 0;              ///< greatest id of a p:cNvPr
     boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< in relationship order
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByName;   ///< the first of each name
     std::vector<std::wstring> layoutNames;                                     ///< with repeats
@@ -98,32 +102,39 @@ struct TemplateLayout {
     std::wstring type;
     std::wstring masterPartName;
     std::wstring name;
-    OwnedDocument document; ///< with data-uid attributes
-    ElementMap elementsByUid;
-    std::map<std::wstring, std::wstring> shapeUidsById; ///< from the id of a p:cNvPr to the record's id
-    boost::shared_ptr<TemplateShapes> shapes;           ///< placeholders only
-    boost::shared_ptr<TemplateMaster> master;           ///< cleared when the model ends
-    unsigned int maxShapeId = 1;                        ///< greatest id of a p:cNvPr among the shapes
-    OwnedDocument slidePrototype;      ///< a new slide of this layout, made with the first; copied for each
-    unsigned int lastSlideShapeId = 0; ///< the last id that was given out in the prototype; 0 if none was
-    bool isCopiedInPart = false;       ///< not all of it could be had in the prototype
-    std::vector<std::wstring> slideRelationshipIds; ///< the layout's relationships that the prototype needs
+    OwnedDocument document;  ///< with data-uid attributes; gone once the prototype stands
+    std::vector<Fate> fates; ///< of the shape tree's elements, in their order
+    std::map<std::wstring, boost::shared_ptr<TemplateShape>> shapesById; ///< by the id of their p:cNvPr
+    boost::shared_ptr<TemplateShapes> shapes;                            ///< placeholders only
+    boost::weak_ptr<TemplateMaster> master;                              ///< who holds the layout
+    unsigned int maxShapeId = 1;                       ///< greatest id of a p:cNvPr among the shapes
+    boost::shared_ptr<const SlidePrototype> prototype; ///< made with the first slide, see SlidePrototype.h
 };
 
+/// One slide of a deck: a new one, which comes from its layout, or one of the template.
 struct TemplateSlide {
     std::wstring id;             ///< of p:sldId; empty in a new slide
     std::wstring relationshipId; ///< empty until the slide list is written
     std::wstring name;
-    std::wstring partName; ///< empty until a new slide gets its part
+    std::wstring partName; ///< empty until all slides are written
     boost::shared_ptr<TemplateLayout> layout;
-    OwnedDocument document; ///< the slide's XML, which becomes the part
-    ElementMap elementsByUid;
+    boost::shared_ptr<const OwnedDocument>
+        source;                               ///< as read, with data-uid attributes; empty in a new slide
     boost::shared_ptr<TemplateShapes> shapes; ///< of a new slide: those of its layout, shared
-    unsigned int nextShapeId = 0;             ///< the last id of a p:cNvPr that was given out
 };
 
-/// Enters every element of a document that bears a data-uid.
-ElementMap mapElementsByUid(xercesc::DOMDocument* document);
+/// A template as it was read. Nothing that is made of it changes it, but that prototypes come to stand.
+struct Template {
+    std::wstring presentationPartName;
+    OwnedDocument presentationDocument;
+    std::vector<boost::shared_ptr<TemplateMaster>> masters; ///< in the order of the presentation part
+    std::vector<std::wstring> masterNames;                  ///< one for each, with repeats
+    std::map<std::wstring, boost::shared_ptr<TemplateMaster>> mastersByPartName;
+    std::map<std::wstring, boost::shared_ptr<TemplateMaster>> mastersByName; ///< the first of each name
+    std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByPartName;
+    std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part
+    std::vector<boost::shared_ptr<TemplateTableStyle>> tableStyles;
+};
 
 } // namespace vellox::ppt
 

@@ -17,8 +17,8 @@ SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
       templateSlide_(templateSlide) {
     if (const auto& layout = templateSlide_->layout) {
         layoutName_ = layout->name;
-        if (layout->master)
-            slideMasterName_ = layout->master->name;
+        if (const auto master = layout->master.lock())
+            slideMasterName_ = master->name;
     }
     announceCreated(*this);
 }

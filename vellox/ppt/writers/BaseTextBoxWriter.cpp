@@ -1,10 +1,10 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
 #include "vellox/foundation/Identifiers.h"
-#include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -13,14 +13,16 @@ using namespace xercesc;
 
 BaseTextBoxWriter::BaseTextBoxWriter(const BaseTextBoxImpl& textBox, PPTWriter& writer, DOMNode* parentNode)
     : ShapeWriter(textBox, writer, parentNode),
-      textBox_(textBox) {}
+      textBox_(textBox),
+      spPr_(xml::kSpPr),
+      bodyPr_(xml::kABodyPr) {}
 
 DOMElement* BaseTextBoxWriter::findOrMakeShape() {
     const ShapeGeometry& geometry = textBox_.getGeometry();
     DOMElement* shape = getSlideElement();
     if (!shape)
         return makeFreeTextBox(*getCurrentSlide(), geometry.shapeName, geometry).sp;
-    placeExistingTextShape(shape, *getCurrentSlide(), getLayoutElement(), geometry);
+    placeExistingTextShape(shape, getTemplateShape()->textPlace.get(), geometry);
     shape->removeAttribute(xml::kDataUid);
     return shape;
 }
@@ -30,24 +32,19 @@ void BaseTextBoxWriter::write() {
         return;
     DOMElement* shape = findOrMakeShape();
     DOMElement* txBody = findChild(shape, xml::kTxBody);
-    spPr_ = findChild(shape, xml::kSpPr);
-    bodyPr_ = findChild(txBody, xml::kABodyPr);
-    applyFormats(textBox_, inheritedFormatTypes());
-    if (spPr_ && !spPr_->getParentNode())
-        getWriter().report(ppt_finding::noShapeProperties());
+    applyFormats();
+    writeSpPr(shape);
     if (!txBody)
         return reportLostText();
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
-    if (bodyPr_ && !findChild(txBody, xml::kABodyPr))
-        txBody->appendChild(bodyPr_);
-    for (const auto& child : textBox_.getChildren())
-        child->acceptWriter(&getWriter(), txBody);
+    writeBodyPr(txBody);
+    writeChildren(txBody);
     ensureParagraph(shape);
 }
 
 void BaseTextBoxWriter::reportLostText() const {
-    if (!textBox_.getChildren().empty() || bodyPr_)
+    if (!textBox_.getChildren().empty() || !bodyPr_.isEmpty())
         getWriter().report(ppt_finding::noTextBody());
 }
 
@@ -60,42 +57,42 @@ const ElementWriter::FormatTypes& BaseTextBoxWriter::inheritedFormatTypes() cons
     return types;
 }
 
-DOMElement* BaseTextBoxWriter::getBodyPr() {
-    if (!bodyPr_)
-        bodyPr_ = createElement(xml::kABodyPr);
-    return bodyPr_;
-}
-
 void BaseTextBoxWriter::setBodyPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    getBodyPr()->setAttribute(name, mapping.xmlValue);
+    bodyPr_.setAttribute(name, mapping.xmlValue);
 }
 
 void BaseTextBoxWriter::setBodyPrAttribute(const XMLCh* name, const std::wstring& text) {
-    setAttribute(getBodyPr(), name, text);
+    bodyPr_.setAttribute(name, text);
 }
 
 void BaseTextBoxWriter::setBodyPrFlag(const XMLCh* name, bool value) {
-    getBodyPr()->setAttribute(name, value ? xml::kTrue : xml::kFalse);
+    bodyPr_.setAttribute(name, value ? xml::kTrue : xml::kFalse);
 }
 
-DOMElement* BaseTextBoxWriter::getSpPr() {
-    if (!spPr_)
-        spPr_ = createElement(xml::kASpPr);
-    return spPr_;
+PropertyElement& BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
+    return spPr_.putChild(name);
 }
 
 // A shape has one fill: what a template's shape has instead, such as a:noFill, gives way.
-DOMElement* BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
+void BaseTextBoxWriter::writeSpPr(DOMElement* shape) const {
+    if (spPr_.isEmpty())
+        return;
+    DOMElement* properties = findChild(shape, xml::kSpPr);
+    if (!properties)
+        return getWriter().report(ppt_finding::noShapeProperties());
     for (const XMLCh* other :
          {xml::kANoFill, xml::kAGradFill, xml::kABlipFill, xml::kAPattFill, xml::kAGrpFill})
-        removeChildElements(getSpPr(), other);
-    DOMElement* child = createElement(name);
-    DOMElement* former = findChild(getSpPr(), name);
-    if (former)
-        getSpPr()->replaceChild(child, former);
+        removeChildElements(properties, other);
+    spPr_.applyTo(properties);
+}
+
+void BaseTextBoxWriter::writeBodyPr(DOMElement* txBody) const {
+    if (bodyPr_.isEmpty())
+        return;
+    if (DOMElement* properties = findChild(txBody, xml::kABodyPr))
+        bodyPr_.applyTo(properties);
     else
-        getSpPr()->appendChild(child);
-    return child;
+        bodyPr_.appendTo(txBody);
 }
 
 } // namespace vellox::ppt

@@ -8,6 +8,7 @@
 
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ShapeWriter.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 
 namespace vellox::ppt {
 
@@ -21,24 +22,25 @@ public:
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
-    /// The body's properties, made if the shape has none.
-    xercesc::DOMElement* getBodyPr();
+    /// What is put into the body's properties.
+    PropertyElement& getBodyPr() { return bodyPr_; }
     void setBodyPrAttribute(const XMLCh* name, const ValueMapping& mapping);
     void setBodyPrAttribute(const XMLCh* name, const std::wstring& text);
     void setBodyPrFlag(const XMLCh* name, bool value);
-    /// The shape's properties. For a shape without any they are made and attached nowhere, so that what is
-    /// written into them is lost, and reported.
-    xercesc::DOMElement* getSpPr();
+    /// What is put into the shape's properties. For a shape without any it is lost, and reported.
+    PropertyElement& getSpPr() { return spPr_; }
     /// A new element in the shape's properties, in the place of one of its name or at the end.
-    xercesc::DOMElement* addSpPrChild(const XMLCh* name);
+    PropertyElement& addSpPrChild(const XMLCh* name);
 
 private:
     xercesc::DOMElement* findOrMakeShape();
+    void writeSpPr(xercesc::DOMElement* shape) const;
+    void writeBodyPr(xercesc::DOMElement* txBody) const;
     void reportLostText() const;
 
     const BaseTextBoxImpl& textBox_;
-    xercesc::DOMElement* spPr_ = nullptr;
-    xercesc::DOMElement* bodyPr_ = nullptr;
+    PropertyElement spPr_;
+    PropertyElement bodyPr_;
 };
 
 } // namespace vellox::ppt

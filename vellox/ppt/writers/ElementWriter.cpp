@@ -1,7 +1,7 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
 #include "vellox/ppt/object/ElementImpl.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -29,47 +29,49 @@ const ElementWriter::FormatTypes& ElementWriter::inheritedFormatTypes() const {
     return none;
 }
 
-namespace {
-
-const Format* findIn(const Formats& formats, FormatType type) {
-    const Formats::Map& map = formats.getMap();
-    if (map.empty())
-        return nullptr;
-    const auto found = map.find(type);
-    return found == map.end() ? nullptr : found->second.get();
+const Format* ElementWriter::findFormat(FormatType type) const {
+    return getFormatsInForce().find(type);
 }
 
-const Format* findInCurrentColumn(const PPTWriter::TableContext& table, FormatType type) {
-    if (table.col >= table.colCount || table.col >= table.colFormats.size())
-        return nullptr;
-    return findIn(table.colFormats[table.col], type);
-}
-
-} // namespace
-
-const Format* ElementWriter::findFormat(const ElementImpl& node, FormatType type) const {
-    if (const Format* own = findIn(node.getStyle(), type))
-        return own;
-    if (node.getNodeType() == NodeType::TableRow)
-        if (const Format* ofColumn = findInCurrentColumn(writer_.getTableContext(), type))
-            return ofColumn;
-    const PPTNodeImpl* parent = node.getParent();
-    const ElementImpl* above = parent ? parent->asElement() : nullptr;
-    return above ? findFormat(*above, type) : nullptr;
-}
-
-void ElementWriter::applyFormats(const ElementImpl& node, const FormatTypes& inherited) {
-    const Formats::Map& own = node.getStyle().getMap();
+void ElementWriter::applyFormats() {
+    const Formats::Map& own = element_.getStyle().getMap();
     for (const auto& entry : own)
         if (acceptsFormat(*entry.second))
             applyFormat(*entry.second);
-    for (const FormatType type : inherited) {
+    for (const FormatType type : inheritedFormatTypes()) {
         if (!own.empty() && own.count(type) > 0)
             continue;
-        const Format* format = findFormat(node, type);
+        const Format* format = findFormat(type);
         if (format && acceptsFormat(*format))
             applyFormat(*format);
     }
+}
+
+// The way down begins at a shape, which finds no frame. Below, a node may stand in the list of one that it doesn't
+// link to, as the items of lists do; it is the link that counts.
+FormatsInForce ElementWriter::getFormatsAbove() const {
+    const PPTWriter::Frame& frame = writer_.getFrame();
+    const PPTNodeImpl* parent = element_.getParent();
+    const bool isOnTheWay = frame.formats && frame.element == parent;
+    return isOnTheWay ? *frame.formats : FormatsInForce::at(parent, frame.table);
+}
+
+const FormatsInForce& ElementWriter::getFormatsInForce() const {
+    if (!inForce_) {
+        inForce_ = getFormatsAbove();
+        inForce_->layOver(element_.getStyle());
+    }
+    return *inForce_;
+}
+
+void ElementWriter::writeChildren(DOMNode* parentNode) const {
+    writeChildren(parentNode, writer_.getFrame().table);
+}
+
+void ElementWriter::writeChildren(DOMNode* parentNode, TableContext* table) const {
+    const PPTWriter::FrameScope scope(writer_, {&element_, &getFormatsInForce(), table});
+    for (const auto& child : element_.getChildren())
+        child->acceptWriter(&writer_, parentNode);
 }
 
 PPTPartWriter& ElementWriter::getPartWriter() const {
@@ -80,37 +82,22 @@ PresentationModel& ElementWriter::getModel() const {
     return *writer_.getModel();
 }
 
-TemplateSlide* ElementWriter::getCurrentSlide() const {
-    return writer_.getCurrentSlide().get();
+SlideDocument* ElementWriter::getCurrentSlide() const {
+    return writer_.getCurrentSlide();
 }
 
 std::wstring ElementWriter::getCurrentSlidePartName() const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? slide->partName : std::wstring();
+    return writer_.getCurrentSlidePartName();
 }
 
 DOMElement* ElementWriter::createElement(const XMLCh* name) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? slide->document->createElement(name) : nullptr;
+    const SlideDocument* slide = getCurrentSlide();
+    return slide ? slide->createElement(name) : nullptr;
 }
-
-namespace {
-
-DOMElement* findByUid(const ElementMap& elements, const std::wstring& uid) {
-    const auto found = elements.find(uid);
-    return found == elements.end() ? nullptr : found->second;
-}
-
-} // namespace
 
 DOMElement* ElementWriter::findSlideElement(const std::wstring& uid) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide ? findByUid(slide->elementsByUid, uid) : nullptr;
-}
-
-DOMElement* ElementWriter::findLayoutElement(const std::wstring& uid) const {
-    const TemplateSlide* slide = getCurrentSlide();
-    return slide && slide->layout ? findByUid(slide->layout->elementsByUid, uid) : nullptr;
+    const SlideDocument* slide = getCurrentSlide();
+    return slide ? slide->findElement(uid) : nullptr;
 }
 
 void removeChildElements(DOMElement* parent, const XMLCh* name) {

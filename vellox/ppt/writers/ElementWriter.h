@@ -6,11 +6,13 @@
 #define VELLOX_PPT_WRITERS_ELEMENTWRITER_H
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "vellox/ppt/formats/Format.h"
 #include "vellox/ppt/formats/FormatType.h"
+#include "vellox/ppt/writers/FormatsInForce.h"
 #include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
@@ -19,7 +21,8 @@ class ElementImpl;
 class PPTPartWriter;
 class PPTWriter;
 class PresentationModel;
-struct TemplateSlide;
+class SlideDocument;
+struct TableContext;
 
 /// Writes one element. A writer lives for the writing of one node, on the stack of the driver.
 class ElementWriter {
@@ -34,11 +37,11 @@ public:
     virtual void write();
     /// Lets one format write itself through this writer.
     virtual void applyFormat(const Format& format);
-    /// The format of a kind that is in force for an element: its own, or that of the nearest element above
+    /// The format of a kind that is in force for the element: its own, or that of the nearest element above
     /// it. For what stands in a table, the row comes before the column, and both before the table.
-    virtual const Format* findFormat(const ElementImpl& node, FormatType type) const;
+    virtual const Format* findFormat(FormatType type) const;
     virtual bool acceptsFormat(const Format& format) const;
-    /// The kinds that this writer looks for up the tree where the element has none of its own.
+    /// The kinds that this writer looks for above where the element has none of its own.
     virtual const FormatTypes& inheritedFormatTypes() const;
 
     const ElementImpl& getElement() const { return element_; }
@@ -47,26 +50,34 @@ public:
     PPTPartWriter& getPartWriter() const;
     PresentationModel& getModel() const;
     /// The slide being written, or null.
-    TemplateSlide* getCurrentSlide() const;
+    SlideDocument* getCurrentSlide() const;
     /// The name of its part; empty without a slide.
     std::wstring getCurrentSlidePartName() const;
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
     xercesc::DOMElement* createElement(const XMLCh* name) const;
-    /// @{ The element that bears a data-uid in the slide, or in its layout; null if there is none.
+    /// The element that bears a data-uid in the slide; null if there is none.
     xercesc::DOMElement* findSlideElement(const std::wstring& uid) const;
-    xercesc::DOMElement* findLayoutElement(const std::wstring& uid) const;
-    /// @}
 
 protected:
     /// Applies the element's own formats in the order of their kinds, then what it inherits in the order of
     /// the list. Where formats append elements, this order shows in the document.
-    void applyFormats(const ElementImpl& node, const FormatTypes& inherited);
+    void applyFormats();
+    /// What is in force at the element's parent.
+    FormatsInForce getFormatsAbove() const;
+    /// What is in force at the element, found when it is first asked for: until then listeners may run.
+    const FormatsInForce& getFormatsInForce() const;
+    /// @{ Writes the element's children below a DOM node.
+    /// @param table that around them; that around this element if none is given
+    void writeChildren(xercesc::DOMNode* parentNode) const;
+    void writeChildren(xercesc::DOMNode* parentNode, TableContext* table) const;
+    /// @}
 
 private:
     const ElementImpl& element_;
     PPTWriter& writer_;
     xercesc::DOMNode* parentNode_;
+    mutable std::optional<FormatsInForce> inForce_;
 };
 
 /// Removes all child elements of a name.

@@ -18,7 +18,7 @@ void ExternalLinkWriter::write() {
     if (id.empty())
         getWriter().report(ppt_finding::emptyLinkTarget());
     // The rule of links: their element stands ahead of what the formats append.
-    setAttribute(addRPrChild(xml::kAHlinkClick), xml::kRId, id);
+    addRPrChild(xml::kAHlinkClick).setAttribute(xml::kRId, id);
     TextWriter::write();
 }
 

@@ -5,7 +5,7 @@
 #include "vellox/host/services/FileSystem.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/package/PackageNames.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/SlidePrototype.h"
 
 #include <algorithm>
 #include <array>
@@ -77,9 +77,7 @@ std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
         name = L"/ppt/slides/slide" + num2str(++slideCounter_) + L".xml";
     } while (hasPart(name));
     opc::Part part = createPart(name, contenttype::kSlide);
-    if (!slide.layout)
-        return name;
-    copyRelationships(getPart(slide.layout->partName), part, slide.layout->slideRelationshipIds);
+    copyRelationships(getPart(slide.layout->partName), part, slide.layout->prototype->relationshipIds);
     part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),
                                     {});
     return name;

@@ -10,13 +10,13 @@
 #define VELLOX_PPT_WRITERS_PPTWRITER_H
 
 #include <boost/shared_ptr.hpp>
-#include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/formats/Formats.h"
 #include "vellox/ppt/object/DomForward.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox {
 class MsgID;
@@ -25,12 +25,15 @@ class MsgID;
 namespace vellox::ppt {
 
 class ExternalLinkImpl;
+class FormatsInForce;
 class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
 class PPTNode;
 class PPTNodeImpl;
 class PPTPartWriter;
+class PresentationModel;
+class SlideDocument;
 class SlideImpl;
 class TableEntryImpl;
 class TableImpl;
@@ -38,17 +41,43 @@ class TableRowImpl;
 class TextBoxImpl;
 class TextBoxPlaceholderImpl;
 class TextImpl;
+struct TableContext;
 
 class PPTWriter {
 public:
-    /// Where the writing of a table is, and what its columns have to say.
-    struct TableContext {
-        unsigned int rowCount = 0;
-        unsigned int colCount = 0;
-        unsigned int row = 0;                      ///< from 0
-        unsigned int col = 0;                      ///< of the entry within its row, from 0
-        std::vector<Formats> colFormats;           ///< one for each column specification
-        std::vector<std::optional<int>> colWidths; ///< colCount of them, in EMU
+    /// What the writer of an element has for those of its children.
+    struct Frame {
+        const PPTNodeImpl* element = nullptr;
+        const FormatsInForce* formats = nullptr; ///< at the element
+        TableContext* table = nullptr;           ///< around the children, if there is one
+    };
+
+    /// Sets the frame for as long as children are written.
+    class FrameScope {
+    public:
+        FrameScope(PPTWriter& writer, const Frame& frame)
+            : writer_(writer),
+              outer_(std::exchange(writer.frame_, frame)) {}
+        FrameScope(const FrameScope&) = delete;
+        FrameScope& operator=(const FrameScope&) = delete;
+        ~FrameScope() { writer_.frame_ = outer_; }
+
+    private:
+        PPTWriter& writer_;
+        const Frame outer_;
+    };
+
+    /// Makes a slide the current one, for as long as this lives.
+    class Visit {
+    public:
+        Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide, SlideDocument& document,
+              const std::wstring& partName);
+        Visit(const Visit&) = delete;
+        Visit& operator=(const Visit&) = delete;
+        ~Visit();
+
+    private:
+        PPTWriter& writer_;
     };
 
     PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package);
@@ -59,12 +88,10 @@ public:
     /// Writes a slide with all that it holds.
     void write(const PPTNode& node);
     /// Ends the writing: lists the slides in the presentation part, in the order in which they were written.
+    /// Only now do the records of new slides learn the names of their parts: had the writing failed, it could
+    /// have been done again.
     /// @throws opc::Exception
     void finish();
-    /// Gives the records of all slides written so far back the documents that they had, so that after a
-    /// failure everything can be written again.
-    void rollBack();
-
     /// @{ Writes one node below a DOM node.
     void writeSlide(const SlideImpl& slide, xercesc::DOMNode* parent);
     void writeParagraph(const ParagraphImpl& paragraph, xercesc::DOMNode* parent);
@@ -85,31 +112,29 @@ public:
 
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
-    /// The record of the slide being written; empty before the first.
-    const boost::shared_ptr<TemplateSlide>& getCurrentSlide() const { return currentSlide_; }
-    void enterSlide(const boost::shared_ptr<TemplateSlide>& slide);
-    /// Lets go of the document of the slide, whose part holds it now. Only slides of the template are kept as they
-    /// were, since nothing else could bring them back.
-    void leaveSlide();
+    /// The slide being written; null between slides.
+    SlideDocument* getCurrentSlide() const { return currentSlide_; }
+    /// The name of its part; empty between slides.
+    std::wstring getCurrentSlidePartName() const;
+    /// Whether a slide has had its turn.
+    bool hasWritten(const TemplateSlide& slide) const { return written_.count(&slide) > 0; }
 
-    const TableContext& getTableContext() const { return tableContext_; }
-    void enterTable(const TableImpl& table);
-    void leaveTable();
-    void nextEntry();
-    void nextRow();
-    /// Widens the column that the table is at. A column that the table doesn't have is passed over.
-    void setColumnWidth(int widthEmu);
+    /// Empty but within shapes.
+    const Frame& getFrame() const { return frame_; }
 
 private:
-    struct Former;
+    struct Written {
+        boost::shared_ptr<TemplateSlide> slide;
+        std::wstring partName;
+    };
 
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
-    PresentationModel::Slides slides_;
-    std::vector<Former> formers_;
-    boost::shared_ptr<TemplateSlide> currentSlide_;
-    TableContext tableContext_;
+    std::vector<Written> slides_;
+    std::set<const TemplateSlide*> written_;
+    SlideDocument* currentSlide_ = nullptr;
+    Frame frame_;
 };
 
 } // namespace vellox::ppt

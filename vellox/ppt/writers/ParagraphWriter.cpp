@@ -20,18 +20,18 @@ constexpr unsigned int kDeepestLevel = 9;
 
 ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(paragraph, writer, parentNode),
-      paragraph_(paragraph) {}
+      paragraph_(paragraph),
+      pPr_(xml::kAPPr) {}
 
 void ParagraphWriter::write() {
-    applyFormats(paragraph_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* element = createElement(xml::kAP);
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
-        setAttribute(getPPr(), xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
-    if (pPr_)
-        appendNode(element, pPr_);
-    for (const auto& child : paragraph_.getChildren())
-        child->acceptWriter(&getWriter(), element);
+        pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
+    if (!pPr_.isEmpty())
+        pPr_.appendTo(element);
+    writeChildren(element);
     appendNode(getParentNode(), element);
 }
 
@@ -44,14 +44,8 @@ const ElementWriter::FormatTypes& ParagraphWriter::inheritedFormatTypes() const 
     return types;
 }
 
-DOMElement* ParagraphWriter::getPPr() {
-    if (!pPr_)
-        pPr_ = createElement(xml::kAPPr);
-    return pPr_;
-}
-
 void ParagraphWriter::setPPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    setAttribute(getPPr(), name, mapping.xmlValue);
+    pPr_.setAttribute(name, mapping.xmlValue);
 }
 
 } // namespace vellox::ppt

@@ -6,6 +6,7 @@
 
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 
 namespace vellox::ppt {
 
@@ -19,13 +20,13 @@ public:
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
-    /// The paragraph's properties, made on first use; they are attached when the paragraph is written.
-    xercesc::DOMElement* getPPr();
+    /// The paragraph's properties. They are written if anything is put in.
+    PropertyElement& getPPr() { return pPr_; }
     void setPPrAttribute(const XMLCh* name, const ValueMapping& mapping);
 
 private:
     const ParagraphImpl& paragraph_;
-    xercesc::DOMElement* pPr_ = nullptr;
+    PropertyElement pPr_;
 };
 
 } // namespace vellox::ppt

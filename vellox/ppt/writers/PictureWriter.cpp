@@ -2,12 +2,14 @@
 
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/foundation/InfoUtils.h"
-#include "vellox/ppt/engine/ShapeMakers.h"
+#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/ShapeMakers.h"
 
 namespace vellox::ppt {
 
@@ -18,12 +20,11 @@ PictureWriter::PictureWriter(const PictureImpl& picture, PPTWriter& writer, DOMN
       picture_(picture) {}
 
 void PictureWriter::write() {
-    TemplateSlide* slide = getCurrentSlide();
+    SlideDocument* slide = getCurrentSlide();
     DOMElement* former = getSlideElement();
     if (!slide || picture_.getPath().empty())
         return reportMissingPath();
     const ImageInfo info = InfoUtils::getImageInfo(picture_.getPath());
-    const PixelSize size{info.getWidth(), info.getHeight()};
     const std::wstring id = getPartWriter().addImage(getCurrentSlidePartName(), picture_.getPath());
     if (id.empty())
         getWriter().report(ppt_finding::unreadablePicture(picture_.getPath()));
@@ -36,9 +37,7 @@ void PictureWriter::write() {
     }
     DOMNode* parent = former->getParentNode();
     const PictureElements made =
-        getShapeType() == NodeType::Picture
-            ? makePictureForPicture(*slide, id, former, size, geometry)
-            : makePictureForPlaceholder(*slide, id, former, getLayoutElement(), size, geometry);
+        makePictureInPlace(*slide, id, former, fit({info.getWidth(), info.getHeight(), {}, {}}));
     if (parent)
         parent->replaceChild(made.pic, former);
 }
@@ -47,6 +46,20 @@ void PictureWriter::write() {
 void PictureWriter::reportMissingPath() const {
     if (getShapeType() != NodeType::Picture)
         getWriter().report(ppt_finding::pictureWithoutFile());
+}
+
+std::optional<Box> PictureWriter::fit(PictureFacts facts) const {
+    const ShapeGeometry& geometry = picture_.getGeometry();
+    if (geometry.cx.isSet())
+        facts.cx = geometry.cx.get().getEMUNumber();
+    if (geometry.cy.isSet())
+        facts.cy = geometry.cy.get().getEMUNumber();
+    const Rules& rules = getModel().getRules();
+    const Place& place = getTemplateShape()->successorPlace;
+    if (!place)
+        return rules.fit(facts, nullptr);
+    const Box box = readBox(*place);
+    return rules.fit(facts, &box);
 }
 
 void PictureWriter::reportUnknownType() const {

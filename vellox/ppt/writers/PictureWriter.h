@@ -4,6 +4,9 @@
 #ifndef VELLOX_PPT_WRITERS_PICTUREWRITER_H
 #define VELLOX_PPT_WRITERS_PICTUREWRITER_H
 
+#include <optional>
+
+#include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/writers/ShapeWriter.h"
 
 namespace vellox::ppt {
@@ -16,6 +19,7 @@ public:
     void write() override;
 
 private:
+    std::optional<Box> fit(PictureFacts facts) const;
     void reportMissingPath() const;
     void reportUnknownType() const;
 

@@ -9,7 +9,7 @@ ShapeWriter::ShapeWriter(const ShapeImpl& shape, PPTWriter& writer, xercesc::DOM
     : ElementWriter(shape, writer, parentNode),
       shape_(shape) {}
 
-TemplateShape* ShapeWriter::getTemplateShape() const {
+const TemplateShape* ShapeWriter::getTemplateShape() const {
     return shape_.getTemplateShape().get();
 }
 
@@ -21,16 +21,6 @@ xercesc::DOMElement* ShapeWriter::getSlideElement() const {
 NodeType ShapeWriter::getShapeType() const {
     const TemplateShape* record = getTemplateShape();
     return record ? record->type : NodeType::None;
-}
-
-xercesc::DOMElement* ShapeWriter::getLayoutElement() const {
-    TemplateShape* record = getTemplateShape();
-    if (!record)
-        return nullptr;
-    // On a new slide the records are the layout's own.
-    if (record->layoutShapeUid.empty())
-        record->layoutShapeUid = record->id;
-    return findLayoutElement(record->layoutShapeUid);
 }
 
 } // namespace vellox::ppt

@@ -1,5 +1,5 @@
 /// @file
-/// How a shape finds its element in the slide's document and in the layout's.
+/// How a shape finds its record and its element in the slide's document.
 
 #ifndef VELLOX_PPT_WRITERS_SHAPEWRITER_H
 #define VELLOX_PPT_WRITERS_SHAPEWRITER_H
@@ -18,13 +18,11 @@ public:
 
     const ShapeImpl& getShape() const { return shape_; }
     /// Null for a shape that a caller made.
-    TemplateShape* getTemplateShape() const;
+    const TemplateShape* getTemplateShape() const;
     /// Null for a shape that a caller made.
     xercesc::DOMElement* getSlideElement() const;
     /// What the slide's element is; None for a shape that a caller made.
     NodeType getShapeType() const;
-    /// The layout's shape that the slide's element inherits from; null if there is none.
-    xercesc::DOMElement* getLayoutElement() const;
 
 private:
     const ShapeImpl& shape_;

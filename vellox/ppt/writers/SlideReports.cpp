@@ -3,6 +3,7 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -34,7 +35,7 @@ void reportGrouped(const PPTNodeImpl& group) {
 
 void reportOnSlide(const SlideImpl& slide) {
     const boost::shared_ptr<TemplateLayout>& layout = slide.getTemplateSlide()->layout;
-    if (layout && layout->isCopiedInPart)
+    if (layout && layout->prototype && !layout->prototype->isWhole)
         report(ppt_finding::layoutCopiedInPart(layout->name), slide);
     reportName(slide);
     for (const auto& child : slide.getChildren()) {

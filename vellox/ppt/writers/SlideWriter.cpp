@@ -1,18 +1,16 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
-#include "vellox/ppt/template/SlideDocuments.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/SlideReports.h"
-#include "vellox/ppt/xml/XmlNames.h"
 
 #include <set>
-#include <utility>
 
 namespace vellox::ppt {
 
@@ -22,28 +20,24 @@ SlideWriter::SlideWriter(const SlideImpl& slide, PPTWriter& writer, xercesc::DOM
 
 void SlideWriter::write() {
     const boost::shared_ptr<TemplateSlide>& record = slide_.getTemplateSlide();
-    if (!record || !record->document)
+    if (!record || getWriter().hasWritten(*record))
         return report(ppt_finding::slideNotWritten(), slide_);
-    getWriter().enterSlide(record);
-    declarePrefixes(record->document->getDocumentElement());
-    if (xercesc::DOMElement* data = findChild(record->document->getDocumentElement(), xml::kCSld))
-        setAttribute(data, xml::kName, slide_.getName());
-    if (record->partName.empty())
-        record->partName = getPartWriter().createSlidePart(*record);
-    writeShapes(*record);
+    SlideDocument document(*record, getModel().getRules());
+    document.setName(slide_.getName());
+    const bool isNew = record->partName.empty();
+    const std::wstring partName = isNew ? getPartWriter().createSlidePart(*record) : record->partName;
+    const PPTWriter::Visit visit(getWriter(), record, document, partName);
+    writeShapes(document);
     // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
     // and may have been stripped of its text.
-    for (const auto& entry : record->elementsByUid) {
-        entry.second->removeAttribute(xml::kDataUid);
-        ensureParagraph(entry.second);
-    }
-    getPartWriter().writeDocument(record->partName, record->document.get());
-    getWriter().leaveSlide();
+    for (xercesc::DOMElement* element : document.removeMarks())
+        ensureParagraph(element);
+    getPartWriter().writeDocument(partName, document.get());
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same
 // mark, is a shape of its own.
-void SlideWriter::writeShapes(TemplateSlide& record) {
+void SlideWriter::writeShapes(SlideDocument& document) {
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
     reportOnSlide(slide_);
@@ -52,10 +46,11 @@ void SlideWriter::writeShapes(TemplateSlide& record) {
         getWriter().setReporter(impl);
         const std::wstring uid = impl ? impl->getTemplateUid() : std::wstring();
         const bool isCopy = !uid.empty() && !taken.insert(uid).second;
-        auto hidden = isCopy ? record.elementsByUid.extract(uid) : ElementMap::node_type();
+        if (isCopy)
+            document.hide(uid);
         shape->acceptWriter(&getWriter(), nullptr);
-        if (hidden)
-            record.elementsByUid.insert(std::move(hidden));
+        if (isCopy)
+            document.showHidden();
     }
     getWriter().setReporter(nullptr);
 }

@@ -8,8 +8,8 @@
 
 namespace vellox::ppt {
 
+class SlideDocument;
 class SlideImpl;
-struct TemplateSlide;
 
 class SlideWriter : public ElementWriter {
 public:
@@ -17,7 +17,7 @@ public:
     void write() override;
 
 private:
-    void writeShapes(TemplateSlide& record);
+    void writeShapes(SlideDocument& document);
 
     const SlideImpl& slide_;
 };

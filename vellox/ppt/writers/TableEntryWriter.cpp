@@ -3,6 +3,7 @@
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -11,20 +12,19 @@ using namespace xercesc;
 
 TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(entry, writer, parentNode),
-      entry_(entry) {}
+      table_(writer.getFrame().table),
+      tcPr_(xml::kATcPr) {}
 
 void TableEntryWriter::write() {
-    applyFormats(entry_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* cell = createElement(xml::kATc);
     DOMElement* body = appendElement(cell, xml::kATxBody);
     appendElement(body, xml::kABodyPr);
-    for (const auto& child : entry_.getChildren())
-        child->acceptWriter(&getWriter(), body);
+    writeChildren(body);
     ensureParagraph(cell);
-    if (tcPr_)
-        appendNode(cell, tcPr_);
+    if (!tcPr_.isEmpty())
+        tcPr_.appendTo(cell);
     appendNode(getParentNode(), cell);
-    getWriter().nextEntry();
 }
 
 void TableEntryWriter::applyFormat(const Format& format) {
@@ -36,22 +36,21 @@ const ElementWriter::FormatTypes& TableEntryWriter::inheritedFormatTypes() const
     return types;
 }
 
-DOMElement* TableEntryWriter::getTcPr() {
-    if (!tcPr_)
-        tcPr_ = createElement(xml::kATcPr);
-    return tcPr_;
-}
-
 void TableEntryWriter::setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
-    setAttribute(getTcPr(), name, mapping.xmlValue);
+    tcPr_.setAttribute(name, mapping.xmlValue);
 }
 
 void TableEntryWriter::setTcPrFlag(const XMLCh* name, bool value) {
-    setAttribute(getTcPr(), name, value ? xml::kTrue : xml::kFalse);
+    tcPr_.setAttribute(name, value ? xml::kTrue : xml::kFalse);
 }
 
-DOMElement* TableEntryWriter::addTcPrChild(const XMLCh* name) {
-    return appendElement(getTcPr(), name);
+PropertyElement& TableEntryWriter::addTcPrChild(const XMLCh* name) {
+    return tcPr_.addChild(name);
+}
+
+void TableEntryWriter::setColumnWidth(int widthEmu) {
+    if (table_)
+        table_->setColumnWidth(widthEmu);
 }
 
 } // namespace vellox::ppt

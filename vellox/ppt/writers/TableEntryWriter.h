@@ -6,10 +6,12 @@
 
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 
 namespace vellox::ppt {
 
 class TableEntryImpl;
+struct TableContext;
 
 class TableEntryWriter : public ElementWriter {
 public:
@@ -19,16 +21,18 @@ public:
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
-    /// The cell's properties, made on first use; they are attached when the cell is written.
-    xercesc::DOMElement* getTcPr();
+    /// The cell's properties. They are written if anything is put in.
+    PropertyElement& getTcPr() { return tcPr_; }
     void setTcPrAttribute(const XMLCh* name, const ValueMapping& mapping);
     void setTcPrFlag(const XMLCh* name, bool value);
     /// Appends a new element to the cell's properties.
-    xercesc::DOMElement* addTcPrChild(const XMLCh* name);
+    PropertyElement& addTcPrChild(const XMLCh* name);
+    /// Widens the column that the cell stands in.
+    void setColumnWidth(int widthEmu);
 
 private:
-    const TableEntryImpl& entry_;
-    xercesc::DOMElement* tcPr_ = nullptr;
+    TableContext* table_;
+    PropertyElement tcPr_;
 };
 
 } // namespace vellox::ppt

@@ -4,11 +4,12 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
-#include "vellox/ppt/engine/ShapeMakers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/ShapeMakers.h"
+#include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -29,7 +30,7 @@ TableWriter::TableWriter(const TableImpl& table, PPTWriter& writer, DOMNode* par
 void TableWriter::write() {
     if (!getCurrentSlide())
         return;
-    getWriter().enterTable(table_);
+    TableContext context(table_);
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
@@ -38,21 +39,19 @@ void TableWriter::write() {
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
         reportMissingStyle();
-    for (const auto& row : table_.getChildren())
-        row->acceptWriter(&getWriter(), tbl);
-    updateGrid(tbl);
-    getWriter().leaveTable();
+    writeChildren(tbl, &context);
+    updateGrid(tbl, context);
 }
 
 DOMElement* TableWriter::makeFrame() {
-    TemplateSlide& slide = *getCurrentSlide();
+    SlideDocument& slide = *getCurrentSlide();
     const ShapeGeometry& geometry = table_.getGeometry();
     DOMElement* former = getSlideElement();
     if (!former)
         return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols()).frame;
     DOMNode* parent = former->getParentNode();
-    const auto make = getShapeType() == NodeType::Table ? makeTableForTable : makeTableForPlaceholder;
-    DOMElement* frame = make(slide, former, getLayoutElement(), table_.getNCols()).frame;
+    const PlaceText* place = getTemplateShape()->successorPlace.get();
+    DOMElement* frame = makeTableInPlace(slide, former, place, table_.getNCols()).frame;
     if (parent)
         parent->replaceChild(frame, former);
     return frame;
@@ -86,8 +85,8 @@ void TableWriter::reportMissingStyle() const {
         ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
 }
 
-void TableWriter::updateGrid(DOMElement* tbl) const {
-    const auto& widths = getWriter().getTableContext().colWidths;
+void TableWriter::updateGrid(DOMElement* tbl, const TableContext& context) const {
+    const auto& widths = context.colWidths;
     double sum = 0;
     std::size_t open = 0;
     for (const std::optional<int>& width : widths) {

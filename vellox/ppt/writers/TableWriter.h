@@ -11,6 +11,7 @@
 namespace vellox::ppt {
 
 class TableImpl;
+struct TableContext;
 
 class TableWriter : public ShapeWriter {
 public:
@@ -22,7 +23,7 @@ private:
     bool applyTableStyle(xercesc::DOMElement* tbl) const;
     void reportNoRows() const;
     void reportMissingStyle() const;
-    void updateGrid(xercesc::DOMElement* tbl) const;
+    void updateGrid(xercesc::DOMElement* tbl, const TableContext& context) const;
 
     const TableImpl& table_;
 };

@@ -12,13 +12,14 @@ using namespace xercesc;
 
 TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(text, writer, parentNode),
-      text_(text) {}
+      text_(text),
+      rPr_(xml::kARPr) {}
 
 void TextWriter::write() {
-    applyFormats(text_, inheritedFormatTypes());
+    applyFormats();
     DOMElement* run = createElement(xml::kAR);
-    if (rPr_)
-        appendNode(run, rPr_);
+    if (!rPr_.isEmpty())
+        rPr_.appendTo(run);
     if (const std::size_t dropped = appendText(appendElement(run, xml::kAT), text_.getTextContent()))
         getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
     appendNode(getParentNode(), run);
@@ -36,14 +37,8 @@ const ElementWriter::FormatTypes& TextWriter::inheritedFormatTypes() const {
     return types;
 }
 
-DOMElement* TextWriter::getRPr() {
-    if (!rPr_)
-        rPr_ = createElement(xml::kARPr);
-    return rPr_;
-}
-
 void TextWriter::setRPrAttribute(const XMLCh* name, const XMLCh* value) {
-    setAttribute(getRPr(), name, value);
+    rPr_.setAttribute(name, value);
 }
 
 void TextWriter::setRPrAttribute(const XMLCh* name, const ValueMapping& mapping) {
@@ -54,8 +49,8 @@ void TextWriter::setRPrFlag(const XMLCh* name, bool value) {
     setRPrAttribute(name, value ? xml::kTrue : xml::kFalse);
 }
 
-DOMElement* TextWriter::addRPrChild(const XMLCh* name) {
-    return appendElement(getRPr(), name);
+PropertyElement& TextWriter::addRPrChild(const XMLCh* name) {
+    return rPr_.addChild(name);
 }
 
 } // namespace vellox::ppt

@@ -6,6 +6,7 @@
 
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 
 namespace vellox::ppt {
 
@@ -19,17 +20,17 @@ public:
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
-    /// The run's properties, made on first use; they are attached when the run is written.
-    xercesc::DOMElement* getRPr();
+    /// The run's properties. They are written if anything is put in.
+    PropertyElement& getRPr() { return rPr_; }
     void setRPrAttribute(const XMLCh* name, const XMLCh* value);
     void setRPrAttribute(const XMLCh* name, const ValueMapping& mapping);
     void setRPrFlag(const XMLCh* name, bool value);
     /// Appends a new element to the run's properties.
-    xercesc::DOMElement* addRPrChild(const XMLCh* name);
+    PropertyElement& addRPrChild(const XMLCh* name);
 
 private:
     const TextImpl& text_;
-    xercesc::DOMElement* rPr_ = nullptr;
+    PropertyElement rPr_;
 };
 
 } // namespace vellox::ppt

@@ -1,8 +1,10 @@
 #include "vellox/ppt/xml/Dom.h"
 
+#include "vellox/opc/DocumentCopy.h"
 #include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/object/DomForward.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <type_traits>
 
@@ -12,6 +14,13 @@ using namespace xercesc;
 
 static_assert(std::is_same<::xercesc_3_2::DOMNode, XERCES_CPP_NAMESPACE_QUALIFIER DOMNode>::value,
               "DomForward.h names another version of Xerces than the one in use");
+
+OwnedDocument copyDocument(const OwnedDocument& document) {
+    OwnedDocument copy(opc::copyDocument(*document.get()));
+    copy->setXmlVersion(document->getXmlVersion());
+    copy->setXmlStandalone(document->getXmlStandalone());
+    return copy;
+}
 
 bool hasName(const DOMNode& node, const XMLCh* name) {
     return XMLString::equals(node.getNodeName(), name);
@@ -117,6 +126,15 @@ DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {
 void removeNode(DOMNode* node) {
     if (node->getParentNode())
         node->getParentNode()->removeChild(node);
+}
+
+void declarePrefixes(DOMElement* root) {
+    constexpr const XMLCh* kPrefixes[][2] = {{xml::kXmlnsA, xml::kDrawingUri},
+                                             {xml::kXmlnsP, xml::kPresentationUri},
+                                             {xml::kXmlnsR, xml::kRelationshipsUri}};
+    for (const auto& [name, uri] : kPrefixes)
+        if (root && !root->hasAttribute(name))
+            root->setAttribute(name, uri);
 }
 
 } // namespace vellox::ppt

@@ -14,8 +14,7 @@
 
 namespace vellox::ppt {
 
-/// A document that belongs to a record of the template. It keeps Xerces running, since a record may outlive
-/// the presentation that made it.
+/// A document with an owner. It keeps Xerces running, since a record may outlive the presentation that made it.
 class OwnedDocument {
 public:
     OwnedDocument() = default;
@@ -30,6 +29,9 @@ private:
     opc::XercesProcess xerces_;
     opc::DocumentScope document_;
 };
+
+/// An independent copy, which is declared as the original is.
+OwnedDocument copyDocument(const OwnedDocument& document);
 
 bool hasName(const xercesc::DOMNode& node, const XMLCh* name);
 
@@ -64,6 +66,10 @@ std::size_t appendText(xercesc::DOMElement* parent, const std::wstring& text);
 xercesc::DOMElement* requireChild(xercesc::DOMElement* parent, const XMLCh* name);
 /// Takes a node out of its parent, if it has one. The document keeps it.
 void removeNode(xercesc::DOMNode* node);
+
+/// Declares the prefixes that the library writes, a, p and r, where a root element doesn't do so itself. What
+/// comes from a template may declare them further down, or none that it has no use for.
+void declarePrefixes(xercesc::DOMElement* root);
 
 } // namespace vellox::ppt
 

@@ -11,17 +11,21 @@
 namespace vellox::ppt::xml {
 
 // PresentationML elements
+inline constexpr XMLCh kBg[] = u"p:bg";
 inline constexpr XMLCh kBlipFill[] = u"p:blipFill";
+inline constexpr XMLCh kClrMapOvr[] = u"p:clrMapOvr";
 inline constexpr XMLCh kCNvGraphicFramePr[] = u"p:cNvGraphicFramePr";
 inline constexpr XMLCh kCNvPicPr[] = u"p:cNvPicPr";
 inline constexpr XMLCh kCNvPr[] = u"p:cNvPr";
 inline constexpr XMLCh kCNvSpPr[] = u"p:cNvSpPr";
 inline constexpr XMLCh kCSld[] = u"p:cSld";
+inline constexpr XMLCh kCustDataLst[] = u"p:custDataLst";
 inline constexpr XMLCh kCxnSp[] = u"p:cxnSp";
 inline constexpr XMLCh kGraphicFrame[] = u"p:graphicFrame";
 inline constexpr XMLCh kGrpSp[] = u"p:grpSp";
 inline constexpr XMLCh kHandoutMasterIdLst[] = u"p:handoutMasterIdLst";
 inline constexpr XMLCh kNotesMasterIdLst[] = u"p:notesMasterIdLst";
+inline constexpr XMLCh kNvCxnSpPr[] = u"p:nvCxnSpPr";
 inline constexpr XMLCh kNvGraphicFramePr[] = u"p:nvGraphicFramePr";
 inline constexpr XMLCh kNvGrpSpPr[] = u"p:nvGrpSpPr";
 inline constexpr XMLCh kNvPicPr[] = u"p:nvPicPr";
@@ -72,7 +76,6 @@ inline constexpr XMLCh kAGradFill[] = u"a:gradFill";
 inline constexpr XMLCh kABlipFill[] = u"a:blipFill";
 inline constexpr XMLCh kAPattFill[] = u"a:pattFill";
 inline constexpr XMLCh kAGrpFill[] = u"a:grpFill";
-inline constexpr XMLCh kASpPr[] = u"a:spPr";
 inline constexpr XMLCh kASrgbClr[] = u"a:srgbClr";
 inline constexpr XMLCh kAStretch[] = u"a:stretch";
 inline constexpr XMLCh kAT[] = u"a:t";
@@ -100,6 +103,7 @@ inline constexpr XMLCh kDataUid[] = u"data-uid";
 inline constexpr XMLCh kH[] = u"h";
 inline constexpr XMLCh kI[] = u"i";
 inline constexpr XMLCh kId[] = u"id";
+inline constexpr XMLCh kIdx[] = u"idx";
 inline constexpr XMLCh kLvl[] = u"lvl";
 inline constexpr XMLCh kName[] = u"name";
 inline constexpr XMLCh kNoChangeAspect[] = u"noChangeAspect";
@@ -108,6 +112,7 @@ inline constexpr XMLCh kPrst[] = u"prst";
 inline constexpr XMLCh kREmbed[] = u"r:embed";
 inline constexpr XMLCh kRId[] = u"r:id";
 inline constexpr XMLCh kRPrefix[] = u"r:";
+inline constexpr XMLCh kShowMasterSp[] = u"showMasterSp";
 inline constexpr XMLCh kStrike[] = u"strike";
 inline constexpr XMLCh kStyleId[] = u"styleId";
 inline constexpr XMLCh kStyleName[] = u"styleName";

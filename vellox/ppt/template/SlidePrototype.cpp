@@ -1,14 +1,16 @@
-#include "vellox/ppt/template/SlideDocuments.h"
+#include "vellox/ppt/template/SlidePrototype.h"
 
 #include "vellox/foundation/Conversions.h"
-#include "vellox/opc/DocumentCopy.h"
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 #include <set>
 #include <string>
+#include <utility>
 #include <xercesc/util/XMLChar.hpp>
 
 namespace vellox::ppt {
@@ -24,32 +26,40 @@ bool isLayoutAttribute(const XMLCh* name) {
     return names.count(name) > 0;
 }
 
-void copyAttributes(const DOMElement& from, DOMElement& to) {
+void copyAttributes(const DOMElement& from, DOMElement& to, const Rules& rules) {
     const DOMNamedNodeMap* attributes = from.getAttributes();
     for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
         const DOMNode* attribute = attributes->item(i);
-        if (!isLayoutAttribute(attribute->getNodeName()))
+        const bool isHidden = XMLString::equals(attribute->getNodeName(), xml::kShowMasterSp) &&
+                              !rules.takes(Inherited::ShowMasterShapes);
+        if (!isHidden && !isLayoutAttribute(attribute->getNodeName()))
             to.setAttribute(attribute->getNodeName(), attribute->getNodeValue());
     }
 }
 
-// Turns p:sldLayout into p:sld. Only the first child element comes across, p:cSld: colour map, transition,
-// timing and the like are the layout's own.
-void replaceRoot(DOMDocument& document, TemplateLayout& layout) {
+// Turns p:sldLayout into p:sld. The first child element comes across, p:cSld: transition, timing and the like are
+// the layout's own.
+// @return whether all of it could be had
+bool replaceRoot(DOMDocument& document, const Rules& rules) {
     DOMElement* layoutRoot = document.getDocumentElement();
     DOMElement* slideRoot = document.createElement(xml::kSld);
+    bool isWhole = true;
     try {
-        copyAttributes(*layoutRoot, *slideRoot);
+        copyAttributes(*layoutRoot, *slideRoot, rules);
     } catch (const DOMException&) {
-        layout.isCopiedInPart = true; // an attribute that can't be copied is no reason to have no slide
+        isWhole = false; // an attribute that can't be copied is no reason to have no slide
     }
     if (DOMElement* data = layoutRoot->getFirstElementChild())
         slideRoot->appendChild(data);
+    DOMElement* colourMap = findChild(layoutRoot, xml::kClrMapOvr);
+    if (colourMap && rules.takes(Inherited::ColourMap))
+        slideRoot->appendChild(colourMap);
     try {
         document.replaceChild(slideRoot, layoutRoot);
     } catch (const DOMException&) {
-        layout.isCopiedInPart = true; // likewise: the slide then keeps the layout's root
+        isWhole = false; // likewise: the slide then keeps the layout's root
     }
+    return isWhole;
 }
 
 using Nodes = std::vector<DOMNode*>;
@@ -66,17 +76,31 @@ void collectInherited(const DOMElement& placeholder, Nodes& condemned) {
             condemned.push_back(child);
 }
 
-void stripShapeTree(DOMDocument& document) {
+// What becomes of each shape was decided when the layout was read.
+void stripShapeTree(DOMDocument& document, const TemplateLayout& layout, TreePath path) {
     Nodes condemned;
-    DOMElement* shape = goDownFirstChildren(&document, 3);
-    for (; shape; shape = shape->getNextElementSibling()) {
-        if (shape->hasAttribute(xml::kDataUid))
+    DOMElement* shape = findFirstShape(&document, path);
+    for (auto fate = layout.fates.begin(); shape && fate != layout.fates.end(); ++fate) {
+        if (*fate == Fate::Empty)
             collectInherited(*shape, condemned);
-        else if (PresentationModel::classify(shape) != NodeType::None || hasName(*shape, xml::kCxnSp))
+        else if (*fate == Fate::Drop)
             condemned.push_back(shape);
+        shape = shape->getNextElementSibling();
     }
     for (DOMNode* node : condemned)
         removeNode(node);
+}
+
+void stripSlideData(DOMDocument& document, const Rules& rules) {
+    DOMElement* data = document.getDocumentElement()->getFirstElementChild();
+    if (!data)
+        return;
+    data->removeAttribute(xml::kName);
+    constexpr std::pair<Inherited, const XMLCh*> kRows[] = {{Inherited::Background, xml::kBg},
+                                                            {Inherited::CustomData, xml::kCustDataLst}};
+    for (const auto& [what, name] : kRows)
+        if (DOMElement* child = rules.takes(what) ? nullptr : findChild(data, name))
+            data->removeChild(child);
 }
 
 bool isBlank(const DOMNode& node) {
@@ -99,31 +123,24 @@ void removeIndentation(DOMDocument& document) {
     }
 }
 
-unsigned int findGreatestId(DOMDocument& document) {
-    unsigned int greatest = 0;
-    for (const DOMElement* properties : getElementsByName(&document, xml::kCNvPr))
-        greatest = std::max(greatest, str2uint(getAttribute(properties, xml::kId)));
-    return greatest;
-}
-
 // Some programs write placeholders without id and name, which readers overlook in a layout but not in a
-// slide. The ids are none that the layout or its master has: a place is inherited by id.
-void completeIdentities(DOMDocument& document, TemplateLayout& layout) {
+// slide. The ids are none that the layout or its master has: a place is inherited by id. Gives the last id, or 0.
+unsigned int completeIdentities(DOMDocument& document, const TemplateLayout& layout) {
     unsigned int id = 0;
     for (DOMElement* nonVisual : getElementsByName(&document, xml::kNvSpPr)) {
         if (findChild(nonVisual, xml::kCNvPr))
             continue;
         if (id == 0) {
-            id = std::max(findGreatestId(*layout.document.get()), layout.maxShapeId);
-            if (layout.master)
-                id = std::max(id, findGreatestId(*layout.master->document.get()));
+            id = std::max(findGreatestId(layout.document.get()), layout.maxShapeId);
+            if (const auto master = layout.master.lock())
+                id = std::max(id, master->maxShapeId);
         }
         DOMElement* properties = document.createElement(xml::kCNvPr);
         setAttribute(properties, xml::kId, num2str(++id));
         setAttribute(properties, xml::kName, uuid_gen());
         nonVisual->insertBefore(properties, nonVisual->getFirstChild());
     }
-    layout.lastSlideShapeId = id;
+    return id;
 }
 
 // What comes across from a layout, such as a picture as background, may refer to other parts through the
@@ -178,41 +195,30 @@ void removeUndeclared(DOMDocument& document) {
         removeNode(node);
 }
 
-OwnedDocument makePrototype(TemplateLayout& layout) {
+boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layout, const Rules& rules) {
+    const auto prototype = boost::make_shared<SlidePrototype>();
     OwnedDocument document = copyDocument(layout.document);
+    document->setXmlStandalone(true);
     removeIndentation(*document.get());
-    replaceRoot(*document.get(), layout);
-    if (DOMElement* data = document->getDocumentElement()->getFirstElementChild())
-        data->removeAttribute(xml::kName);
-    stripShapeTree(*document.get());
+    prototype->isWhole = replaceRoot(*document.get(), rules);
+    stripShapeTree(*document.get(), layout, rules.findsTree());
+    stripSlideData(*document.get(), rules);
     removeUndeclared(*document.get());
-    completeIdentities(*document.get(), layout);
-    layout.slideRelationshipIds = collectRelationshipIds(*document.get());
-    return copyDocument(
-        document); // which leaves behind what was stripped: a document never gives memory back
+    prototype->lastShapeId = completeIdentities(*document.get(), layout);
+    prototype->relationshipIds = collectRelationshipIds(*document.get());
+    // Once more, which leaves behind what was stripped: a document never gives memory back.
+    prototype->document = copyDocument(document);
+    return prototype;
 }
 
 } // namespace
 
-OwnedDocument copyDocument(const OwnedDocument& document) {
-    OwnedDocument copy(opc::copyDocument(*document.get()));
-    copy->setXmlStandalone(true);
-    return copy;
-}
-
-void declarePrefixes(DOMElement* root) {
-    constexpr const XMLCh* kPrefixes[][2] = {{xml::kXmlnsA, xml::kDrawingUri},
-                                             {xml::kXmlnsP, xml::kPresentationUri},
-                                             {xml::kXmlnsR, xml::kRelationshipsUri}};
-    for (const auto& [name, uri] : kPrefixes)
-        if (root && !root->hasAttribute(name))
-            root->setAttribute(name, uri);
-}
-
-OwnedDocument makeSlideDocument(TemplateLayout& layout) {
-    if (!layout.slidePrototype)
-        layout.slidePrototype = makePrototype(layout);
-    return copyDocument(layout.slidePrototype);
+const SlidePrototype& requirePrototype(TemplateLayout& layout, const Rules& rules) {
+    if (!layout.prototype) {
+        layout.prototype = makePrototype(layout, rules);
+        layout.document.reset();
+    }
+    return *layout.prototype;
 }
 
 } // namespace vellox::ppt

@@ -5,14 +5,17 @@
 /// Every coordinate in a document is a whole number of EMU, and no extent is negative: the format demands
 /// both, and readers refuse a file for it.
 
-#ifndef VELLOX_PPT_ENGINE_SHAPEMAKERS_H
-#define VELLOX_PPT_ENGINE_SHAPEMAKERS_H
+#ifndef VELLOX_PPT_WRITERS_SHAPEMAKERS_H
+#define VELLOX_PPT_WRITERS_SHAPEMAKERS_H
 
+#include <optional>
 #include <string>
 
 #include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
+
+class SlideDocument;
 
 /// @{ The elements of a shape, so that writers needn't search for them. Null where absent.
 struct GraphicFrameElements {
@@ -34,37 +37,25 @@ struct ShapeElements {
 };
 /// @}
 
-/// An image's size in pixels.
-struct PixelSize {
-    double width;
-    double height;
-};
-
 /// @{ A new shape at the end of the slide's p:spTree, with the slide's next id and the name, or a UUID
 /// without one. What the geometry doesn't set: 0, 0; 3234567 EMU each way for a table, 1234567 for others.
-GraphicFrameElements makeFreeTable(TemplateSlide& slide, const BaseAttribute<std::wstring>& name,
+GraphicFrameElements makeFreeTable(SlideDocument& slide, const BaseAttribute<std::wstring>& name,
                                    const ShapeGeometry& geometry, unsigned int columns);
-PictureElements makeFreePicture(TemplateSlide& slide, const std::wstring& relationshipId,
+PictureElements makeFreePicture(SlideDocument& slide, const std::wstring& relationshipId,
                                 const BaseAttribute<std::wstring>& name, const ShapeGeometry& geometry);
-ShapeElements makeFreeTextBox(TemplateSlide& slide, const BaseAttribute<std::wstring>& name,
+ShapeElements makeFreeTextBox(SlideDocument& slide, const BaseAttribute<std::wstring>& name,
                               const ShapeGeometry& geometry);
 /// @}
 
 /// @{ A shape that takes over id, name and placeholder from an element; the caller puts it in that element's
-/// place. A table fills the box of the element or of its layout, and is as large as a free one where none is
-/// found. A picture keeps its proportions, is never enlarged, and sits in the centre of the box; it has no
-/// place of its own where none is found.
-GraphicFrameElements makeTableForPlaceholder(TemplateSlide& slide, xercesc::DOMElement* placeholder,
-                                             xercesc::DOMElement* layoutShape, unsigned int columns);
-GraphicFrameElements makeTableForTable(TemplateSlide& slide, xercesc::DOMElement* frame,
-                                       xercesc::DOMElement* layoutShape, unsigned int columns);
-PictureElements makePictureForPlaceholder(TemplateSlide& slide, const std::wstring& relationshipId,
-                                          xercesc::DOMElement* placeholder, xercesc::DOMElement* layoutShape,
-                                          PixelSize image, const ShapeGeometry& geometry);
-PictureElements makePictureForPicture(TemplateSlide& slide, const std::wstring& relationshipId,
-                                      xercesc::DOMElement* picture, PixelSize image,
-                                      const ShapeGeometry& geometry);
+/// place. A table is as large as a free one where no place is given, and a picture has no place of its own.
+GraphicFrameElements makeTableInPlace(SlideDocument& slide, xercesc::DOMElement* former,
+                                      const PlaceText* place, unsigned int columns);
+PictureElements makePictureInPlace(SlideDocument& slide, const std::wstring& relationshipId,
+                                   xercesc::DOMElement* former, const std::optional<Box>& box);
 /// @}
+/// The numbers of a place; 0 for what is none.
+Box readBox(const PlaceText& place);
 
 /// The elements of an existing p:sp.
 ShapeElements readShapeElements(xercesc::DOMElement* shape);
@@ -72,12 +63,11 @@ ShapeElements readShapeElements(xercesc::DOMElement* shape);
 GraphicFrameElements readGraphicFrame(xercesc::DOMElement* frame);
 /// Gives a text shape a place of its own, at the end of its p:spPr. Does nothing if the geometry sets none,
 /// unless forced.
-void setTextBoxPlacement(ShapeElements& elements, TemplateSlide& slide, const ShapeGeometry& geometry,
-                         bool force);
-/// Gives a text shape of the document a place of its own: what the geometry doesn't set is the layout's.
+void setTextBoxPlacement(ShapeElements& elements, const ShapeGeometry& geometry, bool force);
+/// Gives a text shape of the document a place of its own: what the geometry doesn't set is the given place's.
 /// Does nothing if it sets none.
-void placeExistingTextShape(xercesc::DOMElement* shape, TemplateSlide& slide,
-                            xercesc::DOMElement* layoutShape, const ShapeGeometry& geometry);
+void placeExistingTextShape(xercesc::DOMElement* shape, const PlaceText* place,
+                            const ShapeGeometry& geometry);
 
 } // namespace vellox::ppt
 

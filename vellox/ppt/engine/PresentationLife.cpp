@@ -1,0 +1,188 @@
+// The life of a presentation: opening and closing.
+
+#include "vellox/foundation/Exception.h"
+#include "vellox/foundation/FileUtils.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/ReasonedException.h"
+#include "vellox/host/services/FreshFile.h"
+#include "vellox/host/services/Utf8.h"
+#include "vellox/opc/Exception.h"
+#include "vellox/ppt/engine/OutputFile.h"
+#include "vellox/ppt/engine/PresentationImpl.h"
+#include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/engine/PresentationPaths.h"
+#include "vellox/ppt/engine/TemplateParser.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/package/OPCPackage.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/intrusive_ptr.hpp>
+#include <boost/make_shared.hpp>
+
+namespace vellox::ppt {
+
+namespace fsys = hostfx::filesystem;
+
+namespace {
+
+constexpr wchar_t kDefaultOutput[] = L"untitled";
+
+// What the layer below has to say, and the file, if there is one that isn't told already.
+std::wstring describe(const std::exception& failure, const std::wstring& file) {
+    const std::wstring reason = fromUtf8(failure.what());
+    const bool isTold = file.empty() || boost::algorithm::ends_with(reason, L" " + file);
+    return isTold ? reason : reason + L" " + file;
+}
+
+// Takes a step. A failure of one kind is told under an identifier of ours, with the reason and the file.
+template <class Failure, class Id, class Step> void translate(const std::wstring& file, Step step) {
+    try {
+        step();
+    } catch (const Failure& failure) {
+        raise(Id(describe(failure, file)));
+    }
+}
+
+/// Listeners run while a presentation is opened and closed. They can neither enter that again nor end the
+/// presentation meanwhile.
+class Busy {
+public:
+    Busy(PPTObjectImpl* presentation, bool& flag) : kept_(presentation), flag_(flag) { flag_ = true; }
+    ~Busy() { flag_ = false; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    boost::intrusive_ptr<PPTObjectImpl> kept_;
+    bool& flag_;
+};
+
+} // namespace
+
+// Opening
+
+bool PresentationImpl::open() {
+    if (isBusy_ || (state_ != PresentationState::Created && state_ != PresentationState::TemplateInvalid))
+        return false;
+    const Busy busy(this, isBusy_);
+    const std::wstring wanted = report_->outputPath.empty() ? kDefaultOutput : report_->outputPath;
+    FileUtils::refuseFileName(rules_->judgeFileName(wanted), wanted);
+    const std::wstring templateFile = ensureExtension(report_->templatePath);
+    const std::wstring outputFile = ensureExtension(wanted);
+    translate<Exception, ppt_error::cannotOpenTemplate>({}, [&] { parseTemplate(templateFile); });
+    setTemplatePath(templateFile);
+    setOutputPath(outputFile);
+    copyToOutput(outputFile);
+    return true;
+}
+
+void PresentationImpl::parseTemplate(const std::wstring& templateFile) {
+    if (getClient() && wantsProgress()) {
+        const ppt_progress::docParsingTemplateMsg id(report_->templatePath);
+        MessageDispatcher::getTheDispatcher().dispatch(ProgressMessage(id, *makeInterface()));
+    }
+    removeWorkingCopy();
+    makeWorkingCopy(templateFile);
+    translate<opc::Exception, ppt_error::cannotOpenFile>(templateFile, [&] { readTemplate(templateFile); });
+}
+
+void PresentationImpl::readTemplate(const std::wstring& templateFile) {
+    OPCPackage package(templateFile);
+    package.openRead(false);
+    partBuilder_ = boost::make_shared<PartDOMBuilder>(package);
+    state_ = PresentationState::Parsing;
+    setChildren({});
+    const boost::shared_ptr<PresentationModel> model = TemplateParser(*partBuilder_, rules_).parse();
+    if (!model)
+        rejectTemplate();
+    state_ = PresentationState::Parsed;
+    for (const auto& slide : model->getSlides())
+        takeSlide(slide);
+    model_ = model;
+    package.close();
+}
+
+// Listeners hear of a slide ahead of its shapes. Slides that stand there already stay when one is rejected.
+void PresentationImpl::takeSlide(const boost::shared_ptr<TemplateSlide>& slide) {
+    if (!TemplateParser::hasMaster(*slide))
+        rejectTemplate();
+    const Child node = TemplateParser::makeSlide(slide);
+    appendChild(node);
+    TemplateParser::buildChildren(*implOf<PPTNodeImpl>(*node), *slide->shapes);
+}
+
+void PresentationImpl::rejectTemplate() {
+    state_ = PresentationState::TemplateInvalid;
+    raise(ppt_error::invalidTemplate(partBuilder_->getPath()));
+}
+
+void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
+    // Known before it is made: whatever comes of it is removed.
+    tempTemplatePath_ = FileUtils::getTempName() + L"." + FileUtils::getFileNameExtension(templateFile);
+    translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(templateFile, [&] {
+        outputFile_ = boost::make_shared<OutputFile>(templateFile);
+        const fsys::Path copy(tempTemplatePath_);
+        fsys::copyFile(fsys::Path(templateFile), copy);
+        fsys::addOwnerWrite(copy);
+    });
+}
+
+void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
+    try {
+        outputFile_->put(tempTemplatePath_, report_->outputPath);
+        state_ = PresentationState::Open;
+        removeWorkingCopy();
+    } catch (const std::exception& failure) {
+        raiseWithReason(ppt_error::cannotOpenFile(outputFile), failure.what());
+    } catch (...) {
+        raise(ppt_error::cannotOpenFile(outputFile));
+    }
+}
+
+void PresentationImpl::removeWorkingCopy() {
+    if (tempTemplatePath_.empty())
+        return;
+    FileUtils::removeFile(tempTemplatePath_);
+    tempTemplatePath_.clear();
+}
+
+// Closing
+
+bool PresentationImpl::close() {
+    if (isBusy_ || state_ != PresentationState::Open)
+        return false;
+    const Busy busy(this, isBusy_);
+    const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
+    const auto package = boost::make_shared<OPCPackage>(path);
+    package->openReadWrite(false);
+    if (outputFile_)
+        outputFile_->check();
+    translate<opc::Exception, ppt_error::cannotOpenFile>(path, [&] {
+        writeSlides(package);
+        package->close();
+    });
+    return true;
+}
+
+// A failure before the state is Closed has changed nothing, and closing may be tried again.
+void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package) {
+    if (!model_) { // of a copy of an open presentation, which has nothing of the template
+        state_ = PresentationState::Closed;
+        return;
+    }
+    PPTWriter writer(model_, package);
+    FindingList::Attempt attempt(findings_);
+    const Children slides = getChildren(); // those that a listener adds now come too late
+    for (const Child& slide : slides)
+        writer.write(*slide);
+    state_ = PresentationState::Closed;
+    attempt.keep();
+    writer.finish();
+}
+
+} // namespace vellox::ppt

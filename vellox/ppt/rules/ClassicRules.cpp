@@ -1,0 +1,152 @@
+#include "vellox/ppt/rules/ClassicRules.h"
+
+#include "vellox/ppt/package/PackageNames.h"
+
+#include <algorithm>
+
+namespace vellox::ppt {
+
+Rules::~Rules() = default;
+
+// A template is opened
+
+FileNameFault ClassicRules::judgeFileName(const std::wstring& name) const {
+    return FileUtils::judgeFileName(name);
+}
+
+Refusal ClassicRules::refuse(const PackageFacts& package) const {
+    if (!package.hasMainPart)
+        return Refusal::NoMainPart;
+    const bool isKnown =
+        std::any_of(std::begin(contenttype::kMainTypes), std::end(contenttype::kMainTypes),
+                    [&](const contenttype::MainType& row) { return package.mainType == row.contentType; });
+    return isKnown ? Refusal::None : Refusal::OtherMainType;
+}
+
+Rules::Names ClassicRules::nameMasters(const Names& themes) const {
+    return themes;
+}
+
+// A layout or a slide is read
+
+// A layout in which a background stands ahead of the tree has no placeholders.
+TreePath ClassicRules::findsTree() const {
+    return TreePath::FirstChildren;
+}
+
+namespace {
+
+NodeType classifyPlaceholder(const std::wstring& placeholderType) {
+    struct Row {
+        const wchar_t* placeholderType;
+        NodeType type;
+    };
+    static constexpr Row rows[] = {
+        {L"", NodeType::ContentPlaceholder},        {L"body", NodeType::BodyPlaceholder},
+        {L"clipArt", NodeType::PicturePlaceholder}, {L"ctrTitle", NodeType::TextBoxPlaceholder},
+        {L"pic", NodeType::PicturePlaceholder},     {L"subTitle", NodeType::TextBoxPlaceholder},
+        {L"tbl", NodeType::TablePlaceholder},       {L"title", NodeType::TextBoxPlaceholder},
+    };
+    for (const Row& row : rows)
+        if (placeholderType == row.placeholderType)
+            return row.type;
+    return NodeType::None;
+}
+
+bool isPlaceholder(NodeType type) {
+    return type == NodeType::BodyPlaceholder || type == NodeType::ContentPlaceholder ||
+           type == NodeType::PicturePlaceholder || type == NodeType::TablePlaceholder ||
+           type == NodeType::TextBoxPlaceholder;
+}
+
+bool isWhole(const PlaceText* place) {
+    return place && place->isWhole;
+}
+
+} // namespace
+
+// Pictures and frames with a p:ph are what they hold; it doesn't make them placeholders.
+NodeType ClassicRules::classify(const ShapeFacts& shape) const {
+    switch (shape.element) {
+    case ShapeElement::Shape:
+        return shape.isPlaceholder ? classifyPlaceholder(shape.placeholderType) : NodeType::TextBox;
+    case ShapeElement::Picture:
+        return NodeType::Picture;
+    case ShapeElement::Group:
+        return NodeType::Group;
+    case ShapeElement::GraphicFrame:
+        return shape.hasTable ? NodeType::Table : NodeType::None;
+    default:
+        return NodeType::None;
+    }
+}
+
+PlaceSource ClassicRules::choosePlace(const PlaceFacts& kin, PlaceUse use) const {
+    if (use == PlaceUse::Text)
+        return kin.layouts ? PlaceSource::Layout : PlaceSource::None;
+    // A picture or a table stands where the one before it stood. A placeholder's own place isn't asked, and
+    // neither is that of the layout's shape behind a picture.
+    const bool hasOwn = kin.type == NodeType::Picture || kin.type == NodeType::Table;
+    if (hasOwn && isWhole(kin.own))
+        return PlaceSource::Own;
+    if (kin.type != NodeType::Picture && isWhole(kin.layouts))
+        return PlaceSource::Layout;
+    return isWhole(kin.masters) ? PlaceSource::Master : PlaceSource::None;
+}
+
+// A slide comes from a layout
+
+// The colour map of a layout stays with the layout, like its transition and its timing.
+bool ClassicRules::takes(Inherited what) const {
+    return what != Inherited::ColourMap;
+}
+
+// Dates, footers and slide numbers stand on the slide with their text. So does what isn't understood.
+Fate ClassicRules::fateOf(const ShapeFacts& shape) const {
+    const NodeType type = classify(shape);
+    if (isPlaceholder(type))
+        return Fate::Empty;
+    return type != NodeType::None || shape.element == ShapeElement::Connector ? Fate::Drop : Fate::Keep;
+}
+
+// On a slide of the template they are counted from the start, whatever ids it has.
+unsigned int ClassicRules::firstFreeId(const IdFacts& ids) const {
+    return ids.isNew ? ids.greatest + 1 : 1;
+}
+
+// A tree is written
+
+// The picture at its own size, or at the size that is set, shrunk into the box where it is larger, and moved to
+// its centre. It is never enlarged.
+std::optional<Box> ClassicRules::fit(const PictureFacts& picture, const Box* place) const {
+    constexpr double kEmuPerPixel = 9525;
+    if (!place)
+        return {};
+    double cx = picture.pixelWidth * kEmuPerPixel;
+    double cy = picture.pixelHeight * kEmuPerPixel;
+    if (picture.cx) {
+        cx = *picture.cx;
+        if (!picture.cy)
+            cy = cx * picture.pixelHeight / picture.pixelWidth;
+    }
+    if (picture.cy) {
+        cy = *picture.cy;
+        if (!picture.cx)
+            cx = cy * picture.pixelWidth / picture.pixelHeight;
+    }
+    if (cy > place->cy) {
+        if (cy > 1)
+            cx = (place->cy / cy) * cx;
+        cy = place->cy;
+    }
+    if (cx > place->cx) {
+        if (cx > 1)
+            cy = cy * (place->cx / cx);
+        cx = place->cx;
+    }
+    const double x = place->cx > cx ? place->x + (place->cx - cx) * 0.5 : place->x;
+    const double y = place->cy > cy ? place->y + (place->cy - cy) * 0.5 : place->y;
+    return Box{x, y, cx, cy};
+}
+
+} // namespace vellox::ppt

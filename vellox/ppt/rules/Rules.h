@@ -1,0 +1,50 @@
+/// @file
+/// What can be decided in more than one way.
+
+#ifndef VELLOX_PPT_RULES_RULES_H
+#define VELLOX_PPT_RULES_RULES_H
+
+#include "vellox/foundation/FileUtils.h"
+#include "vellox/ppt/rules/Facts.h"
+
+namespace vellox::ppt {
+
+/// Facts in, answers out: nothing here touches a document, and nobody else decides these things. Each operation is
+/// a row of docs/profiles.md. A presentation has one object of the rules; its model leads to them. The tree never
+/// asks: it is made before any presentation is known.
+class Rules {
+public:
+    using Names = std::vector<std::wstring>;
+
+    virtual ~Rules();
+
+    /// Whether a file of this name may be made.
+    virtual FileNameFault judgeFileName(const std::wstring& name) const = 0;
+    /// Whether a package can be a template.
+    virtual Refusal refuse(const PackageFacts& package) const = 0;
+    /// The names under which the masters are found, from those of their themes.
+    virtual Names nameMasters(const Names& themes) const = 0;
+
+    /// How the shapes of a layout are found.
+    virtual TreePath findsTree() const = 0;
+    /// The class of node that a shape becomes; None for what is no shape of interest.
+    virtual NodeType classify(const ShapeFacts& shape) const = 0;
+    /// Whose place is used.
+    virtual PlaceSource choosePlace(const PlaceFacts& kin, PlaceUse use) const = 0;
+
+    /// Whether a new slide gets this from its layout.
+    virtual bool takes(Inherited what) const = 0;
+    /// What becomes of a layout's shape on a new slide. Those that are emptied are the layout's placeholders.
+    virtual Fate fateOf(const ShapeFacts& shape) const = 0;
+    /// From where the ids of new shapes on a slide are counted.
+    virtual unsigned int firstFreeId(const IdFacts& ids) const = 0;
+
+    /// The box of a picture that comes in a shape's stead.
+    /// @param place the box that the shape has, or null
+    /// @return nothing if the picture has no place of its own
+    virtual std::optional<Box> fit(const PictureFacts& picture, const Box* place) const = 0;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,96 @@
+#include "vellox/ppt/template/ShapeReader.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/ppt/xml/XmlNames.h"
+
+#include <algorithm>
+#include <boost/make_shared.hpp>
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+namespace {
+
+struct Row {
+    const XMLCh* name;
+    ShapeElement element;
+    const XMLCh* nonVisual;
+};
+
+constexpr Row kRows[] = {
+    {xml::kSp, ShapeElement::Shape, xml::kNvSpPr},
+    {xml::kPic, ShapeElement::Picture, xml::kNvPicPr},
+    {xml::kGrpSp, ShapeElement::Group, xml::kNvGrpSpPr},
+    {xml::kGraphicFrame, ShapeElement::GraphicFrame, xml::kNvGraphicFramePr},
+    {xml::kCxnSp, ShapeElement::Connector, xml::kNvCxnSpPr},
+};
+
+const Row* findRow(const DOMElement& shape) {
+    for (const Row& row : kRows)
+        if (hasName(shape, row.name))
+            return &row;
+    return nullptr;
+}
+
+} // namespace
+
+ShapeFacts readFacts(const DOMElement& shape, bool isInGroup) {
+    ShapeFacts facts;
+    const Row* row = findRow(shape);
+    if (!row)
+        return facts;
+    facts.element = row->element;
+    facts.isInGroup = isInGroup;
+    const DOMElement* nonVisual = findChild(&shape, row->nonVisual);
+    if (const DOMElement* properties = findChild(nonVisual, xml::kCNvPr)) {
+        facts.id = getAttribute(properties, xml::kId);
+        facts.name = getAttribute(properties, xml::kName);
+    }
+    if (const DOMElement* placeholder = findDescendant(nonVisual, {xml::kNvPr, xml::kPh})) {
+        facts.isPlaceholder = true;
+        facts.placeholderType = getAttribute(placeholder, xml::kType);
+        facts.placeholderIndex = getAttribute(placeholder, xml::kIdx);
+    }
+    facts.hasTextBody = findChild(&shape, xml::kTxBody) != nullptr;
+    facts.hasTable = findDescendant(&shape, {xml::kAGraphic, xml::kAGraphicData, xml::kATbl}) != nullptr;
+    return facts;
+}
+
+DOMElement* findNonVisual(const DOMElement& shape) {
+    const Row* row = findRow(shape);
+    return row ? findChild(&shape, row->nonVisual) : nullptr;
+}
+
+boost::shared_ptr<const PlaceText> readPlace(const DOMElement& shape) {
+    const bool isFrame = hasName(shape, xml::kGraphicFrame);
+    const DOMElement* xfrm =
+        isFrame ? findChild(&shape, xml::kXfrm) : findDescendant(&shape, {xml::kSpPr, xml::kAXfrm});
+    if (!xfrm)
+        return {};
+    const DOMElement* off = findChild(xfrm, xml::kAOff);
+    const DOMElement* ext = findChild(xfrm, xml::kAExt);
+    const auto place = boost::make_shared<PlaceText>();
+    place->x = getAttribute(off, xml::kX);
+    place->y = getAttribute(off, xml::kY);
+    place->cx = getAttribute(ext, xml::kCx);
+    place->cy = getAttribute(ext, xml::kCy);
+    place->isWhole = off && ext;
+    return place;
+}
+
+DOMElement* findFirstShape(DOMDocument* document, TreePath path) {
+    if (path == TreePath::FirstChildren)
+        return goDownFirstChildren(document, 3);
+    DOMElement* tree = findDescendant(document->getDocumentElement(), {xml::kCSld, xml::kSpTree});
+    return tree ? tree->getFirstElementChild() : nullptr;
+}
+
+unsigned int findGreatestId(DOMDocument* document) {
+    unsigned int greatest = 0;
+    for (const DOMElement* properties : getElementsByName(document, xml::kCNvPr))
+        greatest = std::max(greatest, str2uint(getAttribute(properties, xml::kId)));
+    return greatest;
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,31 @@
+/// @file
+/// What a shape element of a layout, a slide or a master says of itself.
+
+#ifndef VELLOX_PPT_TEMPLATE_SHAPEREADER_H
+#define VELLOX_PPT_TEMPLATE_SHAPEREADER_H
+
+#include <boost/shared_ptr.hpp>
+
+#include "vellox/ppt/rules/Facts.h"
+#include "vellox/ppt/xml/Dom.h"
+
+namespace vellox::ppt {
+
+ShapeFacts readFacts(const xercesc::DOMElement& shape, bool isInGroup = false);
+
+/// The element in which a shape keeps id, name and placeholder, such as p:nvSpPr; null if it has none.
+xercesc::DOMElement* findNonVisual(const xercesc::DOMElement& shape);
+
+/// The place that a shape gives itself.
+/// @return empty if it gives none
+boost::shared_ptr<const PlaceText> readPlace(const xercesc::DOMElement& shape);
+
+/// The first element of a shape tree, from which its siblings are visited.
+xercesc::DOMElement* findFirstShape(xercesc::DOMDocument* document, TreePath path);
+
+/// The greatest id of a p:cNvPr of a document; 0 if there is none.
+unsigned int findGreatestId(xercesc::DOMDocument* document);
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,279 @@
+#include "vellox/ppt/template/TemplateReader.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/opc/Limits.h"
+#include "vellox/opc/Package.h"
+#include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/template/ShapeReader.h"
+#include "vellox/ppt/template/SlidePrototype.h"
+#include "vellox/ppt/xml/XmlNames.h"
+
+#include <algorithm>
+#include <boost/make_shared.hpp>
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+namespace {
+
+std::wstring nextShapeUid() {
+    static unsigned int counter = 0;
+    return num2str(++counter);
+}
+
+} // namespace
+
+TemplateReader::TemplateReader(PartDOMBuilder& builder, const Rules& rules)
+    : builder_(builder),
+      rules_(rules),
+      template_(boost::make_shared<Template>()) {}
+
+Refusal TemplateReader::load() {
+    PackageFacts facts;
+    template_->presentationPartName = builder_.getRelationshipTarget(relationship::kOfficeDocument);
+    facts.hasMainPart =
+        !template_->presentationPartName.empty() && builder_.hasPart(template_->presentationPartName);
+    if (!facts.hasMainPart)
+        return rules_.refuse(facts);
+    const opc::Part presentation = builder_.getPart(template_->presentationPartName);
+    facts.mainType = presentation.getContentType().toString();
+    const Refusal refusal = rules_.refuse(facts);
+    if (refusal == Refusal::None) {
+        template_->presentationDocument.reset(builder_.getDocument(presentation));
+        loadMasters(presentation);
+        loadSlides(presentation);
+    }
+    const std::wstring tableStyles = builder_.getRelationshipTarget(presentation, relationship::kTableStyles);
+    if (!tableStyles.empty())
+        loadTableStyles(tableStyles);
+    if (refusal == Refusal::None)
+        result_ = template_;
+    return refusal;
+}
+
+// Masters, themes, layouts
+
+void TemplateReader::loadMasters(const opc::Part& presentation) {
+    for (const DOMElement* element :
+         getElementsByName(template_->presentationDocument.get(), xml::kSldMasterId)) {
+        const auto master = boost::make_shared<TemplateMaster>();
+        master->id = getAttribute(element, xml::kId);
+        master->relationshipId = getAttribute(element, xml::kRId);
+        template_->masters.push_back(master);
+    }
+    for (const auto& master : template_->masters)
+        loadMaster(presentation, master);
+    nameMasters();
+}
+
+void TemplateReader::loadMaster(const opc::Part& presentation,
+                                const boost::shared_ptr<TemplateMaster>& master) {
+    const opc::Part part = builder_.getPart(presentation.getRelationshipByID(master->relationshipId));
+    master->partName = part.getName().toString();
+    template_->mastersByPartName.emplace(master->partName, master);
+    const OwnedDocument document(builder_.getDocument(part));
+    for (const DOMElement* properties : getElementsByName(document.get(), xml::kCNvPr)) {
+        const std::wstring id = getAttribute(properties, xml::kId);
+        const auto* shape = dynamic_cast<DOMElement*>(properties->getParentNode()->getParentNode());
+        // A frame gives no place: what a layout may inherit stands in a p:spPr.
+        if (!id.empty() && shape && master->placesById.count(id) == 0)
+            master->placesById.emplace(id, hasName(*shape, xml::kGraphicFrame) ? Place() : readPlace(*shape));
+    }
+    master->maxShapeId = findGreatestId(document.get());
+    loadTheme(part, *master);
+    loadLayouts(part, *master);
+}
+
+void TemplateReader::loadTheme(const opc::Part& masterPart, TemplateMaster& master) {
+    const std::wstring target = builder_.getRelationshipTarget(masterPart, relationship::kTheme);
+    if (target.empty())
+        return;
+    const OwnedDocument document(builder_.getDocument(builder_.getPart(target)));
+    const std::vector<DOMElement*> themes = getElementsByName(document.get(), xml::kATheme);
+    master.theme = boost::make_shared<TemplateTheme>();
+    master.theme->partName = target;
+    master.theme->name = getAttribute(themes.empty() ? nullptr : themes.front(), xml::kName);
+}
+
+void TemplateReader::nameMasters() {
+    std::vector<std::wstring> themes;
+    for (const auto& master : template_->masters)
+        themes.push_back(master->theme ? master->theme->name : std::wstring());
+    template_->masterNames = rules_.nameMasters(themes);
+    for (std::size_t i = 0; i < themes.size(); ++i) {
+        const auto& master = template_->masters[i];
+        master->name = template_->masterNames[i];
+        template_->mastersByName.emplace(master->name, master);
+    }
+}
+
+void TemplateReader::loadLayouts(const opc::Part& masterPart, TemplateMaster& master) {
+    master.layouts = boost::make_shared<std::vector<boost::shared_ptr<TemplateLayout>>>();
+    for (const opc::Relationship& row : builder_.getRelationships(masterPart, relationship::kSlideLayout)) {
+        const boost::shared_ptr<TemplateLayout> layout = getLayout(builder_.getPart(row));
+        if (!layout)
+            continue;
+        builder_.charge(opc::kShapeCost + layout->name.size() * opc::kXmlAttributeCharacterCost);
+        master.layouts->push_back(layout);
+        master.layoutsByName.emplace(layout->name, layout);
+        master.layoutNames.push_back(layout->name);
+    }
+}
+
+// The document of a layout or slide, to be marked with data-uid. Marks that it has already, from wherever, are
+// nobody's: they would lead to the wrong elements, and into the file.
+OwnedDocument TemplateReader::readMarked(const opc::Part& part) {
+    OwnedDocument document(builder_.getDocument(part));
+    for (DOMElement* element : getAllElements(document.get()))
+        if (element->hasAttribute(xml::kDataUid))
+            element->removeAttribute(xml::kDataUid);
+    return document;
+}
+
+boost::shared_ptr<TemplateLayout> TemplateReader::getLayout(const opc::Part& part) {
+    const std::wstring partName = part.getName().toString();
+    const auto known = template_->layoutsByPartName.find(partName);
+    if (known != template_->layoutsByPartName.end())
+        return known->second;
+    OwnedDocument document = readMarked(part);
+    const std::vector<DOMElement*> roots = getElementsByName(document.get(), xml::kSldLayout);
+    if (roots.empty())
+        return {};
+    const auto layout = boost::make_shared<TemplateLayout>();
+    layout->partName = partName;
+    layout->document = std::move(document);
+    layout->type = getAttribute(roots.front(), xml::kType);
+    layout->masterPartName = builder_.getRelationshipTarget(part, relationship::kSlideMaster);
+    layout->master = findMaster(layout->masterPartName);
+    const std::vector<DOMElement*> slideData = getElementsByName(layout->document.get(), xml::kCSld);
+    layout->name = getAttribute(slideData.empty() ? nullptr : slideData.front(), xml::kName);
+    readLayoutShapes(*layout);
+    template_->layoutsByPartName.emplace(partName, layout);
+    return layout;
+}
+
+// A target may spell the name of its part in another way than the package does.
+boost::shared_ptr<TemplateMaster> TemplateReader::findMaster(const std::wstring& target) const {
+    if (target.empty() || !builder_.hasPart(target))
+        return {};
+    const auto found = template_->mastersByPartName.find(builder_.getPart(target).getName().toString());
+    return found == template_->mastersByPartName.end() ? boost::shared_ptr<TemplateMaster>() : found->second;
+}
+
+void TemplateReader::readLayoutShapes(TemplateLayout& layout) {
+    layout.shapes = boost::make_shared<TemplateShapes>();
+    DOMElement* element = findFirstShape(layout.document.get(), rules_.findsTree());
+    for (; element; element = element->getNextElementSibling()) {
+        const ShapeFacts facts = readFacts(*element);
+        layout.fates.push_back(rules_.fateOf(facts));
+        if (layout.fates.back() != Fate::Empty)
+            continue;
+        const auto shape = makeRecord(*element, facts);
+        shape->place = readPlace(*element);
+        choosePlaces(*shape, shape->place, shape->place, layout.master.lock().get());
+        layout.shapes->push_back(shape);
+        if (shape->xmlId.empty())
+            continue;
+        layout.shapesById.emplace(shape->xmlId, shape);
+        layout.maxShapeId = std::max(layout.maxShapeId, str2uint(shape->xmlId));
+    }
+}
+
+// Slides
+
+void TemplateReader::loadSlides(const opc::Part& presentation) {
+    std::vector<TemplateSlide> slides;
+    for (const DOMElement* element : getElementsByName(template_->presentationDocument.get(), xml::kSldId)) {
+        slides.emplace_back();
+        slides.back().id = getAttribute(element, xml::kId);
+        slides.back().relationshipId = getAttribute(element, xml::kRId);
+    }
+    for (TemplateSlide& slide : slides)
+        template_->slides.push_back(loadSlide(presentation, std::move(slide)));
+}
+
+boost::shared_ptr<const TemplateSlide> TemplateReader::loadSlide(const opc::Part& presentation,
+                                                                 TemplateSlide slide) {
+    const opc::Part part = builder_.getPart(presentation.getRelationshipByID(slide.relationshipId));
+    slide.partName = part.getName().toString();
+    const std::wstring layout = builder_.getRelationshipTarget(part, relationship::kSlideLayout);
+    if (!layout.empty())
+        slide.layout = getLayout(builder_.getPart(layout));
+    slide.shapes = boost::make_shared<TemplateShapes>();
+    const auto document = boost::make_shared<OwnedDocument>(readMarked(part));
+    DOMElement* root = (*document)->getDocumentElement();
+    slide.name = getAttribute(findChild(root, xml::kCSld), xml::kName);
+    for (DOMElement* element : getChildElements(findDescendant(root, {xml::kCSld, xml::kSpTree})))
+        parseShape(*element, *slide.shapes, slide.layout.get());
+    slide.source = document;
+    return boost::make_shared<const TemplateSlide>(std::move(slide));
+}
+
+// Shapes
+
+// The layout's shape is the one of the same id, not the one of the same p:ph.
+void TemplateReader::parseShape(DOMElement& element, TemplateShapes& shapes, const TemplateLayout* layout,
+                                bool isInGroup) {
+    const ShapeFacts facts = readFacts(element, isInGroup);
+    if (rules_.classify(facts) == NodeType::None)
+        return;
+    const boost::shared_ptr<TemplateShape> shape = makeRecord(element, facts);
+    shapes.push_back(shape);
+    Place ofLayout;
+    if (layout) {
+        const auto found = layout->shapesById.find(shape->xmlId);
+        ofLayout = found == layout->shapesById.end() ? Place() : found->second->place;
+    }
+    choosePlaces(*shape, readPlace(element), ofLayout, layout ? layout->master.lock().get() : nullptr);
+    if (shape->type != NodeType::Group)
+        return;
+    shape->children = boost::make_shared<TemplateShapes>();
+    for (DOMElement* child : getChildElements(&element))
+        parseShape(*child, *shape->children, layout, true);
+}
+
+boost::shared_ptr<TemplateShape> TemplateReader::makeRecord(DOMElement& element, const ShapeFacts& facts) {
+    builder_.charge(opc::kShapeCost);
+    const auto shape = boost::make_shared<TemplateShape>();
+    shape->id = nextShapeUid();
+    shape->type = rules_.classify(facts);
+    if (!facts.name.empty())
+        shape->shapeName.set(facts.name);
+    shape->xmlId = facts.id;
+    if (shape->type != NodeType::BodyPlaceholder && facts.element == ShapeElement::Shape)
+        shape->placeholderType = facts.placeholderType;
+    setAttribute(&element, xml::kDataUid, shape->id);
+    return shape;
+}
+
+void TemplateReader::choosePlaces(TemplateShape& shape, const Place& own, const Place& ofLayout,
+                                  const TemplateMaster* master) const {
+    Place ofMaster;
+    if (master) {
+        const auto found = master->placesById.find(shape.xmlId);
+        ofMaster = found == master->placesById.end() ? Place() : found->second;
+    }
+    const Place places[] = {Place(), own, ofLayout, ofMaster}; // by PlaceSource
+    const PlaceFacts kin{shape.type, own.get(), ofLayout.get(), ofMaster.get()};
+    const auto choose = [&](PlaceUse use) {
+        return places[static_cast<std::size_t>(rules_.choosePlace(kin, use))];
+    };
+    shape.successorPlace = choose(PlaceUse::Successor);
+    shape.textPlace = choose(PlaceUse::Text);
+}
+
+// Table styles
+
+void TemplateReader::loadTableStyles(const std::wstring& partName) {
+    const OwnedDocument document(builder_.getDocument(builder_.getPart(partName)));
+    for (const DOMElement* element : getElementsByName(document.get(), xml::kATblStyle)) {
+        const auto style = boost::make_shared<TemplateTableStyle>();
+        style->styleId = getAttribute(element, xml::kStyleId);
+        style->styleName = getAttribute(element, xml::kStyleName);
+        template_->tableStyles.push_back(style);
+    }
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,60 @@
+/// @file
+/// From a package to the records of a template.
+
+#ifndef VELLOX_PPT_TEMPLATE_TEMPLATEREADER_H
+#define VELLOX_PPT_TEMPLATE_TEMPLATEREADER_H
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+#include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/template/TemplateRecords.h"
+
+namespace opc {
+class Part;
+}
+
+namespace vellox::ppt {
+
+class PartDOMBuilder;
+
+/// Reads a template once: each part once, masters ahead of slides. What the rules have to say of a shape is asked
+/// here, and stands in its record from then on.
+class TemplateReader {
+public:
+    TemplateReader(PartDOMBuilder& builder, const Rules& rules);
+
+    /// @return Refusal::None if there is a template now
+    /// @throws partDOMBuildError, opc::Exception
+    Refusal load();
+    /// Empty before that.
+    const boost::shared_ptr<const Template>& getTemplate() const { return result_; }
+
+private:
+    void loadMasters(const opc::Part& presentation);
+    void loadMaster(const opc::Part& presentation, const boost::shared_ptr<TemplateMaster>& master);
+    void loadTheme(const opc::Part& masterPart, TemplateMaster& master);
+    void loadLayouts(const opc::Part& masterPart, TemplateMaster& master);
+    void nameMasters();
+    void loadSlides(const opc::Part& presentation);
+    boost::shared_ptr<const TemplateSlide> loadSlide(const opc::Part& presentation, TemplateSlide slide);
+    void loadTableStyles(const std::wstring& partName);
+    OwnedDocument readMarked(const opc::Part& part);
+    boost::shared_ptr<TemplateMaster> findMaster(const std::wstring& target) const;
+    boost::shared_ptr<TemplateLayout> getLayout(const opc::Part& part);
+    void readLayoutShapes(TemplateLayout& layout);
+    void parseShape(xercesc::DOMElement& element, TemplateShapes& shapes, const TemplateLayout* layout,
+                    bool isInGroup = false);
+    boost::shared_ptr<TemplateShape> makeRecord(xercesc::DOMElement& element, const ShapeFacts& facts);
+    void choosePlaces(TemplateShape& shape, const Place& own, const Place& ofLayout,
+                      const TemplateMaster* master) const;
+
+    PartDOMBuilder& builder_;
+    const Rules& rules_;
+    boost::shared_ptr<Template> template_;
+    boost::shared_ptr<const Template> result_;
+};
+
+} // namespace vellox::ppt
+
+#endif

@@ -1,0 +1,40 @@
+/// @file
+/// The state of a table that is being written.
+
+#ifndef VELLOX_PPT_WRITERS_TABLECONTEXT_H
+#define VELLOX_PPT_WRITERS_TABLECONTEXT_H
+
+#include <optional>
+#include <vector>
+
+#include "vellox/ppt/formats/Formats.h"
+
+namespace vellox::ppt {
+
+class TableImpl;
+
+/// Where the writing of a table is, and what its columns have to say. It belongs to the writer of the table; those
+/// of the rows move it on, and those of the entries widen its columns.
+struct TableContext {
+    /// Of no table.
+    TableContext() = default;
+    explicit TableContext(const TableImpl& table);
+
+    void nextEntry() { ++col; }
+    void nextRow();
+    /// The formats of the column that the table is at; none for a column that it doesn't have.
+    const Formats& getColumnFormats() const;
+    /// Widens that column. A column that the table doesn't have is passed over.
+    void setColumnWidth(int widthEmu);
+
+    unsigned int rowCount = 0;
+    unsigned int colCount = 0;
+    unsigned int row = 0;                      ///< from 0
+    unsigned int col = 0;                      ///< of the entry within its row, from 0
+    std::vector<Formats> colFormats;           ///< one for each column specification
+    std::vector<std::optional<int>> colWidths; ///< colCount of them, in EMU
+};
+
+} // namespace vellox::ppt
+
+#endif

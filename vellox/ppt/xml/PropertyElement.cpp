@@ -1,0 +1,93 @@
+#include "vellox/ppt/xml/PropertyElement.h"
+
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/xml/Dom.h"
+
+#include <algorithm>
+#include <boost/functional/hash.hpp>
+
+namespace vellox::ppt {
+
+using namespace xercesc;
+
+PropertyElement::PropertyElement(const XMLCh* name) : name_(name) {}
+
+void PropertyElement::setAttribute(const XMLCh* name, const XMLCh* value) {
+    const std::u16string_view key = name;
+    const auto place = std::lower_bound(
+        attributes_.begin(), attributes_.end(), key,
+        [](const Attribute& attribute, std::u16string_view k) { return attribute.name < k; });
+    if (place != attributes_.end() && place->name == key)
+        place->value = value;
+    else
+        attributes_.insert(place, {key, value});
+}
+
+void PropertyElement::setAttribute(const XMLCh* name, const std::wstring& value) {
+    setAttribute(name, opc::XercesString(value));
+}
+
+PropertyElement& PropertyElement::addChild(const XMLCh* name) {
+    return children_.emplace_back(name);
+}
+
+PropertyElement& PropertyElement::putChild(const XMLCh* name) {
+    const std::u16string_view key = name;
+    const auto former = std::find_if(children_.begin(), children_.end(),
+                                     [&](const PropertyElement& child) { return child.name_ == key; });
+    if (former == children_.end())
+        return addChild(name);
+    return *former = PropertyElement(name);
+}
+
+// Into a document
+
+void PropertyElement::setAttributesOf(DOMElement* element) const {
+    for (const Attribute& attribute : attributes_)
+        ppt::setAttribute(element, attribute.name.data(), attribute.value.c_str());
+}
+
+void PropertyElement::fill(DOMElement* element) const {
+    setAttributesOf(element);
+    for (const PropertyElement& child : children_)
+        child.appendTo(element);
+}
+
+void PropertyElement::appendTo(DOMElement* parent) const {
+    fill(appendElement(parent, name_.data()));
+}
+
+void PropertyElement::applyTo(DOMElement* element) const {
+    setAttributesOf(element);
+    for (const PropertyElement& child : children_) {
+        DOMElement* former = findChild(element, child.name_.data());
+        if (former)
+            child.replace(element, former);
+        else
+            child.appendTo(element);
+    }
+}
+
+void PropertyElement::replace(DOMElement* parent, DOMElement* former) const {
+    DOMElement* element = parent->getOwnerDocument()->createElement(name_.data());
+    fill(element);
+    parent->replaceChild(element, former);
+}
+
+// As a value
+
+bool PropertyElement::operator==(const PropertyElement& other) const {
+    return name_ == other.name_ && attributes_ == other.attributes_ && children_ == other.children_;
+}
+
+std::size_t hash_value(const PropertyElement& element) {
+    std::size_t seed = boost::hash_range(element.name_.begin(), element.name_.end());
+    for (const auto& attribute : element.attributes_) {
+        boost::hash_range(seed, attribute.name.begin(), attribute.name.end());
+        boost::hash_range(seed, attribute.value.begin(), attribute.value.end());
+    }
+    boost::hash_range(seed, element.children_.begin(), element.children_.end());
+    return seed;
+}
+
+} // namespace vellox::ppt
