@@ -217,8 +217,8 @@ std::wstring FileUtils::getContentType(const std::wstring& path) {
 }
 
 FileNameFault FileUtils::judgeFileName(const std::wstring& name) {
-    // The anchor binds to "nul" alone: the other names are refused anywhere in a stem. That is how names
-    // have always been checked here, and scripts rely on it.
+    // The rule of device names: "nul" is refused at the beginning of a stem, the others anywhere in it. Scripts choose
+    // their names by it.
     static const boost::wregex& reserved = *new const boost::wregex(
         L"^(nul)|(con)|(aux)|(prn)|(com[1-9])|(lpt[1-9])", boost::regex::perl | boost::regex::icase);
     static const boost::wregex& forbidden = *new const boost::wregex(L".*[:<>\"/\\|?*].*");

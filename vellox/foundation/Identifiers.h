@@ -238,6 +238,99 @@ struct VELLOX_API unknownImageType : MsgID {
 
 } // namespace ppt_warning
 
+/// What was asked for and isn't in the deck, or is other than asked. Never sent or thrown: kept with the presentation.
+namespace ppt_finding {
+
+inline constexpr char kCatalog[] = "vellox:ppt_finding";
+
+/// Text or content is for a name that nothing bears.
+struct VELLOX_API unknownName : MsgID {
+    explicit unknownName(const std::wstring& name) : MsgID(kCatalog, "unknownName", {name}) {}
+};
+/// Text or content is for a name that several shapes of one slide bear.
+struct VELLOX_API ambiguousName : MsgID {
+    explicit ambiguousName(const std::wstring& name) : MsgID(kCatalog, "ambiguousName", {name}) {}
+};
+/// What bears the name doesn't take what was given by it.
+struct VELLOX_API contentRefused : MsgID {
+    explicit contentRefused(const std::wstring& name) : MsgID(kCatalog, "contentRefused", {name}) {}
+};
+/// A text box is given content that is no list.
+struct VELLOX_API listExpected : MsgID {
+    listExpected() : MsgID(kCatalog, "listExpected", 0) {}
+};
+/// A picture or a table is to take the place of a shape that doesn't stand directly on its slide.
+struct VELLOX_API notReplaced : MsgID {
+    notReplaced() : MsgID(kCatalog, "notReplaced", 0) {}
+};
+/// A shape in a group was changed: groups are written as the template has them.
+struct VELLOX_API shapeInGroup : MsgID {
+    shapeInGroup() : MsgID(kCatalog, "shapeInGroup", 0) {}
+};
+/// A slide is added to a presentation that is closed.
+struct VELLOX_API slideAfterClose : MsgID {
+    slideAfterClose() : MsgID(kCatalog, "slideAfterClose", 0) {}
+};
+/// A slide is the copy of another, or of none that could be written.
+struct VELLOX_API slideNotWritten : MsgID {
+    slideNotWritten() : MsgID(kCatalog, "slideNotWritten", 0) {}
+};
+/// Not all of a layout can be had on a slide.
+struct VELLOX_API layoutCopiedInPart : MsgID {
+    explicit layoutCopiedInPart(const std::wstring& layout)
+        : MsgID(kCatalog, "layoutCopiedInPart", {layout}) {}
+};
+/// A picture has no path.
+struct VELLOX_API pictureWithoutFile : MsgID {
+    pictureWithoutFile() : MsgID(kCatalog, "pictureWithoutFile", 0) {}
+};
+/// The file of a picture isn't there, can't be read to its end, or is no regular file.
+struct VELLOX_API unreadablePicture : MsgID {
+    explicit unreadablePicture(const std::wstring& file) : MsgID(kCatalog, "unreadablePicture", {file}) {}
+};
+/// A picture's kind isn't known: neither the library nor the template has a type of images for its extension.
+struct VELLOX_API unknownImageType : MsgID {
+    explicit unknownImageType(const std::wstring& file) : MsgID(kCatalog, "unknownImageType", {file}) {}
+};
+/// The template has no table style of this name.
+struct VELLOX_API invalidTableStyle : MsgID {
+    explicit invalidTableStyle(const std::wstring& style) : MsgID(kCatalog, "invalidTableStyle", {style}) {}
+};
+/// A table has no rows.
+struct VELLOX_API emptyTable : MsgID {
+    emptyTable() : MsgID(kCatalog, "emptyTable", 0) {}
+};
+/// A shape that the template gives no text body is given text, or formats for it.
+struct VELLOX_API noTextBody : MsgID {
+    noTextBody() : MsgID(kCatalog, "noTextBody", 0) {}
+};
+/// A shape that the template gives no properties is given formats that belong there.
+struct VELLOX_API noShapeProperties : MsgID {
+    noShapeProperties() : MsgID(kCatalog, "noShapeProperties", 0) {}
+};
+/// The target of a link is empty or blank.
+struct VELLOX_API emptyLinkTarget : MsgID {
+    emptyLinkTarget() : MsgID(kCatalog, "emptyLinkTarget", 0) {}
+};
+/// A text or a name holds characters that XML can't hold.
+struct VELLOX_API charactersDropped : MsgID {
+    explicit charactersDropped(const std::wstring& count) : MsgID(kCatalog, "charactersDropped", {count}) {}
+};
+/// The output path of an open presentation is to change.
+struct VELLOX_API cannotChangeOutputPath : MsgID {
+    cannotChangeOutputPath() : MsgID(kCatalog, "cannotChangeOutputPath", 0) {}
+};
+/// The template path of an open presentation is to change.
+struct VELLOX_API cannotChangeTemplatePath : MsgID {
+    cannotChangeTemplatePath() : MsgID(kCatalog, "cannotChangeTemplatePath", 0) {}
+};
+/// More was found than is kept.
+struct VELLOX_API moreFindings : MsgID {
+    explicit moreFindings(const std::wstring& kept) : MsgID(kCatalog, "moreFindings", {kept}) {}
+};
+
+} // namespace ppt_finding
+
 } // namespace vellox
 
 #endif

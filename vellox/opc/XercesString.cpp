@@ -25,9 +25,9 @@ XercesString::XercesString(const std::wstring& text) {
     text_.reserve(text.size());
     for (const wchar_t wide : text) {
         const auto c = static_cast<char32_t>(wide);
-        if (!isAllowed(c))
-            continue;
-        if (c < 0x10000) {
+        if (!isAllowed(c)) {
+            ++dropped_;
+        } else if (c < 0x10000) {
             text_.push_back(static_cast<char16_t>(c));
         } else {
             text_.push_back(static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10)));

@@ -24,6 +24,8 @@ public:
     operator const XMLCh*() const { return text_.c_str(); }
     const XMLCh* get() const { return text_.c_str(); }
     std::wstring toString() const;
+    /// How many characters were left out.
+    std::size_t getDropped() const { return dropped_; }
 
     bool operator==(const XercesString& other) const { return text_ == other.text_; }
     bool operator!=(const XercesString& other) const { return text_ != other.text_; }
@@ -32,6 +34,7 @@ public:
 
 private:
     std::u16string text_;
+    std::size_t dropped_ = 0;
 };
 
 /// The wide form of a text of Xerces; a null pointer gives the empty text.

@@ -74,6 +74,7 @@ template <class Warning> void PresentationImpl::warnThatPathStays() {
     if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
         MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, *makeInterface()));
     reportWarning(id);
+    report(MsgID(ppt_finding::kCatalog, id.id, id.args), *this);
 }
 
 template <class Warning>
@@ -97,7 +98,7 @@ void PresentationImpl::setTemplatePath(const std::wstring& path) {
 void PresentationImpl::appendChild(const Child& child) {
     open();
     if (state_ != PresentationState::Parsed && state_ != PresentationState::Open)
-        return;
+        return report(ppt_finding::slideAfterClose(), *this);
     PPTNodeImpl::appendChild(child);
     if (getClient() && wantsProgress()) {
         const ppt_progress::appendChildMsg id(child->getTag());
@@ -124,14 +125,22 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
 
 void PresentationImpl::insertSlide(const Child& slide) {
     PPTNodeImpl::appendChild(slide);
+    reportIfClosed(slide);
 }
 
 void PresentationImpl::insertSlideAt(const Child& slide, unsigned int index) {
     PPTNodeImpl::insertChildAt(slide, index);
+    reportIfClosed(slide);
 }
 
 void PresentationImpl::insertSlideBefore(const Child& slide, const Slide& reference) {
     PPTNodeImpl::insertChildBefore(slide, reference);
+    reportIfClosed(slide);
+}
+
+void PresentationImpl::reportIfClosed(const Child& slide) const {
+    if (state_ == PresentationState::Closed)
+        report(ppt_finding::slideAfterClose(), *implOf<PPTNodeImpl>(*slide));
 }
 
 // PresentationImpl: names
@@ -259,6 +268,10 @@ const Presentation::Names Presentation::getLayoutNames(const std::wstring& maste
 
 const Presentation::NamePairs Presentation::getTableStyleNames() {
     return pimpl()->getTableStyleNames();
+}
+
+const std::vector<Finding> Presentation::getFindings() const {
+    return pimpl()->getFindings();
 }
 
 const std::wstring Presentation::getOutputPath() const {

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/messages/Finding.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Slide.h"
@@ -92,6 +93,35 @@ public:
     const Names getLayoutNames(const std::wstring& masterName);
     /// (name, id) of each table style of the template.
     const NamePairs getTableStyleNames();
+
+    /// What was asked for and isn't in the deck, or is other than asked, in the order in which it came out: while the
+    /// deck was made, and when it was closed. Each has a code, a severity, a text, and the number of the slide and the
+    /// name of the shape as far as it is about one. Errors: asked for and not there; warnings: there, but maybe not as
+    /// meant. Nothing else comes of them. A copy of a presentation begins without.
+    ///
+    /// | code | severity | meaning |
+    /// |---|---|---|
+    /// | unknownName | error | text or content was for a name that nothing bears |
+    /// | ambiguousName | warning | several shapes of one slide bear the name, and all that take it got it |
+    /// | contentRefused | error | what bears the name takes no such thing |
+    /// | listExpected | error | a text box was given content that is no list |
+    /// | notReplaced | error | a shape in a group was to give way to a picture or a table |
+    /// | shapeInGroup | error | a shape in a group was changed; groups stay as the template has them |
+    /// | slideAfterClose | error | a slide was added to a closed presentation |
+    /// | slideNotWritten | error | a slide is the copy of another |
+    /// | layoutCopiedInPart | warning | not all of a layout can be had on a slide |
+    /// | pictureWithoutFile | error | a picture has no path |
+    /// | unreadablePicture | error | the file of a picture can't be read |
+    /// | unknownImageType | warning | the file of a picture is of no known kind |
+    /// | invalidTableStyle | error | the template has no table style of the name |
+    /// | emptyTable | error | a table has no rows |
+    /// | noTextBody | error | text was given to a shape without a text body |
+    /// | noShapeProperties | error | a fill was given to a shape without properties |
+    /// | emptyLinkTarget | error | the target of a link is empty or blank |
+    /// | charactersDropped | warning | a text or a name holds characters that no file can |
+    /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
+    /// | moreFindings | info | there are more than are kept, which is 1000 |
+    const std::vector<Finding> getFindings() const;
 
     /// @{ As last set, with "/" as separator; once the presentation is open with the folder and the extension
     /// that it was opened with.

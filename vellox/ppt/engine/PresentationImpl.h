@@ -8,6 +8,7 @@
 #include <string>
 
 #include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/messages/FindingList.h"
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 
@@ -57,6 +58,9 @@ public:
     /// Serves the slides of the template, and a caller who appends a node: opens first, and does nothing
     /// once the presentation is closed.
     void appendChild(const Child& child) override;
+    void hear(const MsgID& finding, const ReportPlace& place) const override {
+        findings_.add(finding, place);
+    }
 
     virtual bool open();
     virtual bool close();
@@ -76,10 +80,13 @@ public:
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
 
+    const std::vector<Finding>& getFindings() const { return findings_.get(getChildren()); }
+
     PresentationState getState() const { return state_; }
 
 private:
     void useDefaultTemplate();
+    void reportIfClosed(const Child& slide) const;
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
     template <class Warning> void warnThatPathStays();
     bool isOpenOrClosed() const;
@@ -101,6 +108,7 @@ private:
     boost::shared_ptr<PartDOMBuilder> partBuilder_;
     boost::shared_ptr<PresentationModel> model_; // empty before parsing
     Presentation::NamePairs tableStyleNames_;
+    mutable FindingList findings_; // to hear of something changes no presentation
 };
 
 } // namespace vellox::ppt

@@ -176,10 +176,12 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         return;
     }
     PPTWriter writer(model_, package);
+    FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
     for (const Child& slide : slides)
         writer.write(*slide);
     state_ = PresentationState::Closed;
+    attempt.keep();
     writer.finish();
 }
 

@@ -6,6 +6,7 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/messages/MessageImpl.h"
+#include "vellox/ppt/object/PPTNodeImpl.h"
 
 namespace vellox::ppt {
 
@@ -41,7 +42,23 @@ private:
     bool mustForget_ = true;
 };
 
+bool holdsShapes(const PPTNodeImpl& node) {
+    const NodeType type = node.getNodeType();
+    return type == NodeType::Slide || type == NodeType::Group;
+}
+
 } // namespace
+
+void report(const MsgID& finding, const PPTNodeImpl& node) {
+    ReportPlace place;
+    for (const PPTNodeImpl* step = &node; step; step = step->getParent()) {
+        if (step->getNodeType() == NodeType::Slide)
+            place.slide = step;
+        else if (!place.shape && step->getParent() && holdsShapes(*step->getParent()))
+            place.shape = step;
+        step->hear(finding, place);
+    }
+}
 
 void announceCreated(PPTObjectImpl& object) {
     if (!getFilter().getDebugMessagesPass())

@@ -31,6 +31,8 @@ const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
 
 void PPTNodeImpl::acceptWriter(PPTWriter*, xercesc::DOMNode*) const {}
 
+void PPTNodeImpl::hear(const MsgID&, const ReportPlace&) const {}
+
 bool PPTNodeImpl::isA(NodeType type) const {
     return isKindOf(getNodeType(), type);
 }

@@ -11,9 +11,14 @@
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 
+namespace vellox {
+class MsgID;
+}
+
 namespace vellox::ppt {
 
 class ElementImpl;
+struct ReportPlace;
 
 /// An ordered list of children, which are owned, and a link to the parent, which isn't.
 ///
@@ -61,6 +66,9 @@ public:
     const std::wstring& getName() const { return name_; }
     const Children& getChildren() const { return children_; }
     PPTNodeImpl* getParent() const { return parent_; }
+    /// Takes note of a report about a node below, or about this one; see report(). Const, since it changes nothing that
+    /// the node is or holds. Presentations do; other nodes forget it.
+    virtual void hear(const MsgID& finding, const ReportPlace& place) const;
     /// This node as an element, or null: presentations are none. Spares the writers a dynamic cast for every
     /// step up the tree.
     virtual const ElementImpl* asElement() const { return nullptr; }

@@ -39,13 +39,15 @@ void copyAttributes(const DOMElement& from, DOMElement& to, const Rules& rules) 
 
 // Turns p:sldLayout into p:sld. The first child element comes across, p:cSld: transition, timing and the like are
 // the layout's own.
-void replaceRoot(DOMDocument& document, const Rules& rules) {
+// @return whether all of it could be had
+bool replaceRoot(DOMDocument& document, const Rules& rules) {
     DOMElement* layoutRoot = document.getDocumentElement();
     DOMElement* slideRoot = document.createElement(xml::kSld);
+    bool isWhole = true;
     try {
         copyAttributes(*layoutRoot, *slideRoot, rules);
     } catch (const DOMException&) {
-        // An attribute that can't be copied is no reason to have no slide.
+        isWhole = false; // an attribute that can't be copied is no reason to have no slide
     }
     if (DOMElement* data = layoutRoot->getFirstElementChild())
         slideRoot->appendChild(data);
@@ -55,8 +57,9 @@ void replaceRoot(DOMDocument& document, const Rules& rules) {
     try {
         document.replaceChild(slideRoot, layoutRoot);
     } catch (const DOMException&) {
-        // Likewise: the slide then keeps the layout's root.
+        isWhole = false; // likewise: the slide then keeps the layout's root
     }
+    return isWhole;
 }
 
 using Nodes = std::vector<DOMNode*>;
@@ -197,7 +200,7 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     OwnedDocument document = copyDocument(layout.document);
     document->setXmlStandalone(true);
     removeIndentation(*document.get());
-    replaceRoot(*document.get(), rules);
+    prototype->isWhole = replaceRoot(*document.get(), rules);
     stripShapeTree(*document.get(), layout, rules.findsTree());
     stripSlideData(*document.get(), rules);
     removeUndeclared(*document.get());

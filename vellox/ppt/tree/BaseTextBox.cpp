@@ -85,6 +85,8 @@ void BaseTextBoxImpl::addList(const boost::shared_ptr<HvList>& list) {
 void BaseTextBoxImpl::add(const HvContentPtr& content) {
     if (const auto list = ListContent::cast(content))
         addList(list->getValue());
+    else
+        report(ppt_finding::listExpected(), *this);
 }
 
 Paragraph BaseTextBoxImpl::add(const Paragraph& paragraph) {

@@ -1,5 +1,7 @@
 #include "vellox/ppt/tree/ByName.h"
 
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
@@ -9,13 +11,43 @@ namespace vellox::ppt {
 
 namespace {
 
+const PPTNodeImpl* getSlide(const PPTNodeImpl* node) {
+    while (node && node->getNodeType() != NodeType::Slide)
+        node = node->getParent();
+    return node;
+}
+
+bool takes(const PPTNode& node, Takes least) {
+    return getNodeKind(node.getNodeType()).takes >= least;
+}
+
+// Reports what a caller may not have meant. The nodes of one slide stand side by side in the list.
+void reportBearers(const PPTNode& start, const std::wstring& name, Takes least,
+                   const PPTNode::Children& found) {
+    if (found.empty())
+        report(ppt_finding::unknownName(name), *implOf<PPTNodeImpl>(start));
+    const PPTNodeImpl* slide = nullptr;
+    unsigned int taking = 0;
+    for (const boost::shared_ptr<PPTNode>& node : found) {
+        const auto* impl = implOf<PPTNodeImpl>(*node);
+        if (getSlide(impl) != slide)
+            taking = 0;
+        slide = getSlide(impl);
+        if (!takes(*node, least))
+            report(ppt_finding::contentRefused(name), *impl);
+        else if (++taking == 2)
+            report(ppt_finding::ambiguousName(name), *impl);
+    }
+}
+
 // Calls an action with the implementation of every node of the name that takes as much.
 template <class Impl, class Action>
 void forEach(const PPTNode& start, const std::wstring& name, Takes least, Action action) {
     PPTNode::Children found;
     findNodes(&start, name, found);
+    reportBearers(start, name, least, found);
     for (const boost::shared_ptr<PPTNode>& node : found)
-        if (getNodeKind(node->getNodeType()).takes >= least)
+        if (takes(*node, least))
             action(*implOf<Impl>(*node));
 }
 

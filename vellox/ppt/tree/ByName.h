@@ -1,7 +1,7 @@
 /// @file
 /// Adding and replacing by name, as slides and presentations offer it. Every node of the name below a start
-/// is taken, in document order; those that don't take what is given are passed over in silence, and so is a
-/// name that nothing bears. A failure in one node leaves those ahead of it changed.
+/// is taken, in document order; those that don't take what is given are passed over, and so is a
+/// name that nothing bears; the presentation has a finding then. A failure in one node leaves those ahead of it changed.
 
 #ifndef VELLOX_PPT_TREE_BYNAME_H
 #define VELLOX_PPT_TREE_BYNAME_H

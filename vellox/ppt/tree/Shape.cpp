@@ -75,6 +75,10 @@ PPTNodeImpl* ShapeImpl::findSlide() const {
     return nullptr;
 }
 
+void ShapeImpl::reportThatItStays() const {
+    report(ppt_finding::notReplaced(), *this);
+}
+
 // Shape
 
 Shape::Shape() : Shape(new ShapeImpl) {}

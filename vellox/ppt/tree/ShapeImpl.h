@@ -46,6 +46,7 @@ protected:
 
 private:
     PPTNodeImpl* findSlide() const;
+    void reportThatItStays() const;
     void extendId();
 
     bool contentReplaced_ = false; // the paragraphs that the template's shape brought along go
@@ -57,14 +58,18 @@ private:
 // The given handle comes by value: listeners may let the caller's stand for something else.
 template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(Facade given, TakeName takeName) {
     const boost::intrusive_ptr<PPTNodeImpl> slide(findSlide());
-    if (!slide)
+    if (!slide) {
+        reportThatItStays();
         return given;
+    }
     const Child self = makeInterface();
     const Child replacement = (new Impl(*this, takeName, *implOf<Impl>(given)))->makeInterface();
     implOf<Impl>(*replacement)->appendClones(*implOf<Impl>(given));
     // Listeners have heard of new objects, and may have given this one's place to another.
-    if (findSlide() != slide.get())
+    if (findSlide() != slide.get()) {
+        reportThatItStays();
         return given;
+    }
     slide->replaceChild(*self, replacement);
     return static_cast<const Facade&>(*replacement);
 }

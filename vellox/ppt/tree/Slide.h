@@ -26,7 +26,7 @@ class SlideImpl;
 ///
 /// The operations by name act on every shape that bears the name, those in groups among them, though these stay
 /// in the file as the template has them. A shape that doesn't take what is given is passed over, and a name that
-/// nothing bears does nothing.
+/// nothing bears does nothing: see Presentation::getFindings().
 class VELLOX_API Slide : public Element {
 public:
     /// @{ Puts this very object on the slide, on top of what is there.

@@ -1,7 +1,9 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -33,12 +35,17 @@ void BaseTextBoxWriter::write() {
     applyFormats();
     writeSpPr(shape);
     if (!txBody)
-        return;
+        return reportLostText();
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
     writeBodyPr(txBody);
     writeChildren(txBody);
     ensureParagraph(shape);
+}
+
+void BaseTextBoxWriter::reportLostText() const {
+    if (!textBox_.getChildren().empty() || !bodyPr_.isEmpty())
+        getWriter().report(ppt_finding::noTextBody());
 }
 
 void BaseTextBoxWriter::applyFormat(const Format& format) {
@@ -68,9 +75,11 @@ PropertyElement& BaseTextBoxWriter::addSpPrChild(const XMLCh* name) {
 
 // A shape has one fill: what a template's shape has instead, such as a:noFill, gives way.
 void BaseTextBoxWriter::writeSpPr(DOMElement* shape) const {
-    DOMElement* properties = findChild(shape, xml::kSpPr);
-    if (!properties || spPr_.isEmpty())
+    if (spPr_.isEmpty())
         return;
+    DOMElement* properties = findChild(shape, xml::kSpPr);
+    if (!properties)
+        return getWriter().report(ppt_finding::noShapeProperties());
     for (const XMLCh* other :
          {xml::kANoFill, xml::kAGradFill, xml::kABlipFill, xml::kAPattFill, xml::kAGrpFill})
         removeChildElements(properties, other);

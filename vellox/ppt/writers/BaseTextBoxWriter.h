@@ -27,7 +27,7 @@ public:
     void setBodyPrAttribute(const XMLCh* name, const ValueMapping& mapping);
     void setBodyPrAttribute(const XMLCh* name, const std::wstring& text);
     void setBodyPrFlag(const XMLCh* name, bool value);
-    /// What is put into the shape's properties. For a shape without any it is lost.
+    /// What is put into the shape's properties. For a shape without any it is lost, and reported.
     PropertyElement& getSpPr() { return spPr_; }
     /// A new element in the shape's properties, in the place of one of its name or at the end.
     PropertyElement& addSpPrChild(const XMLCh* name);
@@ -36,6 +36,7 @@ private:
     xercesc::DOMElement* findOrMakeShape();
     void writeSpPr(xercesc::DOMElement* shape) const;
     void writeBodyPr(xercesc::DOMElement* txBody) const;
+    void reportLostText() const;
 
     const BaseTextBoxImpl& textBox_;
     PropertyElement spPr_;

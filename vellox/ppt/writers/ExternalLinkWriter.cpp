@@ -1,7 +1,9 @@
 #include "vellox/ppt/writers/ExternalLinkWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -13,7 +15,9 @@ ExternalLinkWriter::ExternalLinkWriter(const ExternalLinkImpl& link, PPTWriter& 
 
 void ExternalLinkWriter::write() {
     const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
-    // Ahead of what the formats append: this order is how links have always been written here.
+    if (id.empty())
+        getWriter().report(ppt_finding::emptyLinkTarget());
+    // The rule of links: their element stands ahead of what the formats append.
     addRPrChild(xml::kAHlinkClick).setAttribute(xml::kRId, id);
     TextWriter::write();
 }

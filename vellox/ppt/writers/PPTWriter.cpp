@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideList.h"
@@ -16,6 +17,11 @@ PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_p
 }
 
 PPTWriter::~PPTWriter() = default;
+
+void PPTWriter::report(const MsgID& finding) const {
+    if (reporter_)
+        ppt::report(finding, *reporter_);
+}
 
 void PPTWriter::write(const PPTNode& node) {
     node.acceptWriter(this, nullptr);

@@ -18,6 +18,10 @@
 #include "vellox/ppt/object/DomForward.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
+namespace vellox {
+class MsgID;
+}
+
 namespace vellox::ppt {
 
 class ExternalLinkImpl;
@@ -101,6 +105,11 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
+    void report(const MsgID& finding) const;
+    /// Null between shapes.
+    void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
+
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
@@ -120,6 +129,7 @@ private:
     };
 
     boost::shared_ptr<PresentationModel> model_;
+    const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;

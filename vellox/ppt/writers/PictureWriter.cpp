@@ -8,6 +8,7 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 
 namespace vellox::ppt {
@@ -22,10 +23,12 @@ void PictureWriter::write() {
     SlideDocument* slide = getCurrentSlide();
     DOMElement* former = getSlideElement();
     if (!slide || picture_.getPath().empty())
-        return;
+        return reportMissingPath();
     const ImageInfo info = InfoUtils::getImageInfo(picture_.getPath());
     const std::wstring id = getPartWriter().addImage(getCurrentSlidePartName(), picture_.getPath());
-    if (!id.empty() && wantsErrors() && !getPartWriter().leadsToImage(getCurrentSlidePartName(), id))
+    if (id.empty())
+        getWriter().report(ppt_finding::unreadablePicture(picture_.getPath()));
+    else if (!getPartWriter().leadsToImage(getCurrentSlidePartName(), id))
         reportUnknownType();
     const ShapeGeometry& geometry = picture_.getGeometry();
     if (!former) {
@@ -37,6 +40,12 @@ void PictureWriter::write() {
         makePictureInPlace(*slide, id, former, fit({info.getWidth(), info.getHeight(), {}, {}}));
     if (parent)
         parent->replaceChild(made.pic, former);
+}
+
+// A picture of the template that nobody has touched has none either.
+void PictureWriter::reportMissingPath() const {
+    if (getShapeType() != NodeType::Picture)
+        getWriter().report(ppt_finding::pictureWithoutFile());
 }
 
 std::optional<Box> PictureWriter::fit(PictureFacts facts) const {
@@ -54,6 +63,9 @@ std::optional<Box> PictureWriter::fit(PictureFacts facts) const {
 }
 
 void PictureWriter::reportUnknownType() const {
+    getWriter().report(ppt_finding::unknownImageType(picture_.getPath()));
+    if (!wantsErrors())
+        return;
     const ppt_warning::unknownImageType id(picture_.getPath());
     MessageDispatcher::getTheDispatcher().dispatch(
         ErrorMessage(id, *const_cast<PictureImpl&>(picture_).makeInterface()));

@@ -20,6 +20,7 @@ public:
 
 private:
     std::optional<Box> fit(PictureFacts facts) const;
+    void reportMissingPath() const;
     void reportUnknownType() const;
 
     const PictureImpl& picture_;

@@ -1,11 +1,14 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/SlideReports.h"
 
 #include <set>
 
@@ -18,7 +21,7 @@ SlideWriter::SlideWriter(const SlideImpl& slide, PPTWriter& writer, xercesc::DOM
 void SlideWriter::write() {
     const boost::shared_ptr<TemplateSlide>& record = slide_.getTemplateSlide();
     if (!record || getWriter().hasWritten(*record))
-        return;
+        return report(ppt_finding::slideNotWritten(), slide_);
     SlideDocument document(*record, getModel().getRules());
     document.setName(slide_.getName());
     const bool isNew = record->partName.empty();
@@ -37,8 +40,10 @@ void SlideWriter::write() {
 void SlideWriter::writeShapes(SlideDocument& document) {
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
+    reportOnSlide(slide_);
     for (const auto& shape : shapes) {
         const auto* impl = implAs<ShapeImpl>(*shape);
+        getWriter().setReporter(impl);
         const std::wstring uid = impl ? impl->getTemplateUid() : std::wstring();
         const bool isCopy = !uid.empty() && !taken.insert(uid).second;
         if (isCopy)
@@ -47,6 +52,7 @@ void SlideWriter::writeShapes(SlideDocument& document) {
         if (isCopy)
             document.showHidden();
     }
+    getWriter().setReporter(nullptr);
 }
 
 } // namespace vellox::ppt

@@ -34,7 +34,7 @@ void TableWriter::write() {
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
-        return;
+        return reportNoRows();
     }
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
@@ -70,7 +70,14 @@ bool TableWriter::applyTableStyle(DOMElement* tbl) const {
     return true;
 }
 
+// A table of the template that nobody has touched has none either.
+void TableWriter::reportNoRows() const {
+    if (getShapeType() != NodeType::Table || table_.getNCols() > 0)
+        getWriter().report(ppt_finding::emptyTable());
+}
+
 void TableWriter::reportMissingStyle() const {
+    getWriter().report(ppt_finding::invalidTableStyle(table_.getStyleName().get()));
     if (!wantsErrors())
         return;
     const ppt_warning::invalidTableStyle id(table_.getStyleName().get());

@@ -1,7 +1,9 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -18,7 +20,8 @@ void TextWriter::write() {
     DOMElement* run = createElement(xml::kAR);
     if (!rPr_.isEmpty())
         rPr_.appendTo(run);
-    appendText(appendElement(run, xml::kAT), text_.getTextContent());
+    if (const std::size_t dropped = appendText(appendElement(run, xml::kAT), text_.getTextContent()))
+        getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
     appendNode(getParentNode(), run);
 }
 

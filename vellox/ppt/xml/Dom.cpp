@@ -111,9 +111,11 @@ DOMElement* appendElement(DOMElement* parent, const XMLCh* name) {
     return &opc::appendElement(static_cast<DOMElementImpl&>(*parent), name);
 }
 
-void appendText(DOMElement* parent, const std::wstring& text) {
+std::size_t appendText(DOMElement* parent, const std::wstring& text) {
     auto* const document = static_cast<DOMDocumentImpl*>(parent->getOwnerDocument());
-    appendNode(parent, opc::makeText(document, opc::XercesString(text)));
+    const opc::XercesString held(text);
+    appendNode(parent, opc::makeText(document, held));
+    return held.getDropped();
 }
 
 DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {

@@ -60,7 +60,8 @@ void appendNode(xercesc::DOMNode* parent, xercesc::DOMNode* child);
 /// Makes an element and appends it.
 xercesc::DOMElement* appendElement(xercesc::DOMElement* parent, const XMLCh* name);
 /// Makes a text and appends it.
-void appendText(xercesc::DOMElement* parent, const std::wstring& text);
+/// @return how many characters XML can't hold, and were left out
+std::size_t appendText(xercesc::DOMElement* parent, const std::wstring& text);
 /// The first child element of a name, made and appended if there is none.
 xercesc::DOMElement* requireChild(xercesc::DOMElement* parent, const XMLCh* name);
 /// Takes a node out of its parent, if it has one. The document keeps it.
