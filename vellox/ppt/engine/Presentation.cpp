@@ -48,6 +48,14 @@ std::wstring describe(const std::exception& failure, const std::wstring& path) {
     return boost::algorithm::ends_with(reason, L" " + path) ? reason : reason + L" " + path;
 }
 
+// The same about the working copy of a template. What strikes the copy is no fault of the template's.
+std::wstring describeCopy(const std::exception& failure, const std::wstring& templateFile) {
+    const std::wstring reason = fromUtf8(failure.what());
+    return boost::algorithm::ends_with(reason, L" " + templateFile)
+               ? reason
+               : templateFile + L" can't be copied to the temporary folder: " + reason;
+}
+
 // Throws what is to be told about the folder of a path, if anything.
 void checkFolder(const std::wstring& normalizedPath) {
     const std::wstring folder = FileUtils::extractPath(normalizedPath, false);
@@ -238,7 +246,7 @@ void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
         fsys::copyFile(fsys::Path(templateFile), copy);
         fsys::addOwnerWrite(copy);
     } catch (const fsys::FsysExceptionBase& failure) {
-        raise(ppt_error::cannotOpenTemplate(describe(failure, templateFile)));
+        raise(ppt_error::cannotOpenTemplate(describeCopy(failure, templateFile)));
     }
 }
 
