@@ -65,7 +65,7 @@ const wchar_t* findText(const std::string& language, const MsgID& message) {
 // The text with its blanks, %1% and so on, filled in. Any other percent sign stands for itself, and a blank without an
 // argument stays as it is: a slip in a translation must not hide the error.
 std::wstring fillIn(const std::wstring& text, const std::vector<std::wstring>& args) {
-    static const boost::wregex blank(L"%(%|([1-9])%)");
+    static const boost::wregex& blank = *new const boost::wregex(L"%(%|([1-9])%)"); // for late messages
     const auto fill = [&](const boost::wsmatch& found) {
         if (!found[2].matched)
             return std::wstring(L"%");

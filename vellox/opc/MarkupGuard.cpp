@@ -5,6 +5,7 @@
 
 #include <boost/algorithm/string/predicate.hpp>
 #include <cstring>
+#include <string_view>
 
 namespace opc {
 
@@ -87,7 +88,7 @@ bool MarkupGuard::isEnd() const {
 }
 
 void MarkupGuard::judgeMarkup() {
-    static const std::string comment = "!--", data = "![CDATA[", documentType = "!DOCTYPE";
+    static constexpr std::string_view comment = "!--", data = "![CDATA[", documentType = "!DOCTYPE";
     if (seen_ == documentType)
         throw Exception("it has a document type declaration");
     if (seen_ == comment)

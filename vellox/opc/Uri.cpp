@@ -83,7 +83,7 @@ void appendEncoded(std::wstring& text, wchar_t c) {
 // Percent-encodes what stands nowhere in a reference, and some more that doesn't belong where the text does.
 // What is encoded already stays; a backslash is allowed, and letters of other scripts are.
 std::wstring encode(const std::wstring& text, const std::wstring& more) {
-    static const std::wstring never(L"\"<>^`{|}\x7f");
+    static constexpr wchar_t never[] = L"\"<>^`{|}\x7f";
     std::wstring result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
