@@ -5,7 +5,16 @@
 #ifndef VELLOX_TESTS_FAULTS_INJECTOR_H
 #define VELLOX_TESTS_FAULTS_INJECTOR_H
 
+#include <string>
+#include <vector>
+
 namespace vellox::test {
+
+/// A call that was made: of which function, on which file.
+struct Call {
+    const char* function;
+    std::string path;
+};
 
 /// What befalls a call.
 struct Fault {
@@ -20,10 +29,10 @@ struct Fault {
     unsigned call = 0; // which one of the calls from now on, from 0
 };
 
-/// Counts calls from now on, and lets one of them fail.
+/// Takes note of calls from now on, and lets one of them fail.
 void arm(const Fault& fault);
-/// @return the number of calls since then
-unsigned disarm();
+/// @return the calls since then
+std::vector<Call> disarm();
 /// Whether the fault has struck: not every kind can befall every call.
 bool hasStruck();
 

@@ -1,5 +1,6 @@
-// Lets every system call of open and close fail, one after the other, or be the last of its process. Whatever happens, what stands at the output path is the former file, the template's copy
-// or the new deck, whole; nothing else is left but what a kill leaves, under a name that says what it is.
+// Lets system calls of open and close fail, one after the other, or be the last of their process. Whatever happens,
+// what stands at the output path is the former file, the template's copy or the new deck, whole; nothing else is
+// left but what a kill leaves, under a name that says what it is.
 //
 //     fault_check <faults to inject at least>
 
@@ -11,13 +12,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <optional>
+#include <map>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -44,6 +46,12 @@ constexpr Scenario kScenarios[] = {
     {"a file that exists", true, false, true},
     {"a link to a file", true, true, false},
 };
+
+// What can befall a call; the last one only those that read and write.
+constexpr Fault kKinds[] = {{Kind::Error, ENOSPC}, {Kind::Error, EIO}, {Kind::Error, EINTR},
+                            {Kind::Error, EACCES}, {Kind::Kill},       {Kind::Short}};
+constexpr std::size_t kKindCount = sizeof kKinds / sizeof *kKinds;
+constexpr std::size_t kMostOfOneSite = 36; // a template is read in hundreds of calls, which are all alike
 
 constexpr char kFormer[] = "what stood here before";
 const std::string kPicture(100000, 'p');
@@ -158,12 +166,12 @@ public:
           deck_(std::move(deck)),
           deckWithoutPicture_(std::move(deckWithoutPicture)) {}
 
-    std::string findFault(Outcome outcome) const {
+    /// @param mayLackPicture a picture that can't be read is no error, and the deck is written without it
+    std::string findFault(Outcome outcome, bool mayLackPicture) const {
         if (outcome == Wrong)
             return "a crash, or no identified error";
-        // A picture that can't be read is no error; the deck is written without it.
         const bool isNew = isNewDeck(place_.output, deck_, scenario_.withPicture) ||
-                           isNewDeck(place_.output, deckWithoutPicture_, false);
+                           (mayLackPicture && isNewDeck(place_.output, deckWithoutPicture_, false));
         if (outcome == Written && !isNew)
             return "it is said to be written, and isn't";
         if (!isNew && !isOld())
@@ -203,41 +211,80 @@ struct Counts {
     unsigned outcomes[Killed + 1] = {};
 };
 
-void runScenario(const Place& place, const Scenario& scenario, Counts& counts) {
+// What a file is to the library, so that calls on it are alike.
+std::string nameFile(const Place& place, const std::string& path) {
+    const fs::path file(path);
+    const std::string name = file.filename().string();
+    if (file.parent_path() == place.temporary.getPath())
+        return "a temporary file";
+    if (file.parent_path() == place.decks.getPath())
+        return name.rfind("vellox-", 0) == 0 ? "the new file" : name;
+    return file == place.decks.getPath() || file == place.temporary.getPath() ? "a folder" : "elsewhere";
+}
+
+// Each kind of fault meets each function on each kind of file, and each call meets a fault, up to a number.
+std::vector<Fault> planFaults(const Place& place, const std::vector<Call>& calls) {
+    std::map<std::string, std::vector<unsigned>> sites;
+    for (unsigned i = 0; i < calls.size(); ++i)
+        sites[std::string(calls[i].function) + " of " + nameFile(place, calls[i].path)].push_back(i);
+    std::vector<Fault> faults;
+    for (const auto& site : sites) {
+        const std::string function = site.first.substr(0, site.first.find(' '));
+        const bool canBeShort = function == "read" || function == "write" || function == "writev";
+        const std::size_t kinds = canBeShort ? kKindCount : kKindCount - 1;
+        const std::size_t size = site.second.size();
+        const std::size_t count = std::max(kinds, std::min(size, kMostOfOneSite));
+        for (std::size_t i = 0; i < count; ++i) {
+            faults.push_back(kKinds[i % kinds]);
+            faults.back().call = site.second[count <= size ? i * size / count : i % size];
+        }
+    }
+    std::cout << calls.size() << " calls at " << sites.size() << " sites" << std::endl;
+    return faults;
+}
+
+// Runs until the calls are those of every further run: what is read once in a process has been read.
+std::vector<Call> listCalls(const Place& place, const Scenario& scenario) {
+    for (int run = 0; run < 2; ++run) {
+        place.prepare(scenario);
+        arm({});
+        makeDeck(place, scenario);
+        disarm();
+    }
     place.prepare(scenario);
     arm({});
     makeDeck(place, scenario);
-    const unsigned calls = disarm();
-    std::cout << scenario.name << ": " << calls << " calls" << std::endl;
+    return disarm();
+}
+
+Judge makeJudge(const Place& place, const Scenario& scenario) {
     const Parts deck = readParts(place.output);
     fs::remove(toUtf8(place.picture));
     makeDeck(place, scenario);
-    const Judge judge(place, scenario, deck, readParts(place.output));
     writeFile(place.picture, kPicture);
-    const Fault kinds[] = {{Kind::Error, ENOSPC}, {Kind::Error, EIO}, {Kind::Error, EINTR},
-                           {Kind::Error, EACCES}, {Kind::Short},      {Kind::Kill}};
-    const std::size_t kindCount = sizeof kinds / sizeof *kinds;
-    // One way for each call, and another one in the next scenario: all of them would take minutes.
-    const auto first = static_cast<std::size_t>(&scenario - kScenarios);
-    for (unsigned call = 0; call < calls; call += scenario.throughLink ? 2 : 1) {
-        Fault fault;
-        Outcome outcome = NotStruck;
-        for (std::size_t i = 0; outcome == NotStruck && i < kindCount; ++i) {
-            fault = kinds[(call + first + i) % kindCount];
-            fault.call = call;
-            place.prepare(scenario);
-            outcome = fault.kind == Kind::Kill ? makeDeckAndDie(place, scenario, fault)
-                                               : makeDeckAndFail(place, scenario, fault);
-        }
+    return {place, scenario, deck, readParts(place.output)};
+}
+
+void runScenario(const Place& place, const Scenario& scenario, Counts& counts) {
+    std::cout << scenario.name << ": ";
+    const std::vector<Call> calls = listCalls(place, scenario);
+    const Judge judge = makeJudge(place, scenario);
+    for (const Fault& fault : planFaults(place, calls)) {
+        place.prepare(scenario);
+        const Outcome outcome = fault.kind == Kind::Kill ? makeDeckAndDie(place, scenario, fault)
+                                                         : makeDeckAndFail(place, scenario, fault);
         if (outcome == NotStruck)
             continue;
         ++counts.injected;
         ++counts.outcomes[outcome];
-        const std::string wrong = judge.findFault(outcome);
+        const Call& call = calls[fault.call];
+        const bool isPicture = fault.kind == Kind::Error && nameFile(place, call.path) == "picture.png";
+        const std::string wrong = judge.findFault(outcome, isPicture);
         if (wrong.empty())
             continue;
         ++counts.wrong;
-        std::cout << scenario.name << ", call " << call << ", kind " << static_cast<int>(fault.kind) << " "
+        std::cout << scenario.name << ", call " << fault.call << ", " << call.function << " of " << call.path
+                  << ", kind " << static_cast<int>(fault.kind) << " "
                   << (fault.code ? std::strerror(fault.code) : "") << ": " << wrong << std::endl;
     }
 }
@@ -254,7 +301,7 @@ int main(int argc, char** argv) {
         runScenario(place, scenario, counts);
     std::cout << counts.injected << " faults injected: " << counts.outcomes[Written] << " decks written, "
               << counts.outcomes[Refused] << " identified errors, " << counts.outcomes[Killed]
-              << " processes killed, " << counts.wrong << " faults found\n";
+              << " processes killed, " << counts.wrong << " faults found" << std::endl;
     const unsigned wanted = argc > 1 ? static_cast<unsigned>(std::stoul(argv[1])) : 0;
     return counts.wrong == 0 && counts.injected >= wanted ? 0 : 1;
 }

@@ -10,6 +10,8 @@
 #include <limits>
 #include <locale>
 #include <set>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace vellox;
 
@@ -141,6 +143,27 @@ TEST(ByteArray, CopiesAreIndependentAndReadFromTheStart) {
     EXPECT_EQ(bytes.read(target, 4), 0u);
     EXPECT_FALSE(ByteArray() == ByteArray(std::string()));
     EXPECT_TRUE(ByteArray() == ByteArray());
+}
+
+// One generator serves the process, and a forked one has the same memory.
+TEST(Uuids, AForkedProcessDrawsOthers) {
+    std::set<std::wstring> drawn{uuid_gen()};
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        const std::string id = toUtf8(uuid_gen());
+        _exit(write(ends[1], id.data(), id.size()) == 36 ? 0 : 1);
+    }
+    std::string id(36, '\0');
+    EXPECT_EQ(read(ends[0], id.data(), id.size()), 36);
+    int status = -1;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    close(ends[0]);
+    close(ends[1]);
+    EXPECT_TRUE(drawn.insert(uuid_gen()).second);
+    EXPECT_TRUE(drawn.insert(fromUtf8(id)).second);
 }
 
 } // namespace

@@ -27,6 +27,7 @@ void finish(Presentation& deck, const std::wstring& output) {
     Slide slide = deck.add(L"Title and Content");
     Paragraph paragraph(L"late");
     paragraph.setHAlign(L"center");
+    paragraph.append(ExternalLink(L"http://example.org/[late]", L"link"));
     static_cast<void>(Underline(L"double")); // its spelling is looked up
     TextBox box(L"late");
     box.add(paragraph);

@@ -1,6 +1,6 @@
 #include "vellox/opc/FileSystemPhysicalPackage.h"
 
-#include "vellox/foundation/Conversions.h"
+#include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
@@ -51,18 +51,12 @@ public:
         std::error_code failure;
         fs::create_directories(path_.parent_path(), failure);
         check(failure, path_);
-        const fs::path fresh = path_.string() + "." + vellox::toUtf8(vellox::uuid_gen());
         try {
-            std::ofstream file(fresh, std::ios::binary);
-            copyInBlocks(*openInput(), file);
-            file.close();
-            if (!file)
-                throw Exception("can't write " + path_.generic_string());
-            fs::rename(fresh, path_, failure);
-            check(failure, path_);
-        } catch (const Exception&) {
-            fs::remove(fresh, failure);
-            throw;
+            hostfx::filesystem::FreshFile fresh{hostfx::filesystem::Path(path_)};
+            copyInBlocks(*openInput(), fresh.getStream());
+            fresh.takePlace();
+        } catch (const hostfx::filesystem::FsysExceptionBase& failed) {
+            throw Exception(failed.what());
         }
     }
 

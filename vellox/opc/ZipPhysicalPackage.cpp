@@ -5,6 +5,7 @@
 #include "vellox/opc/Deflater.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
+#include "vellox/opc/ZipHeaders.h"
 #include "vellox/opc/ZipStreamSource.h"
 
 #include <array>
@@ -115,13 +116,14 @@ public:
     const std::string& getEntryName() const { return entryName_; }
     /// The entry in the target as it is in its archive, still compressed.
     zip_source_t* makeSource(zip_t* target) const {
-        return zip_source_zip(target, archive_, static_cast<zip_uint64_t>(index_), ZIP_FL_COMPRESSED, 0, -1);
+        return zip_source_zip(target, archive_, getIndex(), ZIP_FL_COMPRESSED, 0, -1);
     }
+    zip_uint64_t getIndex() const { return static_cast<zip_uint64_t>(index_); }
     /// Whether the archive holds the entry uncompressed.
     bool isStored() const {
         zip_stat_t facts;
-        return zip_stat_index(archive_, static_cast<zip_uint64_t>(index_), 0, &facts) == 0 &&
-               (facts.valid & ZIP_STAT_COMP_METHOD) && facts.comp_method == ZIP_CM_STORE;
+        return zip_stat_index(archive_, getIndex(), 0, &facts) == 0 && (facts.valid & ZIP_STAT_COMP_METHOD) &&
+               facts.comp_method == ZIP_CM_STORE;
     }
 
 protected:
@@ -257,6 +259,7 @@ void ZipPhysicalPackage::saveInPlace() const {
         const fsys::Path place{std::filesystem::path(path_)};
         fsys::FreshFile fresh(place);
         writeArchive(fresh.getStream());
+        copyHeaders(fresh.getStream());
         if (fsys::identify(place) != former_)
             throw Exception("another file has taken its place while it was open");
         fresh.takePlace();
@@ -278,6 +281,25 @@ void ZipPhysicalPackage::writeArchive(std::ostream& stream) const {
     if (zip_close(target.get()) != 0)
         fail(zip_get_error(target.get()));
     static_cast<void>(target.release()); // zip_close has ended it
+}
+
+// Entries that nothing has touched keep their times and flags, too.
+void ZipPhysicalPackage::copyHeaders(std::iostream& target) const {
+    std::vector<const PhysicalPart*> entries; // as writeArchive() has written them
+    if (contentTypes_)
+        entries.push_back(contentTypes_.get());
+    for (const auto& part : parts_)
+        entries.push_back(part.get());
+    std::ifstream file(path_, std::ios::binary);
+    const std::vector<ZipHeader> sources = readZipHeaders(file);
+    const std::vector<ZipHeader> headers = readZipHeaders(target);
+    if (!file || headers.size() != entries.size())
+        throw Exception("its directory can't be read");
+    if (static_cast<zip_int64_t>(sources.size()) != zip_get_num_entries(archive_.get(), 0))
+        return; // libzip has found its own way through a damaged archive
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (entries[i]->getContent() == PhysicalPart::Content::Original)
+            copyZipHeader(target, headers[i], sources[static_cast<const Entry*>(entries[i])->getIndex()]);
 }
 
 zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry,

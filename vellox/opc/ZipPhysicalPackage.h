@@ -52,6 +52,7 @@ private:
     void listEntries();
     void saveInPlace() const;
     void writeArchive(std::ostream& stream) const;
+    void copyHeaders(std::iostream& target) const;
     void writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const;
     zip_source_t* makeSource(zip_t* target, const Entry& entry, const Deflater& deflater) const;
 

@@ -1,5 +1,6 @@
 #include "vellox/opc/ZipStreamSource.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 
@@ -12,6 +13,9 @@ namespace {
 struct StreamSource {
     std::istream* input = nullptr;
     std::ostream* output = nullptr;
+    // Where libzip writes, where the stream stands, and what is written. libzip loses memory when a place can't be
+    // told, so that the stream isn't asked for it, and goes there with the next bytes.
+    zip_uint64_t place = 0, streamPlace = 0, size = 0;
     zip_error_t error{};
 
     ~StreamSource() { zip_error_fini(&error); }
@@ -55,21 +59,21 @@ struct StreamSource {
     }
 
     zip_int64_t seekWrite(void* arguments, zip_uint64_t length) {
-        const auto here = output->tellp();
-        const auto end = output->seekp(0, std::ios::end).tellp();
-        output->seekp(here);
-        const zip_int64_t target = zip_source_seek_compute_offset(
-            static_cast<zip_uint64_t>(here), static_cast<zip_uint64_t>(end), arguments, length, &error);
+        const zip_int64_t target = zip_source_seek_compute_offset(place, size, arguments, length, &error);
         if (target < 0)
             return -1;
-        errno = 0;
-        return output->seekp(target) ? 0 : failToWrite(); // what was buffered is written now
+        place = static_cast<zip_uint64_t>(target);
+        return 0;
     }
 
     zip_int64_t write(const void* bytes, zip_uint64_t count) {
         errno = 0;
+        if (place != streamPlace) // what was buffered is written now
+            output->seekp(static_cast<std::streamoff>(place));
         if (!output->write(static_cast<const char*>(bytes), static_cast<std::streamsize>(count)))
             return failToWrite();
+        streamPlace = place += count;
+        size = std::max(size, place);
         return static_cast<zip_int64_t>(count);
     }
 
@@ -102,7 +106,7 @@ struct StreamSource {
         case ZIP_SOURCE_SEEK_WRITE:
             return seekWrite(data, length);
         case ZIP_SOURCE_TELL_WRITE:
-            return output->tellp();
+            return static_cast<zip_int64_t>(place);
         case ZIP_SOURCE_COMMIT_WRITE:
             errno = 0;
             return output->flush() ? 0 : failToWrite();

@@ -26,7 +26,7 @@ constexpr mode_t kRights = 0777; // the bits that a deck may take over: no set-u
 int create(const Path& path, mode_t mode) {
     int descriptor;
     do
-        descriptor = ::open(path.native().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        descriptor = ::open(path.native().c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     while (descriptor < 0 && errno == EINTR);
     if (descriptor < 0)
         failFor(path, errno);
@@ -74,7 +74,7 @@ FreshFile::FreshFile(const Path& place)
     : place_(followLinks(place)),
       path_(makeName(place_)),
       descriptor_((checkReplaceable(place_), createFor(place_, path_))),
-      buffer_(descriptor_, std::ios::out | std::ios::binary, kBlock),
+      buffer_(descriptor_, std::ios::in | std::ios::out | std::ios::binary, kBlock),
       stream_(&buffer_) {
     struct stat former {};
     if (::stat(place_.native().c_str(), &former) == 0)

@@ -7,7 +7,7 @@
 #include <ext/stdio_filebuf.h>
 #include <sys/stat.h>
 
-#include <ostream>
+#include <istream>
 
 #include "vellox/host/services/FileSystem.h"
 
@@ -32,8 +32,8 @@ public:
     /// Removes the file if it hasn't taken its place.
     ~FreshFile();
 
-    /// The file, empty at first. A failure is in the state of the stream, and in errno.
-    std::ostream& getStream() { return stream_; }
+    /// The file, empty at first, to be written and read. A failure is in the state of the stream, and in errno.
+    std::iostream& getStream() { return stream_; }
     /// Appends all that another file holds.
     /// @throws FsysExceptionBase with the file that failed
     void append(const Path& source);
@@ -50,7 +50,7 @@ private:
     Path place_, path_;
     int descriptor_;
     __gnu_cxx::stdio_filebuf<char> buffer_;
-    std::ostream stream_;
+    std::iostream stream_;
     bool isPlaced_ = false;
 };
 

@@ -39,12 +39,20 @@ std::wstring describe(const std::exception& failure, const std::wstring& file) {
     return isTold ? reason : reason + L" " + file;
 }
 
+// The same about the working copy of a template. What strikes the copy is no fault of the template's.
+std::wstring describeCopy(const std::exception& failure, const std::wstring& templateFile) {
+    const std::wstring reason = fromUtf8(failure.what());
+    const bool isTemplate = boost::algorithm::ends_with(reason, L" " + templateFile);
+    return isTemplate ? reason : templateFile + L" can't be copied to the temporary folder: " + reason;
+}
+
 // Takes a step. A failure of one kind is told under an identifier of ours, with the reason and the file.
-template <class Failure, class Id, class Step> void translate(const std::wstring& file, Step step) {
+template <class Failure, class Id, class Step>
+void translate(const std::wstring& file, Step step, decltype(&describe) words = describe) {
     try {
         step();
     } catch (const Failure& failure) {
-        raise(Id(describe(failure, file)));
+        raise(Id(words(failure, file)));
     }
 }
 
@@ -124,12 +132,13 @@ void PresentationImpl::rejectTemplate() {
 void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
     // Known before it is made: whatever comes of it is removed.
     tempTemplatePath_ = FileUtils::getTempName() + L"." + FileUtils::getFileNameExtension(templateFile);
-    translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(templateFile, [&] {
+    const auto make = [&] {
         outputFile_ = boost::make_shared<OutputFile>(templateFile);
         const fsys::Path copy(tempTemplatePath_);
         fsys::copyFile(fsys::Path(templateFile), copy);
         fsys::addOwnerWrite(copy);
-    });
+    };
+    translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(templateFile, make, describeCopy);
 }
 
 void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
