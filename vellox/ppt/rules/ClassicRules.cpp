@@ -1,5 +1,6 @@
 #include "vellox/ppt/rules/ClassicRules.h"
 
+#include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/package/PackageNames.h"
 
 #include <algorithm>
@@ -54,9 +55,7 @@ NodeType classifyPlaceholder(const std::wstring& placeholderType) {
 }
 
 bool isPlaceholder(NodeType type) {
-    return type == NodeType::BodyPlaceholder || type == NodeType::ContentPlaceholder ||
-           type == NodeType::PicturePlaceholder || type == NodeType::TablePlaceholder ||
-           type == NodeType::TextBoxPlaceholder;
+    return isKindOf(type, NodeType::TextBoxPlaceholder);
 }
 
 bool isWhole(const PlaceText* place) {
