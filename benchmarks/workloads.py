@@ -75,6 +75,19 @@ class Bench:
               f"{seconds / least:8.1f}{peak / 1024:8.0f} MB{from_python}", flush=True)
         return seconds, peak
 
+    def openings(self):
+        """What reading a template costs: by its slides, and by what its master holds."""
+        template = self.path("template.pptx")
+        print()
+        for title, kind, count in [("200 slides opened as a template", "text", 200),
+                                   ("2,000 slides opened as a template", "text", 2000),
+                                   ("A master of 400 shapes opened", "master", 400),
+                                   ("A master of 4,000 shapes opened", "master", 4000)]:
+            make_deck = self.deck(kind, count)[:3]
+            run([*make_deck, template])
+            (seconds, peak), = self.measure([[make_deck[0], "open", template, self.path("opened.pptx")]])
+            print(f"{title:52}{1000 * seconds:9.1f} ms{peak / 1024:29.0f} MB", flush=True)
+
 
 def main():
     arguments = argparse.ArgumentParser(usage=__doc__)
@@ -91,6 +104,7 @@ def main():
                    for title, kind, count, decks, with_python in WORKLOADS}
         more = results["text", 5000][1] - results["text", 1000][1]
         print(f"\nMemory for each further slide of text: {more / 4000:.1f} kB")
+        bench.openings()
         if options.no_growth:
             return
         (seconds, _), = bench.measure([bench.deck("text", 10000)])
