@@ -85,8 +85,8 @@ public:
     Caller(const Caller&) = delete;
     Caller& operator=(const Caller&) = delete;
     ~Caller() {
-        end_ = next_; // listeners go on hearing, and act no more
-        messages_.clear();
+        end_ = next_;                                    // listeners go on hearing, and act no more
+        const auto ended = std::exchange(messages_, {}); // listeners hear of what ends with them, and act
         nodes_.clear();
         for (const auto token : tokens_)
             dispatcher_.removeListener(token);
@@ -463,7 +463,7 @@ private:
     void send() {
         if (const Node node = drawNode())
             dispatcher_.dispatch(WarningMessage(drawText(), *node));
-        messages_.clear();
+        const auto ended = std::exchange(messages_, {}); // listeners hear of what ends with them, and act
     }
 
     void hear(const MessageEventData& event) {
