@@ -27,6 +27,13 @@ Slide addTextSlide(Presentation& deck, unsigned number) {
     return slide;
 }
 
+void fillSmallDeck(Presentation deck, const std::wstring& image) {
+    for (unsigned i = 0; i < 4; ++i)
+        addTextSlide(deck, i);
+    addTextSlide(deck, 4).add(Picture(image));
+    deck.close();
+}
+
 TableEntry makeCell(unsigned number, bool isHeader) {
     Text run(say(L"cell ", number));
     run.setFontSize(L"10pt");
@@ -118,11 +125,13 @@ void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
 }
 
 void makeSmallDeck(const std::wstring& output, const std::wstring& image) {
-    Presentation deck(output);
-    for (unsigned i = 0; i < 4; ++i)
-        addTextSlide(deck, i);
-    addTextSlide(deck, 4).add(Picture(image));
-    deck.close();
+    fillSmallDeck(Presentation(output), image);
+}
+
+void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks) {
+    const Template source;
+    for (unsigned i = 0; i < decks; ++i)
+        fillSmallDeck(Presentation(output, source), image);
 }
 
 void writePng(const std::wstring& path, unsigned bytes, unsigned seed) {

@@ -17,8 +17,11 @@ void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPe
 void makeTableDeck(const std::wstring& output, unsigned slides);
 /// A picture on each slide: one image after the other, and again from the first.
 void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images);
-/// Five slides as makeTextDeck() makes them, and a picture on the last.
+/// @{ Five slides as makeTextDeck() makes them, and a picture on the last: on the path of the template, which is read
+/// for the deck, and a number of such decks on a template that is read once, each over the last.
 void makeSmallDeck(const std::wstring& output, const std::wstring& image);
+void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks);
+/// @}
 
 /// Opens a deck as template, as a presentation does that adds nothing.
 void openDeck(const std::wstring& output, const std::wstring& templatePath);

@@ -3,6 +3,7 @@
 //     make_deck text|styled|table <slides> <output.pptx>
 //     make_deck picture <slides> <output.pptx> <folder>    a different picture on each slide
 //     make_deck small <decks> <output.pptx> <folder>       one deck after the other, over the last
+//     make_deck small-path <decks> <output.pptx> <folder>  the same, reading the template for each
 //     make_deck images <count> <folder>                    the pictures for these
 //     make_deck master <shapes> <output.pptx>              the default template with shapes on its master
 //     make_deck open <template.pptx> <output.pptx>
@@ -40,6 +41,8 @@ bool run(const std::string& kind, unsigned count, const std::wstring& output, co
     else if (kind == "master")
         writeHeavyMaster(output, count);
     else if (kind == "small")
+        makeSmallDecks(output, nameImage(folder, 0), count);
+    else if (kind == "small-path")
         for (unsigned i = 0; i < count; ++i)
             makeSmallDeck(output, nameImage(folder, 0));
     else if (kind == "images")
@@ -60,7 +63,8 @@ int main(int argc, char** argv) {
     if (argc < 4 || !run(argv[1], static_cast<unsigned>(std::stoul(argv[2])), vellox::fromUtf8(argv[3]),
                          vellox::fromUtf8(argc > 4 ? argv[4] : ""))) {
         std::cerr
-            << "usage: make_deck text|styled|table|picture|small|images|master <count> <output> [<folder>]\n"
+            << "usage: make_deck text|styled|table|picture|small|small-path|images|master <count> <output> "
+               "[<folder>]\n"
                "       make_deck open <template> <output>\n";
         return 2;
     }

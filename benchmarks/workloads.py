@@ -22,6 +22,7 @@ WORKLOADS = [
     ("W3  200 slides, each with a picture of 300 kB", "picture", 200, 1, False),
     ("W4  one deck of five slides", "text", 5, 1, False),
     ("W5  such a deck with a picture, of 50 in a process", "small", 50, 50, True),
+    ("W5  the same, reading the template for each", "small-path", 50, 50, True),
 ]
 
 

@@ -30,6 +30,7 @@
 #include "vellox/host/values/HvContent.h"
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/formats/Alignment.h"
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/formats/CharacterFormats.h"

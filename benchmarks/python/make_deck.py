@@ -1,4 +1,8 @@
-"""Decks of make_deck, from Python:  make_deck.py text <slides> <output.pptx> | small <decks> <output.pptx> <folder>"""
+"""Decks of make_deck, from Python:
+
+    make_deck.py text <slides> <output.pptx>
+    make_deck.py small|small-path <decks> <output.pptx> <folder>
+"""
 import sys
 
 import vellox.ppt as ppt
@@ -18,8 +22,8 @@ def make_text_deck(output, slides):
             add_text_slide(deck, i)
 
 
-def make_small_deck(output, image):
-    with ppt.Presentation(output) as deck:
+def make_small_deck(output, image, *template):
+    with ppt.Presentation(output, *template) as deck:
         for i in range(4):
             add_text_slide(deck, i)
         add_text_slide(deck, 4).add(ppt.Picture(image))
@@ -30,8 +34,9 @@ def main():
     if kind == "text":
         make_text_deck(output, count)
     else:
+        template = [ppt.Template()] if kind == "small" else []
         for _ in range(count):
-            make_small_deck(output, sys.argv[4] + "/0.png")
+            make_small_deck(output, sys.argv[4] + "/0.png", *template)
 
 
 if __name__ == "__main__":

@@ -48,3 +48,20 @@ def test_tables_of_numpy_and_pandas(tmp_path):
     assert [[float(text) for text in row] for row in first] == numbers.tolist()
     assert second[0] == ["run", "flow", "count"] and second[1] == ["a", "1.25", "3"]
     assert second[2][0] == "b" and float(second[2][2]) == 2**40
+
+
+def test_decks_of_a_template_that_is_read_once(tmp_path):
+    path = tmp_path / "corporate.potx"
+    with ppt.Presentation(path) as deck:
+        deck.add("Blank")
+    corporate = ppt.Template(path)
+    assert corporate.Path == str(path)
+    path.unlink()
+    made = []
+    for compression in "normal", "normal", "small":
+        with ppt.Presentation(tmp_path / "deck.pptx", corporate) as deck:
+            deck.Compression = compression
+            deck.add("Title and Content").replace("Title", compression)
+        made.append((tmp_path / "deck.pptx").read_bytes())
+    assert made[0] == made[1] != made[2]
+    assert len(made[2]) < len(made[0])

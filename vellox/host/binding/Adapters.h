@@ -18,6 +18,7 @@
 #include "vellox/foundation/Dimension.h"
 #include "vellox/host/binding/BoundClass.h"
 #include "vellox/host/values/HvContent.h"
+#include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/tree/ExternalLink.h"
@@ -34,6 +35,7 @@ using Wide = const std::wstring&;
 template <class C> inline constexpr const char* kBoundName = nullptr;
 template <> inline constexpr const char* kBoundName<PPTObject> = "Object";
 template <> inline constexpr const char* kBoundName<PPTNode> = "Node";
+template <> inline constexpr const char* kBoundName<Template> = "Template";
 template <> inline constexpr const char* kBoundName<Slide> = "Slide";
 template <> inline constexpr const char* kBoundName<TextBox> = "TextBox";
 template <> inline constexpr const char* kBoundName<Picture> = "Picture";

@@ -65,12 +65,21 @@ BoundMethod describeAddParagraph(BoundMethod row) {
     return row;
 }
 
+BoundClass describeTemplate() {
+    BoundClass bound =
+        describe<Template>("Template", "Object", "A template that was read once, for many presentations.");
+    bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"})};
+    bound.properties = {readOnlyProperty<Template, &Template::getPath>("Path", "The file that was read.")};
+    return bound;
+}
+
 BoundClass describePresentation() {
     using Deck = Presentation;
     BoundClass bound =
         describe<Deck>("Presentation", "Node", "A presentation, from its template to its file.");
     bound.constructors = {make<Deck>(), make<Deck, std::wstring>({"outputPath"}),
-                          make<Deck, std::wstring, std::wstring>({"outputPath", "templatePath"})};
+                          make<Deck, std::wstring, std::wstring>({"outputPath", "templatePath"}),
+                          make<Deck, std::wstring, Template>({"outputPath", "template"})};
     bound.copy = nullptr; // it would write the same file
     bound.isUnfinished = isUnfinished;
     bound.properties = {
@@ -78,6 +87,8 @@ BoundClass describePresentation() {
             "TemplatePath", "The template; can't be changed once the presentation is open."),
         property<Deck, &Deck::getOutputPath, &Deck::setOutputPath>(
             "OutputPath", "The file to be made; can't be changed once the presentation is open."),
+        property<Deck, &Deck::getCompression, &Deck::setCompression>(
+            "Compression", "How small the file is made: \"fast\", \"normal\" or \"small\"."),
     };
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},
@@ -137,7 +148,7 @@ BoundClass describeSlide() {
 } // namespace
 
 std::vector<BoundClass> describeSlides() {
-    return {describePresentation(), describeSlide()};
+    return {describeTemplate(), describePresentation(), describeSlide()};
 }
 
 } // namespace vellox::ppt::hostbind

@@ -143,6 +143,20 @@ bool haveSameBytes(const Path& a, const Path& b) {
     return first.eof() && second.eof() && !first.bad() && !second.bad();
 }
 
+bool holds(const Path& path, const std::string& bytes) {
+    std::ifstream file(path.native(), std::ios::binary);
+    std::array<char, 16384> block;
+    std::size_t position = 0;
+    while (file) {
+        file.read(block.data(), block.size());
+        const auto count = static_cast<std::size_t>(file.gcount());
+        if (bytes.compare(position, count, block.data(), count) != 0)
+            return false;
+        position += count;
+    }
+    return file.eof() && !file.bad() && position == bytes.size();
+}
+
 void createDirectory(const Path& path) {
     std::error_code failure;
     fs::create_directory(path.native(), failure);

@@ -89,6 +89,8 @@ struct FileIdentity {
 FileIdentity identify(const Path& path);
 /// Whether two files can be read and hold the same bytes.
 bool haveSameBytes(const Path& a, const Path& b);
+/// Whether a file can be read and holds these bytes.
+bool holds(const Path& path, const std::string& bytes);
 /// Makes one folder; its parent must exist.
 void createDirectory(const Path& path);
 /// Removes a file, or a folder with all that it holds.

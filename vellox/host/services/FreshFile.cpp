@@ -58,6 +58,26 @@ Path makeName(const Path& place) {
     return Path(place.native().parent_path() / ("vellox-" + vellox::host::makeRandomName() + ".tmp"));
 }
 
+// Gives all that a file holds to a taker, block by block.
+template <class Take> void readBlocks(const Path& source, Take take) {
+    struct stat facts {};
+    if (!isThere(source, facts))
+        failFor(source, ENOENT);
+    requireRegular(source, facts); // a pipe might never answer
+    errno = 0;
+    std::ifstream from(source.native(), std::ios::binary);
+    if (!from)
+        failFor(source, errno);
+    std::array<char, kBlock> block;
+    do {
+        errno = 0;
+        from.read(block.data(), block.size());
+        if (from.bad())
+            failFor(source, errno);
+        take(block.data(), from.gcount());
+    } while (from);
+}
+
 } // namespace
 
 void checkReplaceable(const Path& place) {
@@ -100,23 +120,16 @@ void FreshFile::fail() const {
 }
 
 void FreshFile::append(const Path& source) {
-    struct stat facts {};
-    if (!isThere(source, facts))
-        failFor(source, ENOENT);
-    requireRegular(source, facts); // a pipe might never answer
-    errno = 0;
-    std::ifstream from(source.native(), std::ios::binary);
-    if (!from)
-        failFor(source, errno);
-    std::array<char, kBlock> block;
-    do {
-        errno = 0;
-        from.read(block.data(), block.size());
-        if (from.bad())
-            failFor(source, errno);
-        if (!stream_.write(block.data(), from.gcount()))
+    readBlocks(source, [&](const char* block, std::streamsize count) {
+        if (!stream_.write(block, count))
             fail();
-    } while (from);
+    });
+}
+
+void FreshFile::append(const std::string& bytes) {
+    errno = 0;
+    if (!stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
+        fail();
 }
 
 void FreshFile::takeModeOf(const Path& source) {
@@ -154,6 +167,20 @@ FileIdentity replaceFile(const Path& source, const Path& target) {
     FreshFile fresh(target);
     fresh.append(source);
     return fresh.takePlace();
+}
+
+FileIdentity replaceFile(const std::string& bytes, const Path& target) {
+    FreshFile fresh(target);
+    fresh.append(bytes);
+    return fresh.takePlace();
+}
+
+std::string readFile(const Path& source) {
+    std::string bytes;
+    readBlocks(source, [&](const char* block, std::streamsize count) {
+        bytes.append(block, static_cast<std::size_t>(count));
+    });
+    return bytes;
 }
 
 } // namespace hostfx::filesystem

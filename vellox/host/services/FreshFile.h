@@ -37,6 +37,8 @@ public:
     /// Appends all that another file holds.
     /// @throws FsysExceptionBase with the file that failed
     void append(const Path& source);
+    /// @throws FsysExceptionBase
+    void append(const std::string& bytes);
     /// Takes over who may do what with another file.
     void takeModeOf(const Path& source);
     /// @return the identity that the place has from now on
@@ -61,6 +63,13 @@ void copyFile(const Path& source, const Path& target);
 /// @return the identity that the place has from now on
 /// @throws FsysExceptionBase with the file that failed
 FileIdentity replaceFile(const Path& source, const Path& target);
+/// Puts bytes to a place, which keeps its own mode.
+/// @return the identity that the place has from now on
+/// @throws FsysExceptionBase
+FileIdentity replaceFile(const std::string& bytes, const Path& target);
+/// All that a file holds.
+/// @throws FsysExceptionBase with the file, if it can't be read or is no regular file
+std::string readFile(const Path& source);
 
 /// Checks that a new file may take this place: nothing stands there, or a regular file that may be written.
 /// @throws FsysExceptionBase

@@ -9,19 +9,23 @@ namespace vellox::ppt {
 
 namespace fsys = hostfx::filesystem;
 
-OutputFile::OutputFile(const std::wstring& templatePath)
+OutputFile::OutputFile(const std::wstring& templatePath, const std::wstring& workingCopy)
     : templatePath_(fsys::makeAbsolute(fsys::Path(templatePath))),
+      workingCopy_(workingCopy),
       template_(fsys::identify(templatePath_)) {}
 
-void OutputFile::put(const std::wstring& workingCopy, const std::wstring& outputPath) {
+void OutputFile::put(const std::wstring& outputPath) {
     path_ = fsys::makeAbsolute(fsys::Path(outputPath));
-    file_ = fsys::replaceFile(fsys::Path(workingCopy), path_);
+    file_ = bytes_ ? fsys::replaceFile(*bytes_, path_) : fsys::replaceFile(workingCopy_, path_);
 }
 
 // The bytes are those of the template, which needn't be kept for that: one that has changed since is no proof.
 bool OutputFile::isSame() const {
-    return fsys::identify(path_) == file_ ||
-           (fsys::identify(templatePath_) == template_ && fsys::haveSameBytes(path_, templatePath_));
+    if (fsys::identify(path_) == file_)
+        return true;
+    if (bytes_)
+        return fsys::holds(path_, *bytes_);
+    return fsys::identify(templatePath_) == template_ && fsys::haveSameBytes(path_, templatePath_);
 }
 
 void OutputFile::check() const {

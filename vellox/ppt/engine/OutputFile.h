@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_ENGINE_OUTPUTFILE_H
 #define VELLOX_PPT_ENGINE_OUTPUTFILE_H
 
+#include <boost/shared_ptr.hpp>
 #include <string>
 
 #include "vellox/host/services/FileSystem.h"
@@ -15,12 +16,14 @@ namespace vellox::ppt {
 /// output. Slides that are written into that would be lost, or would meet layouts that aren't theirs.
 class OutputFile {
 public:
-    /// Takes note of the template, before anything is read from it.
-    explicit OutputFile(const std::wstring& templatePath);
+    /// Takes note of the template, before anything is read from it or copied.
+    OutputFile(const std::wstring& templatePath, const std::wstring& workingCopy);
+    /// From a template in memory.
+    explicit OutputFile(boost::shared_ptr<const std::string> bytes) : bytes_(std::move(bytes)) {}
 
-    /// Puts the working copy of the template to the output path.
+    /// Puts the template to the output path.
     /// @throws hostfx::filesystem::FsysExceptionBase
-    void put(const std::wstring& workingCopy, const std::wstring& outputPath);
+    void put(const std::wstring& outputPath);
     /// Where the file stands, whatever the current folder has become.
     std::wstring getPath() const { return path_.toGeneric(); }
     /// Checks that the file is the one that was put there, or one of the same bytes, and may be written.
@@ -30,8 +33,11 @@ public:
 private:
     bool isSame() const;
 
-    hostfx::filesystem::Path templatePath_, path_;
-    hostfx::filesystem::FileIdentity template_, file_;
+    boost::shared_ptr<const std::string> bytes_; // or where they are:
+    hostfx::filesystem::Path templatePath_, workingCopy_;
+    hostfx::filesystem::FileIdentity template_;
+    hostfx::filesystem::Path path_;
+    hostfx::filesystem::FileIdentity file_;
 };
 
 } // namespace vellox::ppt

@@ -5,13 +5,17 @@
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/PresentationPaths.h"
+#include "vellox/ppt/engine/TemplateImpl.h"
 #include "vellox/ppt/engine/TemplateParser.h"
+#include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/rules/ClassicRules.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
+#include <algorithm>
+#include <array>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
@@ -41,10 +45,21 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
     announceCreated(*this);
 }
 
+PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrusive_ptr<TemplateImpl> source)
+    : template_(std::move(source)),
+      rules_(template_->getRules()),
+      report_(boost::make_shared<Report>()) {
+    setOutputPath(outputPath);
+    report_->templatePath = template_->getPath();
+    announceCreated(*this);
+}
+
 PresentationImpl::PresentationImpl(const PresentationImpl& other)
     : NodeOf(other),
+      template_(other.template_),
       rules_(other.rules_),
       state_(other.state_),
+      compression_(other.compression_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
 }
@@ -91,6 +106,8 @@ void PresentationImpl::setOutputPath(const std::wstring& path) {
 
 void PresentationImpl::setTemplatePath(const std::wstring& path) {
     setPath<ppt_warning::cannotChangeTemplatePath>(&Report::templatePath, path);
+    if (!isOpenOrClosed())
+        template_.reset();
 }
 
 // PresentationImpl: slides
@@ -177,6 +194,8 @@ Presentation::Presentation() : Presentation(new PresentationImpl) {}
 Presentation::Presentation(const std::wstring& outputPath) : Presentation(new PresentationImpl(outputPath)) {}
 Presentation::Presentation(const std::wstring& outputPath, const std::wstring& templatePath)
     : Presentation(new PresentationImpl(outputPath, templatePath)) {}
+Presentation::Presentation(const std::wstring& outputPath, const Template& source)
+    : Presentation(new PresentationImpl(outputPath, heldImplOf<TemplateImpl>(source))) {}
 Presentation::Presentation(PresentationImpl* impl) : PPTNode(impl) {}
 
 PresentationImpl* Presentation::pimpl() {
@@ -288,6 +307,30 @@ void Presentation::setOutputPath(const std::wstring& path) {
 
 void Presentation::setTemplatePath(const std::wstring& path) {
     pimpl()->setTemplatePath(path);
+}
+
+namespace {
+
+// In the order of opc::Compression.
+constexpr std::array<const wchar_t*, 3> kCompressions{L"fast", L"normal", L"small"};
+
+const SpellingTable& getCompressionWords() {
+    static const auto& words = *new const SpellingTable{{kCompressions[0], kCompressions[0], u""},
+                                                        {kCompressions[1], kCompressions[1], u""},
+                                                        {kCompressions[2], kCompressions[2], u""}};
+    return words;
+}
+
+} // namespace
+
+const std::wstring Presentation::getCompression() const {
+    return kCompressions[static_cast<std::size_t>(pimpl()->getCompression())];
+}
+
+void Presentation::setCompression(const std::wstring& compression) {
+    const std::wstring& word = getCompressionWords().require(compression).label;
+    const auto found = std::find(kCompressions.begin(), kCompressions.end(), word);
+    pimpl()->setCompression(static_cast<opc::Compression>(found - kCompressions.begin()));
 }
 
 } // namespace vellox::ppt

@@ -4,9 +4,11 @@
 #ifndef VELLOX_PPT_ENGINE_PRESENTATIONIMPL_H
 #define VELLOX_PPT_ENGINE_PRESENTATIONIMPL_H
 
+#include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
 
+#include "vellox/opc/Compression.h"
 #include "vellox/ppt/engine/Presentation.h"
 #include "vellox/ppt/messages/FindingList.h"
 #include "vellox/ppt/object/NodeOf.h"
@@ -18,6 +20,7 @@ class OutputFile;
 class PartDOMBuilder;
 class PresentationModel;
 class Rules;
+class TemplateImpl;
 struct TemplateSlide;
 
 /// The life of a presentation:
@@ -51,6 +54,7 @@ public:
     PresentationImpl();
     explicit PresentationImpl(const std::wstring& outputPath);
     PresentationImpl(const std::wstring& outputPath, const std::wstring& templatePath);
+    PresentationImpl(const std::wstring& outputPath, boost::intrusive_ptr<TemplateImpl> source);
     /// Copies state, paths and slides, and nothing of the template.
     PresentationImpl(const PresentationImpl& other);
     ~PresentationImpl() override;
@@ -76,6 +80,8 @@ public:
     const Report& getReport() const { return *report_; }
     void setOutputPath(const std::wstring& path);
     void setTemplatePath(const std::wstring& path);
+    opc::Compression getCompression() const { return compression_; }
+    void setCompression(opc::Compression compression) { compression_ = compression; }
     const Presentation::Names& getMasterNames();
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
@@ -92,6 +98,8 @@ private:
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
+    void takeTemplate();
+    void takeModel(const boost::shared_ptr<PresentationModel>& model);
     void takeSlide(const boost::shared_ptr<TemplateSlide>& slide);
     [[noreturn]] void rejectTemplate();
     void makeWorkingCopy(const std::wstring& templateFile);
@@ -99,8 +107,10 @@ private:
     void removeWorkingCopy();
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
+    boost::intrusive_ptr<TemplateImpl> template_; // empty where the template is a path
     boost::shared_ptr<const Rules> rules_;
     PresentationState state_ = PresentationState::Created;
+    opc::Compression compression_ = opc::Compression::Normal;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;
     std::wstring tempTemplatePath_;            // empty when there is no working copy

@@ -8,10 +8,12 @@
 #include "vellox/host/services/FreshFile.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
+#include "vellox/ppt/engine/Failures.h"
 #include "vellox/ppt/engine/OutputFile.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/PresentationPaths.h"
+#include "vellox/ppt/engine/TemplateImpl.h"
 #include "vellox/ppt/engine/TemplateParser.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
@@ -32,28 +34,11 @@ namespace {
 
 constexpr wchar_t kDefaultOutput[] = L"untitled";
 
-// What the layer below has to say, and the file, if there is one that isn't told already.
-std::wstring describe(const std::exception& failure, const std::wstring& file) {
-    const std::wstring reason = fromUtf8(failure.what());
-    const bool isTold = file.empty() || boost::algorithm::ends_with(reason, L" " + file);
-    return isTold ? reason : reason + L" " + file;
-}
-
-// The same about the working copy of a template. What strikes the copy is no fault of the template's.
+// What strikes the working copy of a template is no fault of the template's.
 std::wstring describeCopy(const std::exception& failure, const std::wstring& templateFile) {
     const std::wstring reason = fromUtf8(failure.what());
     const bool isTemplate = boost::algorithm::ends_with(reason, L" " + templateFile);
     return isTemplate ? reason : templateFile + L" can't be copied to the temporary folder: " + reason;
-}
-
-// Takes a step. A failure of one kind is told under an identifier of ours, with the reason and the file.
-template <class Failure, class Id, class Step>
-void translate(const std::wstring& file, Step step, decltype(&describe) words = describe) {
-    try {
-        step();
-    } catch (const Failure& failure) {
-        raise(Id(words(failure, file)));
-    }
 }
 
 /// Listeners run while a presentation is opened and closed. They can neither enter that again nor end the
@@ -82,8 +67,12 @@ bool PresentationImpl::open() {
     FileUtils::refuseFileName(rules_->judgeFileName(wanted), wanted);
     const std::wstring templateFile = ensureExtension(report_->templatePath);
     const std::wstring outputFile = ensureExtension(wanted);
-    translate<Exception, ppt_error::cannotOpenTemplate>({}, [&] { parseTemplate(templateFile); });
-    setTemplatePath(templateFile);
+    if (template_) {
+        takeTemplate();
+    } else {
+        translate<Exception, ppt_error::cannotOpenTemplate>({}, [&] { parseTemplate(templateFile); });
+        setTemplatePath(templateFile);
+    }
     setOutputPath(outputFile);
     copyToOutput(outputFile);
     return true;
@@ -108,11 +97,21 @@ void PresentationImpl::readTemplate(const std::wstring& templateFile) {
     const boost::shared_ptr<PresentationModel> model = TemplateParser(*partBuilder_, rules_).parse();
     if (!model)
         rejectTemplate();
+    takeModel(model);
+    package.close();
+}
+
+// What was read for all decks is this one's from now on, whatever listeners make of the paths.
+void PresentationImpl::takeTemplate() {
+    outputFile_ = boost::make_shared<OutputFile>(template_->getBytes());
+    takeModel(template_->makeModel());
+}
+
+void PresentationImpl::takeModel(const boost::shared_ptr<PresentationModel>& model) {
     state_ = PresentationState::Parsed;
     for (const auto& slide : model->getSlides())
         takeSlide(slide);
     model_ = model;
-    package.close();
 }
 
 // Listeners hear of a slide ahead of its shapes. Slides that stand there already stay when one is rejected.
@@ -133,7 +132,7 @@ void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
     // Known before it is made: whatever comes of it is removed.
     tempTemplatePath_ = FileUtils::getTempName() + L"." + FileUtils::getFileNameExtension(templateFile);
     const auto make = [&] {
-        outputFile_ = boost::make_shared<OutputFile>(templateFile);
+        outputFile_ = boost::make_shared<OutputFile>(templateFile, tempTemplatePath_);
         const fsys::Path copy(tempTemplatePath_);
         fsys::copyFile(fsys::Path(templateFile), copy);
         fsys::addOwnerWrite(copy);
@@ -143,7 +142,7 @@ void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
 
 void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
     try {
-        outputFile_->put(tempTemplatePath_, report_->outputPath);
+        outputFile_->put(report_->outputPath);
         state_ = PresentationState::Open;
         removeWorkingCopy();
     } catch (const std::exception& failure) {
@@ -168,6 +167,7 @@ bool PresentationImpl::close() {
     const Busy busy(this, isBusy_);
     const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
     const auto package = boost::make_shared<OPCPackage>(path);
+    package->setCompression(compression_);
     package->openReadWrite(false);
     if (outputFile_)
         outputFile_->check();

@@ -7,7 +7,7 @@
 
 namespace vellox::ppt {
 
-PresentationModel::PresentationModel(boost::shared_ptr<const Template> source,
+PresentationModel::PresentationModel(boost::shared_ptr<const ReadTemplate> source,
                                      boost::shared_ptr<const Rules> rules)
     : template_(std::move(source)),
       rules_(std::move(rules)) {

@@ -23,12 +23,12 @@ public:
     using NamePairs = std::vector<std::pair<std::wstring, std::wstring>>;
 
     /// @param rules those by which the template was read
-    PresentationModel(boost::shared_ptr<const Template> source, boost::shared_ptr<const Rules> rules);
+    PresentationModel(boost::shared_ptr<const ReadTemplate> source, boost::shared_ptr<const Rules> rules);
     PresentationModel(const PresentationModel&) = delete;
     PresentationModel& operator=(const PresentationModel&) = delete;
     ~PresentationModel();
 
-    const Template& getTemplate() const { return *template_; }
+    const ReadTemplate& getTemplate() const { return *template_; }
     const Rules& getRules() const { return *rules_; }
     /// The deck's own records of the template's slides.
     const Slides& getSlides() const { return slides_; }
@@ -51,7 +51,7 @@ public:
     const std::wstring* findTableStyleId(const std::wstring& styleName) const;
 
 private:
-    boost::shared_ptr<const Template> template_;
+    boost::shared_ptr<const ReadTemplate> template_;
     boost::shared_ptr<const Rules> rules_;
     Slides slides_;
 };

@@ -59,6 +59,14 @@ void OPCPackage::openRead(bool allowFolder) {
     });
 }
 
+void OPCPackage::openRead(boost::shared_ptr<std::istream> content) {
+    openGuarded(opc::OpenMode::Read, [&] {
+        inputFile_ = std::move(content);
+        inputAdaptor_ = boost::make_shared<opc::StdIStreamAdaptor>(inputFile_);
+        physicalPackage_ = boost::make_shared<opc::ZipPhysicalPackage>(inputAdaptor_);
+    });
+}
+
 void OPCPackage::openWrite(bool asFolder) {
     openGuarded(opc::OpenMode::Write, [&] {
         if (asFolder) {

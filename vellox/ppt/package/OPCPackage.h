@@ -28,6 +28,8 @@ public:
     void setCompression(opc::Compression compression) { compression_ = compression; }
     /// @{ @throws cannotOpenFile with what is wrong and the path
     void openRead(bool allowFolder);
+    /// From a stream with what stands at the path, or stood there.
+    void openRead(boost::shared_ptr<std::istream> content);
     void openWrite(bool asFolder);
     void openReadWrite(bool allowFolder);
     /// @}

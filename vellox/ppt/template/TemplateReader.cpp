@@ -28,7 +28,7 @@ std::wstring nextShapeUid() {
 TemplateReader::TemplateReader(PartDOMBuilder& builder, const Rules& rules)
     : builder_(builder),
       rules_(rules),
-      template_(boost::make_shared<Template>()) {}
+      template_(boost::make_shared<ReadTemplate>()) {}
 
 Refusal TemplateReader::load() {
     PackageFacts facts;

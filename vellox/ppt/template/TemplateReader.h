@@ -28,7 +28,7 @@ public:
     /// @throws partDOMBuildError, opc::Exception
     Refusal load();
     /// Empty before that.
-    const boost::shared_ptr<const Template>& getTemplate() const { return result_; }
+    const boost::shared_ptr<const ReadTemplate>& getTemplate() const { return result_; }
 
 private:
     void loadMasters(const opc::Part& presentation);
@@ -51,8 +51,8 @@ private:
 
     PartDOMBuilder& builder_;
     const Rules& rules_;
-    boost::shared_ptr<Template> template_;
-    boost::shared_ptr<const Template> result_;
+    boost::shared_ptr<ReadTemplate> template_;
+    boost::shared_ptr<const ReadTemplate> result_;
 };
 
 } // namespace vellox::ppt

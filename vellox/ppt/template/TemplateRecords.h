@@ -124,7 +124,7 @@ struct TemplateSlide {
 };
 
 /// A template as it was read. Nothing that is made of it changes it, but that prototypes come to stand.
-struct Template {
+struct ReadTemplate {
     std::wstring presentationPartName;
     OwnedDocument presentationDocument;
     std::vector<boost::shared_ptr<TemplateMaster>> masters; ///< in the order of the presentation part

@@ -34,7 +34,7 @@ DOMElement* prepareSlideList(DOMDocument& presentation) {
 
 } // namespace
 
-void updateSlideList(const Template& source, const std::vector<boost::shared_ptr<TemplateSlide>>& slides,
+void updateSlideList(const ReadTemplate& source, const std::vector<boost::shared_ptr<TemplateSlide>>& slides,
                      PPTPartWriter& partWriter) {
     const OwnedDocument presentation = copyDocument(source.presentationDocument);
     declarePrefixes(presentation->getDocumentElement());
