@@ -43,12 +43,12 @@ TEST_F(TemplateTest, GivesTheDecksOfItsPath) {
         EXPECT_EQ(made.getTemplatePath(), source.getPath());
         EXPECT_EQ(fill(made), expected);
     }
-    Presentation first(output, source), second(folder / L"second.pptx", source); // at a time
+    Presentation first(output, source), second(folder / L"other.pptx", source); // at a time
     first.add(L"Title Only").replace(L"Title", L"one");
     second.add(L"Title Only").replace(L"Title", L"two");
     EXPECT_TRUE(first.close() && second.close());
     EXPECT_EQ(runsOf(readParts(output).at("ppt/slides/slide2.xml")), "one");
-    EXPECT_EQ(runsOf(readParts(folder / L"second.pptx").at("ppt/slides/slide2.xml")), "two");
+    EXPECT_EQ(runsOf(readParts(folder / L"other.pptx").at("ppt/slides/slide2.xml")), "two");
     EXPECT_EQ(readFile(source.getPath()), read);
 }
 
