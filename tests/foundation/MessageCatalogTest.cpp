@@ -82,7 +82,7 @@ TEST(MessageCatalog, HasATextForEveryIdentifierWithAllItsArguments) {
         EXPECT_EQ(text.find(L"vellox:"), std::wstring::npos) << (*found)[2];
         ++count;
     }
-    EXPECT_EQ(count, 13 + 22 + 8);
+    EXPECT_EQ(count, 13 + 23 + 9);
 }
 
 TEST(IdentifiedException, IsCaughtByIdentifierOrAsAny) {

@@ -78,6 +78,9 @@ BoundClass describePresentation() {
             "TemplatePath", "The template; can't be changed once the presentation is open."),
         property<Deck, &Deck::getOutputPath, &Deck::setOutputPath>(
             "OutputPath", "The file to be made; can't be changed once the presentation is open."),
+        property<Deck, &Deck::getProfile, &Deck::setProfile>(
+            "Profile", "By which rules slides are made of the template: \"classic\" or \"office\"; can't be "
+                       "changed once the presentation is open."),
     };
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},

@@ -8,7 +8,6 @@
 #include "vellox/ppt/engine/TemplateParser.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
-#include "vellox/ppt/rules/ClassicRules.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -19,14 +18,14 @@ namespace vellox::ppt {
 // PresentationImpl
 
 PresentationImpl::PresentationImpl()
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     useDefaultTemplate();
     announceCreated(*this);
 }
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath)
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     useDefaultTemplate();
@@ -34,7 +33,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath)
 }
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::wstring& templatePath)
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     setTemplatePath(templatePath);
@@ -43,7 +42,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
 
 PresentationImpl::PresentationImpl(const PresentationImpl& other)
     : NodeOf(other),
-      rules_(other.rules_),
+      profile_(other.profile_),
       state_(other.state_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
@@ -68,7 +67,7 @@ bool PresentationImpl::isOpenOrClosed() const {
     return state_ == PresentationState::Open || state_ == PresentationState::Closed;
 }
 
-template <class Warning> void PresentationImpl::warnThatPathStays() {
+template <class Warning> void PresentationImpl::warnThatItStays() {
     const Warning id;
     // In a constructor or destructor no handle on this object can be made, as a message would need one.
     if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
@@ -79,7 +78,7 @@ template <class Warning> void PresentationImpl::warnThatPathStays() {
 template <class Warning>
 void PresentationImpl::setPath(std::wstring Report::*field, const std::wstring& path) {
     if (isOpenOrClosed())
-        warnThatPathStays<Warning>();
+        warnThatItStays<Warning>();
     else
         (*report_).*field = normalizeAndCheck(path);
 }
@@ -90,6 +89,14 @@ void PresentationImpl::setOutputPath(const std::wstring& path) {
 
 void PresentationImpl::setTemplatePath(const std::wstring& path) {
     setPath<ppt_warning::cannotChangeTemplatePath>(&Report::templatePath, path);
+}
+
+void PresentationImpl::setProfile(const std::wstring& name) {
+    const Profile profile = findProfile(name);
+    if (isOpenOrClosed())
+        warnThatItStays<ppt_warning::cannotChangeProfile>();
+    else
+        profile_ = profile;
 }
 
 // PresentationImpl: slides
@@ -169,6 +176,18 @@ Presentation::Presentation(const std::wstring& outputPath) : Presentation(new Pr
 Presentation::Presentation(const std::wstring& outputPath, const std::wstring& templatePath)
     : Presentation(new PresentationImpl(outputPath, templatePath)) {}
 Presentation::Presentation(PresentationImpl* impl) : PPTNode(impl) {}
+
+Presentation Presentation::forOffice(const std::wstring& outputPath) {
+    Presentation presentation(outputPath);
+    presentation.setProfile(kOfficeProfile);
+    return presentation;
+}
+
+Presentation Presentation::forOffice(const std::wstring& outputPath, const std::wstring& templatePath) {
+    Presentation presentation(outputPath, templatePath);
+    presentation.setProfile(kOfficeProfile);
+    return presentation;
+}
 
 PresentationImpl* Presentation::pimpl() {
     return implOf<PresentationImpl>(*this);
@@ -275,6 +294,14 @@ void Presentation::setOutputPath(const std::wstring& path) {
 
 void Presentation::setTemplatePath(const std::wstring& path) {
     pimpl()->setTemplatePath(path);
+}
+
+const std::wstring Presentation::getProfile() const {
+    return pimpl()->getProfile();
+}
+
+void Presentation::setProfile(const std::wstring& name) {
+    pimpl()->setProfile(name);
 }
 
 } // namespace vellox::ppt

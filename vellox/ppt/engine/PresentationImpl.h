@@ -8,6 +8,7 @@
 #include <string>
 
 #include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/engine/Profiles.h"
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 
@@ -16,7 +17,6 @@ namespace vellox::ppt {
 class OutputFile;
 class PartDOMBuilder;
 class PresentationModel;
-class Rules;
 struct TemplateSlide;
 
 /// The life of a presentation:
@@ -72,6 +72,8 @@ public:
     const Report& getReport() const { return *report_; }
     void setOutputPath(const std::wstring& path);
     void setTemplatePath(const std::wstring& path);
+    const std::wstring& getProfile() const { return profile_.name; }
+    void setProfile(const std::wstring& name);
     const Presentation::Names& getMasterNames();
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
@@ -81,7 +83,7 @@ public:
 private:
     void useDefaultTemplate();
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
-    template <class Warning> void warnThatPathStays();
+    template <class Warning> void warnThatItStays();
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
@@ -92,7 +94,7 @@ private:
     void removeWorkingCopy();
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
-    boost::shared_ptr<const Rules> rules_;
+    Profile profile_;
     PresentationState state_ = PresentationState::Created;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;

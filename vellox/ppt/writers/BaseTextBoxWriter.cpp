@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
 #include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -31,7 +32,11 @@ void BaseTextBoxWriter::write() {
     DOMElement* shape = findOrMakeShape();
     DOMElement* txBody = findChild(shape, xml::kTxBody);
     applyFormats();
+    arrange(bodyPr_);
     writeSpPr(shape);
+    arrange(findChild(shape, xml::kSpPr));
+    if (!txBody && !textBox_.getChildren().empty() && getRules().givesTextBodies())
+        txBody = makeTextBody(shape);
     if (!txBody)
         return;
     if (textBox_.isContentReplaced())
@@ -39,6 +44,14 @@ void BaseTextBoxWriter::write() {
     writeBodyPr(txBody);
     writeChildren(txBody);
     ensureParagraph(shape);
+}
+
+// Shapes that are drawn needn't have one.
+DOMElement* BaseTextBoxWriter::makeTextBody(DOMElement* shape) const {
+    DOMElement* txBody = appendElement(shape, xml::kTxBody);
+    appendElement(txBody, xml::kABodyPr);
+    arrange(shape);
+    return txBody;
 }
 
 void BaseTextBoxWriter::applyFormat(const Format& format) {
@@ -84,6 +97,8 @@ void BaseTextBoxWriter::writeBodyPr(DOMElement* txBody) const {
         bodyPr_.applyTo(properties);
     else
         bodyPr_.appendTo(txBody);
+    arrange(txBody);
+    arrange(findChild(txBody, xml::kABodyPr));
 }
 
 } // namespace vellox::ppt

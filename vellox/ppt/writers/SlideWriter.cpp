@@ -1,13 +1,14 @@
 #include "vellox/ppt/writers/SlideWriter.h"
 
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
-
-#include <set>
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 
@@ -24,7 +25,10 @@ void SlideWriter::write() {
     const bool isNew = record->partName.empty();
     const std::wstring partName = isNew ? getPartWriter().createSlidePart(*record) : record->partName;
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
-    writeShapes(document);
+    const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
+    std::set<std::wstring> taken;
+    writeShapes(document, shapes, taken);
+    arrange(findDescendant(document.get()->getDocumentElement(), {xml::kCSld, xml::kSpTree}));
     // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
     // and may have been stripped of its text.
     for (xercesc::DOMElement* element : document.removeMarks())
@@ -34,9 +38,8 @@ void SlideWriter::write() {
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same
 // mark, is a shape of its own.
-void SlideWriter::writeShapes(SlideDocument& document) {
-    const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
-    std::set<std::wstring> taken;
+void SlideWriter::writeShapes(SlideDocument& document, const PPTNode::Children& shapes,
+                              std::set<std::wstring>& taken) {
     for (const auto& shape : shapes) {
         const auto* impl = implAs<ShapeImpl>(*shape);
         const std::wstring uid = impl ? impl->getTemplateUid() : std::wstring();
@@ -46,6 +49,9 @@ void SlideWriter::writeShapes(SlideDocument& document) {
         shape->acceptWriter(&getWriter(), nullptr);
         if (isCopy)
             document.showHidden();
+        const auto* group = getRules().reachesIntoGroups() ? implAs<GroupImpl>(*shape) : nullptr;
+        if (group)
+            writeShapes(document, PPTNode::Children(group->getChildren()), taken);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
 #include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -14,12 +15,39 @@ TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentN
       rPr_(xml::kARPr) {}
 
 void TextWriter::write() {
+    prepare();
+    const TextLines lines = getRules().textOf({text_.getTextContent(), text_.getGiven()});
+    for (const std::wstring& line : lines) {
+        if (&line != &lines.front())
+            writeBreak();
+        if (!line.empty() || lines.size() == 1)
+            writeRun(line);
+    }
+}
+
+void TextWriter::writeLine(const std::wstring& line) {
+    prepare();
+    writeRun(line);
+}
+
+void TextWriter::prepare() {
     applyFormats();
+    arrange(rPr_);
+}
+
+void TextWriter::writeRun(const std::wstring& line) {
     DOMElement* run = createElement(xml::kAR);
     if (!rPr_.isEmpty())
         rPr_.appendTo(run);
-    appendText(appendElement(run, xml::kAT), text_.getTextContent());
+    appendText(appendElement(run, xml::kAT), line);
     appendNode(getParentNode(), run);
+}
+
+void TextWriter::writeBreak() {
+    DOMElement* lineBreak = createElement(xml::kABr);
+    if (!rPr_.isEmpty())
+        rPr_.appendTo(lineBreak);
+    appendNode(getParentNode(), lineBreak);
 }
 
 void TextWriter::applyFormat(const Format& format) {
