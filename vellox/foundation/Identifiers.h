@@ -138,6 +138,11 @@ struct VELLOX_API failedToAppendChild : MsgID {
 struct VELLOX_API pictureCannotBeReplaced : MsgID {
     pictureCannotBeReplaced() : MsgID(kCatalog, "pictureCannotBeReplaced", 0) {}
 };
+/// A picture's file can't be read.
+struct VELLOX_API missingPictureFile : MsgID {
+    missingPictureFile(const std::wstring& slide, const std::wstring& shape, const std::wstring& file)
+        : MsgID(kCatalog, "missingPictureFile", {slide, shape, file}) {}
+};
 /// A table that stands nowhere is to be replaced.
 struct VELLOX_API tableCannotBeReplaced : MsgID {
     tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}
@@ -221,6 +226,10 @@ inline constexpr char kCatalog[] = "vellox:ppt_warning";
 /// The output path of an open presentation is to change.
 struct VELLOX_API cannotChangeOutputPath : MsgID {
     cannotChangeOutputPath() : MsgID(kCatalog, "cannotChangeOutputPath", 0) {}
+};
+/// The profile of an open presentation is to change.
+struct VELLOX_API cannotChangeProfile : MsgID {
+    cannotChangeProfile() : MsgID(kCatalog, "cannotChangeProfile", 0) {}
 };
 /// The template path of an open presentation is to change.
 struct VELLOX_API cannotChangeTemplatePath : MsgID {

@@ -89,6 +89,9 @@ BoundClass describePresentation() {
             "OutputPath", "The file to be made; can't be changed once the presentation is open."),
         property<Deck, &Deck::getCompression, &Deck::setCompression>(
             "Compression", "How small the file is made: \"fast\", \"normal\" or \"small\"."),
+        property<Deck, &Deck::getProfile, &Deck::setProfile>(
+            "Profile", "By which rules slides are made of the template: \"classic\" or \"office\"; can't be "
+                       "changed once the presentation is open."),
     };
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},

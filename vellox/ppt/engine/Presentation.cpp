@@ -10,7 +10,6 @@
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
-#include "vellox/ppt/rules/ClassicRules.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -23,14 +22,14 @@ namespace vellox::ppt {
 // PresentationImpl
 
 PresentationImpl::PresentationImpl()
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     useDefaultTemplate();
     announceCreated(*this);
 }
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath)
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     useDefaultTemplate();
@@ -38,7 +37,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath)
 }
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::wstring& templatePath)
-    : rules_(boost::make_shared<ClassicRules>()),
+    : profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     setTemplatePath(templatePath);
@@ -47,7 +46,6 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrusive_ptr<TemplateImpl> source)
     : template_(std::move(source)),
-      rules_(template_->getRules()),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     report_->templatePath = template_->getPath();
@@ -57,7 +55,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrus
 PresentationImpl::PresentationImpl(const PresentationImpl& other)
     : NodeOf(other),
       template_(other.template_),
-      rules_(other.rules_),
+      profile_(other.profile_),
       state_(other.state_),
       compression_(other.compression_),
       report_(boost::make_shared<Report>(*other.report_)) {
@@ -83,7 +81,7 @@ bool PresentationImpl::isOpenOrClosed() const {
     return state_ == PresentationState::Open || state_ == PresentationState::Closed;
 }
 
-template <class Warning> void PresentationImpl::warnThatPathStays() {
+template <class Warning> void PresentationImpl::warnThatItStays() {
     const Warning id;
     // In a constructor or destructor no handle on this object can be made, as a message would need one.
     if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
@@ -95,7 +93,7 @@ template <class Warning> void PresentationImpl::warnThatPathStays() {
 template <class Warning>
 void PresentationImpl::setPath(std::wstring Report::*field, const std::wstring& path) {
     if (isOpenOrClosed())
-        warnThatPathStays<Warning>();
+        warnThatItStays<Warning>();
     else
         (*report_).*field = normalizeAndCheck(path);
 }
@@ -108,6 +106,14 @@ void PresentationImpl::setTemplatePath(const std::wstring& path) {
     setPath<ppt_warning::cannotChangeTemplatePath>(&Report::templatePath, path);
     if (!isOpenOrClosed())
         template_.reset();
+}
+
+void PresentationImpl::setProfile(const std::wstring& name) {
+    const Profile profile = findProfile(name);
+    if (isOpenOrClosed() || (template_ && profile.name != profile_.name)) // that was read by its rules
+        warnThatItStays<ppt_warning::cannotChangeProfile>();
+    else
+        profile_ = profile;
 }
 
 // PresentationImpl: slides
@@ -197,6 +203,18 @@ Presentation::Presentation(const std::wstring& outputPath, const std::wstring& t
 Presentation::Presentation(const std::wstring& outputPath, const Template& source)
     : Presentation(new PresentationImpl(outputPath, heldImplOf<TemplateImpl>(source))) {}
 Presentation::Presentation(PresentationImpl* impl) : PPTNode(impl) {}
+
+Presentation Presentation::forOffice(const std::wstring& outputPath) {
+    Presentation presentation(outputPath);
+    presentation.setProfile(kOfficeProfile);
+    return presentation;
+}
+
+Presentation Presentation::forOffice(const std::wstring& outputPath, const std::wstring& templatePath) {
+    Presentation presentation(outputPath, templatePath);
+    presentation.setProfile(kOfficeProfile);
+    return presentation;
+}
 
 PresentationImpl* Presentation::pimpl() {
     return implOf<PresentationImpl>(*this);
@@ -331,6 +349,14 @@ void Presentation::setCompression(const std::wstring& compression) {
     const std::wstring& word = getCompressionWords().require(compression).label;
     const auto found = std::find(kCompressions.begin(), kCompressions.end(), word);
     pimpl()->setCompression(static_cast<opc::Compression>(found - kCompressions.begin()));
+}
+
+const std::wstring Presentation::getProfile() const {
+    return pimpl()->getProfile();
+}
+
+void Presentation::setProfile(const std::wstring& name) {
+    pimpl()->setProfile(name);
 }
 
 } // namespace vellox::ppt

@@ -50,6 +50,12 @@ public:
     Presentation(const std::wstring& outputPath, const Template& source);
     /// @}
 
+    /// @{ With the profile "office". Without a template path on the default template.
+    /// @throws as the constructors
+    static Presentation forOffice(const std::wstring& outputPath);
+    static Presentation forOffice(const std::wstring& outputPath, const std::wstring& templatePath);
+    /// @}
+
     /// Reads the template and puts a copy of it at the output path, in the place of what stands there. Paths
     /// without an extension get "pptx".
     /// @return false if the presentation was opened before
@@ -142,6 +148,14 @@ public:
     /// @throws invalidPropertyValue for other words
     const std::wstring getCompression() const;
     void setCompression(const std::wstring& compression);
+    /// @}
+
+    /// @{ By which rules slides are made of the template: "classic", as vellox always has, or "office", as the
+    /// office programs do. docs/profiles.md has what sets them apart. Once the presentation is open this changes
+    /// nothing, and warns.
+    /// @throws invalidPropertyValue for another word
+    const std::wstring getProfile() const;
+    void setProfile(const std::wstring& name);
     /// @}
 
 protected:

@@ -10,6 +10,7 @@
 
 #include "vellox/opc/Compression.h"
 #include "vellox/ppt/engine/Presentation.h"
+#include "vellox/ppt/engine/Profiles.h"
 #include "vellox/ppt/messages/FindingList.h"
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
@@ -19,7 +20,6 @@ namespace vellox::ppt {
 class OutputFile;
 class PartDOMBuilder;
 class PresentationModel;
-class Rules;
 class TemplateImpl;
 struct TemplateSlide;
 
@@ -82,6 +82,8 @@ public:
     void setTemplatePath(const std::wstring& path);
     opc::Compression getCompression() const { return compression_; }
     void setCompression(opc::Compression compression) { compression_ = compression; }
+    const std::wstring& getProfile() const { return profile_.name; }
+    void setProfile(const std::wstring& name);
     const Presentation::Names& getMasterNames();
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
@@ -94,7 +96,7 @@ private:
     void useDefaultTemplate();
     void reportIfClosed(const Child& slide) const;
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
-    template <class Warning> void warnThatPathStays();
+    template <class Warning> void warnThatItStays();
     bool isOpenOrClosed() const;
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
@@ -108,7 +110,7 @@ private:
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
     boost::intrusive_ptr<TemplateImpl> template_; // empty where the template is a path
-    boost::shared_ptr<const Rules> rules_;
+    Profile profile_;
     PresentationState state_ = PresentationState::Created;
     opc::Compression compression_ = opc::Compression::Normal;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false

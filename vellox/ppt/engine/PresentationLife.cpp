@@ -64,7 +64,7 @@ bool PresentationImpl::open() {
         return false;
     const Busy busy(this, isBusy_);
     const std::wstring wanted = report_->outputPath.empty() ? kDefaultOutput : report_->outputPath;
-    FileUtils::refuseFileName(rules_->judgeFileName(wanted), wanted);
+    FileUtils::refuseFileName(profile_.rules->judgeFileName(wanted), wanted);
     const std::wstring templateFile = ensureExtension(report_->templatePath);
     const std::wstring outputFile = ensureExtension(wanted);
     if (template_) {
@@ -94,7 +94,7 @@ void PresentationImpl::readTemplate(const std::wstring& templateFile) {
     partBuilder_ = boost::make_shared<PartDOMBuilder>(package);
     state_ = PresentationState::Parsing;
     setChildren({});
-    const boost::shared_ptr<PresentationModel> model = TemplateParser(*partBuilder_, rules_).parse();
+    const boost::shared_ptr<PresentationModel> model = TemplateParser(*partBuilder_, profile_.rules).parse();
     if (!model)
         rejectTemplate();
     takeModel(model);

@@ -40,9 +40,9 @@ boost::shared_ptr<TemplateLayout> PresentationModel::findLayout(const std::wstri
 }
 
 boost::shared_ptr<TemplateLayout> PresentationModel::findLayout(const std::wstring& layoutName) const {
-    for (const auto& master : template_->mastersByPartName) {
-        const auto layout = master.second->layoutsByName.find(layoutName);
-        if (layout != master.second->layoutsByName.end())
+    for (const auto& master : template_->searchOrder) {
+        const auto layout = master->layoutsByName.find(layoutName);
+        if (layout != master->layoutsByName.end())
             return layout->second;
     }
     return {};

@@ -35,7 +35,7 @@ public:
     /// The record of a new slide of a layout, which shares the layout's shapes; empty without a layout.
     boost::shared_ptr<TemplateSlide> createSlide(const boost::shared_ptr<TemplateLayout>& layout) const;
     /// @{ Exact names; empty if there is no such layout. Without a master, the masters are searched in the
-    /// order of their part names.
+    /// order that the rules give.
     boost::shared_ptr<TemplateLayout> findLayout(const std::wstring& layoutName,
                                                  const std::wstring& masterName) const;
     boost::shared_ptr<TemplateLayout> findLayout(const std::wstring& layoutName) const;

@@ -28,6 +28,14 @@ Rules::Names ClassicRules::nameMasters(const Names& themes) const {
     return themes;
 }
 
+Rules::Names ClassicRules::nameLayouts(const Names& layouts) const {
+    return layouts;
+}
+
+Order ClassicRules::orderLayouts() const {
+    return Order::Relationships;
+}
+
 // A layout or a slide is read
 
 // A layout in which a background stands ahead of the tree has no placeholders.
@@ -80,6 +88,17 @@ NodeType ClassicRules::classify(const ShapeFacts& shape) const {
     }
 }
 
+Rules::Names ClassicRules::nameShapes(const std::vector<NamedShape>& page) const {
+    Names names;
+    for (const NamedShape& shape : page)
+        names.push_back(shape.name);
+    return names;
+}
+
+Kinship ClassicRules::findsKin() const {
+    return Kinship::Id;
+}
+
 PlaceSource ClassicRules::choosePlace(const PlaceFacts& kin, PlaceUse use) const {
     if (use == PlaceUse::Text)
         return kin.layouts ? PlaceSource::Layout : PlaceSource::None;
@@ -108,12 +127,56 @@ Fate ClassicRules::fateOf(const ShapeFacts& shape) const {
     return type != NodeType::None || shape.element == ShapeElement::Connector ? Fate::Drop : Fate::Keep;
 }
 
+bool ClassicRules::showsField(const ShapeFacts&, const DeckFacts&) const {
+    return true;
+}
+
+std::vector<bool> ClassicRules::keepPlaces(const std::vector<ShapeFacts>& layout) const {
+    return std::vector<bool>(layout.size(), false);
+}
+
 // On a slide of the template they are counted from the start, whatever ids it has.
 unsigned int ClassicRules::firstFreeId(const IdFacts& ids) const {
     return ids.isNew ? ids.greatest + 1 : 1;
 }
 
 // A tree is written
+
+bool ClassicRules::reachesIntoGroups() const {
+    return false;
+}
+
+bool ClassicRules::givesTextBodies() const {
+    return false;
+}
+
+TextLines ClassicRules::textOf(const Value& value) const {
+    return {value.text};
+}
+
+bool ClassicRules::splitsContents() const {
+    return false;
+}
+
+bool ClassicRules::showsTruth() const {
+    return false;
+}
+
+bool ClassicRules::alignsNumbers() const {
+    return false;
+}
+
+const ElementForm* ClassicRules::formOf(std::u16string_view) const {
+    return nullptr;
+}
+
+Missing ClassicRules::missingFile() const {
+    return Missing::Passed;
+}
+
+PictureFacts ClassicRules::sizeFree(const PictureFacts& picture) const {
+    return picture;
+}
 
 // The picture at its own size, or at the size that is set, shrunk into the box where it is larger, and moved to
 // its centre. It is never enlarged.

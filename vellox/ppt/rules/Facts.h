@@ -5,7 +5,11 @@
 #define VELLOX_PPT_RULES_FACTS_H
 
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "vellox/ppt/object/NodeType.h"
@@ -26,6 +30,12 @@ enum class Refusal {
     OtherMainType ///< its main part is something else
 };
 
+/// In which order layouts are listed, and masters searched.
+enum class Order {
+    Relationships, ///< layouts as the relationships of their master come, masters by the names of their parts
+    Template       ///< as the template lists both
+};
+
 // A layout or a slide is read
 
 /// How the shapes of a layout are found.
@@ -34,7 +44,7 @@ enum class TreePath {
     ByName         ///< p:cSld and p:spTree, wherever they stand among their neighbours
 };
 
-enum class ShapeElement { Other, Shape, Picture, Group, GraphicFrame, Connector };
+enum class ShapeElement { Other, Structure, Shape, Picture, Group, GraphicFrame, Connector };
 
 /// One element of a shape tree, as the rules see it.
 struct ShapeFacts {
@@ -46,6 +56,9 @@ struct ShapeFacts {
     std::wstring placeholderIndex;
     bool hasTextBody = false;
     bool hasTable = false;
+    bool isField = false; ///< it is a placeholder for a date, a footer or a number
+    bool movesOn = false; ///< of such a one: its text is brought up to date by programs
+    std::wstring text;    ///< of such a one
     bool isInGroup = false;
 };
 
@@ -56,12 +69,24 @@ struct PlaceText {
     bool isWhole = false;      ///< both a:off and a:ext are there
 };
 
+/// A shape of a page among its neighbours, to be told apart from them by name.
+struct NamedShape {
+    std::wstring name;
+    const PlaceText* place = nullptr; ///< null where it has none
+};
+
+/// Which shapes of layout and master a shape may have its place from.
+enum class Kinship {
+    Id,         ///< those of the same id
+    Placeholder ///< the layout's placeholder of the same index or type, and the master's of that one's type
+};
+
 /// The places that a shape may get its own from. Null where somebody has none.
 struct PlaceFacts {
     NodeType type = NodeType::None;
     const PlaceText* own = nullptr;
-    const PlaceText* layouts = nullptr; ///< of the layout's shape of the same id
-    const PlaceText* masters = nullptr; ///< of the master's shape of the same id
+    const PlaceText* layouts = nullptr; ///< of its kin in the layout
+    const PlaceText* masters = nullptr; ///< of its kin in the master
 };
 
 enum class PlaceSource { None, Own, Layout, Master };
@@ -84,14 +109,22 @@ enum class Inherited {
 
 /// What becomes of a layout's shape on a new slide.
 enum class Fate {
-    Drop, ///< it shows through the layout
-    Keep, ///< it stands on the slide as well, as it is
-    Empty ///< it stands there without place and text, to be filled
+    Drop,  ///< it shows through the layout
+    Keep,  ///< it stands on the slide as well, as it is
+    Empty, ///< it stands there without place and text, to be filled
+    Ask    ///< it is kept or dropped, as the template's own slides have it: see Rules::showsField()
+};
+
+/// What the slides that a template brings along have in common.
+struct DeckFacts {
+    bool hasSlides = false;
+    std::set<std::pair<std::wstring, std::wstring>> fields; ///< type and text of dates, footers and numbers
 };
 
 struct IdFacts {
     bool isNew = true;         ///< a slide of a layout, and none of the template
     unsigned int greatest = 0; ///< the greatest id among its layout's placeholders
+    unsigned int present = 0;  ///< the greatest id on the slide as it is
 };
 
 // A tree is written
@@ -104,6 +137,40 @@ struct Box {
 struct PictureFacts {
     double pixelWidth, pixelHeight; ///< of the image
     std::optional<double> cx, cy;   ///< in EMU, as far as they are set
+    bool isWidthOfFile = false;     ///< it counts as set, and yet nobody has asked for it
+    bool isHeightOfFile = false;
+};
+
+/// What a run of text holds: a text, and what that was made of if it was no text.
+struct Value {
+    const std::wstring& text;
+    const std::variant<std::monostate, double, long long, bool>& given;
+};
+
+/// The lines of a text, without their ends.
+using TextLines = std::vector<std::wstring>;
+
+/// What the format demands of an element.
+struct ElementForm {
+    struct Range {
+        std::u16string_view attribute;
+        long least, greatest;
+    };
+
+    struct Needed {
+        std::u16string_view child, attribute;
+    };
+
+    std::u16string_view element;
+    std::vector<std::u16string_view> children; ///< in the order in which they have to come
+    std::vector<Range> ranges;                 ///< of attributes that are whole numbers
+    std::vector<Needed> needed;                ///< children that mean nothing where an attribute is empty
+};
+
+/// What becomes of a picture whose file can't be read.
+enum class Missing {
+    Passed, ///< it is written without one
+    Refused ///< nothing is written
 };
 
 } // namespace vellox::ppt

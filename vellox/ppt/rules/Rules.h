@@ -24,11 +24,17 @@ public:
     virtual Refusal refuse(const PackageFacts& package) const = 0;
     /// The names under which the masters are found, from those of their themes.
     virtual Names nameMasters(const Names& themes) const = 0;
+    /// The names under which the layouts of one master are found, from their own.
+    virtual Names nameLayouts(const Names& layouts) const = 0;
+    virtual Order orderLayouts() const = 0;
 
     /// How the shapes of a layout are found.
     virtual TreePath findsTree() const = 0;
     /// The class of node that a shape becomes; None for what is no shape of interest.
     virtual NodeType classify(const ShapeFacts& shape) const = 0;
+    /// The names under which the shapes of a layout or a slide are found, from their own.
+    virtual Names nameShapes(const std::vector<NamedShape>& page) const = 0;
+    virtual Kinship findsKin() const = 0;
     /// Whose place is used.
     virtual PlaceSource choosePlace(const PlaceFacts& kin, PlaceUse use) const = 0;
 
@@ -36,9 +42,32 @@ public:
     virtual bool takes(Inherited what) const = 0;
     /// What becomes of a layout's shape on a new slide. Those that are emptied are the layout's placeholders.
     virtual Fate fateOf(const ShapeFacts& shape) const = 0;
+    /// Whether a date, a footer or a number that it was left open for comes onto new slides.
+    virtual bool showsField(const ShapeFacts& field, const DeckFacts& deck) const = 0;
+    /// Which shapes of a layout keep their places on a new slide when they are emptied.
+    virtual std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const = 0;
     /// From where the ids of new shapes on a slide are counted.
     virtual unsigned int firstFreeId(const IdFacts& ids) const = 0;
 
+    /// Whether what was done to shapes in groups is written.
+    virtual bool reachesIntoGroups() const = 0;
+    /// Whether a shape of the template that has no text body gets one for its texts.
+    virtual bool givesTextBodies() const = 0;
+    /// What a run shows. There is at least one line; between two of them the line is broken.
+    virtual TextLines textOf(const Value& value) const = 0;
+    /// Whether the lines of a text that is all that a text box or a cell holds are paragraphs.
+    virtual bool splitsContents() const = 0;
+    /// Whether a truth value shows where it is an item of a list or an entry of a table.
+    virtual bool showsTruth() const = 0;
+    /// Whether numbers stand at the right of the cells of a table, below its first row.
+    virtual bool alignsNumbers() const = 0;
+    /// What an element of the library's own making has to look like.
+    /// @return null to leave it as it was made
+    virtual const ElementForm* formOf(std::u16string_view element) const = 0;
+    virtual Missing missingFile() const = 0;
+    /// The size of a picture that is placed freely, as far as it has one.
+    /// @return the facts with the size that counts
+    virtual PictureFacts sizeFree(const PictureFacts& picture) const = 0;
     /// The box of a picture that comes in a shape's stead.
     /// @param place the box that the shape has, or null
     /// @return nothing if the picture has no place of its own

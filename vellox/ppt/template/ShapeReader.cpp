@@ -1,6 +1,7 @@
 #include "vellox/ppt/template/ShapeReader.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -24,6 +25,8 @@ constexpr Row kRows[] = {
     {xml::kGrpSp, ShapeElement::Group, xml::kNvGrpSpPr},
     {xml::kGraphicFrame, ShapeElement::GraphicFrame, xml::kNvGraphicFramePr},
     {xml::kCxnSp, ShapeElement::Connector, xml::kNvCxnSpPr},
+    {xml::kNvGrpSpPr, ShapeElement::Structure, xml::kNvPr},
+    {xml::kGrpSpPr, ShapeElement::Structure, xml::kNvPr},
 };
 
 const Row* findRow(const DOMElement& shape) {
@@ -31,6 +34,21 @@ const Row* findRow(const DOMElement& shape) {
         if (hasName(shape, row.name))
             return &row;
     return nullptr;
+}
+
+// Of a date, a footer or a number.
+void readField(const DOMElement& shape, ShapeFacts& facts) {
+    const DOMElement* body = findChild(&shape, xml::kTxBody);
+    for (const DOMElement* paragraph : getChildElements(body)) {
+        facts.movesOn = facts.movesOn || findChild(paragraph, xml::kAFld);
+        for (const DOMElement* run : getChildElements(paragraph))
+            if (const DOMElement* text = findChild(run, xml::kAT))
+                facts.text += opc::toWideString(text->getTextContent());
+    }
+}
+
+bool isFieldType(const std::wstring& placeholderType) {
+    return placeholderType == L"dt" || placeholderType == L"ftr" || placeholderType == L"sldNum";
 }
 
 } // namespace
@@ -52,6 +70,9 @@ ShapeFacts readFacts(const DOMElement& shape, bool isInGroup) {
         facts.placeholderType = getAttribute(placeholder, xml::kType);
         facts.placeholderIndex = getAttribute(placeholder, xml::kIdx);
     }
+    facts.isField = facts.isPlaceholder && isFieldType(facts.placeholderType);
+    if (facts.isField)
+        readField(shape, facts);
     facts.hasTextBody = findChild(&shape, xml::kTxBody) != nullptr;
     facts.hasTable = findDescendant(&shape, {xml::kAGraphic, xml::kAGraphicData, xml::kATbl}) != nullptr;
     return facts;

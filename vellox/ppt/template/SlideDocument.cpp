@@ -1,6 +1,7 @@
 #include "vellox/ppt/template/SlideDocument.h"
 
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -25,6 +26,8 @@ unsigned int findFirstFreeId(const TemplateSlide& slide, const Rules& rules) {
     ids.isNew = !slide.source;
     if (ids.isNew)
         ids.greatest = std::max(slide.layout->maxShapeId, requirePrototype(*slide.layout, rules).lastShapeId);
+    ids.present =
+        ids.isNew ? requirePrototype(*slide.layout, rules).greatestId : findGreatestId(slide.source->get());
     return rules.firstFreeId(ids);
 }
 

@@ -64,8 +64,9 @@ bool replaceRoot(DOMDocument& document, const Rules& rules) {
 
 using Nodes = std::vector<DOMNode*>;
 
-void collectInherited(const DOMElement& placeholder, Nodes& condemned) {
-    if (DOMElement* xfrm = findDescendant(&placeholder, {xml::kSpPr, xml::kAXfrm}))
+void collectInherited(const DOMElement& placeholder, bool keepsPlace, Nodes& condemned) {
+    DOMElement* xfrm = findDescendant(&placeholder, {xml::kSpPr, xml::kAXfrm});
+    if (xfrm && !keepsPlace)
         condemned.push_back(xfrm);
     const DOMElement* body = findChild(&placeholder, xml::kTxBody);
     if (const DOMElement* styles = findChild(body, xml::kALstStyle))
@@ -80,10 +81,10 @@ void collectInherited(const DOMElement& placeholder, Nodes& condemned) {
 void stripShapeTree(DOMDocument& document, const TemplateLayout& layout, TreePath path) {
     Nodes condemned;
     DOMElement* shape = findFirstShape(&document, path);
-    for (auto fate = layout.fates.begin(); shape && fate != layout.fates.end(); ++fate) {
-        if (*fate == Fate::Empty)
-            collectInherited(*shape, condemned);
-        else if (*fate == Fate::Drop)
+    for (std::size_t i = 0; shape && i < layout.fates.size(); ++i) {
+        if (layout.fates[i] == Fate::Empty)
+            collectInherited(*shape, i < layout.keptPlaces.size() && layout.keptPlaces[i], condemned);
+        else if (layout.fates[i] == Fate::Drop)
             condemned.push_back(shape);
         shape = shape->getNextElementSibling();
     }
@@ -205,6 +206,7 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     stripSlideData(*document.get(), rules);
     removeUndeclared(*document.get());
     prototype->lastShapeId = completeIdentities(*document.get(), layout);
+    prototype->greatestId = findGreatestId(document.get());
     prototype->relationshipIds = collectRelationshipIds(*document.get());
     // Once more, which leaves behind what was stripped: a document never gives memory back.
     prototype->document = copyDocument(document);

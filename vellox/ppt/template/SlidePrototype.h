@@ -22,6 +22,7 @@ class Rules;
 /// A new slide of a layout, of which every slide that is written is a copy.
 struct SlidePrototype {
     OwnedDocument document;                    ///< placeholders bear the data-uid of the layout's records
+    unsigned int greatestId = 0;               ///< of a p:cNvPr in it
     unsigned int lastShapeId = 0;              ///< the last id that was given out in it; 0 if none was
     bool isWhole = true;                       ///< whether all that a slide has of its layout could be had
     std::vector<std::wstring> relationshipIds; ///< the layout's relationships that it needs, sorted

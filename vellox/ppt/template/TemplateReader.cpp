@@ -5,6 +5,7 @@
 #include "vellox/opc/Package.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
+#include "vellox/ppt/template/Kin.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -44,6 +45,7 @@ Refusal TemplateReader::load() {
         template_->presentationDocument.reset(builder_.getDocument(presentation));
         loadMasters(presentation);
         loadSlides(presentation);
+        settleFields();
     }
     const std::wstring tableStyles = builder_.getRelationshipTarget(presentation, relationship::kTableStyles);
     if (!tableStyles.empty())
@@ -78,12 +80,16 @@ void TemplateReader::loadMaster(const opc::Part& presentation,
         const std::wstring id = getAttribute(properties, xml::kId);
         const auto* shape = dynamic_cast<DOMElement*>(properties->getParentNode()->getParentNode());
         // A frame gives no place: what a layout may inherit stands in a p:spPr.
-        if (!id.empty() && shape && master->placesById.count(id) == 0)
-            master->placesById.emplace(id, hasName(*shape, xml::kGraphicFrame) ? Place() : readPlace(*shape));
+        if (!shape)
+            continue;
+        const Place place = hasName(*shape, xml::kGraphicFrame) ? Place() : readPlace(*shape);
+        if (!id.empty())
+            master->placesById.emplace(id, place);
+        addKin(*master, readFacts(*shape), place);
     }
     master->maxShapeId = findGreatestId(document.get());
     loadTheme(part, *master);
-    loadLayouts(part, *master);
+    loadLayouts(part, document.get(), *master);
 }
 
 void TemplateReader::loadTheme(const opc::Part& masterPart, TemplateMaster& master) {
@@ -107,19 +113,49 @@ void TemplateReader::nameMasters() {
         master->name = template_->masterNames[i];
         template_->mastersByName.emplace(master->name, master);
     }
+    template_->searchOrder = template_->masters;
+    if (rules_.orderLayouts() == Order::Template)
+        return;
+    template_->searchOrder.clear();
+    for (const auto& master : template_->mastersByPartName)
+        template_->searchOrder.push_back(master.second);
 }
 
-void TemplateReader::loadLayouts(const opc::Part& masterPart, TemplateMaster& master) {
+namespace {
+
+// What a master's list doesn't have comes last.
+void sortByList(std::vector<opc::Relationship>& rows, DOMDocument* master) {
+    std::map<std::wstring, std::size_t> places;
+    for (const DOMElement* element : getElementsByName(master, xml::kSldLayoutId))
+        places.emplace(getAttribute(element, xml::kRId), places.size());
+    const auto placeOf = [&](const opc::Relationship& row) {
+        const auto found = places.find(row.getID());
+        return found == places.end() ? places.size() : found->second;
+    };
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&](const opc::Relationship& left, const opc::Relationship& right) {
+                         return placeOf(left) < placeOf(right);
+                     });
+}
+
+} // namespace
+
+void TemplateReader::loadLayouts(const opc::Part& masterPart, DOMDocument* document, TemplateMaster& master) {
     master.layouts = boost::make_shared<std::vector<boost::shared_ptr<TemplateLayout>>>();
-    for (const opc::Relationship& row : builder_.getRelationships(masterPart, relationship::kSlideLayout)) {
+    auto rows = builder_.getRelationships(masterPart, relationship::kSlideLayout);
+    if (rules_.orderLayouts() == Order::Template)
+        sortByList(rows, document);
+    for (const opc::Relationship& row : rows) {
         const boost::shared_ptr<TemplateLayout> layout = getLayout(builder_.getPart(row));
         if (!layout)
             continue;
         builder_.charge(opc::kShapeCost + layout->name.size() * opc::kXmlAttributeCharacterCost);
         master.layouts->push_back(layout);
-        master.layoutsByName.emplace(layout->name, layout);
         master.layoutNames.push_back(layout->name);
     }
+    master.layoutNames = rules_.nameLayouts(master.layoutNames);
+    for (std::size_t i = 0; i < master.layoutNames.size(); ++i)
+        master.layoutsByName.emplace(master.layoutNames[i], (*master.layouts)[i]);
 }
 
 // The document of a layout or slide, to be marked with data-uid. Marks that it has already, from wherever, are
@@ -149,7 +185,7 @@ boost::shared_ptr<TemplateLayout> TemplateReader::getLayout(const opc::Part& par
     layout->master = findMaster(layout->masterPartName);
     const std::vector<DOMElement*> slideData = getElementsByName(layout->document.get(), xml::kCSld);
     layout->name = getAttribute(slideData.empty() ? nullptr : slideData.front(), xml::kName);
-    readLayoutShapes(*layout);
+    readLayoutShapes(layout);
     template_->layoutsByPartName.emplace(partName, layout);
     return layout;
 }
@@ -162,23 +198,49 @@ boost::shared_ptr<TemplateMaster> TemplateReader::findMaster(const std::wstring&
     return found == template_->mastersByPartName.end() ? boost::shared_ptr<TemplateMaster>() : found->second;
 }
 
-void TemplateReader::readLayoutShapes(TemplateLayout& layout) {
-    layout.shapes = boost::make_shared<TemplateShapes>();
-    DOMElement* element = findFirstShape(layout.document.get(), rules_.findsTree());
+void TemplateReader::readLayoutShapes(const boost::shared_ptr<TemplateLayout>& layout) {
+    layout->shapes = boost::make_shared<TemplateShapes>();
+    page_.clear();
+    std::vector<ShapeFacts> page;
+    DOMElement* element = findFirstShape(layout->document.get(), rules_.findsTree());
     for (; element; element = element->getNextElementSibling()) {
-        const ShapeFacts facts = readFacts(*element);
-        layout.fates.push_back(rules_.fateOf(facts));
-        if (layout.fates.back() != Fate::Empty)
+        const ShapeFacts& facts = page.emplace_back(readFacts(*element));
+        layout->fates.push_back(rules_.fateOf(facts));
+        if (layout->fates.back() == Fate::Ask)
+            openFields_.push_back({layout, layout->fates.size() - 1, facts});
+        if (layout->fates.back() != Fate::Empty)
             continue;
         const auto shape = makeRecord(*element, facts);
         shape->place = readPlace(*element);
-        choosePlaces(*shape, shape->place, shape->place, layout.master.lock().get());
-        layout.shapes->push_back(shape);
-        if (shape->xmlId.empty())
-            continue;
-        layout.shapesById.emplace(shape->xmlId, shape);
-        layout.maxShapeId = std::max(layout.maxShapeId, str2uint(shape->xmlId));
+        choosePlaces(*shape, facts, shape->place, shape->place, layout->master.lock().get());
+        layout->shapes->push_back(shape);
+        addKin(*layout, facts, shape);
+        if (!shape->xmlId.empty())
+            layout->maxShapeId = std::max(layout->maxShapeId, str2uint(shape->xmlId));
     }
+    layout->keptPlaces = rules_.keepPlaces(page);
+    nameShapes();
+}
+
+// With all records of a page at hand: a name may hang on the others.
+void TemplateReader::nameShapes() {
+    std::vector<NamedShape> page;
+    page.reserve(page_.size());
+    for (const auto& shape : page_)
+        page.push_back({shape->shapeName.isSet() ? shape->shapeName.get() : std::wstring(),
+                        shape->successorPlace.get()});
+    const Rules::Names names = rules_.nameShapes(page);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (!names[i].empty())
+            page_[i]->shapeName.set(names[i]);
+    page_.clear();
+}
+
+void TemplateReader::settleFields() {
+    deck_.hasSlides = !template_->slides.empty();
+    for (const OpenField& field : openFields_)
+        field.layout->fates[field.place] = rules_.showsField(field.facts, deck_) ? Fate::Keep : Fate::Drop;
+    openFields_.clear();
 }
 
 // Slides
@@ -202,31 +264,30 @@ boost::shared_ptr<const TemplateSlide> TemplateReader::loadSlide(const opc::Part
     if (!layout.empty())
         slide.layout = getLayout(builder_.getPart(layout));
     slide.shapes = boost::make_shared<TemplateShapes>();
+    page_.clear();
     const auto document = boost::make_shared<OwnedDocument>(readMarked(part));
     DOMElement* root = (*document)->getDocumentElement();
     slide.name = getAttribute(findChild(root, xml::kCSld), xml::kName);
     for (DOMElement* element : getChildElements(findDescendant(root, {xml::kCSld, xml::kSpTree})))
         parseShape(*element, *slide.shapes, slide.layout.get());
+    nameShapes();
     slide.source = document;
     return boost::make_shared<const TemplateSlide>(std::move(slide));
 }
 
 // Shapes
 
-// The layout's shape is the one of the same id, not the one of the same p:ph.
 void TemplateReader::parseShape(DOMElement& element, TemplateShapes& shapes, const TemplateLayout* layout,
                                 bool isInGroup) {
     const ShapeFacts facts = readFacts(element, isInGroup);
+    if (facts.isField)
+        deck_.fields.emplace(facts.placeholderType, facts.text);
     if (rules_.classify(facts) == NodeType::None)
         return;
     const boost::shared_ptr<TemplateShape> shape = makeRecord(element, facts);
     shapes.push_back(shape);
-    Place ofLayout;
-    if (layout) {
-        const auto found = layout->shapesById.find(shape->xmlId);
-        ofLayout = found == layout->shapesById.end() ? Place() : found->second->place;
-    }
-    choosePlaces(*shape, readPlace(element), ofLayout, layout ? layout->master.lock().get() : nullptr);
+    const Place ofLayout = layout ? findKinsPlace(*layout, facts, rules_.findsKin()) : Place();
+    choosePlaces(*shape, facts, readPlace(element), ofLayout, layout ? layout->master.lock().get() : nullptr);
     if (shape->type != NodeType::Group)
         return;
     shape->children = boost::make_shared<TemplateShapes>();
@@ -245,16 +306,13 @@ boost::shared_ptr<TemplateShape> TemplateReader::makeRecord(DOMElement& element,
     if (shape->type != NodeType::BodyPlaceholder && facts.element == ShapeElement::Shape)
         shape->placeholderType = facts.placeholderType;
     setAttribute(&element, xml::kDataUid, shape->id);
+    page_.push_back(shape);
     return shape;
 }
 
-void TemplateReader::choosePlaces(TemplateShape& shape, const Place& own, const Place& ofLayout,
-                                  const TemplateMaster* master) const {
-    Place ofMaster;
-    if (master) {
-        const auto found = master->placesById.find(shape.xmlId);
-        ofMaster = found == master->placesById.end() ? Place() : found->second;
-    }
+void TemplateReader::choosePlaces(TemplateShape& shape, const ShapeFacts& facts, const Place& own,
+                                  const Place& ofLayout, const TemplateMaster* master) const {
+    const Place ofMaster = master ? findKinsPlace(*master, facts, rules_.findsKin()) : Place();
     const Place places[] = {Place(), own, ofLayout, ofMaster}; // by PlaceSource
     const PlaceFacts kin{shape.type, own.get(), ofLayout.get(), ofMaster.get()};
     const auto choose = [&](PlaceUse use) {

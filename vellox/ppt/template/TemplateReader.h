@@ -34,7 +34,7 @@ private:
     void loadMasters(const opc::Part& presentation);
     void loadMaster(const opc::Part& presentation, const boost::shared_ptr<TemplateMaster>& master);
     void loadTheme(const opc::Part& masterPart, TemplateMaster& master);
-    void loadLayouts(const opc::Part& masterPart, TemplateMaster& master);
+    void loadLayouts(const opc::Part& masterPart, xercesc::DOMDocument* document, TemplateMaster& master);
     void nameMasters();
     void loadSlides(const opc::Part& presentation);
     boost::shared_ptr<const TemplateSlide> loadSlide(const opc::Part& presentation, TemplateSlide slide);
@@ -42,17 +42,29 @@ private:
     OwnedDocument readMarked(const opc::Part& part);
     boost::shared_ptr<TemplateMaster> findMaster(const std::wstring& target) const;
     boost::shared_ptr<TemplateLayout> getLayout(const opc::Part& part);
-    void readLayoutShapes(TemplateLayout& layout);
+    void readLayoutShapes(const boost::shared_ptr<TemplateLayout>& layout);
     void parseShape(xercesc::DOMElement& element, TemplateShapes& shapes, const TemplateLayout* layout,
                     bool isInGroup = false);
     boost::shared_ptr<TemplateShape> makeRecord(xercesc::DOMElement& element, const ShapeFacts& facts);
-    void choosePlaces(TemplateShape& shape, const Place& own, const Place& ofLayout,
+    void choosePlaces(TemplateShape& shape, const ShapeFacts& facts, const Place& own, const Place& ofLayout,
                       const TemplateMaster* master) const;
+    void nameShapes();
+    void settleFields();
+
+    /// A date, a footer or a number of a layout, whose fate hangs on slides that are still to be read.
+    struct OpenField {
+        boost::shared_ptr<TemplateLayout> layout;
+        std::size_t place; ///< in the layout's fates
+        ShapeFacts facts;
+    };
 
     PartDOMBuilder& builder_;
     const Rules& rules_;
     boost::shared_ptr<ReadTemplate> template_;
     boost::shared_ptr<const ReadTemplate> result_;
+    TemplateShapes page_; ///< all records of the layout or slide that is being read
+    DeckFacts deck_;
+    std::vector<OpenField> openFields_;
 };
 
 } // namespace vellox::ppt

@@ -91,8 +91,9 @@ struct TemplateMaster {
     boost::shared_ptr<TemplateTheme> theme;   ///< may be empty
     std::wstring name;                        ///< as the rules make it of the theme's; empty without one
     std::map<std::wstring, Place> placesById; ///< from the id of a p:cNvPr to the place of the shape it is in
-    unsigned int maxShapeId = 0;              ///< greatest id of a p:cNvPr
-    boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< in relationship order
+    std::map<std::wstring, Place> placesByType; ///< from the type of a placeholder to its place, see Kin.h
+    unsigned int maxShapeId = 0;                ///< greatest id of a p:cNvPr
+    boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< as the rules order them
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByName;   ///< the first of each name
     std::vector<std::wstring> layoutNames;                                     ///< with repeats
 };
@@ -102,11 +103,14 @@ struct TemplateLayout {
     std::wstring type;
     std::wstring masterPartName;
     std::wstring name;
-    OwnedDocument document;  ///< with data-uid attributes; gone once the prototype stands
-    std::vector<Fate> fates; ///< of the shape tree's elements, in their order
-    std::map<std::wstring, boost::shared_ptr<TemplateShape>> shapesById; ///< by the id of their p:cNvPr
-    boost::shared_ptr<TemplateShapes> shapes;                            ///< placeholders only
-    boost::weak_ptr<TemplateMaster> master;                              ///< who holds the layout
+    OwnedDocument document;       ///< with data-uid attributes; gone once the prototype stands
+    std::vector<Fate> fates;      ///< of the shape tree's elements, in their order
+    std::vector<bool> keptPlaces; ///< likewise: whether a placeholder that is emptied keeps its place
+    std::map<std::wstring, boost::shared_ptr<TemplateShape>> shapesById;    ///< by the id of their p:cNvPr
+    std::map<std::wstring, boost::shared_ptr<TemplateShape>> shapesByIndex; ///< with the types, of their p:ph
+    std::map<std::wstring, boost::shared_ptr<TemplateShape>> shapesByType;
+    boost::shared_ptr<TemplateShapes> shapes;          ///< placeholders only
+    boost::weak_ptr<TemplateMaster> master;            ///< who holds the layout
     unsigned int maxShapeId = 1;                       ///< greatest id of a p:cNvPr among the shapes
     boost::shared_ptr<const SlidePrototype> prototype; ///< made with the first slide, see SlidePrototype.h
 };
@@ -130,6 +134,7 @@ struct ReadTemplate {
     std::vector<boost::shared_ptr<TemplateMaster>> masters; ///< in the order of the presentation part
     std::vector<std::wstring> masterNames;                  ///< one for each, with repeats
     std::map<std::wstring, boost::shared_ptr<TemplateMaster>> mastersByPartName;
+    std::vector<boost::shared_ptr<TemplateMaster>> searchOrder; ///< of masters, for layouts by name
     std::map<std::wstring, boost::shared_ptr<TemplateMaster>> mastersByName; ///< the first of each name
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByPartName;
     std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part

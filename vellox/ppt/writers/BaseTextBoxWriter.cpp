@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
@@ -33,7 +34,11 @@ void BaseTextBoxWriter::write() {
     DOMElement* shape = findOrMakeShape();
     DOMElement* txBody = findChild(shape, xml::kTxBody);
     applyFormats();
+    arrange(bodyPr_);
     writeSpPr(shape);
+    arrange(findChild(shape, xml::kSpPr));
+    if (!txBody && !textBox_.getChildren().empty() && getRules().givesTextBodies())
+        txBody = makeTextBody(shape);
     if (!txBody)
         return reportLostText();
     if (textBox_.isContentReplaced())
@@ -46,6 +51,14 @@ void BaseTextBoxWriter::write() {
 void BaseTextBoxWriter::reportLostText() const {
     if (!textBox_.getChildren().empty() || !bodyPr_.isEmpty())
         getWriter().report(ppt_finding::noTextBody());
+}
+
+// Shapes that are drawn needn't have one.
+DOMElement* BaseTextBoxWriter::makeTextBody(DOMElement* shape) const {
+    DOMElement* txBody = appendElement(shape, xml::kTxBody);
+    appendElement(txBody, xml::kABodyPr);
+    arrange(shape);
+    return txBody;
 }
 
 void BaseTextBoxWriter::applyFormat(const Format& format) {
@@ -93,6 +106,8 @@ void BaseTextBoxWriter::writeBodyPr(DOMElement* txBody) const {
         bodyPr_.applyTo(properties);
     else
         bodyPr_.appendTo(txBody);
+    arrange(txBody);
+    arrange(findChild(txBody, xml::kABodyPr));
 }
 
 } // namespace vellox::ppt

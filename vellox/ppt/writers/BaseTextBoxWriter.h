@@ -34,6 +34,7 @@ public:
 
 private:
     xercesc::DOMElement* findOrMakeShape();
+    xercesc::DOMElement* makeTextBody(xercesc::DOMElement* shape) const;
     void writeSpPr(xercesc::DOMElement* shape) const;
     void writeBodyPr(xercesc::DOMElement* txBody) const;
     void reportLostText() const;

@@ -1,8 +1,12 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
+#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/xml/ChildOrder.h"
+#include "vellox/ppt/xml/PropertyElement.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -80,6 +84,26 @@ PPTPartWriter& ElementWriter::getPartWriter() const {
 
 PresentationModel& ElementWriter::getModel() const {
     return *writer_.getModel();
+}
+
+const Rules& ElementWriter::getRules() const {
+    return getModel().getRules();
+}
+
+void ElementWriter::arrange(PropertyElement& properties) const {
+    const ElementForm* form = getRules().formOf(properties.getName());
+    if (!form)
+        return;
+    for (const ElementForm::Needed& needed : form->needed)
+        properties.removeChildren(needed.child, needed.attribute);
+    properties.sortChildren(form->children);
+    for (const ElementForm::Range& range : form->ranges)
+        properties.limit(range.attribute, range.least, range.greatest);
+}
+
+void ElementWriter::arrange(DOMElement* element) const {
+    if (const ElementForm* form = element ? getRules().formOf(element->getNodeName()) : nullptr)
+        sortChildren(element, form->children);
 }
 
 SlideDocument* ElementWriter::getCurrentSlide() const {

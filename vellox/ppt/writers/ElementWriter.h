@@ -22,6 +22,8 @@ class PPTPartWriter;
 class PPTWriter;
 class PresentationModel;
 class SlideDocument;
+class PropertyElement;
+class Rules;
 struct TableContext;
 
 /// Writes one element. A writer lives for the writing of one node, on the stack of the driver.
@@ -49,10 +51,14 @@ public:
     xercesc::DOMNode* getParentNode() const { return parentNode_; }
     PPTPartWriter& getPartWriter() const;
     PresentationModel& getModel() const;
+    const Rules& getRules() const;
     /// The slide being written, or null.
     SlideDocument* getCurrentSlide() const;
     /// The name of its part; empty without a slide.
     std::wstring getCurrentSlidePartName() const;
+
+    /// For the writer of a node that has no place in the tree: what is in force around it.
+    void setFormatsAround(const FormatsInForce& formats) { inForce_ = formats; }
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
     xercesc::DOMElement* createElement(const XMLCh* name) const;
@@ -71,6 +77,11 @@ protected:
     /// @param table that around them; that around this element if none is given
     void writeChildren(xercesc::DOMNode* parentNode) const;
     void writeChildren(xercesc::DOMNode* parentNode, TableContext* table) const;
+    /// @}
+
+    /// @{ Brings an element into the form that the rules want it to have, if they say so. The second takes null.
+    void arrange(PropertyElement& properties) const;
+    void arrange(xercesc::DOMElement* element) const;
     /// @}
 
 private:

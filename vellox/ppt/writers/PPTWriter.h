@@ -116,6 +116,8 @@ public:
     SlideDocument* getCurrentSlide() const { return currentSlide_; }
     /// The name of its part; empty between slides.
     std::wstring getCurrentSlidePartName() const;
+    /// Its number in the deck, from 1.
+    std::size_t getCurrentSlideNumber() const { return slides_.size(); }
     /// Whether a slide has had its turn.
     bool hasWritten(const TemplateSlide& slide) const { return written_.count(&slide) > 0; }
 

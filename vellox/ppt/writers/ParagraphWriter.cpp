@@ -2,7 +2,12 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TextWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -24,15 +29,73 @@ ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writ
       pPr_(xml::kAPPr) {}
 
 void ParagraphWriter::write() {
-    applyFormats();
+    preparePPr();
+    if (const TextImpl* text = isWholeContent() ? findOnlyText() : nullptr) {
+        const TextLines lines = getRules().textOf({text->getTextContent(), text->getGiven()});
+        if (lines.size() > 1)
+            return writeLines(*text, lines);
+    }
     DOMElement* element = createElement(xml::kAP);
-    const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
-    if (level.isSet() && level.get() != 0)
-        pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
     if (!pPr_.isEmpty())
         pPr_.appendTo(element);
     writeChildren(element);
+    if (paragraph_.getTruthValue() && paragraph_.getChildren().empty() && getRules().showsTruth())
+        writeTruth(element);
     appendNode(getParentNode(), element);
+}
+
+void ParagraphWriter::preparePPr() {
+    applyFormats();
+    const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
+    if (level.isSet() && level.get() != 0)
+        pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
+    if (isNumberInBody() && !findFormat(FormatType::HAlign))
+        pPr_.setAttribute(xml::kAlgn, xml::kRight);
+    arrange(pPr_);
+}
+
+const TextImpl* ParagraphWriter::findOnlyText() const {
+    const auto& children = paragraph_.getChildren();
+    const auto* text = children.size() == 1 ? implAs<TextImpl>(*children.front()) : nullptr;
+    return text && text->getNodeType() == NodeType::Text ? text : nullptr;
+}
+
+// Of a text box or a cell with nothing but this paragraph.
+bool ParagraphWriter::isWholeContent() const {
+    const PPTNodeImpl* parent = paragraph_.getParent();
+    return getRules().splitsContents() && parent && parent->getChildren().size() == 1;
+}
+
+bool ParagraphWriter::isNumberInBody() const {
+    const TableContext* table = getWriter().getFrame().table;
+    if (!table || table->row == 0 || !getRules().alignsNumbers())
+        return false;
+    const TextImpl* text = findOnlyText();
+    return text && text->isNumContent() && !std::holds_alternative<bool>(text->getGiven());
+}
+
+DOMElement* ParagraphWriter::appendParagraph() const {
+    DOMElement* element = createElement(xml::kAP);
+    if (!pPr_.isEmpty())
+        pPr_.appendTo(element);
+    appendNode(getParentNode(), element);
+    return element;
+}
+
+void ParagraphWriter::writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const {
+    const PPTWriter::Frame frame{&paragraph_, &getFormatsInForce(), getWriter().getFrame().table};
+    const PPTWriter::FrameScope scope(getWriter(), frame);
+    for (const std::wstring& line : lines)
+        TextWriter(text, getWriter(), appendParagraph()).writeLine(line);
+}
+
+// There is no run for it in the tree.
+void ParagraphWriter::writeTruth(DOMElement* element) const {
+    const PPTNodeImpl::Child run =
+        (new TextImpl(TextImpl::Given(*paragraph_.getTruthValue())))->makeInterface();
+    TextWriter writer(*implOf<TextImpl>(*run), getWriter(), element);
+    writer.setFormatsAround(getFormatsInForce());
+    writer.write();
 }
 
 void ParagraphWriter::applyFormat(const Format& format) {

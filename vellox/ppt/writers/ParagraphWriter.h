@@ -11,6 +11,7 @@
 namespace vellox::ppt {
 
 class ParagraphImpl;
+class TextImpl;
 
 class ParagraphWriter : public ElementWriter {
 public:
@@ -25,6 +26,14 @@ public:
     void setPPrAttribute(const XMLCh* name, const ValueMapping& mapping);
 
 private:
+    void preparePPr();
+    const TextImpl* findOnlyText() const;
+    bool isWholeContent() const;
+    bool isNumberInBody() const;
+    void writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const;
+    void writeTruth(xercesc::DOMElement* element) const;
+    xercesc::DOMElement* appendParagraph() const;
+
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
 };

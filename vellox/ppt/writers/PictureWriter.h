@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "vellox/ppt/rules/Facts.h"
+#include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/writers/ShapeWriter.h"
 
 namespace vellox::ppt {
@@ -19,8 +20,11 @@ public:
     void write() override;
 
 private:
-    std::optional<Box> fit(PictureFacts facts) const;
     void reportMissingPath() const;
+    PictureFacts readFacts() const;
+    ShapeGeometry sizeFree(const PictureFacts& facts) const;
+    std::optional<Box> fit(const PictureFacts& facts) const;
+    [[noreturn]] void refuseMissing() const;
     void reportUnknownType() const;
 
     const PictureImpl& picture_;

@@ -3,6 +3,7 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
@@ -33,7 +34,7 @@ void reportGrouped(const PPTNodeImpl& group) {
 
 } // namespace
 
-void reportOnSlide(const SlideImpl& slide) {
+void reportOnSlide(const SlideImpl& slide, const Rules& rules) {
     const boost::shared_ptr<TemplateLayout>& layout = slide.getTemplateSlide()->layout;
     if (layout && layout->prototype && !layout->prototype->isWhole)
         report(ppt_finding::layoutCopiedInPart(layout->name), slide);
@@ -41,7 +42,7 @@ void reportOnSlide(const SlideImpl& slide) {
     for (const auto& child : slide.getChildren()) {
         const auto* shape = implOf<PPTNodeImpl>(*child);
         reportName(*shape);
-        if (shape->getNodeType() == NodeType::Group)
+        if (shape->getNodeType() == NodeType::Group && !rules.reachesIntoGroups())
             reportGrouped(*shape);
     }
 }

@@ -6,11 +6,12 @@
 
 namespace vellox::ppt {
 
+class Rules;
 class SlideImpl;
 
-/// Reports shapes in groups that were changed, names with characters that are left out, and what of the layout the slide
+/// Reports shapes in groups that were changed where the rules don't reach them, names with characters that are left out, and what of the layout the slide
 /// lacks.
-void reportOnSlide(const SlideImpl& slide);
+void reportOnSlide(const SlideImpl& slide, const Rules& rules);
 
 } // namespace vellox::ppt
 

@@ -3,12 +3,15 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/SlideReports.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <set>
 
@@ -27,7 +30,11 @@ void SlideWriter::write() {
     const bool isNew = record->partName.empty();
     const std::wstring partName = isNew ? getPartWriter().createSlidePart(*record) : record->partName;
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
-    writeShapes(document);
+    const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
+    std::set<std::wstring> taken;
+    reportOnSlide(slide_, getRules());
+    writeShapes(document, shapes, taken);
+    arrange(findDescendant(document.get()->getDocumentElement(), {xml::kCSld, xml::kSpTree}));
     // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
     // and may have been stripped of its text.
     for (xercesc::DOMElement* element : document.removeMarks())
@@ -37,10 +44,8 @@ void SlideWriter::write() {
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same
 // mark, is a shape of its own.
-void SlideWriter::writeShapes(SlideDocument& document) {
-    const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
-    std::set<std::wstring> taken;
-    reportOnSlide(slide_);
+void SlideWriter::writeShapes(SlideDocument& document, const PPTNode::Children& shapes,
+                              std::set<std::wstring>& taken) {
     for (const auto& shape : shapes) {
         const auto* impl = implAs<ShapeImpl>(*shape);
         getWriter().setReporter(impl);
@@ -51,6 +56,9 @@ void SlideWriter::writeShapes(SlideDocument& document) {
         shape->acceptWriter(&getWriter(), nullptr);
         if (isCopy)
             document.showHidden();
+        const auto* group = getRules().reachesIntoGroups() ? implAs<GroupImpl>(*shape) : nullptr;
+        if (group)
+            writeShapes(document, PPTNode::Children(group->getChildren()), taken);
     }
     getWriter().setReporter(nullptr);
 }

@@ -4,6 +4,10 @@
 #ifndef VELLOX_PPT_WRITERS_SLIDEWRITER_H
 #define VELLOX_PPT_WRITERS_SLIDEWRITER_H
 
+#include <set>
+#include <string>
+
+#include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/writers/ElementWriter.h"
 
 namespace vellox::ppt {
@@ -17,7 +21,7 @@ public:
     void write() override;
 
 private:
-    void writeShapes(SlideDocument& document);
+    void writeShapes(SlideDocument& document, const PPTNode::Children& shapes, std::set<std::wstring>& taken);
 
     const SlideImpl& slide_;
 };

@@ -22,6 +22,7 @@ void TableEntryWriter::write() {
     appendElement(body, xml::kABodyPr);
     writeChildren(body);
     ensureParagraph(cell);
+    arrange(tcPr_);
     if (!tcPr_.isEmpty())
         tcPr_.appendTo(cell);
     appendNode(getParentNode(), cell);

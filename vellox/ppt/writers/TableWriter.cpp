@@ -39,6 +39,7 @@ void TableWriter::write() {
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
         reportMissingStyle();
+    arrange(findChild(tbl, xml::kATblPr));
     writeChildren(tbl, &context);
     updateGrid(tbl, context);
 }

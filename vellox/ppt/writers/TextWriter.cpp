@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -16,13 +17,40 @@ TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentN
       rPr_(xml::kARPr) {}
 
 void TextWriter::write() {
+    prepare();
+    const TextLines lines = getRules().textOf({text_.getTextContent(), text_.getGiven()});
+    for (const std::wstring& line : lines) {
+        if (&line != &lines.front())
+            writeBreak();
+        if (!line.empty() || lines.size() == 1)
+            writeRun(line);
+    }
+}
+
+void TextWriter::writeLine(const std::wstring& line) {
+    prepare();
+    writeRun(line);
+}
+
+void TextWriter::prepare() {
     applyFormats();
+    arrange(rPr_);
+}
+
+void TextWriter::writeRun(const std::wstring& line) {
     DOMElement* run = createElement(xml::kAR);
     if (!rPr_.isEmpty())
         rPr_.appendTo(run);
-    if (const std::size_t dropped = appendText(appendElement(run, xml::kAT), text_.getTextContent()))
+    if (const std::size_t dropped = appendText(appendElement(run, xml::kAT), line))
         getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
     appendNode(getParentNode(), run);
+}
+
+void TextWriter::writeBreak() {
+    DOMElement* lineBreak = createElement(xml::kABr);
+    if (!rPr_.isEmpty())
+        rPr_.appendTo(lineBreak);
+    appendNode(getParentNode(), lineBreak);
 }
 
 void TextWriter::applyFormat(const Format& format) {

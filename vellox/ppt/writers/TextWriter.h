@@ -17,6 +17,8 @@ public:
     TextWriter(const TextImpl& text, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Writes the formats of the run on a text of one line.
+    void writeLine(const std::wstring& line);
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
@@ -29,6 +31,10 @@ public:
     PropertyElement& addRPrChild(const XMLCh* name);
 
 private:
+    void prepare();
+    void writeRun(const std::wstring& line);
+    void writeBreak();
+
     const TextImpl& text_;
     PropertyElement rPr_;
 };

@@ -1,10 +1,12 @@
 #include "vellox/ppt/xml/PropertyElement.h"
 
 #include "vellox/opc/XercesString.h"
+#include "vellox/ppt/xml/ChildOrder.h"
 #include "vellox/ppt/xml/Dom.h"
 
 #include <algorithm>
 #include <boost/functional/hash.hpp>
+#include <cwchar>
 
 namespace vellox::ppt {
 
@@ -38,6 +40,42 @@ PropertyElement& PropertyElement::putChild(const XMLCh* name) {
     if (former == children_.end())
         return addChild(name);
     return *former = PropertyElement(name);
+}
+
+void PropertyElement::sortChildren(const std::vector<std::u16string_view>& names) {
+    const std::vector<std::size_t> ranks =
+        rankNames(names, children_.size(), [&](std::size_t i) { return children_[i].name_; });
+    if (std::is_sorted(ranks.begin(), ranks.end()))
+        return;
+    std::vector<PropertyElement> sorted;
+    sorted.reserve(children_.size());
+    for (const std::size_t i : orderByRank(ranks))
+        sorted.push_back(std::move(children_[i]));
+    children_ = std::move(sorted);
+}
+
+void PropertyElement::limit(std::u16string_view attribute, long least, long greatest) {
+    for (Attribute& present : attributes_) {
+        if (present.name != attribute)
+            continue;
+        const long number =
+            std::wcstol(std::wstring(present.value.begin(), present.value.end()).c_str(), nullptr, 10);
+        if (number < least || number > greatest) {
+            const std::wstring text = std::to_wstring(std::clamp(number, least, greatest));
+            present.value.assign(text.begin(), text.end());
+        }
+    }
+}
+
+void PropertyElement::removeChildren(std::u16string_view name, std::u16string_view emptyAttribute) {
+    const auto isEmpty = [&](const Attribute& each) {
+        return each.name == emptyAttribute && each.value.empty();
+    };
+    const auto isCondemned = [&](const PropertyElement& child) {
+        return child.name_ == name &&
+               std::any_of(child.attributes_.begin(), child.attributes_.end(), isEmpty);
+    };
+    children_.erase(std::remove_if(children_.begin(), children_.end(), isCondemned), children_.end());
 }
 
 // Into a document

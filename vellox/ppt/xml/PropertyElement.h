@@ -34,6 +34,15 @@ public:
     /// The same, in the place of the first child of the name if there is one.
     PropertyElement& putChild(const XMLCh* name);
 
+    /// Sorts the children by a list of names, with those that it doesn't name where kAnyOther stands in it, or else
+    /// behind the one ahead of them. Children of one name stay in their order.
+    void sortChildren(const std::vector<std::u16string_view>& names);
+    /// Brings an attribute that is a whole number into a range. Does nothing if there is none.
+    void limit(std::u16string_view attribute, long least, long greatest);
+    /// Removes the children of a name that have an attribute without a text.
+    void removeChildren(std::u16string_view name, std::u16string_view emptyAttribute);
+    std::u16string_view getName() const { return name_; }
+
     /// Makes the element and appends it.
     void appendTo(xercesc::DOMElement* parent) const;
     /// Puts attributes and children into an element that is there already, each in the place of one of its name

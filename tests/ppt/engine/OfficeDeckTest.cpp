@@ -1,0 +1,202 @@
+// Decks of the office profile, on templates as designers make them.
+
+#include "tests/support/DeckTest.h"
+#include "tests/support/TemplateBuilder.h"
+#include "vellox/ppt/formats/Formats.h"
+#include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/Table.h"
+#include "vellox/ppt/tree/Text.h"
+#include "vellox/ppt/tree/TextBox.h"
+
+using namespace vellox;
+using namespace vellox::ppt;
+using namespace vellox::test;
+
+namespace {
+
+const char* const kBackground = "<p:bg><p:bgPr><a:noFill/><a:effectLst/></p:bgPr></p:bg>";
+const char* const kColourMap = "<p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr>";
+
+class OfficeDeckTest : public DeckTest {
+protected:
+    TemplateBuilder builder;
+
+    void useBuilder() {
+        useTemplate(builder.build());
+        deck.setProfile(L"Office");
+    }
+    std::string placeOf(const std::string& shape) {
+        const auto value = [&](const char* element, const char* attribute) {
+            const std::vector<std::string> found = valuesOf(shape, element, attribute);
+            return found.size() == 1 ? found[0] : std::string("-");
+        };
+        return value("a:off", "x") + " " + value("a:off", "y") + " " + value("a:ext", "cx") + " " +
+               value("a:ext", "cy");
+    }
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(OfficeDeckTest, TheProfileIsSetBeforeOpening) {
+    EXPECT_EQ(deck.getProfile(), L"classic");
+    EXPECT_EQ(errorOf([&] { deck.setProfile(L"modern"); }), "ppt_error:invalidPropertyValue modern");
+    deck.open();
+    const WarningLog log;
+    deck.setProfile(L"office");
+    EXPECT_EQ(deck.getProfile(), L"classic");
+    EXPECT_EQ(log.ids, Texts{"cannotChangeProfile"});
+    EXPECT_EQ(Presentation::forOffice(output).getProfile(), L"office");
+}
+
+TEST_F(OfficeDeckTest, DesignedLayoutsGiveTheirPlaceholders) {
+    builder.addMaster("Theme");
+    Page& layout = builder.addLayout(
+        "Own", shape(2, "Title", "<p:ph type='title'/>") + shape(3, "Chart", "<p:ph type='chart' idx='4'/>") +
+                   shape(4, "Date", "<p:ph type='dt' idx='10'/>", "", "1 May 1999") + chartShape(5, "Art"));
+    layout.attributes = " showMasterSp='0'";
+    layout.background = kBackground;
+    layout.behindData = kColourMap;
+    useBuilder();
+    Slide slide = deck.add(L"Own");
+    slide.replace(L"Title", L"Words");
+    close();
+    EXPECT_EQ(textsOf(slideXml(1), "a:t"), Texts{"Words"});
+    EXPECT_TRUE(findAll(slideXml(1), "p:bg").empty());
+    EXPECT_EQ(findAll(slideXml(1), "p:clrMapOvr").size(), 1u);
+    EXPECT_EQ(valuesOf(slideXml(1), "p:sld", "showMasterSp"), Texts{""});
+    EXPECT_TRUE(findAll(slideXml(1), "p:graphicFrame").empty());
+    EXPECT_EQ(valuesOf(slideXml(1), "p:ph", "type"), (Texts{"title", "chart"}));
+}
+
+TEST_F(OfficeDeckTest, PlacesAreInheritedByPlaceholder) {
+    const std::string onMaster = place(1000, 2000, 3000000, 4000000);
+    builder.addMaster("Theme", shape(5, "Body", "<p:ph type='body' idx='1'/>", onMaster));
+    Page& layout = builder.addLayout(
+        "Own", shape(2, "Content", "<p:ph idx='1'/>") +
+                   shape(3, "Text", "<p:ph type='body' idx='7'/>", place(10, 9000000, 30, 40)) +
+                   shape(4, "Text", "<p:ph type='body' idx='7'/>", place(50, 60, 70, 80)));
+    builder.addSlide("Old", layout, shape(9, "Text", "<p:ph type='body' idx='7'/>"));
+    useBuilder();
+    writeFile(folder / L"a.png", makePng(100, 100));
+    Slide slide = deck.add(L"Own");
+    slide.replace(L"Content", object(Picture(folder / L"a.png")));
+    slide.replace(L"Text", L"upper");
+    slide.replace(L"Text (2)", L"lower");
+    for (const auto& node : deck.find(L"Text"))
+        if (const auto box = Shape::cast(node))
+            box->setX(L"1in");
+    close();
+    EXPECT_EQ(placeOf(shapeXml(2, "Content")), "1024750 1525750 952500 952500");
+    const Texts shapes = findAll(slideXml(2), "p:sp");
+    ASSERT_EQ(shapes.size(), 2u);
+    EXPECT_EQ(placeOf(shapes[0]), "10 9000000 30 40");
+    EXPECT_EQ(textsOf(shapes[0], "a:t"), Texts{"lower"});
+    EXPECT_EQ(placeOf(shapes[1]), "914400 60 70 80");
+    EXPECT_EQ(placeOf(shapeXml(1, "Text")), "914400 9000000 30 40");
+}
+
+TEST_F(OfficeDeckTest, MastersAndLayoutsAreFoundInTheirOrder) {
+    for (const char* layout : {"First", "Second"}) {
+        builder.addMaster("Office");
+        builder.addLayout(layout);
+        builder.addLayout("Both", shape(2, layout));
+    }
+    useBuilder();
+    EXPECT_EQ(deck.getMasterNames(), (Presentation::Names{L"Office", L"Office (2)"}));
+    EXPECT_EQ(deck.getLayoutNames(L"Office (2)"), (Presentation::Names{L"Second", L"Both"}));
+    EXPECT_EQ(deck.add(L"Second", L"Office (2)").getLayoutName(), L"Second");
+}
+
+TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
+    builder.addMaster("Theme");
+    Page& layout = builder.addLayout("Own");
+    builder.addSlide(
+        "Old", layout,
+        groupShape(2, "Group", shape(3, "Inner", "", "", "old")) +
+            "<p:sp><p:nvSpPr><p:cNvPr id='77' name='Bare'/><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr/>"
+            "<p:extLst/></p:sp>");
+    useBuilder();
+    deck.replace(L"Inner", L"new");
+    deck.replace(L"Bare", L"words");
+    TextBox free(L"Free");
+    free.add(L"x");
+    Slide::cast(deck.getChildren().front())->add(free);
+    close();
+    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "words", "x"}));
+    EXPECT_EQ(canonical(shapeXml(1, "Bare")).find("<p:extLst/></p:sp>"), shapeXml(1, "Bare").size() - 18);
+    const Texts ids = valuesOf(slideXml(1), "p:cNvPr", "id");
+    EXPECT_EQ(ids.back(), "78");
+}
+
+TEST_F(OfficeDeckTest, ChildrenComeInTheOrderOfTheSchema) {
+    deck.setProfile(L"office");
+    Slide slide = deck.add(L"Title and Content");
+    Paragraph paragraph;
+    ExternalLink link(L"http://example.org/", L"link");
+    link.setFontColor(L"red");
+    link.setFont(L"Arial");
+    link.setFontSize(L"5000pt");
+    paragraph.append(link);
+    paragraph.append(ExternalLink(L" ", L"nowhere"));
+    slide.add(L"Content", paragraph);
+    close();
+    const std::string content = shapeXml(1, "Content");
+    const Texts runs = findAll(content, "a:rPr");
+    ASSERT_EQ(runs.size(), 1u);
+    EXPECT_LT(runs[0].find("<a:solidFill"), runs[0].find("<a:latin"));
+    EXPECT_LT(runs[0].find("<a:latin"), runs[0].find("<a:hlinkClick"));
+    EXPECT_EQ(valuesOf(content, "a:rPr", "sz"), Texts{"400000"});
+}
+
+TEST_F(OfficeDeckTest, LinesAreParagraphsOrBreaks) {
+    deck.setProfile(L"office");
+    Slide slide = deck.add(L"Title and Content");
+    slide.replace(L"Title", L"one\r\ntwo");
+    slide.replace(L"Content", list({text(L"a\nb"), text(L"c"), boost::make_shared<BooleanContent>(true)}));
+    close();
+    EXPECT_EQ(findAll(shapeXml(1, "Title"), "a:p").size(), 2u);
+    EXPECT_EQ(textsOf(shapeXml(1, "Title"), "a:t"), (Texts{"one", "two"}));
+    EXPECT_EQ(findAll(shapeXml(1, "Content"), "a:p").size(), 3u);
+    EXPECT_EQ(findAll(shapeXml(1, "Content"), "a:br").size(), 1u);
+    EXPECT_EQ(textsOf(shapeXml(1, "Content"), "a:t"), (Texts{"a", "b", "c", "true"}));
+}
+
+TEST_F(OfficeDeckTest, NumbersOfATableStandAtTheRight) {
+    deck.setProfile(L"office");
+    Table table;
+    for (int i = 0; i < 2; ++i) {
+        TableRow row;
+        row.append(TableEntry(L"name"));
+        TableEntry entry;
+        entry.append(Paragraph(0.1));
+        row.append(entry);
+        table.append(row);
+    }
+    deck.add(L"Blank").add(table);
+    close();
+    const std::string tbl = findOne(slideXml(1), "a:tbl");
+    EXPECT_EQ(textsOf(tbl, "a:t"), (Texts{"name", "0.1", "name", "0.1"}));
+    EXPECT_EQ(valuesOf(tbl, "a:pPr", "algn"), Texts{"r"});
+}
+
+TEST_F(OfficeDeckTest, PicturesKeepProportionsAndMustBeThere) {
+    deck.setProfile(L"office");
+    writeFile(folder / L"a.png", makePng(200, 100));
+    Slide slide = deck.add(L"Blank");
+    Picture picture(folder / L"a.png");
+    picture.setWidth(L"1in");
+    picture.setName(L"Photo");
+    slide.add(picture);
+    deck.open();
+    const std::string before = readFile(output);
+    std::filesystem::remove(folder.getPath() / "a.png");
+    EXPECT_EQ(errorOf([&] { deck.close(); }),
+              "ppt_error:missingPictureFile 1 Photo " + toUtf8(folder / L"a.png"));
+    EXPECT_EQ(readFile(output), before);
+    writeFile(folder / L"a.png", makePng(200, 100));
+    close();
+    EXPECT_EQ(placeOf(shapeXml(1, "Photo")), "0 0 914400 457200");
+}
+
+} // namespace

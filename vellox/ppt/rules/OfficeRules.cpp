@@ -1,0 +1,269 @@
+#include "vellox/ppt/rules/OfficeRules.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/ppt/rules/Sequences.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <map>
+#include <numeric>
+#include <tuple>
+
+namespace vellox::ppt {
+
+namespace {
+
+// "Text", "Text (2)", "Text (3)", numbered in the given order of the places in the list. A name that a neighbour
+// has already isn't made a second time. What has no name stays without.
+Rules::Names makeUnique(Rules::Names names, const std::vector<std::size_t>& order) {
+    std::map<std::wstring, unsigned int> counts;
+    for (const std::wstring& name : names)
+        counts.emplace(name, 0);
+    for (const std::size_t place : order) {
+        std::wstring& name = names[place];
+        unsigned int& count = counts[name];
+        if (name.empty() || ++count == 1)
+            continue;
+        std::wstring numbered;
+        do {
+            numbered = name + L" (" + num2str(count) + L")";
+        } while (counts.count(numbered) > 0 && ++count);
+        counts.emplace(numbered, 1);
+        name = numbered;
+    }
+    return names;
+}
+
+std::vector<std::size_t> countUp(std::size_t size) {
+    std::vector<std::size_t> order(size);
+    std::iota(order.begin(), order.end(), 0);
+    return order;
+}
+
+Rules::Names makeUnique(const Rules::Names& names) {
+    return makeUnique(names, countUp(names.size()));
+}
+
+} // namespace
+
+// A template is opened
+
+FileNameFault OfficeRules::judgeFileName(const std::wstring& name) const {
+    return ClassicRules::judgeFileName(name);
+}
+
+Rules::Names OfficeRules::nameMasters(const Names& themes) const {
+    return makeUnique(themes);
+}
+
+Rules::Names OfficeRules::nameLayouts(const Names& layouts) const {
+    return makeUnique(layouts);
+}
+
+Order OfficeRules::orderLayouts() const {
+    return Order::Template;
+}
+
+// A layout or a slide is read
+
+TreePath OfficeRules::findsTree() const {
+    return TreePath::ByName;
+}
+
+namespace {
+
+bool isWhole(const PlaceText* place) {
+    return place && place->isWhole;
+}
+
+// Shapes whose upper edges are within half an inch stand in one row.
+std::pair<double, double> readingOrder(const NamedShape& shape) {
+    constexpr double kRowEmu = 457200;
+    if (!shape.place)
+        return {HUGE_VAL, 0};
+    return {std::floor(str2double(shape.place->y) / kRowEmu), str2double(shape.place->x)};
+}
+
+} // namespace
+
+// Charts, diagrams and films can't be put in, but the places for them can take a picture or a table.
+NodeType OfficeRules::classify(const ShapeFacts& shape) const {
+    const NodeType type = ClassicRules::classify(shape);
+    const bool isOpen = shape.element == ShapeElement::Shape && shape.isPlaceholder && !shape.isField;
+    return type == NodeType::None && isOpen ? NodeType::ContentPlaceholder : type;
+}
+
+Rules::Names OfficeRules::nameShapes(const std::vector<NamedShape>& page) const {
+    std::vector<std::size_t> order = countUp(page.size());
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
+        return readingOrder(page[left]) < readingOrder(page[right]);
+    });
+    return makeUnique(ClassicRules::nameShapes(page), order);
+}
+
+Kinship OfficeRules::findsKin() const {
+    return Kinship::Placeholder;
+}
+
+// The nearest that says it all.
+PlaceSource OfficeRules::choosePlace(const PlaceFacts& kin, PlaceUse) const {
+    if (isWhole(kin.own))
+        return PlaceSource::Own;
+    if (isWhole(kin.layouts))
+        return PlaceSource::Layout;
+    return isWhole(kin.masters) ? PlaceSource::Master : PlaceSource::None;
+}
+
+// A slide comes from a layout
+
+// A slide inherits the background. That a layout hides what its master shows says nothing of what the slide shows of
+// the layout.
+bool OfficeRules::takes(Inherited what) const {
+    return what == Inherited::ColourMap;
+}
+
+// What isn't understood, such as a frame with a chart, is the layout's and shows through, but for the elements that
+// no shape tree is without.
+Fate OfficeRules::fateOf(const ShapeFacts& shape) const {
+    if (shape.element == ShapeElement::Structure)
+        return Fate::Keep;
+    if (shape.element != ShapeElement::Shape || !shape.isPlaceholder)
+        return Fate::Drop;
+    return shape.isField ? Fate::Ask : Fate::Empty;
+}
+
+// A date that doesn't move is somebody's of long ago, and a footer somebody's, unless the slides have it too.
+bool OfficeRules::showsField(const ShapeFacts& field, const DeckFacts& deck) const {
+    const std::wstring& type = field.placeholderType;
+    if (type == L"ftr")
+        return !field.text.empty() && deck.fields.count({type, field.text}) > 0;
+    if (!field.movesOn)
+        return false;
+    if (!deck.hasSlides)
+        return type == L"sldNum";
+    return std::any_of(deck.fields.begin(), deck.fields.end(),
+                       [&](const auto& shown) { return shown.first == type; });
+}
+
+// Two of one type and one index would both inherit the place of the first.
+std::vector<bool> OfficeRules::keepPlaces(const std::vector<ShapeFacts>& layout) const {
+    std::map<std::pair<std::wstring, std::wstring>, unsigned int> counts;
+    const auto identify = [](const ShapeFacts& shape) {
+        const std::wstring& index = shape.placeholderIndex;
+        return std::make_pair(shape.placeholderType, index.empty() ? std::wstring(L"0") : index);
+    };
+    for (const ShapeFacts& shape : layout)
+        if (shape.isPlaceholder)
+            ++counts[identify(shape)];
+    std::vector<bool> kept;
+    kept.reserve(layout.size());
+    for (const ShapeFacts& shape : layout)
+        kept.push_back(shape.isPlaceholder && counts[identify(shape)] > 1);
+    return kept;
+}
+
+unsigned int OfficeRules::firstFreeId(const IdFacts& ids) const {
+    return std::max(ids.greatest, ids.present) + 1;
+}
+
+// A tree is written
+
+bool OfficeRules::reachesIntoGroups() const {
+    return true;
+}
+
+bool OfficeRules::givesTextBodies() const {
+    return true;
+}
+
+namespace {
+
+// The shortest text that reads back as the same number, without an exponent where people would write none.
+std::wstring toShortest(double number) {
+    constexpr double kLeastPlain = 1e-5, kGreatestPlain = 1e16;
+    const double size = std::fabs(number);
+    const bool isPlain = size == 0 || (size >= kLeastPlain && size < kGreatestPlain);
+    std::array<char, 64> digits;
+    const auto end = isPlain
+                         ? std::to_chars(digits.begin(), digits.end(), number, std::chars_format::fixed)
+                         : std::to_chars(digits.begin(), digits.end(), number, std::chars_format::scientific);
+    return {digits.begin(), end.ptr};
+}
+
+struct ToText {
+    const std::wstring& text;
+
+    std::wstring operator()(std::monostate) const { return text; }
+    std::wstring operator()(double number) const { return toShortest(number); }
+    std::wstring operator()(long long number) const { return std::to_wstring(number); }
+    std::wstring operator()(bool value) const { return value ? L"true" : L"false"; }
+};
+
+// "\r\n", "\n" and "\r" end a line, and so do the vertical tab and the line separator, which programs leave behind
+// where they had a line break.
+TextLines splitLines(const std::wstring& text) {
+    TextLines lines(1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const wchar_t c = text[i];
+        if (c == L'\n' && i > 0 && text[i - 1] == L'\r')
+            continue;
+        if (c == L'\n' || c == L'\r' || c == L'\v' || c == L'\x2028' || c == L'\x2029')
+            lines.emplace_back();
+        else
+            lines.back() += c;
+    }
+    return lines;
+}
+
+} // namespace
+
+TextLines OfficeRules::textOf(const Value& value) const {
+    return splitLines(std::visit(ToText{value.text}, value.given));
+}
+
+bool OfficeRules::splitsContents() const {
+    return true;
+}
+
+bool OfficeRules::showsTruth() const {
+    return true;
+}
+
+bool OfficeRules::alignsNumbers() const {
+    return true;
+}
+
+const ElementForm* OfficeRules::formOf(std::u16string_view element) const {
+    return findElementForm(element);
+}
+
+Missing OfficeRules::missingFile() const {
+    return Missing::Refused;
+}
+
+// A length that is set beside one of the file's decides alone.
+PictureFacts OfficeRules::sizeFree(const PictureFacts& picture) const {
+    constexpr double kEmuPerPixel = 9525;
+    PictureFacts sized = picture;
+    const bool hasWidth = picture.cx && !picture.isWidthOfFile;
+    const bool hasHeight = picture.cy && !picture.isHeightOfFile;
+    if (picture.pixelWidth <= 0 || picture.pixelHeight <= 0 || (hasWidth && hasHeight))
+        return sized;
+    if (hasWidth) {
+        sized.cy = *picture.cx * picture.pixelHeight / picture.pixelWidth;
+    } else if (hasHeight) {
+        sized.cx = *picture.cy * picture.pixelWidth / picture.pixelHeight;
+    } else {
+        sized.cx = picture.pixelWidth * kEmuPerPixel;
+        sized.cy = picture.pixelHeight * kEmuPerPixel;
+    }
+    return sized;
+}
+
+std::optional<Box> OfficeRules::fit(const PictureFacts& picture, const Box* place) const {
+    return ClassicRules::fit(sizeFree(picture), place);
+}
+
+} // namespace vellox::ppt

@@ -1,0 +1,42 @@
+/// @file
+/// The rules by which a deck comes out as the office programs themselves would have made it of the template.
+
+#ifndef VELLOX_PPT_RULES_OFFICERULES_H
+#define VELLOX_PPT_RULES_OFFICERULES_H
+
+#include "vellox/ppt/rules/ClassicRules.h"
+
+namespace vellox::ppt {
+
+/// What isn't said here is decided as ever.
+class OfficeRules : public ClassicRules {
+public:
+    FileNameFault judgeFileName(const std::wstring& name) const override;
+    Names nameMasters(const Names& themes) const override;
+    Names nameLayouts(const Names& layouts) const override;
+    Order orderLayouts() const override;
+    TreePath findsTree() const override;
+    NodeType classify(const ShapeFacts& shape) const override;
+    Names nameShapes(const std::vector<NamedShape>& page) const override;
+    Kinship findsKin() const override;
+    PlaceSource choosePlace(const PlaceFacts& kin, PlaceUse use) const override;
+    bool takes(Inherited what) const override;
+    Fate fateOf(const ShapeFacts& shape) const override;
+    bool showsField(const ShapeFacts& field, const DeckFacts& deck) const override;
+    std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const override;
+    unsigned int firstFreeId(const IdFacts& ids) const override;
+    bool reachesIntoGroups() const override;
+    bool givesTextBodies() const override;
+    TextLines textOf(const Value& value) const override;
+    bool splitsContents() const override;
+    bool showsTruth() const override;
+    bool alignsNumbers() const override;
+    const ElementForm* formOf(std::u16string_view element) const override;
+    Missing missingFile() const override;
+    PictureFacts sizeFree(const PictureFacts& picture) const override;
+    std::optional<Box> fit(const PictureFacts& picture, const Box* place) const override;
+};
+
+} // namespace vellox::ppt
+
+#endif
