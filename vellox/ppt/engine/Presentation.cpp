@@ -46,6 +46,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrusive_ptr<TemplateImpl> source)
     : template_(std::move(source)),
+      profile_(findProfile(kClassicProfile)), // by whose rules templates are read
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     report_->templatePath = template_->getPath();
