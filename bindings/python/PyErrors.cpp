@@ -125,6 +125,7 @@ constexpr struct {
     {"pictureCannotBeReplaced", Kind::State},
     {"tableCannotBeReplaced", Kind::State},
     {"placeholderWasReplacedByObject", Kind::State},
+    {"missingPictureFile", Kind::File},
     {"invalidLayoutName", Kind::Name},
     {"invalidLayoutOrSlideMasterName", Kind::Name},
     {"cannotOpenFile", Kind::File},

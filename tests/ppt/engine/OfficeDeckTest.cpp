@@ -49,6 +49,15 @@ TEST_F(OfficeDeckTest, TheProfileIsSetBeforeOpening) {
     EXPECT_EQ(Presentation::forOffice(output).getProfile(), L"office");
 }
 
+TEST_F(OfficeDeckTest, FilesHaveTheNamesThatTheSystemTakes) {
+    for (const wchar_t* name : {L"control-valve.pptx", L"null point.pptx", L"what? <draft>: a*b|c.pptx"}) {
+        Presentation named = Presentation::forOffice(folder / name);
+        EXPECT_EQ(errorOf([&] { named.open(); }), "nothing") << toUtf8(name);
+        EXPECT_TRUE(named.close());
+        EXPECT_TRUE(findFaults(folder / name).empty());
+    }
+}
+
 TEST_F(OfficeDeckTest, DesignedLayoutsGiveTheirPlaceholders) {
     builder.addMaster("Theme");
     Page& layout = builder.addLayout(

@@ -50,8 +50,9 @@ Rules::Names makeUnique(const Rules::Names& names) {
 
 // A template is opened
 
-FileNameFault OfficeRules::judgeFileName(const std::wstring& name) const {
-    return ClassicRules::judgeFileName(name);
+// The system itself refuses what it can't make, with its own reason.
+FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
+    return FileNameFault::None;
 }
 
 Rules::Names OfficeRules::nameMasters(const Names& themes) const {
