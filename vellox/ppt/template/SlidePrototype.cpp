@@ -205,6 +205,8 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     prototype->relationshipIds = collectRelationshipIds(*document.get());
     // Once more, which leaves behind what was stripped: a document never gives memory back.
     prototype->document = copyDocument(document);
+    declarePrefixes(prototype->document->getDocumentElement());
+    prototype->pieces = cutIntoPieces(prototype->document);
     return prototype;
 }
 

@@ -13,6 +13,11 @@
 #ifndef VELLOX_PPT_TEMPLATE_SLIDEPROTOTYPE_H
 #define VELLOX_PPT_TEMPLATE_SLIDEPROTOTYPE_H
 
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "vellox/ppt/template/SlidePieces.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
@@ -23,6 +28,7 @@ class Rules;
 struct SlidePrototype {
     OwnedDocument document;                    ///< placeholders bear the data-uid of the layout's records
     unsigned int lastShapeId = 0;              ///< the last id that was given out in it; 0 if none was
+    std::optional<SlidePieces> pieces;         ///< of the document; none if it can't be cut
     std::vector<std::wstring> relationshipIds; ///< the layout's relationships that it needs, sorted
 };
 

@@ -33,7 +33,9 @@ public:
     PropertyElement& addSpPrChild(const XMLCh* name);
 
 private:
+    bool staysInPlace() const;
     xercesc::DOMElement* findOrMakeShape();
+    void writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs = false) const;
     void writeSpPr(xercesc::DOMElement* shape) const;
     void writeBodyPr(xercesc::DOMElement* txBody) const;
 

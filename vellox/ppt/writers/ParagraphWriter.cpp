@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -25,14 +26,15 @@ ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writ
 
 void ParagraphWriter::write() {
     applyFormats();
-    DOMElement* element = createElement(xml::kAP);
+    opc::MarkupBuffer& out = getMarkup();
+    const std::size_t start = out.openElement("a:p");
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
         pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
-    if (!pPr_.isEmpty())
-        pPr_.appendTo(element);
-    writeChildren(element);
-    appendNode(getParentNode(), element);
+    pPr_.writeTo(out);
+    writeChildren();
+    out.closeElement("a:p", start);
+    getWriter().countParagraph();
 }
 
 void ParagraphWriter::applyFormat(const Format& format) {

@@ -25,11 +25,9 @@ void SlideWriter::write() {
     const std::wstring partName = isNew ? getPartWriter().createSlidePart(*record) : record->partName;
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
     writeShapes(document);
-    // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
-    // and may have been stripped of its text.
-    for (xercesc::DOMElement* element : document.removeMarks())
-        ensureParagraph(element);
-    getPartWriter().writeDocument(partName, document.get());
+    opc::MarkupBuffer text;
+    document.writeTo(text);
+    getPartWriter().writeMarkup(partName, text.get());
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same

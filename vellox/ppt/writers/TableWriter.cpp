@@ -6,6 +6,7 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
@@ -39,7 +40,7 @@ void TableWriter::write() {
     DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
         reportMissingStyle();
-    writeChildren(tbl, &context);
+    writeChildren(getCurrentSlide()->getContent(tbl), &context);
     updateGrid(tbl, context);
 }
 

@@ -1,5 +1,6 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -15,11 +16,13 @@ TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentN
 
 void TextWriter::write() {
     applyFormats();
-    DOMElement* run = createElement(xml::kAR);
-    if (!rPr_.isEmpty())
-        rPr_.appendTo(run);
-    appendText(appendElement(run, xml::kAT), text_.getTextContent());
-    appendNode(getParentNode(), run);
+    opc::MarkupBuffer& out = getMarkup();
+    out.append("<a:r>");
+    rPr_.writeTo(out);
+    // Ends with a tag of its own even if it is empty, as a text does that has a node.
+    out.append("<a:t>");
+    out.appendText(opc::XercesString(text_.getTextContent()));
+    out.append("</a:t></a:r>");
 }
 
 void TextWriter::applyFormat(const Format& format) {

@@ -40,6 +40,28 @@ PropertyElement& PropertyElement::putChild(const XMLCh* name) {
     return *former = PropertyElement(name);
 }
 
+// Into markup
+
+void PropertyElement::writeTo(opc::MarkupBuffer& out) const {
+    if (!isEmpty())
+        write(out);
+}
+
+void PropertyElement::write(opc::MarkupBuffer& out) const {
+    out.append("<");
+    out.appendName(name_.data());
+    for (const Attribute& attribute : attributes_)
+        out.appendAttribute(attribute.name.data(), attribute.value.c_str());
+    if (children_.empty())
+        return out.append("/>");
+    out.append(">");
+    for (const PropertyElement& child : children_)
+        child.write(out);
+    out.append("</");
+    out.appendName(name_.data());
+    out.append(">");
+}
+
 // Into a document
 
 void PropertyElement::setAttributesOf(DOMElement* element) const {
