@@ -72,4 +72,10 @@ DOMDocument* copyDocument(const DOMDocument& source) {
     return document.release();
 }
 
+DOMElement* appendCopy(DOMElement& parent, const DOMElement& source) {
+    DOMNode& made = Copier(*parent.getOwnerDocument()).copy(source);
+    appendNew(static_cast<DOMElementImpl&>(parent), made);
+    return static_cast<DOMElement*>(&made);
+}
+
 } // namespace opc

@@ -12,6 +12,9 @@ namespace opc {
 /// @return a document that the caller ends with release()
 xercesc::DOMDocument* copyDocument(const xercesc::DOMDocument& source);
 
+/// Makes a copy of an element, as that does, the last child of a parent, which may be of another document.
+xercesc::DOMElement* appendCopy(xercesc::DOMElement& parent, const xercesc::DOMElement& source);
+
 } // namespace opc
 
 #endif

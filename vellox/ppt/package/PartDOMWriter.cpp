@@ -15,6 +15,13 @@ void PartDOMWriter::writeDocument(const std::wstring& partName, xercesc::DOMDocu
     stream.close();
 }
 
+void PartDOMWriter::writeMarkup(const std::wstring& partName, std::string_view markup) {
+    opc::Part part = getPart(partName);
+    opc::OutputStream& stream = part.getOutputStream();
+    stream.write(reinterpret_cast<const unsigned char*>(markup.data()), markup.size());
+    stream.close();
+}
+
 void PartDOMWriter::writeNewDocument(const std::wstring& partName, const std::wstring& contentType,
                                      xercesc::DOMDocument* document) {
     createPart(partName, contentType);

@@ -5,6 +5,7 @@
 #define VELLOX_PPT_PACKAGE_PARTDOMWRITER_H
 
 #include <string>
+#include <string_view>
 
 #include "vellox/opc/XercesHelper.h"
 #include "vellox/opc/XercesProcess.h"
@@ -20,6 +21,9 @@ public:
     /// Makes a document the content of an existing part.
     /// @throws opc::Exception
     void writeDocument(const std::wstring& partName, xercesc::DOMDocument* document);
+    /// The same with the text of one.
+    /// @throws opc::Exception
+    void writeMarkup(const std::wstring& partName, std::string_view markup);
     /// Makes the part, then the same.
     /// @throws opc::Exception
     void writeNewDocument(const std::wstring& partName, const std::wstring& contentType,

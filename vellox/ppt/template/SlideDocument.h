@@ -5,20 +5,25 @@
 #define VELLOX_PPT_TEMPLATE_SLIDEDOCUMENT_H
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "vellox/opc/Utf8Serializer.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
 
 class Rules;
+struct SlidePieces;
 
 /// Made when a slide's turn comes, and gone when its part holds it: no record of the template is changed, and
 /// whatever goes wrong, the slide can be written again. Shapes are found by the marks of their records.
+///
+/// A slide of the template is a copy of what was read. A new one consists of the pieces of its layout's prototype:
+/// only what is changed in other ways than by paragraphs becomes nodes, when somebody asks for it.
 class SlideDocument {
 public:
-    /// A copy of the layout's prototype for a new slide, or of what was read for a slide of the template.
     SlideDocument(const TemplateSlide& slide, const Rules& rules);
     /// On a document with marks; new shapes are numbered from an id on.
     SlideDocument(OwnedDocument document, unsigned int firstFreeId);
@@ -27,28 +32,53 @@ public:
 
     void setName(const std::wstring& name);
     /// A new element, attached to nothing.
-    xercesc::DOMElement* createElement(const XMLCh* name) const;
+    xercesc::DOMElement* createElement(const XMLCh* name);
     /// The element of a record; null if there is none.
-    xercesc::DOMElement* findElement(const std::wstring& uid) const;
+    xercesc::DOMElement* findElement(const std::wstring& uid);
+    /// Whether the element of a record has a text body without paragraphs, and hasn't been asked for.
+    bool takesText(const std::wstring& uid) const;
+    /// The content of that text body. Without any it gets an empty paragraph.
+    opc::MarkupBuffer& getText(const std::wstring& uid);
+    /// What is written behind the children of an element.
+    opc::MarkupBuffer& getContent(xercesc::DOMElement* element) { return contents_[element]; }
     /// The next id for a new shape.
     unsigned int takeShapeId() { return nextShapeId_++; }
     /// Puts a shape at the end of the shape tree, if the slide has one.
     void appendShape(xercesc::DOMElement* shape);
-    /// @{ The one element that findElement() doesn't find for the time being.
-    void hide(const std::wstring& uid);
-    void showHidden();
+    /// The shape tree, if all of it is nodes; else null.
+    xercesc::DOMElement* getShapeTree() const;
+    /// @{ The one element that isn't found for the time being.
+    void hide(const std::wstring& uid) { hiddenUid_ = uid; }
+    void showHidden() { hiddenUid_.clear(); }
     /// @}
-    /// Takes the marks off, so that the document can be written.
-    /// @return the elements that bore one
-    std::vector<xercesc::DOMElement*> removeMarks();
-    xercesc::DOMDocument* get() const { return document_.get(); }
+    /// Writes the whole. What no writer has visited, such as groups and placeholders that nothing came for, loses
+    /// its mark, and may get a paragraph, since it may have been stripped of its text.
+    /// @throws opc::Exception
+    void writeTo(opc::MarkupBuffer& out);
 
 private:
-    using Elements = std::map<std::wstring, xercesc::DOMElement*>;
+    /// What has become of a shape of the pieces.
+    struct Slot {
+        xercesc::DOMElement* holder = nullptr; ///< parent of the shape's node, or of what stands in its stead
+        opc::MarkupBuffer text;                ///< paragraphs
+    };
 
-    OwnedDocument document_;
-    Elements elements_;
-    Elements::node_type hidden_;
+    void readMarks(xercesc::DOMElement* element);
+    xercesc::DOMDocument& requireDocument();
+    void makeNodes(std::size_t shape);
+    void finishNodes();
+    void writePieces(opc::MarkupBuffer& out) const;
+    void writeChildren(const xercesc::DOMElement* holder, opc::MarkupBuffer& out) const;
+
+    boost::shared_ptr<const SlidePrototype> prototype_; // of a slide in pieces
+    const SlidePieces* pieces_ = nullptr;
+    std::vector<Slot> slots_;                  // one for each of its shapes
+    xercesc::DOMElement* newShapes_ = nullptr; // their parent
+    std::optional<std::wstring> name_;
+    OwnedDocument document_; // that of the nodes, all of them or those that were asked for
+    std::map<std::wstring, xercesc::DOMElement*> elements_;
+    opc::Contents contents_;
+    std::wstring hiddenUid_;
     unsigned int nextShapeId_;
 };
 

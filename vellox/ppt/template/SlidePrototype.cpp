@@ -210,6 +210,11 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     prototype->relationshipIds = collectRelationshipIds(*document.get());
     // Once more, which leaves behind what was stripped: a document never gives memory back.
     prototype->document = copyDocument(document);
+    declarePrefixes(prototype->document->getDocumentElement());
+    // Behind the extensions of a shape tree nothing may stand, where the rules mind: new shapes are put in order then.
+    const DOMElement* data = findChild(prototype->document->getDocumentElement(), xml::kCSld);
+    if (!rules.formOf(xml::kSpTree) || !findDescendant(data, {xml::kSpTree, xml::kExtLst}))
+        prototype->pieces = cutIntoPieces(prototype->document);
     return prototype;
 }
 

@@ -13,6 +13,11 @@
 #ifndef VELLOX_PPT_TEMPLATE_SLIDEPROTOTYPE_H
 #define VELLOX_PPT_TEMPLATE_SLIDEPROTOTYPE_H
 
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "vellox/ppt/template/SlidePieces.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox::ppt {
@@ -25,6 +30,7 @@ struct SlidePrototype {
     unsigned int greatestId = 0;               ///< of a p:cNvPr in it
     unsigned int lastShapeId = 0;              ///< the last id that was given out in it; 0 if none was
     bool isWhole = true;                       ///< whether all that a slide has of its layout could be had
+    std::optional<SlidePieces> pieces;         ///< of the document; none if it can't be cut
     std::vector<std::wstring> relationshipIds; ///< the layout's relationships that it needs, sorted
 };
 

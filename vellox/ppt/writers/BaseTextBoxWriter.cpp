@@ -3,6 +3,7 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
@@ -29,12 +30,18 @@ DOMElement* BaseTextBoxWriter::findOrMakeShape() {
 }
 
 void BaseTextBoxWriter::write() {
-    if (!getCurrentSlide())
+    SlideDocument* slide = getCurrentSlide();
+    if (!slide)
         return;
-    DOMElement* shape = findOrMakeShape();
-    DOMElement* txBody = findChild(shape, xml::kTxBody);
+    const bool mayBeText = staysInPlace();
+    DOMElement* shape = mayBeText ? nullptr : findOrMakeShape();
     applyFormats();
     arrange(bodyPr_);
+    if (mayBeText && spPr_.isEmpty() && bodyPr_.isEmpty())
+        return writeParagraphs(slide->getText(getTemplateShape()->id));
+    if (!shape)
+        shape = findOrMakeShape();
+    DOMElement* txBody = findChild(shape, xml::kTxBody);
     writeSpPr(shape);
     arrange(findChild(shape, xml::kSpPr));
     if (!txBody && !textBox_.getChildren().empty() && getRules().givesTextBodies())
@@ -44,8 +51,19 @@ void BaseTextBoxWriter::write() {
     if (textBox_.isContentReplaced())
         removeChildElements(txBody, xml::kAP);
     writeBodyPr(txBody);
-    writeChildren(txBody);
-    ensureParagraph(shape);
+    writeParagraphs(slide->getContent(txBody), findChild(txBody, xml::kAP));
+}
+
+// A shape that gets nothing but paragraphs needs no nodes.
+bool BaseTextBoxWriter::staysInPlace() const {
+    const TemplateShape* record = getTemplateShape();
+    return record && !textBox_.getGeometry().hasPlacement() && getCurrentSlide()->takesText(record->id);
+}
+
+void BaseTextBoxWriter::writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs) const {
+    const unsigned int paragraphs = writeChildren(out, getWriter().getFrame().table);
+    if (paragraphs == 0 && !hasParagraphs)
+        out.append(kEmptyParagraph);
 }
 
 void BaseTextBoxWriter::reportLostText() const {

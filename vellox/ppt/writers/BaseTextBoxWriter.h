@@ -33,8 +33,10 @@ public:
     PropertyElement& addSpPrChild(const XMLCh* name);
 
 private:
+    bool staysInPlace() const;
     xercesc::DOMElement* findOrMakeShape();
     xercesc::DOMElement* makeTextBody(xercesc::DOMElement* shape) const;
+    void writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs = false) const;
     void writeSpPr(xercesc::DOMElement* shape) const;
     void writeBodyPr(xercesc::DOMElement* txBody) const;
     void reportLostText() const;

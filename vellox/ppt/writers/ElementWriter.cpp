@@ -68,14 +68,19 @@ const FormatsInForce& ElementWriter::getFormatsInForce() const {
     return *inForce_;
 }
 
-void ElementWriter::writeChildren(DOMNode* parentNode) const {
-    writeChildren(parentNode, writer_.getFrame().table);
+unsigned int ElementWriter::writeChildren() const {
+    return writeChildren(getMarkup(), writer_.getFrame().table);
 }
 
-void ElementWriter::writeChildren(DOMNode* parentNode, TableContext* table) const {
-    const PPTWriter::FrameScope scope(writer_, {&element_, &getFormatsInForce(), table});
+unsigned int ElementWriter::writeChildren(opc::MarkupBuffer& out, TableContext* table) const {
+    const PPTWriter::FrameScope scope(writer_, {&element_, &getFormatsInForce(), table, &out});
     for (const auto& child : element_.getChildren())
-        child->acceptWriter(&writer_, parentNode);
+        child->acceptWriter(&writer_, parentNode_);
+    return writer_.getFrame().paragraphs;
+}
+
+opc::MarkupBuffer& ElementWriter::getMarkup() const {
+    return writer_.getMarkup();
 }
 
 PPTPartWriter& ElementWriter::getPartWriter() const {
@@ -115,12 +120,12 @@ std::wstring ElementWriter::getCurrentSlidePartName() const {
 }
 
 DOMElement* ElementWriter::createElement(const XMLCh* name) const {
-    const SlideDocument* slide = getCurrentSlide();
+    SlideDocument* slide = getCurrentSlide();
     return slide ? slide->createElement(name) : nullptr;
 }
 
 DOMElement* ElementWriter::findSlideElement(const std::wstring& uid) const {
-    const SlideDocument* slide = getCurrentSlide();
+    SlideDocument* slide = getCurrentSlide();
     return slide ? slide->findElement(uid) : nullptr;
 }
 
@@ -128,14 +133,6 @@ void removeChildElements(DOMElement* parent, const XMLCh* name) {
     for (DOMElement* child : getChildElements(parent))
         if (hasName(*child, name))
             parent->removeChild(child);
-}
-
-void ensureParagraph(DOMElement* element) {
-    DOMElement* body = findChild(element, xml::kTxBody);
-    if (!body)
-        body = findChild(element, xml::kATxBody);
-    if (body && !findChild(body, xml::kAP))
-        appendElement(appendElement(body, xml::kAP), xml::kAEndParaRPr);
 }
 
 } // namespace vellox::ppt

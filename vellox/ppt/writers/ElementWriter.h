@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "vellox/opc/MarkupBuffer.h"
 #include "vellox/ppt/formats/Format.h"
 #include "vellox/ppt/formats/FormatType.h"
 #include "vellox/ppt/writers/FormatsInForce.h"
@@ -73,10 +74,14 @@ protected:
     FormatsInForce getFormatsAbove() const;
     /// What is in force at the element, found when it is first asked for: until then listeners may run.
     const FormatsInForce& getFormatsInForce() const;
-    /// @{ Writes the element's children below a DOM node.
+    /// Where the content of shapes is written. It never becomes nodes.
+    opc::MarkupBuffer& getMarkup() const;
+    /// @{ Writes the element's children.
+    /// @param out where; behind what has been written if none is given
     /// @param table that around them; that around this element if none is given
-    void writeChildren(xercesc::DOMNode* parentNode) const;
-    void writeChildren(xercesc::DOMNode* parentNode, TableContext* table) const;
+    /// @return how many paragraphs there are among them
+    unsigned int writeChildren() const;
+    unsigned int writeChildren(opc::MarkupBuffer& out, TableContext* table) const;
     /// @}
 
     /// @{ Brings an element into the form that the rules want it to have, if they say so. The second takes null.
@@ -93,10 +98,6 @@ private:
 
 /// Removes all child elements of a name.
 void removeChildElements(xercesc::DOMElement* parent, const XMLCh* name);
-
-/// Gives a shape or a cell that has a text body, but no paragraph in it, an empty paragraph: readers demand
-/// one.
-void ensureParagraph(xercesc::DOMElement* element);
 
 } // namespace vellox::ppt
 

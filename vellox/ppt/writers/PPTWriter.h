@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "vellox/opc/MarkupBuffer.h"
 #include "vellox/ppt/object/DomForward.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
@@ -50,6 +51,8 @@ public:
         const PPTNodeImpl* element = nullptr;
         const FormatsInForce* formats = nullptr; ///< at the element
         TableContext* table = nullptr;           ///< around the children, if there is one
+        opc::MarkupBuffer* markup = nullptr;     ///< where they are written
+        unsigned int paragraphs = 0;             ///< how many of them have been paragraphs
     };
 
     /// Sets the frame for as long as children are written.
@@ -123,6 +126,9 @@ public:
 
     /// Empty but within shapes.
     const Frame& getFrame() const { return frame_; }
+    void countParagraph() { ++frame_.paragraphs; }
+    /// That of the frame. What stands in no shape is written to no slide.
+    opc::MarkupBuffer& getMarkup() { return frame_.markup ? *frame_.markup : nowhere_; }
 
 private:
     struct Written {
@@ -137,6 +143,7 @@ private:
     std::set<const TemplateSlide*> written_;
     SlideDocument* currentSlide_ = nullptr;
     Frame frame_;
+    opc::MarkupBuffer nowhere_;
 };
 
 } // namespace vellox::ppt

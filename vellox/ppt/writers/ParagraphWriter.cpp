@@ -35,13 +35,14 @@ void ParagraphWriter::write() {
         if (lines.size() > 1)
             return writeLines(*text, lines);
     }
-    DOMElement* element = createElement(xml::kAP);
-    if (!pPr_.isEmpty())
-        pPr_.appendTo(element);
-    writeChildren(element);
+    opc::MarkupBuffer& out = getMarkup();
+    const std::size_t start = out.openElement("a:p");
+    pPr_.writeTo(out);
+    writeChildren();
     if (paragraph_.getTruthValue() && paragraph_.getChildren().empty() && getRules().showsTruth())
-        writeTruth(element);
-    appendNode(getParentNode(), element);
+        writeTruth();
+    out.closeElement("a:p", start);
+    getWriter().countParagraph();
 }
 
 void ParagraphWriter::preparePPr() {
@@ -74,26 +75,29 @@ bool ParagraphWriter::isNumberInBody() const {
     return text && text->isNumContent() && !std::holds_alternative<bool>(text->getGiven());
 }
 
-DOMElement* ParagraphWriter::appendParagraph() const {
-    DOMElement* element = createElement(xml::kAP);
-    if (!pPr_.isEmpty())
-        pPr_.appendTo(element);
-    appendNode(getParentNode(), element);
-    return element;
+void ParagraphWriter::writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const {
+    opc::MarkupBuffer& out = getMarkup();
+    for (const std::wstring& line : lines) {
+        const std::size_t start = out.openElement("a:p");
+        pPr_.writeTo(out);
+        writeLine(text, line);
+        out.closeElement("a:p", start);
+        getWriter().countParagraph();
+    }
 }
 
-void ParagraphWriter::writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const {
-    const PPTWriter::Frame frame{&paragraph_, &getFormatsInForce(), getWriter().getFrame().table};
+void ParagraphWriter::writeLine(const TextImpl& text, const std::wstring& line) const {
+    const PPTWriter::Frame frame{&paragraph_, &getFormatsInForce(), getWriter().getFrame().table,
+                                 &getMarkup()};
     const PPTWriter::FrameScope scope(getWriter(), frame);
-    for (const std::wstring& line : lines)
-        TextWriter(text, getWriter(), appendParagraph()).writeLine(line);
+    TextWriter(text, getWriter(), getParentNode()).writeLine(line);
 }
 
 // There is no run for it in the tree.
-void ParagraphWriter::writeTruth(DOMElement* element) const {
+void ParagraphWriter::writeTruth() const {
     const PPTNodeImpl::Child run =
         (new TextImpl(TextImpl::Given(*paragraph_.getTruthValue())))->makeInterface();
-    TextWriter writer(*implOf<TextImpl>(*run), getWriter(), element);
+    TextWriter writer(*implOf<TextImpl>(*run), getWriter(), getParentNode());
     writer.setFormatsAround(getFormatsInForce());
     writer.write();
 }

@@ -31,8 +31,8 @@ private:
     bool isWholeContent() const;
     bool isNumberInBody() const;
     void writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const;
-    void writeTruth(xercesc::DOMElement* element) const;
-    xercesc::DOMElement* appendParagraph() const;
+    void writeLine(const TextImpl& text, const std::wstring& line) const;
+    void writeTruth() const;
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;

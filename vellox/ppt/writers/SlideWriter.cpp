@@ -34,12 +34,10 @@ void SlideWriter::write() {
     std::set<std::wstring> taken;
     reportOnSlide(slide_, getRules());
     writeShapes(document, shapes, taken);
-    arrange(findDescendant(document.get()->getDocumentElement(), {xml::kCSld, xml::kSpTree}));
-    // What no writer has visited, such as groups and placeholders that nothing came for, still bears the mark,
-    // and may have been stripped of its text.
-    for (xercesc::DOMElement* element : document.removeMarks())
-        ensureParagraph(element);
-    getPartWriter().writeDocument(partName, document.get());
+    arrange(document.getShapeTree());
+    opc::MarkupBuffer text;
+    document.writeTo(text);
+    getPartWriter().writeMarkup(partName, text.get());
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same

@@ -17,15 +17,14 @@ TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& write
 
 void TableEntryWriter::write() {
     applyFormats();
-    DOMElement* cell = createElement(xml::kATc);
-    DOMElement* body = appendElement(cell, xml::kATxBody);
-    appendElement(body, xml::kABodyPr);
-    writeChildren(body);
-    ensureParagraph(cell);
+    opc::MarkupBuffer& out = getMarkup();
+    out.append("<a:tc><a:txBody><a:bodyPr/>");
+    if (writeChildren() == 0)
+        out.append(kEmptyParagraph);
+    out.append("</a:txBody>");
     arrange(tcPr_);
-    if (!tcPr_.isEmpty())
-        tcPr_.appendTo(cell);
-    appendNode(getParentNode(), cell);
+    tcPr_.writeTo(out);
+    out.append("</a:tc>");
 }
 
 void TableEntryWriter::applyFormat(const Format& format) {

@@ -15,18 +15,19 @@ void TableRowWriter::write() {
     TableContext none; // for a row that has got into something else, by way of the handle that stood there
     TableContext* around = getWriter().getFrame().table;
     TableContext& table = around ? *around : none;
-    xercesc::DOMElement* element = createElement(xml::kATr);
-    setAttribute(element, xml::kH, xml::kFalse); // as high as its text
+    opc::MarkupBuffer& out = getMarkup();
+    out.append(R"(<a:tr h="0">)"); // as high as its text
+    const std::size_t start = out.getLength();
     const FormatsInForce above = getFormatsAbove();
     for (const auto& entry : row_.getChildren()) {
         FormatsInForce formats = above;
         formats.layOver(table.getColumnFormats());
         formats.layOver(row_.getStyle());
-        const PPTWriter::FrameScope scope(getWriter(), {&row_, &formats, &table});
-        entry->acceptWriter(&getWriter(), element);
+        const PPTWriter::FrameScope scope(getWriter(), {&row_, &formats, &table, &out});
+        entry->acceptWriter(&getWriter(), getParentNode());
         table.nextEntry();
     }
-    appendNode(getParentNode(), element);
+    out.closeElement("a:tr", start);
     table.nextRow();
 }
 

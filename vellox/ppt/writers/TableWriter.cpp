@@ -6,6 +6,7 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
@@ -40,7 +41,7 @@ void TableWriter::write() {
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
         reportMissingStyle();
     arrange(findChild(tbl, xml::kATblPr));
-    writeChildren(tbl, &context);
+    writeChildren(getCurrentSlide()->getContent(tbl), &context);
     updateGrid(tbl, context);
 }
 

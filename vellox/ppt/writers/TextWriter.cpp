@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/TextWriter.h"
 
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TextImpl.h"
@@ -38,19 +39,23 @@ void TextWriter::prepare() {
 }
 
 void TextWriter::writeRun(const std::wstring& line) {
-    DOMElement* run = createElement(xml::kAR);
-    if (!rPr_.isEmpty())
-        rPr_.appendTo(run);
-    if (const std::size_t dropped = appendText(appendElement(run, xml::kAT), line))
+    const opc::XercesString text(line);
+    if (const std::size_t dropped = text.getDropped())
         getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
-    appendNode(getParentNode(), run);
+    opc::MarkupBuffer& out = getMarkup();
+    out.append("<a:r>");
+    rPr_.writeTo(out);
+    // Ends with a tag of its own even if it is empty, as a text does that has a node.
+    out.append("<a:t>");
+    out.appendText(text);
+    out.append("</a:t></a:r>");
 }
 
 void TextWriter::writeBreak() {
-    DOMElement* lineBreak = createElement(xml::kABr);
-    if (!rPr_.isEmpty())
-        rPr_.appendTo(lineBreak);
-    appendNode(getParentNode(), lineBreak);
+    opc::MarkupBuffer& out = getMarkup();
+    const std::size_t start = out.openElement("a:br");
+    rPr_.writeTo(out);
+    out.closeElement("a:br", start);
 }
 
 void TextWriter::applyFormat(const Format& format) {

@@ -123,6 +123,14 @@ DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {
     return child ? child : appendElement(parent, name);
 }
 
+void ensureParagraph(DOMElement* element) {
+    DOMElement* body = findChild(element, xml::kTxBody);
+    if (!body)
+        body = findChild(element, xml::kATxBody);
+    if (body && !findChild(body, xml::kAP))
+        appendElement(appendElement(body, xml::kAP), xml::kAEndParaRPr);
+}
+
 void removeNode(DOMNode* node) {
     if (node->getParentNode())
         node->getParentNode()->removeChild(node);

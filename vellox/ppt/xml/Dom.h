@@ -6,6 +6,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 #include <xercesc/dom/DOM.hpp>
 
@@ -64,6 +65,10 @@ xercesc::DOMElement* appendElement(xercesc::DOMElement* parent, const XMLCh* nam
 std::size_t appendText(xercesc::DOMElement* parent, const std::wstring& text);
 /// The first child element of a name, made and appended if there is none.
 xercesc::DOMElement* requireChild(xercesc::DOMElement* parent, const XMLCh* name);
+/// Gives a shape or a cell that has a text body, but no paragraph in it, an empty paragraph: readers demand one.
+void ensureParagraph(xercesc::DOMElement* element);
+/// The same as markup.
+inline constexpr std::string_view kEmptyParagraph = "<a:p><a:endParaRPr/></a:p>";
 /// Takes a node out of its parent, if it has one. The document keeps it.
 void removeNode(xercesc::DOMNode* node);
 

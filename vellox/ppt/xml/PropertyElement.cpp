@@ -78,6 +78,28 @@ void PropertyElement::removeChildren(std::u16string_view name, std::u16string_vi
     children_.erase(std::remove_if(children_.begin(), children_.end(), isCondemned), children_.end());
 }
 
+// Into markup
+
+void PropertyElement::writeTo(opc::MarkupBuffer& out) const {
+    if (!isEmpty())
+        write(out);
+}
+
+void PropertyElement::write(opc::MarkupBuffer& out) const {
+    out.append("<");
+    out.appendName(name_.data());
+    for (const Attribute& attribute : attributes_)
+        out.appendAttribute(attribute.name.data(), attribute.value.c_str());
+    if (children_.empty())
+        return out.append("/>");
+    out.append(">");
+    for (const PropertyElement& child : children_)
+        child.write(out);
+    out.append("</");
+    out.appendName(name_.data());
+    out.append(">");
+}
+
 // Into a document
 
 void PropertyElement::setAttributesOf(DOMElement* element) const {

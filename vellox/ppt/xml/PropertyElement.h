@@ -10,6 +10,8 @@
 #include <vector>
 #include <xercesc/dom/DOMElement.hpp>
 
+#include "vellox/opc/MarkupBuffer.h"
+
 namespace vellox::ppt {
 
 /// One of p:spPr, a:bodyPr, a:pPr, a:rPr and a:tcPr, or an element within. A value, which becomes nodes of a
@@ -34,6 +36,8 @@ public:
     /// The same, in the place of the first child of the name if there is one.
     PropertyElement& putChild(const XMLCh* name);
 
+    /// Writes the element, if anything has been put in.
+    void writeTo(opc::MarkupBuffer& out) const;
     /// Sorts the children by a list of names, with those that it doesn't name where kAnyOther stands in it, or else
     /// behind the one ahead of them. Children of one name stay in their order.
     void sortChildren(const std::vector<std::u16string_view>& names);
@@ -62,6 +66,7 @@ private:
     };
 
     void setAttributesOf(xercesc::DOMElement* element) const;
+    void write(opc::MarkupBuffer& out) const;
     void fill(xercesc::DOMElement* element) const;
     void replace(xercesc::DOMElement* parent, xercesc::DOMElement* former) const;
 

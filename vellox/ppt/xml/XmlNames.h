@@ -43,6 +43,7 @@ inline constexpr XMLCh kSldMasterId[] = u"p:sldMasterId";
 inline constexpr XMLCh kSldMasterIdLst[] = u"p:sldMasterIdLst";
 inline constexpr XMLCh kSp[] = u"p:sp";
 inline constexpr XMLCh kSpPr[] = u"p:spPr";
+inline constexpr XMLCh kExtLst[] = u"p:extLst";
 inline constexpr XMLCh kSpTree[] = u"p:spTree";
 inline constexpr XMLCh kTxBody[] = u"p:txBody";
 inline constexpr XMLCh kXfrm[] = u"p:xfrm";
