@@ -28,7 +28,7 @@ protected:
         slide_.emplace(
             OwnedDocument(opc::XercesHelper::readDocumentFromStream(parser_.get(), stream, false, {}, {})),
             11);
-        return goDownFirstChildren(slide_->get(), 3);
+        return slide_->getShapeTree()->getFirstElementChild();
     }
     SlideDocument& slide() { return *slide_; }
 
@@ -89,10 +89,7 @@ TEST_F(ShapeMakersTest, FreeShapesHaveDefaultsForWhatIsNotSet) {
         canonical("<p:sp><p:nvSpPr><p:cNvPr id='13' name='Name'/><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr>" +
                   xfrm("a", "359999", "-359999", "0", "9525") +
                   "<a:prstGeom prst='rect'/></p:spPr><p:txBody><a:bodyPr/><a:lstStyle/></p:txBody></p:sp>"));
-    EXPECT_EQ(
-        getChildElements(findDescendant(slide().get()->getDocumentElement(), {xml::kCSld, xml::kSpTree}))
-            .size(),
-        3u);
+    EXPECT_EQ(getChildElements(slide().getShapeTree()).size(), 3u);
 }
 
 TEST_F(ShapeMakersTest, WhatComesInAnElementsSteadTakesItsIdentity) {
