@@ -39,7 +39,7 @@ void collectMarked(DOMElement& parent, std::vector<DOMElement*>& marked) {
 bool hasMark(DOMDocument* document) {
     std::vector<DOMElement*> marked;
     collectMarked(*document->getDocumentElement(), marked);
-    return !marked.empty();
+    return !marked.empty() || document->getDocumentElement()->hasAttribute(xml::kDataUid);
 }
 
 DOMNode* makeCut(DOMDocument& document) {
