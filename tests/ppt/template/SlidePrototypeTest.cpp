@@ -110,9 +110,10 @@ TEST(SlidePrototype, RulesSayWhatALayoutGivesASlide) {
     EXPECT_EQ(makeSlide(ClassicRules()),
               "<p:sld showMasterSp='0'><p:cSld><p:bg/><p:spTree><p:grpSpPr/><p:pic/><p:sp><p:spPr><a:xfrm/>"
               "</p:spPr><p:txBody><a:p/></p:txBody></p:sp></p:spTree><p:custDataLst/></p:cSld></p:sld>");
-    EXPECT_EQ(makeSlide(OtherRules()),
-              "<p:sld><p:cSld><p:spTree><p:grpSpPr/><p:sp><p:spPr/><p:txBody/></p:sp></p:spTree></p:cSld>"
-              "<p:clrMapOvr/></p:sld>");
+    EXPECT_EQ(
+        makeSlide(OtherRules()),
+        "<p:sld><p:cSld><p:spTree><p:grpSpPr/><p:sp><p:spPr/><p:txBody><a:p><a:endParaRPr/></a:p></p:txBody>"
+        "</p:sp></p:spTree></p:cSld><p:clrMapOvr/></p:sld>");
 }
 
 // What stands in a slide's text, or instead of one, and what nobody touches.
