@@ -200,7 +200,10 @@ std::uint64_t ZipPhysicalPackage::measure() const {
         return std::filesystem::file_size(path_);
     std::istream& stream = input_->getStream();
     stream.clear();
-    return static_cast<std::uint64_t>(stream.seekg(0, std::ios::end).tellg());
+    const auto here = stream.tellg(); // where libzip has left it
+    const auto size = static_cast<std::uint64_t>(stream.seekg(0, std::ios::end).tellg());
+    stream.seekg(here);
+    return size;
 }
 
 void ZipPhysicalPackage::listEntries() {
