@@ -110,9 +110,11 @@ def main():
             return
         (seconds, _), = bench.measure([bench.deck("text", 10000)])
         print(f"10,000 such slides: {seconds / results['text', 1000][0]:.1f} times the time of 1,000")
-        (_, few), = bench.measure([bench.deck("small", 20)])
-        _, many = run(bench.deck("small", options.decks))
-        print(f"Peak memory of {options.decks} decks of W5 in one process: {many / few:.2f} times that of 20")
+        for kind, title in ("small", "W5"), ("small-path", "W5, reading the template for each,"):
+            (_, few), = bench.measure([bench.deck(kind, 20)])
+            _, many = run(bench.deck(kind, options.decks))
+            print(f"Peak memory of {options.decks} decks of {title} in one process: "
+                  f"{many / few:.2f} times that of 20")
 
 
 if __name__ == "__main__":

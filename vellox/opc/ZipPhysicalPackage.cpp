@@ -5,6 +5,7 @@
 #include "vellox/opc/Deflater.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
+#include "vellox/opc/ZipFileSource.h"
 #include "vellox/opc/ZipHeaders.h"
 #include "vellox/opc/ZipStreamSource.h"
 
@@ -200,7 +201,10 @@ std::uint64_t ZipPhysicalPackage::measure() const {
         return std::filesystem::file_size(path_);
     std::istream& stream = input_->getStream();
     stream.clear();
-    return static_cast<std::uint64_t>(stream.seekg(0, std::ios::end).tellg());
+    const auto here = stream.tellg(); // where libzip has left it
+    const auto size = static_cast<std::uint64_t>(stream.seekg(0, std::ios::end).tellg());
+    stream.seekg(here);
+    return size;
 }
 
 void ZipPhysicalPackage::listEntries() {
@@ -312,7 +316,7 @@ zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry,
             return deflater.makeSource(target, entry.getBytes());
         return zip_source_buffer(target, entry.getBytes().data(), entry.getBytes().size(), 0);
     case PhysicalPart::Content::File:
-        return zip_source_file(target, vellox::toUtf8(entry.getContentFile()).c_str(), 0, -1);
+        return makeFileSource(target, vellox::toUtf8(entry.getContentFile()));
     }
     return nullptr;
 }

@@ -1,8 +1,10 @@
 #include "vellox/opc/ZipStreamSource.h"
 
-#include <algorithm>
+#include "vellox/opc/ZipWindow.h"
+
 #include <cerrno>
 #include <memory>
+#include <optional>
 
 namespace opc {
 
@@ -12,10 +14,8 @@ namespace {
 /// doesn't fit the direction is answered with an error.
 struct StreamSource {
     std::istream* input = nullptr;
-    std::ostream* output = nullptr;
-    // Where libzip writes, where the stream stands, and what is written. libzip loses memory when a place can't be
-    // told, so that the stream isn't asked for it, and goes there with the next bytes.
-    zip_uint64_t place = 0, streamPlace = 0, size = 0;
+    std::optional<ZipWindow> output;
+    zip_int64_t inputPlace = 0, streamPlace = -1, inputSize = -1;
     zip_error_t error{};
 
     ~StreamSource() { zip_error_fini(&error); }
@@ -27,53 +27,60 @@ struct StreamSource {
 
     zip_int64_t read(void* target, zip_uint64_t count) {
         input->clear();
+        if (inputPlace != streamPlace && !input->seekg(inputPlace))
+            return fail(ZIP_ER_SEEK, EINVAL);
         input->read(static_cast<char*>(target), static_cast<std::streamsize>(count));
-        return input->bad() ? fail(ZIP_ER_READ, EIO) : input->gcount();
+        if (input->bad())
+            return fail(ZIP_ER_READ, EIO);
+        streamPlace = inputPlace += input->gcount();
+        return input->gcount();
     }
 
-    zip_int64_t getLength() {
-        input->clear();
-        const auto here = input->tellg();
-        const zip_int64_t length = input->seekg(0, std::ios::end).tellg();
-        input->seekg(here);
-        return length;
+    // libzip asks again and again, which would cost calls to the system each time, and what is buffered.
+    zip_int64_t getInputSize() {
+        if (inputSize < 0) {
+            input->clear();
+            streamPlace = inputSize = input->seekg(0, std::ios::end).tellg();
+        }
+        return inputSize < 0 ? fail(ZIP_ER_SEEK, EINVAL) : inputSize;
     }
 
     zip_int64_t stat(zip_stat_t* result) {
         if (!input) // A new archive doesn't exist before it is written.
             return fail(ZIP_ER_READ, ENOENT);
+        if (getInputSize() < 0)
+            return -1;
         zip_stat_init(result);
-        result->size = static_cast<zip_uint64_t>(getLength());
+        result->size = static_cast<zip_uint64_t>(getInputSize());
         result->valid = ZIP_STAT_SIZE;
         return sizeof *result;
     }
 
     zip_int64_t seek(void* arguments, zip_uint64_t length) {
-        input->clear();
-        const zip_int64_t target =
-            zip_source_seek_compute_offset(static_cast<zip_uint64_t>(input->tellg()),
-                                           static_cast<zip_uint64_t>(getLength()), arguments, length, &error);
+        if (getInputSize() < 0)
+            return -1;
+        const zip_int64_t target = zip_source_seek_compute_offset(static_cast<zip_uint64_t>(inputPlace),
+                                                                  static_cast<zip_uint64_t>(getInputSize()),
+                                                                  arguments, length, &error);
         if (target < 0)
             return -1;
-        return input->seekg(target) ? 0 : fail(ZIP_ER_SEEK, EINVAL);
+        inputPlace = target;
+        return 0;
     }
 
     zip_int64_t seekWrite(void* arguments, zip_uint64_t length) {
-        const zip_int64_t target = zip_source_seek_compute_offset(place, size, arguments, length, &error);
+        const zip_int64_t target =
+            zip_source_seek_compute_offset(output->getPlace(), output->getSize(), arguments, length, &error);
         if (target < 0)
             return -1;
-        place = static_cast<zip_uint64_t>(target);
+        output->setPlace(static_cast<zip_uint64_t>(target));
         return 0;
     }
 
     zip_int64_t write(const void* bytes, zip_uint64_t count) {
         errno = 0;
-        if (place != streamPlace) // what was buffered is written now
-            output->seekp(static_cast<std::streamoff>(place));
-        if (!output->write(static_cast<const char*>(bytes), static_cast<std::streamsize>(count)))
+        if (!output->write(static_cast<const char*>(bytes), count))
             return failToWrite();
-        streamPlace = place += count;
-        size = std::max(size, place);
         return static_cast<zip_int64_t>(count);
     }
 
@@ -94,19 +101,20 @@ struct StreamSource {
         case ZIP_SOURCE_STAT:
             return stat(static_cast<zip_stat_t*>(data));
         case ZIP_SOURCE_OPEN:
-            return input && input->seekg(0) ? 0 : fail(ZIP_ER_OPEN, ENOENT);
+            inputPlace = 0;
+            return input ? 0 : fail(ZIP_ER_OPEN, ENOENT);
         case ZIP_SOURCE_READ:
             return read(data, length);
         case ZIP_SOURCE_SEEK:
             return seek(data, length);
         case ZIP_SOURCE_TELL:
-            return input->tellg();
+            return inputPlace;
         case ZIP_SOURCE_WRITE:
             return write(data, length);
         case ZIP_SOURCE_SEEK_WRITE:
             return seekWrite(data, length);
         case ZIP_SOURCE_TELL_WRITE:
-            return static_cast<zip_int64_t>(place);
+            return static_cast<zip_int64_t>(output->getPlace());
         case ZIP_SOURCE_COMMIT_WRITE:
             errno = 0;
             return output->flush() ? 0 : failToWrite();
@@ -144,7 +152,7 @@ zip_source_t* makeReadSource(std::istream& stream, zip_error_t* error) {
 
 zip_source_t* makeWriteSource(std::ostream& stream, zip_error_t* error) {
     auto source = std::make_unique<StreamSource>();
-    source->output = &stream;
+    source->output.emplace(stream);
     return makeSource(std::move(source), error);
 }
 
