@@ -162,6 +162,8 @@ TEST_F(OfficeDeckTest, MastersAndLayoutsAreFoundInTheirOrder) {
     EXPECT_EQ(deck.getMasterNames(), (Presentation::Names{L"Office", L"Office (2)"}));
     EXPECT_EQ(deck.getLayoutNames(L"Office (2)"), (Presentation::Names{L"Second", L"Both"}));
     EXPECT_EQ(deck.add(L"Second", L"Office (2)").getLayoutName(), L"Second");
+    EXPECT_EQ(deck.add(L"#2", L"Office (2)").getLayoutName(), L"Both");
+    EXPECT_EQ(errorOf([&] { deck.add(L"#3"); }), "ppt_error:invalidLayoutName #3");
 }
 
 TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
@@ -169,18 +171,23 @@ TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
     Page& layout = builder.addLayout("Own");
     builder.addSlide(
         "Old", layout,
-        groupShape(2, "Group", shape(3, "Inner", "", "", "old")) +
+        groupShape(2, "Group",
+                   shape(3, "Inner", "", "", "old") +
+                       shape(4, "Photo", "<p:ph type='pic' idx='9'/>", place(50, 60, 1000, 2000))) +
             "<p:sp><p:nvSpPr><p:cNvPr id='77' name='Bare'/><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr/>"
             "<p:extLst/></p:sp>");
     useBuilder();
     deck.replace(L"Inner", L"new");
     deck.replace(L"Bare", L"words");
+    writeFile(folder / L"a.png", makePng(100, 100));
+    deck.replace(L"Photo", object(Picture(folder / L"a.png")));
     TextBox free(L"Free");
     free.add(L"x");
     Slide::cast(deck.getChildren().front())->add(free);
     close();
     EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "words", "x"}));
     EXPECT_EQ(canonical(shapeXml(1, "Bare")).find("<p:extLst/></p:sp>"), shapeXml(1, "Bare").size() - 18);
+    EXPECT_EQ(placeOf(findAll(findAll(slideXml(1), "p:grpSp").at(0), "p:pic").at(0)), "50 560 1000 1000");
     const Texts ids = valuesOf(slideXml(1), "p:cNvPr", "id");
     EXPECT_EQ(ids.back(), "78");
 }

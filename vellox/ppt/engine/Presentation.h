@@ -78,7 +78,7 @@ public:
     /// @{ Adds a slide of a layout: at the end, before the slide at an index from 0 (at the end if there is
     /// none), or before a slide (at the end if that isn't one of this presentation). Where several slide
     /// masters have a layout of the name, one of them may be named; else the one whose part name sorts first
-    /// is taken. Names are exact.
+    /// is taken. Names are exact. With the profile "office", "#3" is a master's third layout.
     /// @throws invalidLayoutName
     /// @throws invalidLayoutOrSlideMasterName in the forms with a master
     Slide add(const std::wstring& layoutName);

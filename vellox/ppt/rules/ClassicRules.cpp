@@ -40,6 +40,10 @@ Order ClassicRules::orderLayouts() const {
     return Order::Relationships;
 }
 
+bool ClassicRules::numbersLayouts() const {
+    return false;
+}
+
 // A layout or a slide is read
 
 // A layout in which a background stands ahead of the tree has no placeholders.

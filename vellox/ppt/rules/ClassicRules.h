@@ -16,6 +16,7 @@ public:
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;
+    bool numbersLayouts() const override;
     TreePath findsTree() const override;
     NodeType classify(const ShapeFacts& shape) const override;
     Names nameShapes(const std::vector<NamedShape>& page) const override;

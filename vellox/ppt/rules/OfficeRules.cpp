@@ -72,6 +72,10 @@ Order OfficeRules::orderLayouts() const {
     return Order::Template;
 }
 
+bool OfficeRules::numbersLayouts() const {
+    return true;
+}
+
 // A layout or a slide is read
 
 TreePath OfficeRules::findsTree() const {
