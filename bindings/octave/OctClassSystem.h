@@ -43,6 +43,12 @@ public:
     /// Lets go of the object that makeInstance() made, once somebody else holds it.
     void releaseMade() { made_ = octave_value(); }
 
+    /// Lets go of an object of the library: at once, or while there are listeners, who hear of its end, at the next call
+    /// from a class file. Octave lets go of objects in the midst of changing variables, which no function may then see.
+    void letEnd(hostbind::ObjectPtr object);
+    /// Lets end what waits for it.
+    void endWaiting();
+
     /// @{ The listeners of an object, which is kept while it has some.
     void addListener(const octave_value& object, const octave_value& listener);
     void removeListener(const octave_value& object, const octave_value& listener);
@@ -70,6 +76,7 @@ private:
 
     std::vector<OctClass> classes_;
     octave_value made_;
+    std::vector<hostbind::ObjectPtr> waiting_;
     std::vector<Listening> listening_;
     unsigned long listenerCount_ = 0;
     bool isEnding_ = false;

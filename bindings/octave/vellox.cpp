@@ -156,10 +156,10 @@ struct Operation {
 };
 
 constexpr Operation kOperations[] = {
-    {"get", 3, get},       {"set", 4, set},           {"call", 3, callMethod},   {"cells", 3, callForCell},
-    {"make", 2, make},     {"same", 2, compare},      {"static", 2, callStatic}, {"isequal", 2, isEqual},
-    {"valid", 1, isValid}, {"delete", 1, letGo},      {"show", 1, show},         {"join", 1, join},
-    {"listen", 2, listen}, {"unlisten", 2, unlisten}, {"copy", 1, copy},         {"end", 0, end},
+    {"get", 3, get},           {"set", 4, set},      {"call", 3, callMethod},   {"cells", 3, callForCell},
+    {"make", 2, make},         {"same", 2, compare}, {"static", 2, callStatic}, {"isequal", 2, isEqual},
+    {"valid", 1, isValid},     {"show", 1, show},    {"join", 1, join},         {"listen", 2, listen},
+    {"unlisten", 2, unlisten}, {"copy", 1, copy},    {"end", 0, end},
 };
 
 Values dispatch(const Values& values) {
@@ -182,6 +182,7 @@ DEFUN_DLD(__vellox__, args, , "What the classes of vellox.ppt call.") {
     using namespace vellox::ppt::oct;
     return guarded([&] {
         OctClassSystem::begin();
+        OctClassSystem::get().endWaiting();
         return dispatch(args);
     });
 }
