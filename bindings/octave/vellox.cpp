@@ -4,6 +4,7 @@
 #include "bindings/octave/OctCall.h"
 #include "bindings/octave/OctClassSystem.h"
 #include "bindings/octave/OctErrors.h"
+#include "bindings/octave/OctFigures.h"
 #include "bindings/octave/OctObject.h"
 #include "bindings/octave/OctObjects.h"
 #include "bindings/octave/OctResults.h"
@@ -101,7 +102,7 @@ octave_value invoke(OctClass& owner, const Overloads& overloads, const octave_va
     const char* name = overloads.methods.front()->name;
     const ObjectPtr facade =
         overloads.methods.front()->isStatic ? ObjectPtr() : requireFacade(self, owner.bound, Use::Any);
-    const OctCall arguments(given);
+    const OctCall arguments(facade ? drawFigures(*facade, name, given) : given);
     const std::size_t chosen =
         arguments.select(overloads.signatures, std::string(owner.bound.name) + "." + name,
                          [&] { return describeOverloads(overloads.methods); });
