@@ -3,6 +3,7 @@
 #include "bindings/octave/OctErrors.h"
 #include "bindings/octave/OctObject.h"
 #include "bindings/octave/OctObjects.h"
+#include "bindings/octave/OctRows.h"
 #include "vellox/host/binding/HostCall.h"
 #include "vellox/host/binding/Module.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
@@ -84,11 +85,17 @@ OctClass& OctClassSystem::getClass(std::size_t number) {
     return classes_[number];
 }
 
+OctClass& OctClassSystem::findClass(const BoundClass& bound) {
+    // Both are in the order of the table.
+    return classes_[static_cast<std::size_t>(&bound - getBoundClasses().data())];
+}
+
 objreg::HostInterface& OctClassSystem::makeInstance(const BoundClass& bound, const ObjectPtr& object) {
     const octave::cdef_object made = allocateObject(bound);
     made_ = octave::to_ov(made);
     OctSlot& slot = OctSlot::put(made);
     slot.hold(bound, object);
+    shortenWay(bound);
     return slot;
 }
 

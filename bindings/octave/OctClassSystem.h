@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "bindings/octave/OctErrors.h"
 #include "bindings/octave/Octave.h"
 #include "vellox/host/binding/HostClassSystem.h"
 
@@ -23,6 +24,7 @@ struct OctClass {
     const hostbind::BoundClass& bound;
     std::vector<const hostbind::Signature*> constructors;
     std::vector<Overloads> methods; ///< by the row of each name's first overload
+    bool hasShortWay = false;       ///< see shortenWay()
 
     explicit OctClass(const hostbind::BoundClass& boundClass);
     const Overloads& getOverloads(std::size_t row);
@@ -40,6 +42,7 @@ public:
 
     /// @throws octave::execution_exception for a number that no class has
     OctClass& getClass(std::size_t number);
+    OctClass& findClass(const hostbind::BoundClass& bound);
     /// Lets go of the object that makeInstance() made, once somebody else holds it.
     void releaseMade() { made_ = octave_value(); }
 
@@ -81,6 +84,14 @@ private:
     unsigned long listenerCount_ = 0;
     bool isEnding_ = false;
 };
+
+/// Runs what Octave calls: the way in for everything.
+template <class Function> auto enter(Function function) {
+    return guarded([&] {
+        OctClassSystem::get().endWaiting();
+        return function();
+    });
+}
 
 } // namespace vellox::ppt::oct
 

@@ -1,13 +1,13 @@
-## What a property and a call cost from Octave, in microseconds, beside a property of a bare class with such access
+## What a property and a call cost from Octave, in microseconds of the processor, beside a property of a bare class with such access
 ## functions and a call of a method of it.
 1;
 
 function seconds = measure (body, count = 20000, repeats = 5)
   seconds = Inf;
   for i = 1:repeats
-    start = tic ();
+    start = cputime ();
     body (count);
-    seconds = min (seconds, toc (start) / count);
+    seconds = min (seconds, (cputime () - start) / count);
   endfor
 endfunction
 
