@@ -12,6 +12,8 @@ class ClassicRules : public Rules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
     Refusal refuse(const PackageFacts& package) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;

@@ -55,6 +55,14 @@ FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
     return FileNameFault::None;
 }
 
+bool OfficeRules::namesNearest() const {
+    return true;
+}
+
+bool OfficeRules::sendsFindings() const {
+    return true;
+}
+
 Rules::Names OfficeRules::nameMasters(const Names& themes) const {
     return makeUnique(themes);
 }
