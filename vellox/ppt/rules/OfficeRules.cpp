@@ -63,6 +63,11 @@ bool OfficeRules::sendsFindings() const {
     return true;
 }
 
+// A deck that is never finished costs nobody the one before it.
+Appearance OfficeRules::appearsWhen() const {
+    return Appearance::AtClose;
+}
+
 Rules::Names OfficeRules::nameMasters(const Names& themes) const {
     return makeUnique(themes);
 }
@@ -73,6 +78,10 @@ Rules::Names OfficeRules::nameLayouts(const Names& layouts) const {
 
 Order OfficeRules::orderLayouts() const {
     return Order::Template;
+}
+
+bool OfficeRules::numbersLayouts() const {
+    return true;
 }
 
 // A layout or a slide is read

@@ -74,6 +74,7 @@ struct TemplateShape : ShapeGeometry {
     Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
     TextSizes textSizes{};          ///< of its text, in a layout
     boost::shared_ptr<TemplateShapes> children; ///< of a group
+    bool givesWayInGroup = false;               ///< whether a picture may take its place in a group
 };
 
 struct TemplateTheme {
@@ -97,8 +98,9 @@ struct TemplateMaster {
     TextSizes titleSizes{}, bodySizes{};        ///< of the texts in placeholders
     unsigned int maxShapeId = 0;                ///< greatest id of a p:cNvPr
     boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< as the rules order them
-    std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByName;   ///< the first of each name
-    std::vector<std::wstring> layoutNames;                                     ///< with repeats
+    std::map<std::wstring, boost::shared_ptr<TemplateLayout>>
+        layoutsByName;                     ///< the first of each name, and "#1"
+    std::vector<std::wstring> layoutNames; ///< with repeats
 };
 
 struct TemplateLayout {
