@@ -126,6 +126,7 @@ constexpr struct {
     {"tableCannotBeReplaced", Kind::State},
     {"placeholderWasReplacedByObject", Kind::State},
     {"missingPictureFile", Kind::File},
+    {"unknownImageBytes", Kind::Value},
     {"invalidLayoutName", Kind::Name},
     {"invalidLayoutOrSlideMasterName", Kind::Name},
     {"cannotOpenFile", Kind::File},
