@@ -47,13 +47,11 @@ void deallocate(PyObject* self) {
 }
 
 /// Whether objects of a class are made of a number that they show.
-bool takesNumber(const BoundClass& bound) {
-    const auto isNumber = [](const Parameter& parameter) {
-        return parameter.word.getKind() == SignatureWord::Kind::Double;
-    };
+bool takes(const BoundClass& bound, SignatureWord::Kind kind) {
+    const auto isOfKind = [kind](const Parameter& parameter) { return parameter.word.getKind() == kind; };
     return std::any_of(bound.constructors.begin(), bound.constructors.end(),
                        [&](const BoundConstructor& each) {
-                           return std::any_of(each.signature.begin(), each.signature.end(), isNumber);
+                           return std::any_of(each.signature.begin(), each.signature.end(), isOfKind);
                        });
 }
 
@@ -67,7 +65,8 @@ ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(arguments));
     Reading reading;
     reading.rowsAreTables = true;
-    reading.digits = takesNumber(pyClass.bound) ? Digits::Always : Digits::OfItems;
+    reading.imagesAreBytes = takes(pyClass.bound, SignatureWord::Kind::Bytes);
+    reading.digits = takes(pyClass.bound, SignatureWord::Kind::Double) ? Digits::Always : Digits::OfItems;
     const PyCall call(values, count, reading);
     const std::size_t chosen =
         call.select(pyClass.constructorSignatures, pyClass.fullName, pyClass.constructorsText);
