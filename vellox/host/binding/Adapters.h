@@ -80,6 +80,10 @@ template <> struct FromHost<double> {
     static constexpr const char* kWord = "double scalar";
     static double convert(const hvArray& value) { return value.getDouble(); }
 };
+template <> struct FromHost<std::vector<unsigned char>> {
+    static constexpr const char* kWord = "uint8 vector";
+    static std::vector<unsigned char> convert(const hvArray& value) { return value.getBytes(); }
+};
 /// A value as it is, for an adapter to sort out.
 template <> struct FromHost<hvArray> {
     static constexpr const char* kWord = "any";
@@ -215,6 +219,32 @@ private:
     }
 };
 /// @}
+
+/// A function that a class has without an object of it: StaticMethod<R(A...)>::row<&function>(...).
+template <class Form> struct StaticMethod;
+
+template <class R, class... A> struct StaticMethod<R(A...)> {
+    template <class T> using Plain = std::remove_cv_t<std::remove_reference_t<T>>;
+
+    template <R (*kFunction)(A...)>
+    static BoundMethod row(const char* name, const ParameterNames<sizeof...(A)>& parameters,
+                           const char* doc) {
+        BoundMethod made = {name, makeSignature<Plain<A>...>(parameters, std::index_sequence_for<A...>()),
+                            SignatureWord(ToHost<Plain<R>>::kWord),
+                            [](PPTObject*, const Arguments& arguments) {
+                                return call<kFunction>(arguments, std::index_sequence_for<A...>());
+                            },
+                            doc};
+        made.isStatic = true;
+        return made;
+    }
+
+private:
+    template <R (*kFunction)(A...), std::size_t... kI>
+    static HostResult call(const Arguments& arguments, std::index_sequence<kI...>) {
+        return ToHost<Plain<R>>::convert(kFunction(FromHost<Plain<A>>::convert(arguments[kI])...));
+    }
+};
 
 /// @{ Properties. The getters and setters are members of facades or of what these derive from.
 template <class Member> struct MemberTypes;

@@ -28,6 +28,14 @@ Refusal ClassicRules::refuse(const PackageFacts& package) const {
     return isKnown ? Refusal::None : Refusal::OtherMainType;
 }
 
+bool ClassicRules::namesNearest() const {
+    return false;
+}
+
+bool ClassicRules::sendsFindings() const {
+    return false;
+}
+
 Rules::Names ClassicRules::nameMasters(const Names& themes) const {
     return themes;
 }
@@ -176,6 +184,14 @@ bool ClassicRules::alignsNumbers() const {
 
 const ElementForm* ClassicRules::formOf(std::u16string_view) const {
     return nullptr;
+}
+
+bool ClassicRules::sharesImages() const {
+    return false;
+}
+
+bool ClassicRules::readsTraits() const {
+    return false;
 }
 
 Missing ClassicRules::missingFile() const {

@@ -12,6 +12,8 @@ namespace vellox::ppt {
 class OfficeRules : public ClassicRules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Appearance appearsWhen() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
@@ -35,6 +37,8 @@ public:
     bool alignsNumbers() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
+    bool sharesImages() const override;
+    bool readsTraits() const override;
     PictureFacts sizeFree(const PictureFacts& picture) const override;
     std::optional<Box> fit(const PictureFacts& picture, const Box* place) const override;
 };

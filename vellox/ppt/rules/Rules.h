@@ -23,6 +23,10 @@ public:
     virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
+    /// Whether the errors of unknown names tell in their text which are near.
+    virtual bool namesNearest() const = 0;
+    /// Whether what a presentation finds is also sent as a warning.
+    virtual bool sendsFindings() const = 0;
     /// The names under which the masters are found, from those of their themes.
     virtual Names nameMasters(const Names& themes) const = 0;
     /// The names under which the layouts of one master are found, from their own.
@@ -68,6 +72,10 @@ public:
     /// @return null to leave it as it was made
     virtual const ElementForm* formOf(std::u16string_view element) const = 0;
     virtual Missing missingFile() const = 0;
+    /// Whether images of the same bytes are put into the deck once.
+    virtual bool sharesImages() const = 0;
+    /// Whether it counts what an image says of its resolution and of how it is to be turned.
+    virtual bool readsTraits() const = 0;
     /// The size of a picture that is placed freely, as far as it has one.
     /// @return the facts with the size that counts
     virtual PictureFacts sizeFree(const PictureFacts& picture) const = 0;
