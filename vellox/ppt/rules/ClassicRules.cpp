@@ -15,6 +15,10 @@ FileNameFault ClassicRules::judgeFileName(const std::wstring& name) const {
     return FileUtils::judgeFileName(name);
 }
 
+Appearance ClassicRules::appearsWhen() const {
+    return Appearance::AtOpen;
+}
+
 Refusal ClassicRules::refuse(const PackageFacts& package) const {
     if (!package.hasMainPart)
         return Refusal::NoMainPart;

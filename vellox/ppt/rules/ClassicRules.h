@@ -11,6 +11,7 @@ namespace vellox::ppt {
 class ClassicRules : public Rules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;

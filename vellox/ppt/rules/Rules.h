@@ -20,6 +20,7 @@ public:
 
     /// Whether a file of this name may be made.
     virtual FileNameFault judgeFileName(const std::wstring& name) const = 0;
+    virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
     /// The names under which the masters are found, from those of their themes.
