@@ -28,7 +28,11 @@ int answer(const CLI::App& app, const CLI::ParseError& error, Console& console) 
     }
     const auto used = app.get_subcommands();
     const std::string name = used.empty() ? "vellox" : "vellox " + used.front()->get_name();
-    console.printError({std::string(error.what()) + " (see " + name + " --help)", {}});
+    const std::vector<std::string> rest = app.remaining();
+    std::string text = error.what();
+    if (used.empty() && !rest.empty()) // of which the text knows nothing
+        text = (rest.front()[0] == '-' ? "there is no option " : "there is no command ") + rest.front();
+    console.printError({text + " (see " + name + " --help)", {}});
     return kFailed;
 }
 

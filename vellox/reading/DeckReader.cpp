@@ -100,12 +100,10 @@ private:
 std::vector<ppt::DeckSlide> readSlides(const std::wstring& path, std::vector<ppt::Finding>& findings) {
     Report report(findings);
     PackageIndex index;
-    {
-        XmlReader xml(report);
-        PackageReader reader(path, xml, report);
-        if (reader.read(index))
-            findMainPart(index, path, report);
-    }
+    XmlReader xml(report);
+    PackageReader reader(path, xml, report); // whose container the parts are read from
+    if (reader.read(index))
+        findMainPart(index, path, report);
     if (index.mainPart.empty())
         throw opc::Exception("it is no presentation");
     return DeckReader(path, index, report).run();
