@@ -119,7 +119,7 @@ void Pages::writeMan(std::ostream& page) const {
     page << ".TH VELLOX 1 \"\" \"vellox " VELLOX_VERSION "\" \"User Commands\"\n"
          << ".SH NAME\nvellox \\- " << toRoff(app_->get_description()) << "\n.SH SYNOPSIS\n";
     for (const auto& command : commands_)
-        page << ".B vellox " << command->getName() << "\n" << toRoff(getUsage(getApp(*command))) << "\n.br\n";
+        page << ".B vellox " << command->getName() << "\n" << toRoff(getUsage(getApp(*command)).substr(1)) << "\n.br\n";
     page << ".SH OPTIONS\n";
     writeManOptions(*app_, page);
     page << ".SH COMMANDS\n";

@@ -52,6 +52,12 @@ void append(std::wstring& summary, const std::vector<DeckParagraph>& paragraphs)
     summary += L'\2';
 }
 
+/// Dates, footers and numbers say nothing of a slide.
+bool isFurniture(const DeckShape& shape) {
+    return shape.placeholder == L"dt" || shape.placeholder == L"ftr" || shape.placeholder == L"sldNum" ||
+           shape.placeholder == L"hdr";
+}
+
 /// Empty text shapes show nothing.
 bool isBlank(const DeckShape& shape) {
     return shape.kind == DeckShape::Kind::Text && shape.paragraphs.empty() && shape.altText.empty();
@@ -96,7 +102,7 @@ std::wstring summarize(const DeckSlide& slide) {
 std::wstring describe(const DeckSlide& slide) {
     const auto describeShapes = [&](bool isTitle) {
         for (const DeckShape& shape : slide.shapes)
-            if (!isTitle || shape.placeholder == L"title" || shape.placeholder == L"ctrTitle")
+            if (isTitle ? shape.placeholder == L"title" || shape.placeholder == L"ctrTitle" : !isFurniture(shape))
                 for (const DeckParagraph& paragraph : shape.paragraphs)
                     if (!paragraph.text.empty())
                         return paragraph.text;
