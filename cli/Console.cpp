@@ -22,6 +22,8 @@ ErrorText describeCurrentError() {
         throw;
     } catch (const hostfx::except::IUserException& error) {
         return {error.what(), error.getErrorID()};
+    } catch (const Failure& error) {
+        return {error.what(), error.getID()};
     } catch (const std::bad_alloc&) {
         return {"there isn't enough memory", {}};
     } catch (const std::exception& error) {

@@ -36,7 +36,8 @@ std::string describe(const DataPlace& place) {
     return text + ": " + (place.path.empty() ? "" : place.path + ": ");
 }
 
-DataFailure::DataFailure(const DataPlace& place, const std::string& text) : Failure(describe(place) + text) {}
+DataFailure::DataFailure(const DataPlace& place, const std::string& text, std::string id)
+    : Failure(describe(place) + text, std::move(id)) {}
 
 Data readDataFile(const std::string& file) {
     std::string extension = std::filesystem::path(file).extension().string();

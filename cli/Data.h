@@ -42,7 +42,7 @@ struct DataPlace {
 /// Something is wrong with a value: "report.yaml:12: slides[2].layout: ...".
 class DataFailure : public Failure {
 public:
-    DataFailure(const DataPlace& place, const std::string& text);
+    DataFailure(const DataPlace& place, const std::string& text, std::string id = {});
 };
 std::string describe(const DataPlace& place);
 

@@ -49,7 +49,7 @@ private:
                 return deck_.add(name, textOf_(master->text, place.member("master", *master)));
             return deck_.add(name);
         } catch (const hostfx::except::IUserException& error) {
-            throw DataFailure(at, error.what());
+            throw DataFailure(at, error.what(), error.getErrorID());
         }
     }
 
@@ -67,7 +67,7 @@ private:
             else
                 slide.replace(name, makeTableContent(value, place));
         } catch (const hostfx::except::IUserException& error) {
-            throw DataFailure(place, error.what());
+            throw DataFailure(place, error.what(), error.getErrorID());
         }
         reportNews(place);
     }

@@ -117,9 +117,9 @@ private:
     ppt::Template openTemplate() const {
         std::error_code ignored;
         if (template_ == "default" && !std::filesystem::exists(template_, ignored))
-            return ppt::Template();
+            return ppt::Template::forOffice(ppt::Template().getPath());
         requireFile(template_);
-        return ppt::Template(fromUtf8(template_));
+        return ppt::Template::forOffice(fromUtf8(template_));
     }
 
     int makeDecks(const std::vector<Task>& tasks, const DeckDescription& description,
@@ -155,19 +155,13 @@ private:
         JobResult result;
         ppt::Presentation deck(fromUtf8(task.output), source);
         deck.setProfile(L"office");
-        bool hasErrors = false;
+        deck.setStrict(isStrict_);
         const auto report = [&](const DataPlace& place, const ppt::Finding& finding) {
-            if (finding.severity == ppt::Severity::Info)
-                return;
-            hasErrors = hasErrors || finding.severity == ppt::Severity::Error;
-            result.warnings.push_back(describe(place) + describe(finding));
+            if (finding.severity != ppt::Severity::Info)
+                result.warnings.push_back(describe(place) + describe(finding));
         };
         deck.open();
         description.make(deck, task.hasRecord ? &task.record : nullptr, report);
-        if (isStrict_ && hasErrors) {
-            result.text = task.output + " isn't written, since it wouldn't be as it was asked for";
-            return result;
-        }
         const std::size_t known = deck.getFindings().size();
         deck.close();
         const std::vector<ppt::Finding> findings = deck.getFindings();
