@@ -18,9 +18,9 @@ struct JobResult {
     std::vector<std::string> warnings; ///< a line each
 };
 
-/// Numbers of jobs to workers, results back. A worker is a copy of this process: what was read before the batch is
-/// read for all. A worker that dies is told as the failure of its job, and another takes its place. The first
-/// Ctrl-C lets the jobs end that have begun and starts no further ones; another ends them, too.
+/// Numbers of jobs to workers, results back. A worker is a copy of this process: what was read before the
+/// batch is read for all. A worker that dies is told as the failure of its job, and another takes its place.
+/// The first Ctrl-C lets the jobs end that have begun and starts no further ones; another ends them, too.
 class Batch {
 public:
     using Work = std::function<JobResult(std::size_t)>;

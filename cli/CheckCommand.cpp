@@ -20,12 +20,15 @@ public:
     const char* getName() const override { return "check"; }
     const char* getSummary() const override { return "Would a strict reader want to repair these decks?"; }
     const char* getManual() const override {
-        return "Checks decks, templates and slide shows: archive, content types, relationships, lists of slides, and "
+        return "Checks decks, templates and slide shows: archive, content types, relationships, lists of "
+               "slides, and "
                "each element against the format. Nothing is changed.\n"
-               "A sound deck gives no line. Each finding is a line with the file, the severity, the place, the text, "
+               "A sound deck gives no line. Each finding is a line with the file, the severity, the place, "
+               "the text, "
                "and the code that the documents explain. Findings that are only worth knowing are told with "
                "--verbose.\n"
-               "The status is 1 if a deck has an error, or with --strict a warning, and 2 if one can't be read.";
+               "The status is 1 if a deck has an error, or with --strict a warning, and 2 if one can't be "
+               "read.";
     }
     void declare(CLI::App& app) override {
         app.add_option("DECK", decks_, "Files to check, or folders with the parts as files")
@@ -62,8 +65,8 @@ private:
             if (isJson_)
                 rows.push_back(toJson(finding));
             else if (finding.severity != ppt::Severity::Info || console.isVerbose())
-                console.print(makePrintable(deck) + ": " + toString(finding.severity) + ": " + describe(finding) +
-                              " (" + finding.code + ")");
+                console.print(makePrintable(deck) + ": " + toString(finding.severity) + ": " +
+                              describe(finding) + " (" + finding.code + ")");
         }
         if (isJson_)
             all.push_back({{"deck", deck}, {"isSound", status == kDone}, {"findings", std::move(rows)}});

@@ -23,8 +23,8 @@ Commands makeCommands() {
 }
 
 std::unique_ptr<CLI::App> makeApp(const Commands& commands, bool& isVerbose) {
-    auto app = std::make_unique<CLI::App>("PowerPoint decks from templates and data, and what is in them",
-                                          "vellox");
+    auto app =
+        std::make_unique<CLI::App>("PowerPoint decks from templates and data, and what is in them", "vellox");
     app->set_version_flag("--version", "vellox " VELLOX_VERSION, "Say which version this is");
     app->set_help_flag("-h,--help", "Say how it is used");
     app->add_flag("-v,--verbose", isVerbose, "Tell the identifiers of errors, and whatever else there is");

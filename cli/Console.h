@@ -22,7 +22,9 @@ enum Status {
 /// An error of the command's own, in UTF-8 and in one line.
 class Failure : public std::runtime_error {
 public:
-    explicit Failure(const std::string& text, std::string id = {}) : runtime_error(text), id_(std::move(id)) {}
+    explicit Failure(const std::string& text, std::string id = {})
+        : runtime_error(text),
+          id_(std::move(id)) {}
     /// Of the library's error that it tells of; empty for others.
     const std::string& getID() const { return id_; }
 

@@ -19,8 +19,8 @@ struct CsvFile {
     std::vector<CsvRow> rows;       ///< the others; blank lines are none
 };
 
-/// The separator is the one of "," ";" and tab that the first row has most of. Cells may stand in quotation marks, in
-/// which two are one.
+/// The separator is the one of "," ";" and tab that the first row has most of. Cells may stand in quotation
+/// marks, in which two are one.
 /// @param isRecords rows are records: each name stands once and isn't empty, and all rows have as many cells
 /// @throws Failure with file and line
 CsvFile readCsvFile(const std::string& file, bool isRecords = true);

@@ -89,7 +89,8 @@ std::string describeNearest(const std::string& name, const std::vector<std::stri
     constexpr std::size_t kMaxNames = 3, kMaxLength = 200;
     std::vector<std::pair<std::size_t, std::string>> sorted;
     for (const std::string& candidate : names)
-        sorted.emplace_back(getDistance(name.substr(0, kMaxLength), candidate.substr(0, kMaxLength)), candidate);
+        sorted.emplace_back(getDistance(name.substr(0, kMaxLength), candidate.substr(0, kMaxLength)),
+                            candidate);
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     std::string text;

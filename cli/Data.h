@@ -55,8 +55,8 @@ Data parseJson(const std::string& text, const std::string& file);
 Data parseYaml(const std::string& text, const std::string& file);
 /// @}
 
-/// Reads a file by its extension: .json, .yaml, .yml, or .csv with one row of values below one of names, which is
-/// a record of tokens.
+/// Reads a file by its extension: .json, .yaml, .yml, or .csv with one row of values below one of names,
+/// which is a record of tokens.
 /// @throws Failure
 Data readDataFile(const std::string& file);
 

@@ -75,7 +75,8 @@ private:
     /// Each line is a paragraph.
     static void putText(ppt::Slide& slide, const std::wstring& name, const std::wstring& text) {
         std::size_t begin = 0, end = 0;
-        const std::size_t size = text.find_last_not_of(L"\r\n") + 1; // block texts of YAML end with a line end
+        const std::size_t size =
+            text.find_last_not_of(L"\r\n") + 1; // block texts of YAML end with a line end
         for (bool isFirst = true; isFirst || begin < size; isFirst = false, begin = end + 1) {
             end = std::min(text.find(L'\n', begin), size);
             const std::wstring line = text.substr(begin, end - begin);
@@ -142,7 +143,8 @@ std::string fillIn(const std::string& text, const Record& record, const DataPlac
         } else {
             const std::size_t end = c == '{' ? text.find('}', i) : text.npos;
             if (end == text.npos)
-                throw DataFailure(place, std::string("a \"") + c + "\" stands alone; two of them are one in the text");
+                throw DataFailure(place, std::string("a \"") + c +
+                                             "\" stands alone; two of them are one in the text");
             const std::string name = text.substr(i + 1, end - i - 1);
             const auto found = record.find(name);
             if (found == record.end())
@@ -155,7 +157,9 @@ std::string fillIn(const std::string& text, const Record& record, const DataPlac
     return filled;
 }
 
-DeckDescription::DeckDescription(Data data, const std::string& file) : data_(std::move(data)), root_{file, {}, 0} {
+DeckDescription::DeckDescription(Data data, const std::string& file)
+    : data_(std::move(data)),
+      root_{file, {}, 0} {
     checkForm(data_, root_);
 }
 

@@ -10,7 +10,8 @@ using Names = std::vector<std::string>;
 
 void require(const Data& value, Data::Kind kind, const DataPlace& place) {
     if (value.kind != kind)
-        throw DataFailure(place, std::string("it is ") + toString(value.kind) + ", and must be " + toString(kind));
+        throw DataFailure(place,
+                          std::string("it is ") + toString(value.kind) + ", and must be " + toString(kind));
 }
 
 /// A record with no other names than these.

@@ -34,7 +34,8 @@ public:
         case Kind::SlideMoved:
             return console_.print(describeSlide("> slide ", difference.presentSlide, difference.present) +
                                   " (was slide " + std::to_string(difference.formerSlide) + ")");
-        default: break;
+        default:
+            break;
         }
         writeHeads(difference);
         if (difference.kind == Kind::ShapeRemoved)
@@ -67,11 +68,16 @@ private:
 
     static std::string getHead(const DeckDifference& difference) {
         switch (difference.kind) {
-        case Kind::LayoutChanged: return "layout:";
-        case Kind::VisibilityChanged: return "visibility:";
-        case Kind::NotesChanged: return "notes:";
-        case Kind::AltTextChanged: return makePrintable(difference.shape) + ", described as:";
-        default: return makePrintable(difference.shape) + ":";
+        case Kind::LayoutChanged:
+            return "layout:";
+        case Kind::VisibilityChanged:
+            return "visibility:";
+        case Kind::NotesChanged:
+            return "notes:";
+        case Kind::AltTextChanged:
+            return makePrintable(difference.shape) + ", described as:";
+        default:
+            return makePrintable(difference.shape) + ":";
         }
     }
 
@@ -109,10 +115,13 @@ public:
     const char* getName() const override { return "diff"; }
     const char* getSummary() const override { return "What sets two decks apart?"; }
     const char* getManual() const override {
-        return "Compares what two decks show: slides that were added, removed or moved, texts paragraph by paragraph, "
-               "tables and charts cell by cell, pictures by their bytes, notes. How it is shown doesn't count: formats, "
+        return "Compares what two decks show: slides that were added, removed or moved, texts paragraph by "
+               "paragraph, "
+               "tables and charts cell by cell, pictures by their bytes, notes. How it is shown doesn't "
+               "count: formats, "
                "places, names of parts.\n"
-               "Lines begin with - for what was, + for what is now, > for a slide that has moved, and * for one that "
+               "Lines begin with - for what was, + for what is now, > for a slide that has moved, and * for "
+               "one that "
                "has changed. Decks that show the same give no line.\n"
                "The status is 0 if they show the same, 1 if they differ, and 2 if one of them can't be read.";
     }

@@ -23,23 +23,32 @@ public:
     const char* getName() const override { return "fill"; }
     const char* getSummary() const override { return "Make decks of a template and data"; }
     const char* getManual() const override {
-        return "Makes a deck on a template from a description in JSON or YAML: slides by the names of layouts, and what "
-               "goes into their placeholders, by name. A text is one paragraph a line, a list has a paragraph for "
-               "each item, and lists within it stand a level deeper; {picture: FILE} and {table: FILE.csv} or {table: "
+        return "Makes a deck on a template from a description in JSON or YAML: slides by the names of "
+               "layouts, and what "
+               "goes into their placeholders, by name. A text is one paragraph a line, a list has a "
+               "paragraph for "
+               "each item, and lists within it stand a level deeper; {picture: FILE} and {table: FILE.csv} "
+               "or {table: "
                "ROWS} take a placeholder's place. Files are found from the folder of the description.\n"
-               "With --each, a deck is made for every row of a table: \"{column}\" stands for the row's value, in the "
-               "description and in the name of the output; \"{{\" is a brace. Values for all decks may stand in the "
-               "description under \"tokens\". Decks are made in several processes; one that fails doesn't stop the "
+               "With --each, a deck is made for every row of a table: \"{column}\" stands for the row's "
+               "value, in the "
+               "description and in the name of the output; \"{{\" is a brace. Values for all decks may stand "
+               "in the "
+               "description under \"tokens\". Decks are made in several processes; one that fails doesn't "
+               "stop the "
                "others, and the last line lists them. Ctrl-C lets the decks end that have been begun.\n"
-               "What is asked for and can't be had, such as a name that nothing bears, is told with its place in the "
-               "data; with --strict, such a deck isn't written. The file at the output stays what it was until a "
+               "What is asked for and can't be had, such as a name that nothing bears, is told with its "
+               "place in the "
+               "data; with --strict, such a deck isn't written. The file at the output stays what it was "
+               "until a "
                "new one is whole.\n"
                "The status is 0 if all decks were made, 1 if some were, and 2 if none was.\n"
                "$ vellox fill corporate.potx week47.yaml -o week47.pptx\n"
                "$ vellox fill corporate.potx letter.yaml --each customers.csv -o 'letter-{id}.pptx' --jobs 4";
     }
     void declare(CLI::App& app) override {
-        app.add_option("TEMPLATE", template_, "The template; \"default\" is the one that comes along")->required();
+        app.add_option("TEMPLATE", template_, "The template; \"default\" is the one that comes along")
+            ->required();
         app.add_option("DATA", data_, "The description: .json or .yaml, or .csv with one row of values");
         app.add_option("-o,--output", output_, "The deck to make; with --each with columns in its name")
             ->required()
@@ -110,7 +119,8 @@ private:
         for (const auto& entry : record)
             if (entry.second.find_first_of(std::string("/\\\0", 3)) != std::string::npos &&
                 output_.find("{" + entry.first + "}") != std::string::npos)
-                throw DataFailure(place, entry.first + ": \"" + entry.second + "\" can't be part of a file's name");
+                throw DataFailure(place,
+                                  entry.first + ": \"" + entry.second + "\" can't be part of a file's name");
         return output;
     }
 
@@ -151,7 +161,8 @@ private:
         return failed.empty() ? kDone : made > 0 ? kFound : kFailed;
     }
 
-    JobResult makeDeck(const Task& task, const DeckDescription& description, const ppt::Template& source) const {
+    JobResult makeDeck(const Task& task, const DeckDescription& description,
+                       const ppt::Template& source) const {
         JobResult result;
         ppt::Presentation deck(fromUtf8(task.output), source);
         deck.setProfile(L"office");

@@ -32,7 +32,8 @@ public:
     const char* getName() const override { return "new"; }
     const char* getSummary() const override { return "Begin a template of one's own"; }
     const char* getManual() const override {
-        return "Writes the default template to a file, to be given fonts, colours, logos and further layouts in an office "
+        return "Writes the default template to a file, to be given fonts, colours, logos and further layouts "
+               "in an office "
                "program. Its layouts and placeholders keep the names that they have there.";
     }
     void declare(CLI::App& app) override {

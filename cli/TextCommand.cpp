@@ -90,7 +90,9 @@ private:
         case DeckShape::Kind::Picture:
             console_.print(name + ": (picture" + describePicture(shape) + ")" + describeAltText(shape));
             break;
-        case DeckShape::Kind::Other: console_.print(name + ": (object)" + describeAltText(shape)); break;
+        case DeckShape::Kind::Other:
+            console_.print(name + ": (object)" + describeAltText(shape));
+            break;
         default:
             // Drawn shapes mostly have no text; a placeholder without one is worth a line.
             if (!shape.paragraphs.empty())
@@ -138,14 +140,18 @@ public:
     const char* getName() const override { return "text"; }
     const char* getSummary() const override { return "What is on the slides of a deck?"; }
     const char* getManual() const override {
-        return "Writes the slides of a deck, template or slide show, one after the other: texts by their shapes' names, "
-               "tables and charts row by row, pictures by a digest of their bytes, and notes. The lines stay the same as "
-               "long as the deck shows the same, whichever program saved it last, so that they serve to compare decks.\n"
+        return "Writes the slides of a deck, template or slide show, one after the other: texts by their "
+               "shapes' names, "
+               "tables and charts row by row, pictures by a digest of their bytes, and notes. The lines stay "
+               "the same as "
+               "long as the deck shows the same, whichever program saved it last, so that they serve to "
+               "compare decks.\n"
                "A line break within a text is shown as \\n.\n"
                "With git, this shows what has changed in decks:\n"
                "$ git config diff.pptx.textconv \"vellox text\"\n"
                "$ echo '*.pptx diff=pptx' >> .gitattributes\n"
-               "What can't be read of a damaged deck is told on the standard error stream, and the status is 1.";
+               "What can't be read of a damaged deck is told on the standard error stream, and the status is "
+               "1.";
     }
     void declare(CLI::App& app) override {
         app.add_option("DECK", deck_, "The deck to read")->required();

@@ -18,7 +18,8 @@ Data::Kind judge(const std::string& word) {
         word == "FALSE")
         return Data::Kind::Logical;
     constexpr std::size_t kMaxNumber = 100;
-    return word.size() <= kMaxNumber && std::regex_match(word, kNumber) ? Data::Kind::Number : Data::Kind::Text;
+    return word.size() <= kMaxNumber && std::regex_match(word, kNumber) ? Data::Kind::Number
+                                                                        : Data::Kind::Text;
 }
 
 /// An alias stands for all of its anchor again, so that a short text can be a huge tree: values are counted.
@@ -39,12 +40,16 @@ public:
             for (const YAML::Node& item : node)
                 value.items.push_back(build(item, depth + 1));
             break;
-        case YAML::NodeType::Map: buildRecord(node, value, depth); break;
+        case YAML::NodeType::Map:
+            buildRecord(node, value, depth);
+            break;
         case YAML::NodeType::Scalar:
             value.text = node.Scalar();
-            value.kind = node.Tag() == "?" ? judge(value.text) : Data::Kind::Text; // "!" is in quotation marks
+            value.kind =
+                node.Tag() == "?" ? judge(value.text) : Data::Kind::Text; // "!" is in quotation marks
             break;
-        default: break;
+        default:
+            break;
         }
         return value;
     }

@@ -112,21 +112,24 @@ string toRoff(const string& text) {
 
 void writeManOptions(const CLI::App& app, std::ostream& page) {
     for (const CLI::Option* option : app.get_options())
-        page << ".TP\n\\fB" << toRoff(getTitle(*option)) << "\\fR\n" << toRoff(option->get_description()) << "\n";
+        page << ".TP\n\\fB" << toRoff(getTitle(*option)) << "\\fR\n"
+             << toRoff(option->get_description()) << "\n";
 }
 
 void Pages::writeMan(std::ostream& page) const {
     page << ".TH VELLOX 1 \"\" \"vellox " VELLOX_VERSION "\" \"User Commands\"\n"
          << ".SH NAME\nvellox \\- " << toRoff(app_->get_description()) << "\n.SH SYNOPSIS\n";
     for (const auto& command : commands_)
-        page << ".B vellox " << command->getName() << "\n" << toRoff(getUsage(getApp(*command)).substr(1)) << "\n.br\n";
+        page << ".B vellox " << command->getName() << "\n"
+             << toRoff(getUsage(getApp(*command)).substr(1)) << "\n.br\n";
     page << ".SH OPTIONS\n";
     writeManOptions(*app_, page);
     page << ".SH COMMANDS\n";
     for (const auto& command : commands_) {
         page << ".SS \"vellox " << command->getName() << "\"\n" << toRoff(command->getSummary()) << "\n";
         for (const string& line : splitLines(command->getManual()))
-            page << (isSession(line) ? ".PP\n.in +4n\n.nf\n" : ".PP\n") << toRoff(isSession(line) ? line.substr(2) : line)
+            page << (isSession(line) ? ".PP\n.in +4n\n.nf\n" : ".PP\n")
+                 << toRoff(isSession(line) ? line.substr(2) : line)
                  << (isSession(line) ? "\n.fi\n.in\n" : "\n");
         writeManOptions(getApp(*command), page);
     }
@@ -139,8 +142,9 @@ void Pages::writeMan(std::ostream& page) const {
 
 void Pages::writeMarkdown(std::ostream& page) const {
     for (const auto& command : commands_) {
-        page << "### vellox " << command->getName() << "\n\n" << command->getSummary() << "\n\n```\nvellox "
-             << command->getName() << getUsage(getApp(*command)) << "\n```\n\n";
+        page << "### vellox " << command->getName() << "\n\n"
+             << command->getSummary() << "\n\n```\nvellox " << command->getName()
+             << getUsage(getApp(*command)) << "\n```\n\n";
         bool isCode = false;
         for (const string& line : splitLines(command->getManual())) {
             if (isSession(line) != isCode)
@@ -176,12 +180,14 @@ void Pages::writeBash(std::ostream& page) const {
     page << "# Completion of vellox for bash.\n\n_vellox()\n{\n"
             "    local current=${COMP_WORDS[COMP_CWORD]} command= flags= word\n"
             "    for word in \"${COMP_WORDS[@]:1:COMP_CWORD-1}\"; do\n"
-            "        case $word in\n            -*) ;;\n            *) command=$word; break ;;\n        esac\n    done\n"
+            "        case $word in\n            -*) ;;\n            *) command=$word; break ;;\n        "
+            "esac\n    done\n"
             "    COMPREPLY=()\n    case $command in\n";
     for (const auto& command : commands_)
         page << "        " << command->getName() << ") flags='" << join(getAllFlags(getApp(*command)), " ")
              << " --verbose' ;;\n";
-    page << "        '') flags='" << join(names, " ") << " " << join(getAllFlags(*app_), " ") << "' ;;\n    esac\n"
+    page << "        '') flags='" << join(names, " ") << " " << join(getAllFlags(*app_), " ")
+         << "' ;;\n    esac\n"
          << "    if [[ -z $command || $current == -* ]]; then\n"
             "        mapfile -t COMPREPLY < <(compgen -W \"$flags\" -- \"$current\")\n"
             "    else\n        compopt -o filenames\n"
@@ -200,11 +206,13 @@ void writeZshOptions(const CLI::App& app, const string& indent, std::ostream& pa
     for (const CLI::Option* option : app.get_options()) {
         const string value = takesValue(*option) ? ":" + quoteZsh(getValueName(*option)) + ":_files" : "";
         if (option->get_positional())
-            page << " \\\n" << indent << "'" << (option->get_items_expected_max() > 1 ? "*" : "") << ":"
+            page << " \\\n"
+                 << indent << "'" << (option->get_items_expected_max() > 1 ? "*" : "") << ":"
                  << quoteZsh(option->get_name(true)) << ":_files'";
         else
             for (const string& flag : getFlags(*option))
-                page << " \\\n" << indent << "'" << flag << "[" << quoteZsh(option->get_description()) << "]" << value
+                page << " \\\n"
+                     << indent << "'" << flag << "[" << quoteZsh(option->get_description()) << "]" << value
                      << "'";
     }
 }
@@ -217,7 +225,8 @@ void Pages::writeZsh(std::ostream& page) const {
     page << "    )\n    _arguments -C";
     writeZshOptions(*app_, "        ", page);
     page << " \\\n        '1: :->command' '*:: :->arguments'\n    case $state in\n"
-            "        command) _describe command commands ;;\n        arguments)\n            case $line[1] in\n";
+            "        command) _describe command commands ;;\n        arguments)\n            case $line[1] "
+            "in\n";
     for (const auto& command : commands_) {
         page << "                " << command->getName() << ") _arguments";
         writeZshOptions(getApp(*command), "                    ", page);

@@ -1,5 +1,5 @@
-#include "vellox/reading/DeckComparison.h"
 #include "vellox/reading/DeckReader.h"
+#include "vellox/reading/DeckComparison.h"
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
@@ -23,10 +23,13 @@ constexpr char kRun[] = "<a:t>prompt</a:t>";
 
 /// A series of a chart, with what it keeps of its data.
 std::string series(const std::string& name, const std::string& first, const std::string& second) {
-    const auto point = [](const std::string& value) { return "<c:pt idx='0'><c:v>" + value + "</c:v></c:pt>"; };
-    return "<c:ser><c:tx><c:strRef><c:strCache>" + point(name) + "</c:strCache></c:strRef></c:tx><c:cat><c:strRef>" +
-           "<c:strCache>" + point("Q1") + point("Q2") + "</c:strCache></c:strRef></c:cat><c:val><c:numRef><c:numCache>" +
-           point(first) + point(second) + "</c:numCache></c:numRef></c:val></c:ser>";
+    const auto point = [](const std::string& value) {
+        return "<c:pt idx='0'><c:v>" + value + "</c:v></c:pt>";
+    };
+    return "<c:ser><c:tx><c:strRef><c:strCache>" + point(name) +
+           "</c:strCache></c:strRef></c:tx><c:cat><c:strRef>" + "<c:strCache>" + point("Q1") + point("Q2") +
+           "</c:strCache></c:strRef></c:cat><c:val><c:numRef><c:numCache>" + point(first) + point(second) +
+           "</c:numCache></c:numRef></c:val></c:ser>";
 }
 
 class DeckReader : public testing::Test {
@@ -46,8 +49,9 @@ protected:
             test::shape(2, "Title", "<p:ph type='title'/>") +
                 test::groupShape(3, "Group", test::groupShape(4, "Inner", test::shape(5, "Deep"))) +
                 "<mc:AlternateContent xmlns:mc='http://schemas.openxmlformats.org/markup-compatibility/2006'>"
-                "<mc:Choice Requires='p14'>" + test::shape(6, "New") + "</mc:Choice><mc:Fallback>" +
-                test::shape(6, "Old") + "</mc:Fallback></mc:AlternateContent>" + test::tableShape(8, "Table", 1, 2));
+                "<mc:Choice Requires='p14'>" +
+                test::shape(6, "New") + "</mc:Choice><mc:Fallback>" + test::shape(6, "Old") +
+                "</mc:Fallback></mc:AlternateContent>" + test::tableShape(8, "Table", 1, 2));
         first.attributes = " show='0'";
         test::Page& second = builder.addSlide(
             "", layout,
@@ -60,15 +64,16 @@ protected:
                             {"rId8", "chart", "../charts/chart1.xml"},
                             {"rId9", "notesSlide", "../notesSlides/notesSlide1.xml"}};
         builder.addPart("ppt/media/image1.png", "image/png", test::makePng(4, 3));
-        builder.addPart("ppt/charts/chart1.xml",
-                        "application/vnd.openxmlformats-officedocument.drawingml.chart+xml",
-                        "<c:chartSpace xmlns:c='http://schemas.openxmlformats.org/drawingml/2006/chart'><c:chart>" +
-                            series("North", "1", "2") + series("South", "3", "4") + "</c:chart></c:chartSpace>");
+        builder.addPart(
+            "ppt/charts/chart1.xml", "application/vnd.openxmlformats-officedocument.drawingml.chart+xml",
+            "<c:chartSpace xmlns:c='http://schemas.openxmlformats.org/drawingml/2006/chart'><c:chart>" +
+                series("North", "1", "2") + series("South", "3", "4") + "</c:chart></c:chartSpace>");
         builder.addPart("ppt/notesSlides/notesSlide1.xml",
                         "application/vnd.openxmlformats-officedocument.presentationml.notesSlide+xml",
                         "<p:notes xmlns:p='http://schemas.openxmlformats.org/presentationml/2006/main' "
                         "xmlns:a='http://schemas.openxmlformats.org/drawingml/2006/main'><p:cSld><p:spTree>" +
-                            test::shape(2, "Notes", "<p:ph type='body'/>") + "</p:spTree></p:cSld></p:notes>");
+                            test::shape(2, "Notes", "<p:ph type='body'/>") +
+                            "</p:spTree></p:cSld></p:notes>");
         return builder.build();
     }
 
@@ -100,7 +105,8 @@ TEST_F(DeckReader, ShowsWhatIsOnSlides) {
     EXPECT_EQ(second.shapes[0].kind, DeckShape::Kind::Picture);
     EXPECT_EQ(second.shapes[0].digest.size(), 40U);
     EXPECT_EQ(second.shapes[0].bytes, test::makePng(4, 3).size());
-    const std::vector<std::vector<std::wstring>> values = {{L"", L"Q1", L"Q2"}, {L"North", L"1", L"2"}, {L"South", L"3", L"4"}};
+    const std::vector<std::vector<std::wstring>> values = {
+        {L"", L"Q1", L"Q2"}, {L"North", L"1", L"2"}, {L"South", L"3", L"4"}};
     EXPECT_EQ(second.shapes[1].rows, values);
     EXPECT_EQ(second.shapes[1].altText, L"Growth");
     ASSERT_EQ(second.notes.size(), 1U);
@@ -117,10 +123,12 @@ TEST_F(DeckReader, TellsDecksApart) {
             kinds += std::string(toString(difference.kind)) + " ";
         return kinds;
     };
-    EXPECT_EQ(compare(test::withChange(parts, "ppt/slides/slide1.xml", kRun, "<a:t>a</a:t><a:br/><a:t>b</a:t>")),
-              "textChanged ");
+    EXPECT_EQ(
+        compare(test::withChange(parts, "ppt/slides/slide1.xml", kRun, "<a:t>a</a:t><a:br/><a:t>b</a:t>")),
+        "textChanged ");
     EXPECT_EQ(compare(test::withChange(parts, "ppt/charts/chart1.xml", ">4<", ">5<")), "cellChanged ");
-    EXPECT_EQ(compare(test::withChange(parts, "ppt/slides/slide1.xml", " show='0'", "")), "visibilityChanged ");
+    EXPECT_EQ(compare(test::withChange(parts, "ppt/slides/slide1.xml", " show='0'", "")),
+              "visibilityChanged ");
     EXPECT_EQ(compare(test::withChange(parts, "ppt/notesSlides/notesSlide1.xml", kRun, "<a:t>n</a:t>")),
               "notesChanged ");
     Parts picture = parts;

@@ -17,8 +17,7 @@ public:
 
     std::vector<Pair> run() {
         const std::size_t head = countAlike({0, 0}, {former_.size(), present_.size()}, 1);
-        const std::size_t tail =
-            countAlike({former_.size(), present_.size()}, {head, head}, std::size_t(-1));
+        const std::size_t tail = countAlike({former_.size(), present_.size()}, {head, head}, std::size_t(-1));
         const Pair end(former_.size() - tail, present_.size() - tail);
         addRun({0, 0}, head);
         Pair at(head, head);
@@ -78,13 +77,12 @@ private:
 
     /// Of pairs whose second numbers rise, the longest choice whose first ones do, too.
     static std::vector<Pair> findLongestRise(const std::vector<Pair>& pairs) {
-        std::vector<std::size_t> ends;                          // of the best choice of each length
+        std::vector<std::size_t> ends;                               // of the best choice of each length
         std::vector<std::size_t> before(pairs.size(), pairs.size()); // the one ahead in its choice
         for (std::size_t i = 0; i < pairs.size(); ++i) {
-            const auto place = std::lower_bound(ends.begin(), ends.end(), pairs[i].first,
-                                                [&](std::size_t end, std::size_t former) {
-                                                    return pairs[end].first < former;
-                                                });
+            const auto place = std::lower_bound(
+                ends.begin(), ends.end(), pairs[i].first,
+                [&](std::size_t end, std::size_t former) { return pairs[end].first < former; });
             if (place != ends.begin())
                 before[i] = *std::prev(place);
             if (place == ends.end())

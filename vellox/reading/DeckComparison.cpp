@@ -12,8 +12,8 @@ using namespace ppt;
 namespace {
 
 constexpr const char* kKindNames[] = {
-    "slideRemoved",   "slideAdded",     "slideMoved",   "layoutChanged", "visibilityChanged",
-    "shapeRemoved",   "shapeAdded",     "textChanged",  "cellChanged",   "sizeChanged",
+    "slideRemoved",   "slideAdded",     "slideMoved",  "layoutChanged", "visibilityChanged",
+    "shapeRemoved",   "shapeAdded",     "textChanged", "cellChanged",   "sizeChanged",
     "pictureChanged", "altTextChanged", "kindChanged", "notesChanged",
 };
 
@@ -72,8 +72,8 @@ private:
         }
     }
 
-    /// Between slides that show the same: those of one title belong together, and between these what is left, one
-    /// after the other.
+    /// Between slides that show the same: those of one title belong together, and between these what is left,
+    /// one after the other.
     void compareGap(std::size_t i, std::size_t formerEnd, std::size_t j, std::size_t presentEnd) {
         Pairs pairs = align(describeAll(former_, i, formerEnd), describeAll(present_, j, presentEnd));
         pairs.emplace_back(formerEnd - i, presentEnd - j);

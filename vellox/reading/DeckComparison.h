@@ -17,7 +17,7 @@ struct VELLOX_API DeckDifference {
     enum class Kind {
         SlideRemoved,
         SlideAdded,
-        SlideMoved,   ///< it stands elsewhere, and shows the same
+        SlideMoved, ///< it stands elsewhere, and shows the same
         LayoutChanged,
         VisibilityChanged, ///< "hidden" or "shown"
         ShapeRemoved,
@@ -43,10 +43,12 @@ struct VELLOX_API DeckDifference {
 /// "slideRemoved", "textChanged" and so on.
 VELLOX_API const char* toString(DeckDifference::Kind kind);
 
-/// Compares what two decks show: their slides, and on those texts, tables, charts and pictures by their bytes. What
-/// isn't shown, or only says how, doesn't count: names of parts, ids, formats, places. Slides that show the same are
-/// paired first, then those between them one after the other; shapes go by their names.
-/// @return in the order of the present deck, with removed slides where they stood; none if the decks show the same
+/// Compares what two decks show: their slides, and on those texts, tables, charts and pictures by their
+/// bytes. What isn't shown, or only says how, doesn't count: names of parts, ids, formats, places. Slides
+/// that show the same are paired first, then those between them one after the other; shapes go by their
+/// names.
+/// @return in the order of the present deck, with removed slides where they stood; none if the decks show the
+/// same
 VELLOX_API std::vector<DeckDifference> compareDecks(const DeckContents& former, const DeckContents& present);
 
 } // namespace vellox::ppt

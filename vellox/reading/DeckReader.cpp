@@ -124,9 +124,8 @@ DeckContents readDeck(const std::wstring& path) {
     }
     // What the package has wrong without harm to what is read is the check's.
     const auto isOfTheCheck = [](const Finding& finding) { return finding.code != "unreadablePart"; };
-    contents.findings.erase(
-        std::remove_if(contents.findings.begin(), contents.findings.end(), isOfTheCheck),
-        contents.findings.end());
+    contents.findings.erase(std::remove_if(contents.findings.begin(), contents.findings.end(), isOfTheCheck),
+                            contents.findings.end());
     return contents;
 }
 

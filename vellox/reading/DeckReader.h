@@ -19,8 +19,8 @@
 namespace vellox::ppt {
 
 struct VELLOX_API DeckParagraph {
-    unsigned int level = 0;  ///< from 0
-    std::wstring text;       ///< with "\n" for line breaks
+    unsigned int level = 0; ///< from 0
+    std::wstring text;      ///< with "\n" for line breaks
 };
 
 /// One shape of a slide with what it shows. Those in groups stand among the others, in the order of the page.
@@ -60,8 +60,8 @@ struct VELLOX_API DeckContents {
     std::vector<Finding> findings;
 };
 
-/// Reads what the slides of a presentation, template or slide show hold: a file, or a folder with the parts as
-/// files. Damaged parts are findings and no errors, and no package can do harm.
+/// Reads what the slides of a presentation, template or slide show hold: a file, or a folder with the parts
+/// as files. Damaged parts are findings and no errors, and no package can do harm.
 /// @throws cannotOpenFile if the package can't be opened, or is no presentation, with the reason and the path
 VELLOX_API DeckContents readDeck(const std::wstring& path);
 

@@ -92,8 +92,8 @@ std::wstring summarize(const DeckSlide& slide) {
                 append(summary, cell);
             summary += L'\2';
         }
-        append(summary, shape.digest.empty() ? shape.picture
-                                             : std::wstring(shape.digest.begin(), shape.digest.end()));
+        append(summary,
+               shape.digest.empty() ? shape.picture : std::wstring(shape.digest.begin(), shape.digest.end()));
     }
     append(summary, slide.notes);
     return summary;
@@ -102,7 +102,8 @@ std::wstring summarize(const DeckSlide& slide) {
 std::wstring describe(const DeckSlide& slide) {
     const auto describeShapes = [&](bool isTitle) {
         for (const DeckShape& shape : slide.shapes)
-            if (isTitle ? shape.placeholder == L"title" || shape.placeholder == L"ctrTitle" : !isFurniture(shape))
+            if (isTitle ? shape.placeholder == L"title" || shape.placeholder == L"ctrTitle"
+                        : !isFurniture(shape))
                 for (const DeckParagraph& paragraph : shape.paragraphs)
                     if (!paragraph.text.empty())
                         return paragraph.text;
@@ -115,9 +116,12 @@ std::wstring describe(const DeckSlide& slide) {
 std::wstring describe(const DeckShape& shape) {
     switch (shape.kind) {
     case DeckShape::Kind::Table:
-    case DeckShape::Kind::Chart: return getKindName(shape) + L", " + describeSize(shape);
-    case DeckShape::Kind::Picture: return L"picture, " + describePicture(shape);
-    default: break;
+    case DeckShape::Kind::Chart:
+        return getKindName(shape) + L", " + describeSize(shape);
+    case DeckShape::Kind::Picture:
+        return L"picture, " + describePicture(shape);
+    default:
+        break;
     }
     for (const DeckParagraph& paragraph : shape.paragraphs)
         if (!paragraph.text.empty())
