@@ -1,7 +1,7 @@
 // Writes what goes with the program, from the program's own table of commands, so that they never disagree.
 //
 //     vellox_pages man|bash|zsh|fish|markdown > page
-//     vellox_pages --check FILE        says whether the part of a page of the documents that is made here is up to date
+//     vellox_pages --check FILE        says whether a page of the documents ends with what is written here
 
 #include "cli/Command.h"
 
