@@ -62,10 +62,9 @@ private:
                 putText(slide, name, textOf_(value.text, place));
             else if (value.kind == Data::Kind::List)
                 slide.replace(name, makeList(value, place, textOf_));
-            else if (const Data* picture = value.find("picture"))
-                slide.replace(name, makePicture(*picture, place.member("picture", *picture)));
             else
-                slide.replace(name, makeTableContent(value, place));
+                slide.replace(name, value.find("picture") ? makePicture(value, place)
+                                                          : makeTableContent(value, place));
         } catch (const hostfx::except::IUserException& error) {
             throw DataFailure(place, error.what(), error.getErrorID());
         }
@@ -84,24 +83,39 @@ private:
         }
     }
 
-    HvContentPtr makePicture(const Data& path, const DataPlace& place) const {
-        const std::string file = resolve(fill(path.text, place), place.file);
-        requireFileOf(place, file);
-        return boost::make_shared<ObjectContent>(ppt::Picture(fromUtf8(file)));
+    HvContentPtr makePicture(const Data& value, const DataPlace& place) const {
+        const Data& path = *value.find("picture");
+        const std::string file = findFile(path, place.member("picture", path));
+        ppt::Picture picture(fromUtf8(file));
+        setOption(value, "alt", place, [&](const std::wstring& text) { picture.setAltText(text); });
+        setOption(value, "fit", place, [&](const std::wstring& word) { picture.setFit(word); });
+        return boost::make_shared<ObjectContent>(picture);
     }
 
     HvContentPtr makeTableContent(const Data& value, const DataPlace& place) const {
         const Data& rows = *value.find("table");
         const DataPlace at = place.member("table", rows);
         ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_) : readTable(rows, at);
-        if (const Data* style = value.find("style"))
-            table.setStyleName(textOf_(style->text, place.member("style", *style)));
+        setOption(value, "alt", place, [&](const std::wstring& text) { table.setAltText(text); });
+        setOption(value, "style", place, [&](const std::wstring& name) { table.setStyleName(name); });
         return boost::make_shared<ObjectContent>(table);
     }
 
+    template <class Set>
+    void setOption(const Data& value, const char* name, const DataPlace& place, const Set& set) const {
+        const Data* option = value.find(name);
+        if (!option)
+            return;
+        const DataPlace at = place.member(name, *option);
+        try {
+            set(textOf_(option->text, at));
+        } catch (const hostfx::except::IUserException& error) {
+            throw DataFailure(at, error.what(), error.getErrorID());
+        }
+    }
+
     ppt::Table readTable(const Data& path, const DataPlace& place) const {
-        const std::string file = resolve(fill(path.text, place), place.file);
-        requireFileOf(place, file);
+        const std::string file = findFile(path, place);
         try {
             return makeTable(file);
         } catch (const Failure& failure) {
@@ -109,12 +123,15 @@ private:
         }
     }
 
-    static void requireFileOf(const DataPlace& place, const std::string& file) {
+    /// A file that a deck names, from the folder of its description.
+    std::string findFile(const Data& path, const DataPlace& place) const {
+        const std::string file = resolve(fill(path.text, place), place.file);
         try {
             requireFile(file);
         } catch (const Failure& failure) {
             throw DataFailure(place, failure.what());
         }
+        return file;
     }
 
     void reportNews(const DataPlace& place) {

@@ -55,13 +55,12 @@ void checkObject(const Data& value, const DataPlace& place) {
     const Data* table = value.find("table");
     if (!picture == !table)
         throw DataFailure(place, "it must have either a picture or a table");
-    checkRecord(value, picture ? Names{"picture"} : Names{"table", "style"}, place);
-    if (picture)
-        require(*picture, Data::Kind::Text, place.member("picture", *picture));
+    checkRecord(value, picture ? Names{"picture", "alt", "fit"} : Names{"table", "alt", "style"}, place);
     if (table)
         checkTable(*table, place.member("table", *table));
-    if (const Data* style = value.find("style"))
-        require(*style, Data::Kind::Text, place.member("style", *style));
+    for (const Data::Member& member : value.members)
+        if (&member.second != table)
+            require(member.second, Data::Kind::Text, place.member(member.first, member.second));
 }
 
 void checkSlide(const Data& slide, const DataPlace& place) {

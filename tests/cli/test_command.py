@@ -14,6 +14,7 @@ import pytest
 
 COMMAND = os.environ["VELLOX_COMMAND"]
 PAGES = os.environ["VELLOX_PAGES"]
+PICTURE = pathlib.Path(__file__).parents[2] / "docs/images/hello.png"
 
 DECK = """\
 slides:
@@ -71,6 +72,14 @@ def test_a_deck_from_a_description(work):
     assert "Title: Report for World\nSubtitle:\n    Week 47\n    all sites\n" in text
     assert "Content:\n    First\n      deeper\n      3.10\n    {last}\n" in text
     assert "    | Site | Flow |\n    | North; old | 1.50 |\n    | South | 7 |\n" in text
+    pathlib.Path("plots").mkdir()
+    shutil.copy(PICTURE, "plots/flow.png")
+    pathlib.Path("picture.yaml").write_text(
+        "slides:\n  - layout: Title and Content\n    contents:\n"
+        "      Content: {picture: plots/flow.png, fit: cover, alt: Flow over time}\n")
+    run("fill", "default", "picture.yaml", "-o", "picture.pptx")
+    assert f"Content: (picture, {PICTURE.stat().st_size} bytes, " in run("text", "picture.pptx").stdout
+    run("check", "picture.pptx", "--strict")
     slides = json.loads(run("text", "deck.pptx", "--json").stdout)
     assert [slide["layout"] for slide in slides] == ["Title Slide", "Title and Content", "Title and Table"]
 
@@ -82,6 +91,7 @@ def test_a_deck_from_a_description(work):
     ("flow-{id}", "flow-{di}", ":15: slides[3].contents.Table.table: there is no column \"di\"; there is \"id\""),
     ("flow-{id}", "none-{id}", ":15: slides[3].contents.Table.table: none-1.csv: No such file"),
     ("Week 47", "{Week 47", ":5: slides[1].contents.Subtitle: "),
+    ("table: ", "picture: ~, fit: ", ":15: slides[3].contents.Table.picture: it is nothing, and must be a text"),
     ("tokens: {", "tokens: {id: 2, ", "two values for \"id\""),
     ("tokens: {", "tokens: [", "it is no YAML: "),
 ])
