@@ -36,6 +36,10 @@ constexpr FindingKind kFindingKinds[] = {
     {"charactersDropped", Severity::Warning},
     {"cannotChangeOutputPath", Severity::Warning},
     {"cannotChangeTemplatePath", Severity::Warning},
+    {"emptyPlaceholder", Severity::Warning},
+    {"tokenWithoutValue", Severity::Error},
+    {"valueWithoutToken", Severity::Warning},
+    {"tokenRefusesValue", Severity::Error},
     {"moreFindings", Severity::Info},
 };
 
