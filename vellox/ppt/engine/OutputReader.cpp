@@ -2,20 +2,23 @@
 
 #include "vellox/ppt/package/PackageNames.h"
 
+#include <boost/interprocess/streams/bufferstream.hpp>
 #include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
 
-namespace {
-
-OPCPackage& openForReading(OPCPackage& package) {
-    package.openRead(false);
+OPCPackage& OutputReader::open(OPCPackage& package, const std::string* bytes) {
+    if (bytes)
+        package.openRead(boost::make_shared<boost::interprocess::ibufferstream>(bytes->data(), bytes->size()));
+    else
+        package.openRead(false);
     return package;
 }
 
-} // namespace
-
-OutputReader::OutputReader(const std::wstring& path) : package_(path), builder_(openForReading(package_)) {}
+OutputReader::OutputReader(const std::wstring& path, boost::shared_ptr<const std::string> bytes)
+    : bytes_(std::move(bytes)),
+      package_(path),
+      builder_(open(package_, bytes_.get())) {}
 
 boost::shared_ptr<const TemplateNotes> OutputReader::readNotes(const std::wstring& slidePartName) {
     const std::wstring target =

@@ -13,11 +13,12 @@
 
 namespace vellox::ppt {
 
-/// On the copy of the template that stands at the output path. Most decks never need one.
+/// On the template's bytes, or on the copy that stands at the output path. Most decks never need one.
 class OutputReader {
 public:
+    /// @param bytes empty where the copy stands there
     /// @throws cannotOpenFile
-    explicit OutputReader(const std::wstring& path);
+    OutputReader(const std::wstring& path, boost::shared_ptr<const std::string> bytes);
 
     /// The speaker's page of a slide.
     /// @return empty if there is none
@@ -25,6 +26,9 @@ public:
     boost::shared_ptr<const TemplateNotes> readNotes(const std::wstring& slidePartName);
 
 private:
+    static OPCPackage& open(OPCPackage& package, const std::string* bytes);
+
+    boost::shared_ptr<const std::string> bytes_;
     OPCPackage package_;
     PartDOMBuilder builder_;
 };

@@ -71,7 +71,7 @@ void PresentationImpl::requireNotes(TemplateSlide& record) {
     const std::wstring path = outputFile_->getPath();
     translate<opc::Exception, ppt_error::cannotOpenFile>(path, [&] {
         if (!reader_)
-            reader_ = boost::make_shared<OutputReader>(path);
+            reader_ = boost::make_shared<OutputReader>(path, outputFile_->getBytes());
         record.notes = reader_->readNotes(part);
     });
     record.areNotesRead = true;

@@ -40,6 +40,8 @@ public:
 
     /// Empty for nothing.
     const HvContentPtr& get() const { return content_; }
+    /// For operations that take content.
+    operator const HvContentPtr&() const { return content_; }
 
 private:
     static HvContentPtr makeNumber(double number);

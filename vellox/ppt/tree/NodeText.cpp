@@ -9,15 +9,19 @@ std::wstring joinTexts(const std::wstring& upper, const std::wstring& lower) {
     return upper.empty() || lower.empty() ? upper + lower : upper + L"\n" + lower;
 }
 
+std::wstring readRuns(const PPTNodeImpl& paragraph) {
+    std::wstring text;
+    for (const auto& run : paragraph.getChildren())
+        if (const auto* impl = implAs<TextImpl>(*run))
+            text += impl->getTextContent();
+    return text;
+}
+
 std::wstring readParagraphs(const PPTNodeImpl& node) {
     std::wstring text;
-    for (const auto& paragraph : node.getChildren()) {
-        if (&paragraph != &node.getChildren().front())
-            text += L'\n';
-        for (const auto& run : paragraph->getChildren())
-            if (const auto* impl = implAs<TextImpl>(*run))
-                text += impl->getTextContent();
-    }
+    for (const auto& paragraph : node.getChildren())
+        text += (paragraph == node.getChildren().front() ? L"" : L"\n") +
+                readRuns(*implOf<PPTNodeImpl>(*paragraph));
     return text;
 }
 

@@ -12,6 +12,9 @@
 
 namespace vellox::ppt {
 
+/// The text of a paragraph.
+std::wstring readRuns(const PPTNodeImpl& paragraph);
+
 /// The texts of the paragraphs that a node holds, one below the other.
 std::wstring readParagraphs(const PPTNodeImpl& node);
 
