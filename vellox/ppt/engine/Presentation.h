@@ -99,6 +99,9 @@ public:
     /// Puts a slide in the place of an index from 0, or at the end if there is none.
     /// @throws slideNotInPresentation
     void move(const Slide& slide, unsigned int index);
+    /// Puts a slide before another one, or at the end if that isn't one of this presentation.
+    /// @throws slideNotInPresentation
+    void moveBefore(const Slide& slide, const Slide& before);
     /// Takes a slide out. With one of the template's go its notes, its charts, its entries in sections and custom
     /// shows, and links that lead to it. The handle stays good for reading, and the slide can't come back.
     /// @throws slideNotInPresentation

@@ -95,6 +95,16 @@ void Presentation::move(const Slide& slide, unsigned int index) {
     pimpl()->moveSlide(slide, index);
 }
 
+void Presentation::moveBefore(const Slide& slide, const Slide& before) {
+    unsigned int index = 0;
+    for (const auto& child : getChildren()) {
+        if (*child == before)
+            break;
+        index += *child == slide ? 0 : 1;
+    }
+    move(slide, index);
+}
+
 void Presentation::remove(const Slide& slide) {
     pimpl()->removeSlide(slide);
 }
