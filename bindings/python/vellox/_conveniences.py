@@ -11,6 +11,8 @@ from collections.abc import Iterator
 from types import TracebackType
 from typing import TYPE_CHECKING, Any, Literal, Self
 
+from ._findings import Finding, read_findings
+
 if TYPE_CHECKING:
     from .ppt import Shape
     from .ppt import Slide as _Slide
@@ -44,11 +46,12 @@ class Object:
 
 
 class Presentation:
-    """The with statement, and the slides in order."""
+    """The with statement, the slides in order, and findings."""
 
     __slots__ = ()
 
     if TYPE_CHECKING:
+        def getFindings(self) -> list[tuple[str, str, str, str, str, str]]: ...
         def __vellox_give_up__(self) -> None: ...
         def open(self) -> bool: ...
         def close(self) -> bool: ...
@@ -68,6 +71,11 @@ class Presentation:
         """The slides that there are now: they may be removed meanwhile."""
         self.open()
         return iter(self.Children)
+
+    @property
+    def Findings(self) -> list[Finding]:
+        """What was asked for and isn't in the deck, or is other than asked, in the order in which it came out."""
+        return read_findings(self.getFindings())
 
     def __enter__(self) -> Self:
         """Gives the presentation itself."""

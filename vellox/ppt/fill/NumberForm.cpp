@@ -108,10 +108,9 @@ std::optional<std::wstring> formatDate(const std::wstring& date, const std::wstr
     stream >> std::get_time(&time, L"%Y-%m-%d");
     if (!stream)
         return std::nullopt;
-    if (stream.peek() == L' ' || stream.peek() == L'T') {
-        stream.get();
+    const wchar_t mark = stream.eof() ? L'\0' : static_cast<wchar_t>(stream.get());
+    if (mark == L' ' || mark == L'T')
         stream >> std::get_time(&time, L"%H:%M:%S");
-    }
     const std::tm given = time;
     if (!stream || timegm(&time) == -1 || time.tm_mday != given.tm_mday) // which finds the day of the week
         return std::nullopt;

@@ -3,7 +3,9 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NameHint.h"
 
+#include <iterator>
 #include <vector>
 
 namespace vellox::ppt {
@@ -73,7 +75,7 @@ Shapes findByKey(const Shapes& shapes, const std::wstring& key) {
     std::vector<std::wstring> names;
     for (const ShapeImpl* shape : shapes)
         names.push_back(shape->getName());
-    raise(ppt_error::unknownShape(key, nearestNames(key, names)));
+    raiseWithHint(ppt_error::unknownShape(key), makeNameHint(key, names), true);
 }
 
 } // namespace

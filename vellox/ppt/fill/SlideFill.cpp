@@ -155,15 +155,17 @@ bool isAnimated(const SlideImpl& slide, const ShapeImpl& shape) {
     return false;
 }
 
+// What is empty on a new slide is found when that is written.
 void settleEmpty(SlideImpl& slide, bool dropEmpty) {
     const PPTNode::Children shapes = slide.getChildren();
+    const bool isNew = !slide.getTemplateSlide() || !slide.getTemplateSlide()->source;
     for (const auto& shape : shapes) {
         if (!isEmptyPlaceholder(*shape))
             continue;
         const auto& impl = *implOf<ShapeImpl>(*shape);
         if (dropEmpty && !isAnimated(slide, impl))
             slide.dropShape(*shape);
-        else
+        else if (!isNew)
             report(ppt_finding::emptyPlaceholder(), impl);
     }
 }

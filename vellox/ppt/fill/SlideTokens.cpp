@@ -41,13 +41,16 @@ public:
     const std::vector<TokenDocument::Report>& getReports() const { return reports_; }
     unsigned int getCount() const { return (body_ ? body_->getCount() : 0) + (notes_ ? notes_->getCount() : 0); }
 
-    void commit() {
+    void tell() const {
         const std::size_t dropped =
             (body_ ? body_->getDropped() : 0) + (notes_ ? notes_->getDropped() : 0);
         if (dropped > 0)
             report(ppt_finding::charactersDropped(std::to_wstring(dropped)), *slide_);
         for (const TokenDocument::Report& each : reports_)
             tell(each);
+    }
+
+    void commit() {
         if (body_)
             record_->source = boost::make_shared<SlideSource>(std::move(body_->getDocument()));
         if (notes_)
@@ -164,10 +167,12 @@ unsigned int fillSlides(const PPTNode::Children& slides, PresentationImpl* deck,
     const std::vector<std::wstring> unused = values.getUnused();
     if (strict && (hasReports || !unused.empty()))
         refuse(filled, unused);
-    for (const auto& slide : filled)
-        slide->commit();
+    for (const auto& slide : filled) // a presentation that refuses to be other than asked does so here
+        slide->tell();
     for (const std::wstring& name : unused)
         report(ppt_finding::valueWithoutToken(name), about);
+    for (const auto& slide : filled)
+        slide->commit();
     return count;
 }
 

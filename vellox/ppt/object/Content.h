@@ -30,7 +30,9 @@ public:
     template <class Number, class = std::enable_if_t<std::is_arithmetic_v<Number>>>
     Content(Number number)
         : Content(makeNumber(number)) {}
-    Content(const HvContentPtr& content) : content_(content) {}
+    template <class Kind, class = std::enable_if_t<std::is_base_of_v<HvContent, Kind>>, class = void, class = void>
+    Content(const boost::shared_ptr<Kind>& content)
+        : content_(content) {}
     /// A Paragraph, a Picture, a Table.
     template <class Facade, class = std::enable_if_t<std::is_base_of_v<PPTObject, Facade>>, class = void>
     Content(const Facade& object)

@@ -28,6 +28,14 @@ Refusal ClassicRules::refuse(const PackageFacts& package) const {
     return isKnown ? Refusal::None : Refusal::OtherMainType;
 }
 
+bool ClassicRules::namesNearest() const {
+    return false;
+}
+
+bool ClassicRules::sendsFindings() const {
+    return false;
+}
+
 Rules::Names ClassicRules::nameMasters(const Names& themes) const {
     return themes;
 }

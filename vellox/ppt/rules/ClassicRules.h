@@ -13,6 +13,8 @@ public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
     Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;

@@ -12,6 +12,8 @@ namespace vellox::ppt {
 class OfficeRules : public ClassicRules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Appearance appearsWhen() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;

@@ -23,6 +23,10 @@ public:
     virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
+    /// Whether the errors of unknown names tell in their text which are near.
+    virtual bool namesNearest() const = 0;
+    /// Whether what a presentation finds is also sent as a warning.
+    virtual bool sendsFindings() const = 0;
     /// The names under which the masters are found, from those of their themes.
     virtual Names nameMasters(const Names& themes) const = 0;
     /// The names under which the layouts of one master are found, from their own.

@@ -7,9 +7,12 @@
 #define VELLOX_PPT_TREE_CAST_H
 
 #include <boost/shared_ptr.hpp>
+#include <string>
+#include <vector>
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/object/Content.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/tree/Table.h"
 
