@@ -136,6 +136,7 @@ constexpr struct {
     {"emptyHandle", Kind::State},
     {"wrongClass", Kind::Type},
     {"tokensLeft", Kind::Value},
+    {"unknownImageBytes", Kind::Value},
     {"invalidLayoutName", Kind::Name},
     {"notAsAsked", Kind::Value},
     {"invalidLayoutOrSlideMasterName", Kind::Name},

@@ -93,6 +93,10 @@ template <> struct FromHost<Contents> {
 };
 /// What a call may leave out.
 template <class T> struct FromHost<std::optional<T>> { static constexpr const char* kWord = FromHost<T>::kWord; };
+template <> struct FromHost<std::vector<unsigned char>> {
+    static constexpr const char* kWord = "uint8 vector";
+    static std::vector<unsigned char> convert(const hvArray& value) { return value.getBytes(); }
+};
 /// A value as it is, for an adapter to sort out.
 template <> struct FromHost<hvArray> {
     static constexpr const char* kWord = "any";

@@ -38,6 +38,7 @@ struct NamedArgument {
 ///
 ///     "char"            a text                        "logical scalar"   one truth value
 ///     "uint32 scalar"   one unsigned 32-bit number    "double scalar"    one number
+///     "uint8 vector"    bytes, such as an image's
 ///     "any"             any value                     "void"             no result
 ///     "fields"          values under names, see hvFields
 ///     a class's name    one object of it or a subclass
@@ -45,7 +46,7 @@ struct NamedArgument {
 /// and, for what a property holds, "list of" a class, "char or double scalar", and a class's name and "vector".
 class VELLOX_API SignatureWord {
 public:
-    enum class Kind { Char, Logical, Uint32, Double, Any, Fields, Void, Compound, Object };
+    enum class Kind { Char, Logical, Uint32, Double, Bytes, Any, Fields, Void, Compound, Object };
 
     /// @param word as above, the names of classes without their package
     explicit SignatureWord(const std::string& word);
