@@ -62,7 +62,8 @@ void useSamples(ppt::Presentation& deck) {
                 cell->setText(cell->getText() + L"\n{text}");
         }
     }
-    deck.fillTokens({{L"text", 2.5}, {L"list", ppt::list({L"a", ppt::list({L"b"})})}, {L"table", makeTable()}});
+    deck.fillTokens(
+        {{L"text", 2.5}, {L"list", ppt::list({L"a", ppt::list({L"b"})})}, {L"table", makeTable()}});
     if (!slides.empty())
         deck.remove(*ppt::Slide::cast(slides.front()));
 }

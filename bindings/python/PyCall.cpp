@@ -20,7 +20,8 @@ PyCall::PyCall(PyObject* const* objects, std::size_t count, const Reading& readi
 
 std::size_t PyCall::select(const std::vector<const hostbind::Signature*>& signatures, const std::string& name,
                            const std::string& takes) const {
-    const int found = count_ > kMostArguments ? -1 : hostbind::findOverload(signatures, getArguments(), named_);
+    const int found =
+        count_ > kMostArguments ? -1 : hostbind::findOverload(signatures, getArguments(), named_);
     if (found < 0)
         throw PythonError(PyExc_TypeError, name + " doesn't take (" + describeValues(objects_, count_) +
                                                "). It takes:\n\n" + takes);

@@ -21,7 +21,8 @@ public:
     static constexpr std::size_t kMostArguments = 8;
 
     /// @param names of the last arguments, a tuple; null if none has one
-    PyCall(PyObject* const* objects, std::size_t count, const Reading& reading = {}, PyObject* names = nullptr);
+    PyCall(PyObject* const* objects, std::size_t count, const Reading& reading = {},
+           PyObject* names = nullptr);
 
     hostbind::Arguments getArguments() const { return {pointers_.data(), count_ - named_.size()}; }
     /// All of them as a signature that fits has them.

@@ -431,8 +431,9 @@ const hvArray* PyValue::getCell(std::size_t i) const {
     elements_->cells.resize(elements_->items.size());
     std::unique_ptr<PyValue>& cell = elements_->cells[i];
     if (!cell)
-        cell = std::make_unique<PyValue>(elements_->items[i].get(),
-                                         Reading{false, false, reading_.digits, reading_.depth + 1, reading_.fields});
+        cell = std::make_unique<PyValue>(
+            elements_->items[i].get(),
+            Reading{false, false, reading_.digits, reading_.depth + 1, reading_.fields});
     return cell.get();
 }
 

@@ -179,8 +179,8 @@ std::string formatFunction(const std::string& name, const Signature& signature, 
                 getArgumentType(parameter, &parameter == &signature.front()) +
                 (parameter.isOptional ? " = ..." : "");
     }
-    return "    def " + name + "(" + list + (signature.empty() || hasKeywords ? "" : ", /") + ") -> " + result +
-           ": ...\n";
+    return "    def " + name + "(" + list + (signature.empty() || hasKeywords ? "" : ", /") + ") -> " +
+           result + ": ...\n";
 }
 
 /// Of abstract classes the library alone makes objects; nothing can be passed to what wants a Never.

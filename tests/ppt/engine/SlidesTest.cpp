@@ -41,12 +41,12 @@ protected:
     SlidesTest() {
         builder.addMaster("Theme", shape(2, "Title", "<p:ph type='title'/>"));
         layout = &builder.addLayout("Own", shape(2, "Title", "<p:ph type='title'/>"));
-        Page& first = builder.addSlide("First", *layout,
-                                       shape(2, "Title", "<p:ph type='title'/>", "", "Proto") +
-                                           linkingShape(3, "Links", link("rId7")) +
-                                           linkingShape(4, "Self", link("rId8")) +
-                                           pictureShape(5, "Photo", "rId9", place(0, 0, 9, 9)));
-        first.behindData = "<p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr><p:transition><p:fade/></p:transition>";
+        Page& first = builder.addSlide(
+            "First", *layout,
+            shape(2, "Title", "<p:ph type='title'/>", "", "Proto") + linkingShape(3, "Links", link("rId7")) +
+                linkingShape(4, "Self", link("rId8")) + pictureShape(5, "Photo", "rId9", place(0, 0, 9, 9)));
+        first.behindData =
+            "<p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr><p:transition><p:fade/></p:transition>";
         first.relations = {{"rId7", "slide", "slide2.xml"},
                            {"rId8", "slide", "slide1.xml"},
                            {"rId9", "image", "../media/image1.png"},
@@ -65,11 +65,13 @@ protected:
                         "application/vnd.openxmlformats-officedocument.presentationml.notesSlide+xml",
                         notesXml("Say it"), {{"rId1", "slide", "../slides/slide1.xml"}});
         builder.addPart("ppt/comments/comment1.xml",
-                        "application/vnd.openxmlformats-officedocument.presentationml.comments+xml", "<p:cmLst/>");
+                        "application/vnd.openxmlformats-officedocument.presentationml.comments+xml",
+                        "<p:cmLst/>");
         builder.addSection("All", 1, 2);
-        builder.addToPresentation("<p:custShowLst><p:custShow name='Show' id='0'><p:sldLst><p:sld r:id='rId90'/>"
-                                  "<p:sld r:id='rId91'/></p:sldLst></p:custShow></p:custShowLst>",
-                                  {{"rId90", "slide", "slides/slide1.xml"}, {"rId91", "slide", "slides/slide2.xml"}});
+        builder.addToPresentation(
+            "<p:custShowLst><p:custShow name='Show' id='0'><p:sldLst><p:sld r:id='rId90'/>"
+            "<p:sld r:id='rId91'/></p:sldLst></p:custShow></p:custShowLst>",
+            {{"rId90", "slide", "slides/slide1.xml"}, {"rId91", "slide", "slides/slide2.xml"}});
         useTemplate(builder.build());
         deck.open();
     }
@@ -130,9 +132,10 @@ TEST_F(SlidesTest, WhatBelongsToARemovedSlideGoesWithIt) {
     EXPECT_EQ(errorOf([&] { deck.remove(former); }), "ppt_error:slideNotInPresentation");
     EXPECT_EQ(errorOf([&] { deck.move(former, 0); }), "ppt_error:slideNotInPresentation");
     EXPECT_EQ(errorOf([&] { deck.copy(former); }), "ppt_error:slideNotInPresentation");
-    for (const char* gone : {"ppt/slides/slide1.xml", "ppt/slides/_rels/slide1.xml.rels", "ppt/charts/chart1.xml",
-                             "ppt/embeddings/Sheet1.xlsx", "ppt/notesSlides/notesSlide1.xml", "ppt/media/image1.png",
-                             "ppt/comments/comment1.xml"})
+    for (const char* gone :
+         {"ppt/slides/slide1.xml", "ppt/slides/_rels/slide1.xml.rels", "ppt/charts/chart1.xml",
+          "ppt/embeddings/Sheet1.xlsx", "ppt/notesSlides/notesSlide1.xml", "ppt/media/image1.png",
+          "ppt/comments/comment1.xml"})
         EXPECT_EQ(parts().count(gone), 0u) << gone;
     EXPECT_EQ(parts().at("[Content_Types].xml").find("slide1.xml"), std::string::npos);
     EXPECT_EQ(target("ppt/slides/slide2.xml", "rId7"), "-");

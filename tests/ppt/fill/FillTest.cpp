@@ -21,20 +21,22 @@ protected:
         TemplateBuilder builder;
         builder.addMaster("Theme");
         Page& layout = builder.addLayout(
-            "Report",
-            shape(2, "Title", "<p:ph type='title'/>") + shape(3, "Left", "<p:ph type='body' idx='1'/>") +
-                shape(4, "Right", "<p:ph type='body' idx='2'/>") +
-                shape(5, "Anything", "<p:ph idx='13'/>", place(1, 2, 300, 400)) +
-                shape(6, "Figures", "<p:ph type='tbl' idx='14'/>", place(1, 2, 300, 400)) +
-                shape(7, "Twice", "<p:ph type='body' idx='15'/>") +
-                shape(8, "Twice", "<p:ph type='body' idx='16'/>"));
+            "Report", shape(2, "Title", "<p:ph type='title'/>") +
+                          shape(3, "Left", "<p:ph type='body' idx='1'/>") +
+                          shape(4, "Right", "<p:ph type='body' idx='2'/>") +
+                          shape(5, "Anything", "<p:ph idx='13'/>", place(1, 2, 300, 400)) +
+                          shape(6, "Figures", "<p:ph type='tbl' idx='14'/>", place(1, 2, 300, 400)) +
+                          shape(7, "Twice", "<p:ph type='body' idx='15'/>") +
+                          shape(8, "Twice", "<p:ph type='body' idx='16'/>"));
         builder.addPart("ppt/media/image1.png", "image/png", makePng(2, 2));
-        Page& sample = builder.addSlide("Sample", layout,
-                         shape(2, "Title", "<p:ph type='title'/>", "", "Kept") +
-                             shape(3, "Left", "<p:ph type='body' idx='1'/>", "", "") +
-                             groupShape(9, "Group", shape(10, "Inner", "", "", "grouped") +
-                                                        pictureShape(11, "Photo", "rId9", place(0, 0, 9, 9))) +
-                             tableShape(12, "Sheet", 2, 2));
+        Page& sample =
+            builder.addSlide("Sample", layout,
+                             shape(2, "Title", "<p:ph type='title'/>", "", "Kept") +
+                                 shape(3, "Left", "<p:ph type='body' idx='1'/>", "", "") +
+                                 groupShape(9, "Group",
+                                            shape(10, "Inner", "", "", "grouped") +
+                                                pictureShape(11, "Photo", "rId9", place(0, 0, 9, 9))) +
+                                 tableShape(12, "Sheet", 2, 2));
         sample.relations = {{"rId9", "image", "../media/image1.png"}};
         useTemplate(builder.build());
         writeFile(folder / L"plot.png", makePng(4, 2));
@@ -106,7 +108,9 @@ TEST_F(FillTest, WhatStaysEmptyIsToldOrGoes) {
 
 TEST_F(FillTest, GroupsKeepTheirPictures) {
     Slide sample = *Slide::cast(deck.getChildren().front());
-    EXPECT_EQ(errorOf([&] { sample.fill({{L"Photo", Picture(folder / L"plot.png")}}); }),
+    EXPECT_EQ(errorOf([&] {
+                  sample.fill({{L"Photo", Picture(folder / L"plot.png")}});
+              }),
               "ppt_error:shapeRefusesContent Photo a picture");
     EXPECT_EQ(errorOf([&] { sample.fill({{L"Inner", L"filled"}}); }), "nothing");
 }

@@ -1,9 +1,9 @@
 // Tokens in the texts of a template's slides.
 
+#include "vellox/ppt/fill/Tokens.h"
 #include "tests/support/DeckTest.h"
 #include "tests/support/TemplateBuilder.h"
 #include "vellox/ppt/fill/NumberForm.h"
-#include "vellox/ppt/fill/Tokens.h"
 #include "vellox/ppt/tree/Picture.h"
 
 #include <algorithm>
@@ -22,15 +22,16 @@ TEST(NumberFormTest, NumbersAndDatesComeInTheirForms) {
         const wchar_t* form;
         const wchar_t* text; // null: no such form
     } rows[] = {
-        {3.14159, L".1f", L"3.1"},      {1234567.5, L",.2f", L"1,234,567.50"},
-        {-0.25, L".0%", L"-25%"},       {12, L"d", L"12"},
-        {1e6, L"+,d", L"+1,000,000"},   {0.00012, L".1e", L"1.2e-04"},
-        {12.5, L"d", nullptr},          {1, L".2x", nullptr},
-        {1, L".999f", nullptr},         {1, L"%d.%m", nullptr},
-        {999, L",", L"999"},            {1e300, L".1g", L"1e+300"},
+        {3.14159, L".1f", L"3.1"},    {1234567.5, L",.2f", L"1,234,567.50"},
+        {-0.25, L".0%", L"-25%"},     {12, L"d", L"12"},
+        {1e6, L"+,d", L"+1,000,000"}, {0.00012, L".1e", L"1.2e-04"},
+        {12.5, L"d", nullptr},        {1, L".2x", nullptr},
+        {1, L".999f", nullptr},       {1, L"%d.%m", nullptr},
+        {999, L",", L"999"},          {1e300, L".1g", L"1e+300"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(formatNumber(row.number, row.form).value_or(L"-"), row.text ? row.text : L"-") << toUtf8(row.form);
+        EXPECT_EQ(formatNumber(row.number, row.form).value_or(L"-"), row.text ? row.text : L"-")
+            << toUtf8(row.form);
     EXPECT_EQ(formatDate(L"2026-11-21", L"%d.%m.%Y"), L"21.11.2026");
     EXPECT_EQ(formatDate(L"2026-11-21 09:30:00", L"%a %H:%M %%"), L"Sat 09:30 %");
     for (const wchar_t* date : {L"", L"week 47", L"2026-13-01", L"2026-02-31"})
@@ -44,9 +45,15 @@ TEST(TokensTest, OnlyNamesInBracesAreTokens) {
         const wchar_t* text;
         const wchar_t* tokens;
     } rows[] = {
-        {L"{a} and {b.c:.1f}", L"a|b.c:.1f|"}, {L"{{a}}", L"{|}|"},          {L"{{{a}}}", L"{|a|}|"},
-        {L"{} {a b} {a. {.a} {a", L""},        {L"{größe_1-x}", L"größe_1-x|"}, {L"{a:{b}}", L"b|"},
-        {L"}{", L""},                           {L"{a:}", L"a|"},             {L"{a\n}", L""},
+        {L"{a} and {b.c:.1f}", L"a|b.c:.1f|"},
+        {L"{{a}}", L"{|}|"},
+        {L"{{{a}}}", L"{|a|}|"},
+        {L"{} {a b} {a. {.a} {a", L""},
+        {L"{größe_1-x}", L"größe_1-x|"},
+        {L"{a:{b}}", L"b|"},
+        {L"}{", L""},
+        {L"{a:}", L"a|"},
+        {L"{a\n}", L""},
     };
     for (const auto& row : rows) {
         std::wstring found;
@@ -64,7 +71,8 @@ protected:
     void useSlide(const std::string& shapes) {
         TemplateBuilder builder;
         builder.addMaster("Theme");
-        Page& layout = builder.addLayout("Own", shape(2, "Title", "<p:ph type='title'/>", place(5, 6, 70, 80)));
+        Page& layout =
+            builder.addLayout("Own", shape(2, "Title", "<p:ph type='title'/>", place(5, 6, 70, 80)));
         builder.addSlide("One", layout, shapes);
         useTemplate(builder.build());
         deck.open();
@@ -86,33 +94,38 @@ protected:
 };
 
 TEST_F(FillTokensTest, ATokenMaySpreadOverRunsAndKeepsItsLook) {
-    useSlide(box(3, "Box", "<a:p>" + run("Week {we", " b='1'") + run("e", " i='1'") + run("k} of {ye", " u='sng'") +
-                               run("ar}", " i='1'") + "<a:br/>" + run("{{x}}") + "</a:p>"));
+    useSlide(box(3, "Box",
+                 "<a:p>" + run("Week {we", " b='1'") + run("e", " i='1'") + run("k} of {ye", " u='sng'") +
+                     run("ar}", " i='1'") + "<a:br/>" + run("{{x}}") + "</a:p>"));
     EXPECT_EQ(deck.fillTokens({{L"week", 47}, {L"year", L"2026\nand on"}}), 2u);
     close();
     EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"Week 47", " of 2026", "and on", "{x}"}));
     EXPECT_EQ(valuesOf(slideXml(1), "a:rPr", "b").front(), "1");
     const Texts underlined = valuesOf(slideXml(1), "a:rPr", "u");
-    EXPECT_EQ(std::count(underlined.begin(), underlined.end(), "sng"), 3) << "two lines and the break between them";
+    EXPECT_EQ(std::count(underlined.begin(), underlined.end(), "sng"), 3)
+        << "two lines and the break between them";
     EXPECT_EQ(findAll(slideXml(1), "a:br").size(), 2u);
     EXPECT_TRUE(codes().empty());
 }
 
 TEST_F(FillTokensTest, GroupsTablesRecordsAndNotesAreFilled) {
-    useSlide(groupShape(2, "Group", box(3, "Inner", "<a:p>" + run("{flow.mean:.1f} {flow.unit.name}") + "</a:p>")) +
+    useSlide(groupShape(2, "Group",
+                        box(3, "Inner", "<a:p>" + run("{flow.mean:.1f} {flow.unit.name}") + "</a:p>")) +
              tableShape(4, "Sheet", 1, 1));
     Slide slide = *Slide::cast(deck.getChildren().front());
     slide.setNotes(L"Say {name}");
     EXPECT_EQ(deck.fillTokens({{L"flow", record({{L"mean", 2.04}, {L"unit", record({{L"name", L"l/s"}})}})},
-                               {L"name", L"it"}}), 3u);
+                               {L"name", L"it"}}),
+              3u);
     EXPECT_EQ(slide.getNotes(), L"Say it");
     close();
     EXPECT_EQ(textsOf(slideXml(1), "a:t").front(), "2.0 l/s");
 }
 
 TEST_F(FillTokensTest, AListRepeatsItsParagraph) {
-    useSlide(box(3, "Box", "<a:p><a:pPr lvl='1'/>" + run(" {points} ", " b='1'") + "</a:p><a:p>" + run("{none}") +
-                               "</a:p>") +
+    useSlide(box(3, "Box",
+                 "<a:p><a:pPr lvl='1'/>" + run(" {points} ", " b='1'") + "</a:p><a:p>" + run("{none}") +
+                     "</a:p>") +
              box(4, "Empty", "<a:p>" + run("{none}") + "</a:p>"));
     deck.fillTokens({{L"points", list({L"a", list({L"b", 1.5})})}, {L"none", std::vector<std::wstring>()}});
     close();
@@ -141,12 +154,14 @@ TEST_F(FillTokensTest, ARowIsRepeatedForEachRecord) {
 
 TEST_F(FillTokensTest, APictureOrATableStandsWhereItsTokenDid) {
     writeFile(folder / L"plot.png", makePng(4, 2));
-    useSlide(box(3, "Plot", "<a:p>" + run("{plot}") + "</a:p>") + box(4, "Sheet", "<a:p>" + run("{sheet}") + "</a:p>") +
+    useSlide(box(3, "Plot", "<a:p>" + run("{plot}") + "</a:p>") +
+             box(4, "Sheet", "<a:p>" + run("{sheet}") + "</a:p>") +
              shape(5, "Title", "<p:ph type='title'/>", "", "{plot}") +
              groupShape(6, "Group", box(7, "Inner", "<a:p>" + run("{sheet}") + "</a:p>")) +
              box(8, "Text", "<a:p>" + run("see {plot}") + "</a:p>"));
-    deck.fillTokens({{L"plot", Picture(folder / L"plot.png")}, {L"sheet", HvContentPtr(boost::make_shared<TableContent>(
-        boost::make_shared<MemoryTable>(1u, std::initializer_list<HvContentPtr>{text(L"a"), text(L"b")})))}});
+    deck.fillTokens({{L"plot", Picture(folder / L"plot.png")},
+                     {L"sheet", HvContentPtr(boost::make_shared<TableContent>(boost::make_shared<MemoryTable>(
+                                    1u, std::initializer_list<HvContentPtr>{text(L"a"), text(L"b")})))}});
     EXPECT_EQ(codes(), (Texts{"tokenRefusesValue Text", "tokenRefusesValue Inner"}));
     close();
     EXPECT_EQ(valuesOf(shapeXml(1, "Plot"), "a:ext", "cx"), Texts{"300"});

@@ -24,7 +24,8 @@ Content toContent(const hvArray& value) {
     if (findFields(value))
         return record(toContents(value));
     const bool isEmptyList = value.getClassCode() == HvCellClass && value.getNElements() == 0;
-    if (isEmptyList || (value.getClassCode() == HvCellClass && HvCell(&value).getContentType() == HvContent::List)) {
+    if (isEmptyList ||
+        (value.getClassCode() == HvCellClass && HvCell(&value).getContentType() == HvContent::List)) {
         std::vector<Content> items;
         for (std::size_t i = 0; i < value.getNElements(); ++i) {
             const hvArray* cell = value.getCell(i);

@@ -92,7 +92,9 @@ template <> struct FromHost<Contents> {
     static Contents convert(const hvArray& value) { return toContents(value); }
 };
 /// What a call may leave out.
-template <class T> struct FromHost<std::optional<T>> { static constexpr const char* kWord = FromHost<T>::kWord; };
+template <class T> struct FromHost<std::optional<T>> {
+    static constexpr const char* kWord = FromHost<T>::kWord;
+};
 template <> struct FromHost<std::vector<unsigned char>> {
     static constexpr const char* kWord = "uint8 vector";
     static std::vector<unsigned char> convert(const hvArray& value) { return value.getBytes(); }
@@ -107,7 +109,9 @@ template <> struct FromHost<hvArray> {
 /// @{ The argument of a parameter.
 template <class A> struct ArgumentOf {
     static constexpr bool kIsOptional = false;
-    static decltype(auto) get(const Arguments& arguments, std::size_t i) { return FromHost<A>::convert(arguments[i]); }
+    static decltype(auto) get(const Arguments& arguments, std::size_t i) {
+        return FromHost<A>::convert(arguments[i]);
+    }
 };
 template <class T> struct ArgumentOf<std::optional<T>> {
     static constexpr bool kIsOptional = true;

@@ -70,7 +70,8 @@ template <class C> unsigned int fillTokensOf(C& owner, const Contents& values, c
 template <class C> BoundMethod makeFillTokensRow() {
     return Method<C, unsigned int(const Contents&, const Optional<bool>&)>::template row<&fillTokensOf<C>>(
         "fillTokens", {"values", keyword("strict")},
-        "Puts values in the place of tokens such as {name} in the template's texts. Gives how many there were.");
+        "Puts values in the place of tokens such as {name} in the template's texts. Gives how many there "
+        "were.");
 }
 
 TextCells getMasterNames(Presentation& deck) {
@@ -189,23 +190,23 @@ BoundClass describePresentation() {
              "add", {"layout", "position"}, "Adds a slide at a position, which counts from 1."),
          Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
              "add", {"layout", "master", "position"}, "The same, of the layout of one slide master."),
-            Method<Deck, Slide(Wide, const Optional<Contents>&, const Optional<std::wstring>&,
-                               const Optional<Slide>&, const Optional<unsigned int>&,
-                               const Optional<bool>&)>::row<&addWith>(
-                "add",
-                {"layout", "contents", keyword("master"), keyword("before"), keyword("index"),
-                 keyword("drop_empty")},
-                "Adds a slide and fills its shapes by their names; before a slide, or at an index, which counts "
-                "from 1."),
-            Method<Deck, Slide(const Slide&, const Optional<unsigned int>&)>::row<&copySlide>(
-                "copy", {"slide", keyword("index")},
-                "Adds a copy of a slide at the end, or at an index, which counts from 1."),
-            Method<Deck, void(const Slide&, unsigned int)>::row<&moveSlide>(
-                "move", {"slide", "index"}, "Puts a slide in the place of an index, which counts from 1."),
-            Method<Deck, void(const Slide&)>::row<&Deck::remove>("remove", {"slide"}, "Takes a slide out."),
-            Method<Deck, void()>::row<&Deck::clear>("clear", {},
-                                                    "Takes out the slides that the template brought along."),
-            makeFillTokensRow<Deck>(),
+         Method<Deck, Slide(Wide, const Optional<Contents>&, const Optional<std::wstring>&,
+                            const Optional<Slide>&, const Optional<unsigned int>&, const Optional<bool>&)>::
+             row<&addWith>("add",
+                           {"layout", "contents", keyword("master"), keyword("before"), keyword("index"),
+                            keyword("drop_empty")},
+                           "Adds a slide and fills its shapes by their names; before a slide, or at an "
+                           "index, which counts "
+                           "from 1."),
+         Method<Deck, Slide(const Slide&, const Optional<unsigned int>&)>::row<&copySlide>(
+             "copy", {"slide", keyword("index")},
+             "Adds a copy of a slide at the end, or at an index, which counts from 1."),
+         Method<Deck, void(const Slide&, unsigned int)>::row<&moveSlide>(
+             "move", {"slide", "index"}, "Puts a slide in the place of an index, which counts from 1."),
+         Method<Deck, void(const Slide&)>::row<&Deck::remove>("remove", {"slide"}, "Takes a slide out."),
+         Method<Deck, void()>::row<&Deck::clear>("clear", {},
+                                                 "Takes out the slides that the template brought along."),
+         makeFillTokensRow<Deck>(),
          Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", {},
                                                          "The names of the slide masters."),
          Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(

@@ -115,7 +115,8 @@ bool fits(const Signature& signature, const std::vector<const hvArray*>& values,
 
 } // namespace
 
-std::optional<std::vector<const hvArray*>> orderArguments(const Signature& signature, const Arguments& arguments,
+std::optional<std::vector<const hvArray*>> orderArguments(const Signature& signature,
+                                                          const Arguments& arguments,
                                                           const std::vector<NamedArgument>& named) {
     std::vector<const hvArray*> ordered(signature.size());
     for (std::size_t i = 0; i < arguments.count; ++i) {

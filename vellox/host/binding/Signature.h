@@ -82,8 +82,9 @@ using Signature = std::vector<Parameter>;
 
 /// The arguments of a call in the order of a signature, null for those that are left out.
 /// @return nothing if there are too many or too few of them, or names that no parameter has
-VELLOX_API std::optional<std::vector<const hvArray*>>
-orderArguments(const Signature& signature, const Arguments& arguments, const std::vector<NamedArgument>& named);
+VELLOX_API std::optional<std::vector<const hvArray*>> orderArguments(const Signature& signature,
+                                                                     const Arguments& arguments,
+                                                                     const std::vector<NamedArgument>& named);
 
 /// The first signature that fits the arguments exactly; else the first that fits once numbers are converted;
 /// else the first with "any" in it that fits. So "any" only serves what nothing else takes.

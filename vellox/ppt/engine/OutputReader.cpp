@@ -9,7 +9,8 @@ namespace vellox::ppt {
 
 OPCPackage& OutputReader::open(OPCPackage& package, const std::string* bytes) {
     if (bytes)
-        package.openRead(boost::make_shared<boost::interprocess::ibufferstream>(bytes->data(), bytes->size()));
+        package.openRead(
+            boost::make_shared<boost::interprocess::ibufferstream>(bytes->data(), bytes->size()));
     else
         package.openRead(false);
     return package;

@@ -53,7 +53,8 @@ std::string print(double number, const Form& form) {
     std::array<char, 512> buffer; // the longest double has 309 digits ahead of the point
     const auto finish = [&](std::to_chars_result end) { return std::string(buffer.data(), end.ptr); };
     const auto format = [&](std::chars_format how) {
-        return finish(std::to_chars(buffer.begin(), buffer.end(), number, how, form.digits.value_or(kUsualDigits)));
+        return finish(
+            std::to_chars(buffer.begin(), buffer.end(), number, how, form.digits.value_or(kUsualDigits)));
     };
     switch (form.type) {
     case L'e':

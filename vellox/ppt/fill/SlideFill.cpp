@@ -26,7 +26,7 @@ namespace {
 // A shape and what it is to get, in the form in which it takes it.
 struct Filling {
     boost::intrusive_ptr<ShapeImpl> shape;
-    HvContentPtr content;        ///< a list, or an object
+    HvContentPtr content;         ///< a list, or an object
     PPTNodeImpl::Child paragraph; ///< or this
 };
 

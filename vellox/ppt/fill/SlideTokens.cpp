@@ -39,11 +39,12 @@ public:
     }
 
     const std::vector<TokenDocument::Report>& getReports() const { return reports_; }
-    unsigned int getCount() const { return (body_ ? body_->getCount() : 0) + (notes_ ? notes_->getCount() : 0); }
+    unsigned int getCount() const {
+        return (body_ ? body_->getCount() : 0) + (notes_ ? notes_->getCount() : 0);
+    }
 
     void tell() const {
-        const std::size_t dropped =
-            (body_ ? body_->getDropped() : 0) + (notes_ ? notes_->getDropped() : 0);
+        const std::size_t dropped = (body_ ? body_->getDropped() : 0) + (notes_ ? notes_->getDropped() : 0);
         if (dropped > 0)
             report(ppt_finding::charactersDropped(std::to_wstring(dropped)), *slide_);
         for (const TokenDocument::Report& each : reports_)

@@ -31,7 +31,8 @@ const Token* findOnly(const std::wstring& text, const std::vector<Token>& tokens
 }
 
 bool standsAlone(const HvContentPtr& content) {
-    return getObjectImpl<PictureImpl>(content) || getObjectImpl<TableImpl>(content) || TableContent::cast(content);
+    return getObjectImpl<PictureImpl>(content) || getObjectImpl<TableImpl>(content) ||
+           TableContent::cast(content);
 }
 
 std::vector<DOMElement*> findBelow(DOMElement& element, const XMLCh* name) {
@@ -128,7 +129,8 @@ bool TokenDocument::repeat(DOMElement& element) {
             for (const Contents& record : *records) {
                 auto* copy = static_cast<DOMElement*>(element.cloneNode(true));
                 if (hasName(element, kRow) && findChild(copy, u"a:extLst"))
-                    removeNode(findChild(copy, u"a:extLst")); // with the number by which programs know a row again
+                    removeNode(
+                        findChild(copy, u"a:extLst")); // with the number by which programs know a row again
                 element.getParentNode()->insertBefore(copy, &element);
                 const TokenScope scope{token.getFirst(), record};
                 visit(*copy, &scope);
@@ -186,7 +188,8 @@ struct Item {
 };
 
 // @return false if an item is no text
-bool collectItems(const HvList& list, const std::wstring& form, unsigned int level, std::vector<Item>& items) {
+bool collectItems(const HvList& list, const std::wstring& form, unsigned int level,
+                  std::vector<Item>& items) {
     for (unsigned int i = 0; i < list.getSize(); ++i) {
         const HvContentPtr item = list.getItem(i);
         if (const auto inner = ListContent::getValue(item)) {
@@ -229,7 +232,8 @@ void TokenDocument::fillList(DOMElement& paragraph, const Token& token, const Hv
     removeNode(&paragraph);
 }
 
-void TokenDocument::fillRuns(DOMElement& paragraph, const std::vector<Token>& tokens, const TokenScope* scope) {
+void TokenDocument::fillRuns(DOMElement& paragraph, const std::vector<Token>& tokens,
+                             const TokenScope* scope) {
     RunTexts runs(paragraph);
     std::vector<TextEdit> edits;
     for (const Token& token : tokens) {

@@ -104,7 +104,8 @@ std::wstring showShortest(const TextImpl::Given& given) {
     return rules.textOf({std::wstring(), given}).front();
 }
 
-std::optional<std::wstring> showNumber(const TextImpl::Given& given, double number, const std::wstring& form) {
+std::optional<std::wstring> showNumber(const TextImpl::Given& given, double number,
+                                       const std::wstring& form) {
     return form.empty() ? showShortest(given) : formatNumber(number, form);
 }
 

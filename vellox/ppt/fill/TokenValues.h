@@ -38,7 +38,8 @@ public:
 private:
     const Contents& values_;
     std::map<std::wstring, const Content*> byName_;
-    std::map<std::wstring, std::optional<std::vector<Contents>>> records_; // by name, once they were asked for
+    std::map<std::wstring, std::optional<std::vector<Contents>>>
+        records_; // by name, once they were asked for
     std::set<std::wstring> used_;
 };
 

@@ -28,17 +28,16 @@ public:
     Content(const std::wstring& text);
     Content(bool value);
     template <class Number, class = std::enable_if_t<std::is_arithmetic_v<Number>>>
-    Content(Number number)
-        : Content(makeNumber(number)) {}
-    template <class Kind, class = std::enable_if_t<std::is_base_of_v<HvContent, Kind>>, class = void, class = void>
-    Content(const boost::shared_ptr<Kind>& content)
-        : content_(content) {}
+    Content(Number number) : Content(makeNumber(number)) {}
+    template <class Kind, class = std::enable_if_t<std::is_base_of_v<HvContent, Kind>>, class = void,
+              class = void>
+    Content(const boost::shared_ptr<Kind>& content) : content_(content) {}
     /// A Paragraph, a Picture, a Table.
     template <class Facade, class = std::enable_if_t<std::is_base_of_v<PPTObject, Facade>>, class = void>
-    Content(const Facade& object)
-        : content_(boost::make_shared<ObjectContent>(object)) {}
+    Content(const Facade& object) : content_(boost::make_shared<ObjectContent>(object)) {}
     /// A list of anything that is content; of such vectors, a list of lists.
-    template <class Item> Content(const std::vector<Item>& items) : Content(makeList({items.begin(), items.end()})) {}
+    template <class Item>
+    Content(const std::vector<Item>& items) : Content(makeList({items.begin(), items.end()})) {}
 
     /// Empty for nothing.
     const HvContentPtr& get() const { return content_; }

@@ -71,12 +71,12 @@ struct TemplateShape : ShapeGeometry {
     std::wstring xmlId;             ///< id of p:cNvPr
     std::wstring placeholderType;   ///< type of p:ph, for picture, table and title placeholders
     bool isPlaceholder = false;
-    std::wstring phType;            ///< with the index, of any placeholder's p:ph; "obj" where it says none
-    std::wstring phIndex;           ///< "0" where it says none
-    Place place;                    ///< the element's own, in a layout; empty if it gives none
-    Place successorPlace;           ///< for a picture or a table in its stead; empty if there is none
-    Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
-    TextSizes textSizes{};          ///< of its text, in a layout
+    std::wstring phType;   ///< with the index, of any placeholder's p:ph; "obj" where it says none
+    std::wstring phIndex;  ///< "0" where it says none
+    Place place;           ///< the element's own, in a layout; empty if it gives none
+    Place successorPlace;  ///< for a picture or a table in its stead; empty if there is none
+    Place textPlace;       ///< for the lengths that a text shape leaves open; empty if there is none
+    TextSizes textSizes{}; ///< of its text, in a layout
     boost::shared_ptr<TemplateShapes> children; ///< of a group
     bool givesWayInGroup = false;               ///< whether a picture may take its place in a group
 };

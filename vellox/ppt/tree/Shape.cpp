@@ -74,8 +74,7 @@ void ShapeImpl::replace(const HvContentPtr&) {
 bool ShapeImpl::giveWayTo(const HvContentPtr& content, const Place& place) {
     auto* picture = getObjectImpl<PictureImpl>(content);
     auto* table = getObjectImpl<TableImpl>(content);
-    if ((!picture && !table) || !templateShape_ ||
-        !findHolder(picture ? NodeType::Picture : NodeType::Table))
+    if ((!picture && !table) || !templateShape_ || !findHolder(picture ? NodeType::Picture : NodeType::Table))
         return false;
     const auto record = boost::make_shared<TemplateShape>(*templateShape_);
     record->successorPlace = place;

@@ -25,8 +25,7 @@ SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
     announceCreated(*this);
 }
 
-SlideImpl::SlideImpl(const SlideImpl& other)
-    : SlideImpl(other, other.templateSlide_) {}
+SlideImpl::SlideImpl(const SlideImpl& other) : SlideImpl(other, other.templateSlide_) {}
 
 SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSlide>& templateSlide)
     : NodeOf(other),

@@ -55,7 +55,7 @@ private:
 
     unsigned int nCols_ = 0;
     BaseAttribute<std::wstring> styleName_;
-    Table::ColSpecs colSpecs_; // in column order; no children, and without parents
+    Table::ColSpecs colSpecs_;            // in column order; no children, and without parents
     mutable TemplateCells templateCells_; // likewise; made when they are asked for
 };
 

@@ -29,8 +29,8 @@ private:
 
     const ReadTemplate& source_;
     PPTPartWriter& partWriter_;
-    std::wstring masterName_;     // empty until it is needed
-    std::wstring newMastersId_;   // of its relationship, if there was none
+    std::wstring masterName_;   // empty until it is needed
+    std::wstring newMastersId_; // of its relationship, if there was none
 };
 
 } // namespace vellox::ppt

@@ -59,7 +59,8 @@ private:
     std::wstring createImagePart(const ImageSource& image);
 
     unsigned int slideCounter_ = 0;
-    std::map<std::wstring, unsigned int> counters_; // of names alike but for a number, the last that was tried
+    std::map<std::wstring, unsigned int>
+        counters_; // of names alike but for a number, the last that was tried
     ImageIndex images_;
 };
 

@@ -25,11 +25,11 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
-    {L"audio", Share::Shared},          {L"comments", Share::Left},       {L"customXml", Share::Shared},
-    {L"font", Share::Shared},           {L"handoutMaster", Share::Shared}, {L"image", Share::Shared},
-    {L"media", Share::Shared},          {L"notesMaster", Share::Shared},  {L"officeDocument", Share::Shared},
-    {L"package", Share::Stored},        {L"slide", Share::Shared},        {L"slideLayout", Share::Shared},
-    {L"slideMaster", Share::Shared},    {L"theme", Share::Shared},        {L"threadedComment", Share::Left},
+    {L"audio", Share::Shared},       {L"comments", Share::Left},        {L"customXml", Share::Shared},
+    {L"font", Share::Shared},        {L"handoutMaster", Share::Shared}, {L"image", Share::Shared},
+    {L"media", Share::Shared},       {L"notesMaster", Share::Shared},   {L"officeDocument", Share::Shared},
+    {L"package", Share::Stored},     {L"slide", Share::Shared},         {L"slideLayout", Share::Shared},
+    {L"slideMaster", Share::Shared}, {L"theme", Share::Shared},         {L"threadedComment", Share::Left},
     {L"video", Share::Shared},
 };
 
@@ -63,7 +63,8 @@ std::wstring SlideCopies::createPart(const TemplateSlide& slide) {
     const std::wstring name = partWriter_.takeSlideName();
     opc::Part part = partWriter_.createPart(name, contenttype::kSlide);
     copied_.clear();
-    copied_.emplace(opc::PartName(slide.originName), opc::PartName(name)); // what led to itself leads to the copy
+    copied_.emplace(opc::PartName(slide.originName),
+                    opc::PartName(name)); // what led to itself leads to the copy
     copyRelationships(remembered_[slide.originName], part);
     while (!waiting_.empty()) {
         const auto [from, to] = waiting_.back();

@@ -41,8 +41,9 @@ private:
     PPTPartWriter& partWriter_;
     std::map<std::wstring, Rows> remembered_;
     // Of the copy that is being made:
-    std::map<opc::PartName, opc::PartName> copied_;                // from originals
-    std::vector<std::pair<opc::PartName, opc::PartName>> waiting_; // those whose relationships are still to come
+    std::map<opc::PartName, opc::PartName> copied_; // from originals
+    std::vector<std::pair<opc::PartName, opc::PartName>>
+        waiting_; // those whose relationships are still to come
 };
 
 /// Takes what tells a slide from all others, and comments, out of its copy's document.

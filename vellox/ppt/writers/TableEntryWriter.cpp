@@ -1,7 +1,7 @@
 #include "vellox/ppt/writers/TableEntryWriter.h"
 
-#include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
