@@ -45,6 +45,16 @@ void ParagraphWriter::write() {
     getWriter().countParagraph();
 }
 
+void ParagraphWriter::applyTo(DOMElement* paragraph) {
+    applyFormats();
+    arrange(pPr_);
+    if (pPr_.isEmpty())
+        return;
+    DOMElement* properties = requireFirstChild(paragraph, xml::kAPPr);
+    pPr_.applyTo(properties);
+    arrange(properties);
+}
+
 void ParagraphWriter::preparePPr() {
     applyFormats();
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();

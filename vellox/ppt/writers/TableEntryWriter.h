@@ -18,6 +18,8 @@ public:
     TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Writes what the entry has come to have over a cell that is there.
+    void writeOver(xercesc::DOMElement* cell);
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
@@ -31,6 +33,10 @@ public:
     void setColumnWidth(int widthEmu);
 
 private:
+    void applyToTexts(xercesc::DOMElement* body) const;
+    void applyToText(xercesc::DOMElement* properties) const;
+
+    const TableEntryImpl& entry_;
     TableContext* table_;
     PropertyElement tcPr_;
 };

@@ -8,10 +8,13 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TableEntryWriter.h"
+#include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -36,6 +39,7 @@ void TableWriter::write() {
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
+        writeTemplateCells();
         return reportNoRows();
     }
     DOMElement* frame = makeFrame();
@@ -73,6 +77,18 @@ bool TableWriter::applyTableStyle(DOMElement* tbl) const {
     }
     requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(*styleId));
     return true;
+}
+
+void TableWriter::writeTemplateCells() const {
+    for (const auto& [place, entry] : table_.getTemplateCells()) {
+        const auto* impl = implOf<TableEntryImpl>(*entry);
+        DOMElement* cell =
+            impl->isTouched() ? findCell(getSlideElement(), place.first, place.second) : nullptr;
+        if (cell)
+            TableEntryWriter(*impl, getWriter(), getParentNode()).writeOver(cell);
+        else if (impl->isTouched())
+            getWriter().report(ppt_finding::emptyTable());
+    }
 }
 
 // A table of the template that nobody has touched has none either.

@@ -21,6 +21,7 @@ public:
 private:
     xercesc::DOMElement* makeFrame();
     bool applyTableStyle(xercesc::DOMElement* tbl) const;
+    void writeTemplateCells() const;
     void reportNoRows() const;
     void reportMissingStyle() const;
     void updateGrid(xercesc::DOMElement* tbl, const TableContext& context) const;

@@ -33,6 +33,12 @@ void TextWriter::writeLine(const std::wstring& line) {
     writeRun(line);
 }
 
+void TextWriter::applyTo(DOMElement* properties) {
+    prepare();
+    rPr_.applyTo(properties);
+    arrange(properties);
+}
+
 void TextWriter::prepare() {
     applyFormats();
     arrange(rPr_);
