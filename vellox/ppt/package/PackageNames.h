@@ -29,6 +29,8 @@ inline constexpr wchar_t kTheme[] =
 namespace vellox::ppt::contenttype {
 
 inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
+inline constexpr wchar_t kTableStyles[] =
+    L"application/vnd.openxmlformats-officedocument.presentationml.tableStyles+xml";
 
 /// The main part of a file with a given extension.
 struct MainType {

@@ -5,6 +5,7 @@
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideList.h"
+#include "vellox/ppt/writers/TableStylesPart.h"
 
 #include <boost/make_shared.hpp>
 
@@ -34,6 +35,7 @@ void PPTWriter::finish() {
         slides.push_back(written.slide);
     }
     updateSlideList(model_->getTemplate(), slides, *partWriter_);
+    defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     partWriter_->alignMainType(model_->getTemplate().presentationPartName);
 }
 

@@ -12,6 +12,7 @@ namespace vellox::ppt {
 
 class ParagraphImpl;
 class TextImpl;
+struct ParagraphLook;
 
 class ParagraphWriter : public ElementWriter {
 public:
@@ -27,6 +28,9 @@ public:
 
 private:
     void preparePPr();
+    unsigned int getLevel() const;
+    PPTWriter::Frame makeRunFrame() const;
+    void writeEnd(bool hasRuns) const;
     const TextImpl* findOnlyText() const;
     bool isWholeContent() const;
     bool isNumberInBody() const;
@@ -36,6 +40,7 @@ private:
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
+    const ParagraphLook* look_; // of the one in whose stead it comes; null if there is none
 };
 
 } // namespace vellox::ppt

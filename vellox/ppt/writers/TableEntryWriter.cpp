@@ -1,27 +1,53 @@
 #include "vellox/ppt/writers/TableEntryWriter.h"
 
 #include "vellox/ppt/formats/FormatImpl.h"
-#include "vellox/ppt/tree/TableEntryImpl.h"
+#include "vellox/ppt/object/ElementImpl.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TableLook.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 
 using namespace xercesc;
 
-TableEntryWriter::TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, DOMNode* parentNode)
+TableEntryWriter::TableEntryWriter(const ElementImpl& entry, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(entry, writer, parentNode),
       table_(writer.getFrame().table),
+      look_(table_ ? table_->getCellLook() : nullptr),
       tcPr_(xml::kATcPr) {}
 
 void TableEntryWriter::write() {
+    PPTWriter::Frame frame = makeFrame();
+    frame.texts = look_ ? &look_->text : nullptr;
+    writeCell([&] {
+        if (writeChildren(frame) == 0)
+            writeEmpty();
+    });
+}
+
+void TableEntryWriter::writeBlank() {
+    writeCell([&] { writeEmpty(); });
+}
+
+void TableEntryWriter::writeEmpty() const {
+    const ParagraphLook* former = look_ ? look_->text.find(0) : nullptr;
+    if (!getRules().sizesEmptyCells())
+        return writeEmptyParagraph(getMarkup(), former);
+    ParagraphLook sized = former ? *former : ParagraphLook();
+    putFontSize(sized.endParaRPr);
+    writeEmptyParagraph(getMarkup(), &sized);
+}
+
+template <class Content> void TableEntryWriter::writeCell(Content content) {
     applyFormats();
     opc::MarkupBuffer& out = getMarkup();
     out.append("<a:tc><a:txBody><a:bodyPr/>");
-    if (writeChildren() == 0)
-        out.append(kEmptyParagraph);
+    content();
     out.append("</a:txBody>");
+    if (look_)
+        tcPr_.layOver(look_->tcPr);
     arrange(tcPr_);
     tcPr_.writeTo(out);
     out.append("</a:tc>");
