@@ -1,6 +1,6 @@
 // Lets system calls of open and close fail, one after the other, or be the last of their process. Whatever happens,
 // what stands at the output path is the former file, the template's copy or the new deck, whole; nothing else is
-// left but what a kill leaves, under a name that says what it is.
+// left but what a kill leaves, under a name that says what it is. By the office rules it is never the template's copy.
 //
 //     fault_check <faults to inject at least>
 
@@ -39,12 +39,16 @@ struct Scenario {
     bool hasFormer;
     bool throughLink;
     bool withPicture;
+    const wchar_t* profile = L"classic";
+
+    bool isClassic() const { return profile == std::wstring(L"classic"); }
 };
 
 constexpr Scenario kScenarios[] = {
     {"a new file", false, false, false},
     {"a file that exists", true, false, true},
     {"a link to a file", true, true, false},
+    {"a file that exists, by the office rules", true, false, true, L"office"},
 };
 
 // What can befall a call; the last one only those that read and write.
@@ -103,6 +107,7 @@ Parts makeSmallTemplate() {
 Outcome makeDeck(const Place& place, const Scenario& scenario) {
     try {
         ppt::Presentation deck(place.output, place.templateFile);
+        deck.setProfile(scenario.profile);
         deck.open();
         ppt::Slide slide = deck.add(L"Title Slide");
         slide.replace(L"Title", L"written");
@@ -186,7 +191,8 @@ private:
         if (!fs::exists(toUtf8(place_.output)))
             return !scenario_.hasFormer;
         const std::string bytes = readFile(place_.output);
-        return bytes == templateBytes_ || (scenario_.hasFormer && bytes == kFormer);
+        return (scenario_.isClassic() && bytes == templateBytes_) ||
+               (scenario_.hasFormer && bytes == kFormer);
     }
 
     std::string findLitter(bool wasKilled) const {
@@ -259,6 +265,8 @@ std::vector<Call> listCalls(const Place& place, const Scenario& scenario) {
 
 Judge makeJudge(const Place& place, const Scenario& scenario) {
     const Parts deck = readParts(place.output);
+    if (!scenario.isClassic()) // a picture that can't be read is an error then
+        return {place, scenario, deck, deck};
     fs::remove(toUtf8(place.picture));
     makeDeck(place, scenario);
     writeFile(place.picture, kPicture);
@@ -278,7 +286,8 @@ void runScenario(const Place& place, const Scenario& scenario, Counts& counts) {
         ++counts.injected;
         ++counts.outcomes[outcome];
         const Call& call = calls[fault.call];
-        const bool isPicture = fault.kind == Kind::Error && nameFile(place, call.path) == "picture.png";
+        const bool isPicture =
+            scenario.isClassic() && fault.kind == Kind::Error && nameFile(place, call.path) == "picture.png";
         const std::string wrong = judge.findFault(outcome, isPicture);
         if (wrong.empty())
             continue;

@@ -268,7 +268,7 @@ struct VELLOX_API contentRefused : MsgID {
 struct VELLOX_API listExpected : MsgID {
     listExpected() : MsgID(kCatalog, "listExpected", 0) {}
 };
-/// A picture or a table is to take the place of a shape that doesn't stand directly on its slide.
+/// A picture or a table is to take the place of a shape in a group, or of one that stands on no slide.
 struct VELLOX_API notReplaced : MsgID {
     notReplaced() : MsgID(kCatalog, "notReplaced", 0) {}
 };

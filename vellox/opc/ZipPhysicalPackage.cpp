@@ -153,6 +153,11 @@ ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdOStreamAdaptor> outp
     : output_(std::move(output)),
       archive_(nullptr, zip_discard) {}
 
+ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdIStreamAdaptor> input, const std::wstring& target)
+    : input_(std::move(input)),
+      path_(vellox::toUtf8(target)),
+      archive_(nullptr, zip_discard) {}
+
 ZipPhysicalPackage::ZipPhysicalPackage(const std::wstring& path, bool, const std::wstring&)
     : path_(vellox::toUtf8(path)),
       archive_(nullptr, zip_discard) {}
@@ -251,20 +256,20 @@ void ZipPhysicalPackage::close(bool save) {
         writeArchive(output_->getStream());
         output_->close();
     } else if (save) {
-        saveInPlace();
+        saveToFile();
     }
     archive_.reset();
     if (input_)
         input_->close();
 }
 
-void ZipPhysicalPackage::saveInPlace() const {
+void ZipPhysicalPackage::saveToFile() const {
     try {
         const fsys::Path place{std::filesystem::path(path_)};
         fsys::FreshFile fresh(place);
         writeArchive(fresh.getStream());
         copyHeaders(fresh.getStream());
-        if (fsys::identify(place) != former_)
+        if (!input_ && fsys::identify(place) != former_)
             throw Exception("another file has taken its place while it was open");
         fresh.takePlace();
     } catch (const fsys::FsysExceptionBase& failure) {
@@ -289,15 +294,23 @@ void ZipPhysicalPackage::writeArchive(std::ostream& stream) const {
 
 // Entries that nothing has touched keep their times and flags, too.
 void ZipPhysicalPackage::copyHeaders(std::iostream& target) const {
+    if (input_) {
+        input_->getStream().clear();
+        return copyHeaders(input_->getStream(), target);
+    }
+    std::ifstream file(path_, std::ios::binary);
+    copyHeaders(file, target);
+}
+
+void ZipPhysicalPackage::copyHeaders(std::istream& source, std::iostream& target) const {
     std::vector<const PhysicalPart*> entries; // as writeArchive() has written them
     if (contentTypes_)
         entries.push_back(contentTypes_.get());
     for (const auto& part : parts_)
         entries.push_back(part.get());
-    std::ifstream file(path_, std::ios::binary);
-    const std::vector<ZipHeader> sources = readZipHeaders(file);
+    const std::vector<ZipHeader> sources = readZipHeaders(source);
     const std::vector<ZipHeader> headers = readZipHeaders(target);
-    if (!file || headers.size() != entries.size())
+    if (!source || headers.size() != entries.size())
         throw Exception("its directory can't be read");
     if (static_cast<zip_int64_t>(sources.size()) != zip_get_num_entries(archive_.get(), 0))
         return; // libzip has found its own way through a damaged archive

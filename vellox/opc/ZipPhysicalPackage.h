@@ -24,7 +24,8 @@ class Deflater;
 ///     entries of the old one     untouched ones still compressed, byte for byte
 ///     new entries                in the order in which they were made
 ///
-/// beside the old one and renames it over that, unless another file has taken its place meanwhile. Entries for
+/// beside the file that it is to be and renames it over that; one that was opened in place only if no other file
+/// has taken its place meanwhile. Entries for
 /// folders are left out. New entries bear the earliest date that the format has, so that the same calls give
 /// the same bytes.
 class ZipPhysicalPackage : public PhysicalPackage {
@@ -33,6 +34,8 @@ public:
     explicit ZipPhysicalPackage(boost::shared_ptr<StdIStreamAdaptor> input);
     /// For writing a new archive to a stream that can seek. The flag has only this value.
     ZipPhysicalPackage(boost::shared_ptr<StdOStreamAdaptor> output, bool append);
+    /// For reading from a stream that can seek, and saving to a file, whatever stands there.
+    ZipPhysicalPackage(boost::shared_ptr<StdIStreamAdaptor> input, const std::wstring& target);
     /// For reading and writing a file in place. Flag and text have only these values.
     ZipPhysicalPackage(const std::wstring& path, bool inPlace, const std::wstring& password);
     ~ZipPhysicalPackage() override;
@@ -50,9 +53,10 @@ private:
     Archive openForReading() const;
     std::uint64_t measure() const;
     void listEntries();
-    void saveInPlace() const;
+    void saveToFile() const;
     void writeArchive(std::ostream& stream) const;
     void copyHeaders(std::iostream& target) const;
+    void copyHeaders(std::istream& source, std::iostream& target) const;
     void writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const;
     zip_source_t* makeSource(zip_t* target, const Entry& entry, const Deflater& deflater) const;
 

@@ -5,24 +5,25 @@ import os
 from typing import TYPE_CHECKING
 
 if TYPE_CHECKING:
-    from .ppt import Presentation
+    from .ppt import Presentation, Template
 
 __all__ = ["deck"]
 
 
-def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | None = None, *,
+def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,
          profile: str = "office") -> Presentation:
     """A presentation that is written to output when the with statement ends.
 
         with vellox.deck("report.pptx", "company.potx") as deck:
             slide = deck.add("Title and Content")
 
-    Without a template it is made on the default one. The profile says by which rules slides are made of the
+    Without a template it is made on the default one. For many decks on one, ppt.Template(path, "office") reads it
+    once. The profile says by which rules slides are made of the
     template: "office" as the office programs do, "classic" as vellox.ppt.Presentation does by itself.
     """
     from . import ppt
 
-    paths = [os.fspath(path) for path in (output, template) if path is not None]
-    presentation = ppt.Presentation(*paths)
+    source = template if template is None or isinstance(template, ppt.Template) else os.fspath(template)
+    presentation = ppt.Presentation(os.fspath(output), *([] if source is None else [source]))
     presentation.Profile = profile
     return presentation

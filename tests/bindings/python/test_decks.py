@@ -10,6 +10,7 @@ import zipfile
 import numpy as np
 import pandas as pd
 
+import vellox
 import vellox.ppt as ppt
 
 EXAMPLES = pathlib.Path(__file__).parents[3] / "examples"
@@ -65,3 +66,10 @@ def test_decks_of_a_template_that_is_read_once(tmp_path):
         made.append((tmp_path / "deck.pptx").read_bytes())
     assert made[0] == made[1] != made[2]
     assert len(made[2]) < len(made[0])
+    output = tmp_path / "office.pptx"
+    output.write_text("last week's")
+    with vellox.deck(output, corporate) as deck:
+        assert deck.Profile == "office"
+        deck.add("Title and Content").replace("Title", "this week's")
+        assert output.read_text() == "last week's"
+    assert b"this week&apos;s" in read_parts(output)[b"ppt/slides/slide2.xml"].replace(b"'", b"&apos;")

@@ -58,6 +58,53 @@ TEST_F(OfficeDeckTest, FilesHaveTheNamesThatTheSystemTakes) {
     }
 }
 
+TEST_F(OfficeDeckTest, TheFormerFileStaysUntilTheDeckIsWhole) {
+    writeFile(output, "last week's");
+    writeParts(folder / L"t.pptx", getTemplateParts());
+    const Texts before = folder.list();
+    const auto expectUntouched = [&] {
+        EXPECT_EQ(readFile(output), "last week's");
+        EXPECT_EQ(folder.list(), before);
+    };
+    {
+        Presentation forgotten = Presentation::forOffice(output, folder / L"t.pptx");
+        forgotten.add(L"Title Only").replace(L"Title", L"forgotten");
+        expectUntouched();
+    }
+    expectUntouched();
+    Presentation failing = Presentation::forOffice(output, folder / L"t.pptx");
+    failing.add(L"Blank").add(Picture(folder / L"none.png"));
+    EXPECT_EQ(errorOf([&] { failing.close(); }).substr(0, 28), "ppt_error:missingPictureFile");
+    expectUntouched();
+    const boost::shared_ptr<PPTObject> copy = failing.clone();
+    EXPECT_TRUE(static_cast<Presentation&>(*copy).close()); // a copy writes nothing
+    expectUntouched();
+
+    // Over their own template, and the last of two wins.
+    deck = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
+    deck.add(L"Title Only").replace(L"Title", L"one");
+    Presentation other = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
+    other.add(L"Title Only").replace(L"Title", L"two");
+    EXPECT_TRUE(deck.close());
+    EXPECT_TRUE(other.close() && !other.close());
+    EXPECT_TRUE(findFaults(folder / L"t.pptx").empty());
+    EXPECT_EQ(runsOf(readParts(folder / L"t.pptx").at("ppt/slides/slide1.xml")), "two");
+    EXPECT_EQ(folder.list(), before);
+}
+
+TEST_F(OfficeDeckTest, OutputsThatCantBeAreToldAtOnce) {
+    std::filesystem::create_directory(folder.getPath() / "d.pptx");
+    EXPECT_EQ(errorOf([&] { Presentation::forOffice(folder / L"d.pptx").open(); }).substr(0, 24),
+              "ppt_error:cannotOpenFile");
+    // What is wrong with a template is no reason not to try again.
+    writeFile(folder / L"t.pptx", "no archive");
+    deck = Presentation::forOffice(output, folder / L"t.pptx");
+    EXPECT_EQ(errorOf([&] { deck.open(); }).substr(0, 24), "ppt_error:cannotOpenFile");
+    writeParts(folder / L"t.pptx", getTemplateParts());
+    deck.add(L"Blank");
+    close();
+}
+
 TEST_F(OfficeDeckTest, DesignedLayoutsGiveTheirPlaceholders) {
     builder.addMaster("Theme");
     Page& layout = builder.addLayout(
@@ -115,6 +162,8 @@ TEST_F(OfficeDeckTest, MastersAndLayoutsAreFoundInTheirOrder) {
     EXPECT_EQ(deck.getMasterNames(), (Presentation::Names{L"Office", L"Office (2)"}));
     EXPECT_EQ(deck.getLayoutNames(L"Office (2)"), (Presentation::Names{L"Second", L"Both"}));
     EXPECT_EQ(deck.add(L"Second", L"Office (2)").getLayoutName(), L"Second");
+    EXPECT_EQ(deck.add(L"#2", L"Office (2)").getLayoutName(), L"Both");
+    EXPECT_EQ(errorOf([&] { deck.add(L"#3"); }), "ppt_error:invalidLayoutName #3");
 }
 
 TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
@@ -122,18 +171,23 @@ TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
     Page& layout = builder.addLayout("Own");
     builder.addSlide(
         "Old", layout,
-        groupShape(2, "Group", shape(3, "Inner", "", "", "old")) +
+        groupShape(2, "Group",
+                   shape(3, "Inner", "", "", "old") +
+                       shape(4, "Photo", "<p:ph type='pic' idx='9'/>", place(50, 60, 1000, 2000))) +
             "<p:sp><p:nvSpPr><p:cNvPr id='77' name='Bare'/><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr/>"
             "<p:extLst/></p:sp>");
     useBuilder();
     deck.replace(L"Inner", L"new");
     deck.replace(L"Bare", L"words");
+    writeFile(folder / L"a.png", makePng(100, 100));
+    deck.replace(L"Photo", object(Picture(folder / L"a.png")));
     TextBox free(L"Free");
     free.add(L"x");
     Slide::cast(deck.getChildren().front())->add(free);
     close();
     EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "words", "x"}));
     EXPECT_EQ(canonical(shapeXml(1, "Bare")).find("<p:extLst/></p:sp>"), shapeXml(1, "Bare").size() - 18);
+    EXPECT_EQ(placeOf(findAll(findAll(slideXml(1), "p:grpSp").at(0), "p:pic").at(0)), "50 560 1000 1000");
     const Texts ids = valuesOf(slideXml(1), "p:cNvPr", "id");
     EXPECT_EQ(ids.back(), "78");
 }

@@ -79,6 +79,24 @@ TEST_F(TemplateTest, NeedsItsFileNoMore) {
     EXPECT_EQ(deck.getNChildren(), 1u);
 }
 
+TEST_F(TemplateTest, ServesBothProfiles) {
+    writeParts(folder / L"t.pptx", getTemplateParts());
+    const Template classic(folder / L"t"), office = Template::forOffice(folder / L"t");
+    std::filesystem::remove(folder.getPath() / "t.pptx");
+    for (const Template& source : {classic, office, classic}) {
+        const auto countPlaceholders = [&](const wchar_t* profile) {
+            Presentation made(output, source);
+            made.setProfile(profile);
+            made.add(L"Title and Content").replace(L"Title", L"Words");
+            EXPECT_TRUE(made.close());
+            return findAll(readParts(output).at("ppt/slides/slide1.xml"), "p:ph").size();
+        };
+        EXPECT_EQ(countPlaceholders(L"classic"), 5u);
+        EXPECT_EQ(countPlaceholders(L"office"), 3u); // without date and footer
+    }
+    EXPECT_EQ(errorOf([&] { Template(folder / L"t", L"none"); }), "ppt_error:invalidPropertyValue none");
+}
+
 TEST_F(TemplateTest, NeedsNoTemporaryFolder) {
     setenv("TMPDIR", (folder.getPath() / "none").c_str(), 1);
     EXPECT_TRUE(Presentation(output, Template()).open());

@@ -68,7 +68,8 @@ BoundMethod describeAddParagraph(BoundMethod row) {
 BoundClass describeTemplate() {
     BoundClass bound =
         describe<Template>("Template", "Object", "A template that was read once, for many presentations.");
-    bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"})};
+    bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"}),
+                          make<Template, std::wstring, std::wstring>({"path", "profile"})};
     bound.properties = {readOnlyProperty<Template, &Template::getPath>("Path", "The file that was read.")};
     return bound;
 }

@@ -90,6 +90,13 @@ void checkReplaceable(const Path& place) {
         throw FsysExceptionBase("it is read-only", place.native());
 }
 
+void checkMakeable(const Path& place) {
+    checkReplaceable(place);
+    const Path folder = place.getParent();
+    if (::access(folder.native().c_str(), W_OK | X_OK) != 0)
+        failFor(folder, errno);
+}
+
 FreshFile::FreshFile(const Path& place)
     : place_(followLinks(place)),
       path_(makeName(place_)),
@@ -175,10 +182,12 @@ FileIdentity replaceFile(const std::string& bytes, const Path& target) {
     return fresh.takePlace();
 }
 
-std::string readFile(const Path& source) {
+std::string readFile(const Path& source, std::size_t limit) {
     std::string bytes;
     readBlocks(source, [&](const char* block, std::streamsize count) {
         bytes.append(block, static_cast<std::size_t>(count));
+        if (bytes.size() > limit)
+            failFor(source, EFBIG);
     });
     return bytes;
 }

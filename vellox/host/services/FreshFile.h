@@ -68,12 +68,16 @@ FileIdentity replaceFile(const Path& source, const Path& target);
 /// @throws FsysExceptionBase
 FileIdentity replaceFile(const std::string& bytes, const Path& target);
 /// All that a file holds.
-/// @throws FsysExceptionBase with the file, if it can't be read or is no regular file
-std::string readFile(const Path& source);
+/// @throws FsysExceptionBase with the file, if it can't be read, is no regular file, or holds more bytes than the limit
+std::string readFile(const Path& source, std::size_t limit);
 
 /// Checks that a new file may take this place: nothing stands there, or a regular file that may be written.
 /// @throws FsysExceptionBase
 void checkReplaceable(const Path& place);
+
+/// The same, and that its folder takes new files.
+/// @throws FsysExceptionBase
+void checkMakeable(const Path& place);
 
 } // namespace hostfx::filesystem
 

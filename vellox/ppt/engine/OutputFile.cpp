@@ -19,6 +19,11 @@ void OutputFile::put(const std::wstring& outputPath) {
     file_ = bytes_ ? fsys::replaceFile(*bytes_, path_) : fsys::replaceFile(workingCopy_, path_);
 }
 
+void OutputFile::reserve(const std::wstring& outputPath) {
+    path_ = fsys::makeAbsolute(fsys::Path(outputPath));
+    fsys::checkMakeable(fsys::followLinks(path_));
+}
+
 // The bytes are those of the template, which needn't be kept for that: one that has changed since is no proof.
 bool OutputFile::isSame() const {
     if (fsys::identify(path_) == file_)

@@ -11,8 +11,8 @@
 
 namespace vellox::ppt {
 
-/// Between open and close the file at the output path is the template. What stands there at close may be
-/// another one: the current folder has changed, or another presentation, or another process, has the same
+/// Where the template is put to the output path when a presentation is opened, what stands there at close may be
+/// another file: the current folder has changed, or another presentation, or another process, has the same
 /// output. Slides that are written into that would be lost, or would meet layouts that aren't theirs.
 class OutputFile {
 public:
@@ -24,6 +24,11 @@ public:
     /// Puts the template to the output path.
     /// @throws hostfx::filesystem::FsysExceptionBase
     void put(const std::wstring& outputPath);
+    /// Takes note of the output path and leaves what stands there.
+    /// @throws hostfx::filesystem::FsysExceptionBase if no file can be made there
+    void reserve(const std::wstring& outputPath);
+    /// The template in memory.
+    const boost::shared_ptr<const std::string>& getBytes() const { return bytes_; }
     /// Where the file stands, whatever the current folder has become.
     std::wstring getPath() const { return path_.toGeneric(); }
     /// Checks that the file is the one that was put there, or one of the same bytes, and may be written.

@@ -46,7 +46,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, const std::ws
 
 PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrusive_ptr<TemplateImpl> source)
     : template_(std::move(source)),
-      profile_(findProfile(kClassicProfile)), // by whose rules templates are read
+      profile_(findProfile(kClassicProfile)),
       report_(boost::make_shared<Report>()) {
     setOutputPath(outputPath);
     report_->templatePath = template_->getPath();
@@ -111,7 +111,7 @@ void PresentationImpl::setTemplatePath(const std::wstring& path) {
 
 void PresentationImpl::setProfile(const std::wstring& name) {
     const Profile profile = findProfile(name);
-    if (isOpenOrClosed() || (template_ && profile.name != profile_.name)) // that was read by its rules
+    if (isBusy_ || isOpenOrClosed())
         warnThatItStays<ppt_warning::cannotChangeProfile>();
     else
         profile_ = profile;
@@ -213,6 +213,12 @@ Presentation Presentation::forOffice(const std::wstring& outputPath) {
 
 Presentation Presentation::forOffice(const std::wstring& outputPath, const std::wstring& templatePath) {
     Presentation presentation(outputPath, templatePath);
+    presentation.setProfile(kOfficeProfile);
+    return presentation;
+}
+
+Presentation Presentation::forOffice(const std::wstring& outputPath, const Template& source) {
+    Presentation presentation(outputPath, source);
     presentation.setProfile(kOfficeProfile);
     return presentation;
 }

@@ -30,10 +30,11 @@ class PresentationImpl;
 
 /// A presentation that is being made from a template. A handle: copies share one presentation.
 ///
-/// It goes through a fixed life: made, opened (the template is read, and a copy of it stands at the output
-/// path), closed (the slides are written). Every operation that needs the template opens the presentation
-/// first, and so may throw what open() throws. There is no way back: what is changed after close() changes
-/// nothing on disk. A presentation that is opened and never closed leaves the unchanged copy of the template.
+/// It goes through a fixed life: made, opened (the template is read), closed (the slides are written). Every
+/// operation that needs the template opens the presentation first, and so may throw what open() throws. There is no
+/// way back: what is changed after close() changes nothing on disk. With the profile "office" the output path keeps
+/// what stands there until close() has the whole deck. With "classic" a copy of the template stands there from open()
+/// on, and that is what a presentation leaves that is never closed.
 class VELLOX_API Presentation : public PPTNode {
 public:
     using Names = std::vector<std::wstring>;
@@ -54,10 +55,11 @@ public:
     /// @throws as the constructors
     static Presentation forOffice(const std::wstring& outputPath);
     static Presentation forOffice(const std::wstring& outputPath, const std::wstring& templatePath);
+    static Presentation forOffice(const std::wstring& outputPath, const Template& source);
     /// @}
 
-    /// Reads the template and puts a copy of it at the output path, in the place of what stands there. Paths
-    /// without an extension get "pptx".
+    /// Reads the template and, with the profile "classic", puts a copy of it at the output path, in the place of what
+    /// stands there. Paths without an extension get "pptx".
     /// @return false if the presentation was opened before
     /// @throws cannotOpenTemplate if the template can't be copied, with the reason
     /// @throws cannotOpenFile if the template is no package, or a damaged or encrypted one, or if the output
@@ -76,7 +78,7 @@ public:
     /// @{ Adds a slide of a layout: at the end, before the slide at an index from 0 (at the end if there is
     /// none), or before a slide (at the end if that isn't one of this presentation). Where several slide
     /// masters have a layout of the name, one of them may be named; else the one whose part name sorts first
-    /// is taken. Names are exact.
+    /// is taken. Names are exact. With the profile "office", "#3" is a master's third layout.
     /// @throws invalidLayoutName
     /// @throws invalidLayoutOrSlideMasterName in the forms with a master
     Slide add(const std::wstring& layoutName);

@@ -36,7 +36,7 @@ enum class PresentationState : int {
     Parsing = 1,         ///< the template is being read
     TemplateInvalid = 2, ///< the parser has rejected the template
     Parsed = 3,          ///< the model stands, the output doesn't yet
-    Open = 4,            ///< the output is a copy of the template
+    Open = 4,            ///< slides can be added; with some rules the output is a copy of the template
     Closed = 5           ///< the package has been written
 };
 
@@ -98,18 +98,21 @@ private:
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
     template <class Warning> void warnThatItStays();
     bool isOpenOrClosed() const;
+    void tellOfReading();
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
+    void holdTemplate(const std::wstring& templateFile);
     void takeTemplate();
     void takeModel(const boost::shared_ptr<PresentationModel>& model);
     void takeSlide(const boost::shared_ptr<TemplateSlide>& slide);
     [[noreturn]] void rejectTemplate();
     void makeWorkingCopy(const std::wstring& templateFile);
-    void copyToOutput(const std::wstring& outputFile);
+    void placeOutput(const std::wstring& outputFile);
     void removeWorkingCopy();
+    void openOutput(class OPCPackage& package);
     void writeSlides(const boost::shared_ptr<class OPCPackage>& package);
 
-    boost::intrusive_ptr<TemplateImpl> template_; // empty where the template is a path
+    boost::intrusive_ptr<TemplateImpl> template_; // what is held in memory; else the template is a path
     Profile profile_;
     PresentationState state_ = PresentationState::Created;
     opc::Compression compression_ = opc::Compression::Normal;

@@ -67,6 +67,8 @@ bool PresentationImpl::open() {
     FileUtils::refuseFileName(profile_.rules->judgeFileName(wanted), wanted);
     const std::wstring templateFile = ensureExtension(report_->templatePath);
     const std::wstring outputFile = ensureExtension(wanted);
+    if (!template_ && profile_.rules->appearsWhen() == Appearance::AtClose)
+        holdTemplate(templateFile);
     if (template_) {
         takeTemplate();
     } else {
@@ -74,15 +76,19 @@ bool PresentationImpl::open() {
         setTemplatePath(templateFile);
     }
     setOutputPath(outputFile);
-    copyToOutput(outputFile);
+    placeOutput(outputFile);
     return true;
 }
 
+void PresentationImpl::tellOfReading() {
+    if (!getClient() || !wantsProgress())
+        return;
+    const ppt_progress::docParsingTemplateMsg id(report_->templatePath);
+    MessageDispatcher::getTheDispatcher().dispatch(ProgressMessage(id, *makeInterface()));
+}
+
 void PresentationImpl::parseTemplate(const std::wstring& templateFile) {
-    if (getClient() && wantsProgress()) {
-        const ppt_progress::docParsingTemplateMsg id(report_->templatePath);
-        MessageDispatcher::getTheDispatcher().dispatch(ProgressMessage(id, *makeInterface()));
-    }
+    tellOfReading();
     removeWorkingCopy();
     makeWorkingCopy(templateFile);
     translate<opc::Exception, ppt_error::cannotOpenFile>(templateFile, [&] { readTemplate(templateFile); });
@@ -101,10 +107,18 @@ void PresentationImpl::readTemplate(const std::wstring& templateFile) {
     package.close();
 }
 
+// The deck is made of it when it is closed, and nothing need stand on disk until then.
+void PresentationImpl::holdTemplate(const std::wstring& templateFile) {
+    tellOfReading();
+    const boost::intrusive_ptr<TemplateImpl> held(new TemplateImpl(templateFile, profile_));
+    report_->templatePath = held->getPath();
+    template_ = held;
+}
+
 // What was read for all decks is this one's from now on, whatever listeners make of the paths.
 void PresentationImpl::takeTemplate() {
     outputFile_ = boost::make_shared<OutputFile>(template_->getBytes());
-    takeModel(template_->makeModel());
+    takeModel(template_->makeModel(profile_));
 }
 
 void PresentationImpl::takeModel(const boost::shared_ptr<PresentationModel>& model) {
@@ -140,9 +154,12 @@ void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
     translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(templateFile, make, describeCopy);
 }
 
-void PresentationImpl::copyToOutput(const std::wstring& outputFile) {
+void PresentationImpl::placeOutput(const std::wstring& outputFile) {
     try {
-        outputFile_->put(report_->outputPath);
+        if (profile_.rules->appearsWhen() == Appearance::AtOpen)
+            outputFile_->put(report_->outputPath);
+        else
+            outputFile_->reserve(report_->outputPath);
         state_ = PresentationState::Open;
         removeWorkingCopy();
     } catch (const std::exception& failure) {
@@ -168,14 +185,24 @@ bool PresentationImpl::close() {
     const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
     const auto package = boost::make_shared<OPCPackage>(path);
     package->setCompression(compression_);
-    package->openReadWrite(false);
-    if (outputFile_)
-        outputFile_->check();
+    openOutput(*package);
     translate<opc::Exception, ppt_error::cannotOpenFile>(path, [&] {
         writeSlides(package);
         package->close();
     });
+    outputFile_.reset();
+    template_.reset();
     return true;
+}
+
+void PresentationImpl::openOutput(OPCPackage& package) {
+    if (profile_.rules->appearsWhen() == Appearance::AtOpen) {
+        package.openReadWrite(false);
+        if (outputFile_)
+            outputFile_->check();
+    } else if (outputFile_) {
+        package.openToSave(outputFile_->getBytes());
+    }
 }
 
 // A failure before the state is Closed has changed nothing, and closing may be tried again.

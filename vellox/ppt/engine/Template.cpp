@@ -10,7 +10,7 @@
 #include "vellox/ppt/engine/TemplateParser.h"
 #include "vellox/ppt/package/OPCPackage.h"
 #include "vellox/ppt/package/PartDOMBuilder.h"
-#include "vellox/ppt/rules/ClassicRules.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/TemplateReader.h"
 
 #include <boost/interprocess/streams/bufferstream.hpp>
@@ -22,25 +22,38 @@ namespace fsys = hostfx::filesystem;
 
 // TemplateImpl
 
-TemplateImpl::TemplateImpl(const std::wstring& path)
-    : path_(normalizeAndCheck(ensureExtension(normalizeAndCheck(path)))),
-      rules_(boost::make_shared<ClassicRules>()) {
-    translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(
-        path_, [&] { bytes_ = boost::make_shared<std::string>(fsys::readFile(fsys::Path(path_))); });
-    translate<opc::Exception, ppt_error::cannotOpenFile>(path_, [&] { read(); });
+namespace {
+
+constexpr std::size_t kMaxTemplateBytes = std::size_t(2) << 30; // to be held in memory
+
+} // namespace
+
+TemplateImpl::TemplateImpl(const std::wstring& path, const Profile& profile)
+    : path_(normalizeAndCheck(ensureExtension(normalizeAndCheck(path)))) {
+    translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(path_, [&] {
+        bytes_ = boost::make_shared<std::string>(fsys::readFile(fsys::Path(path_), kMaxTemplateBytes));
+    });
+    requireContents(profile);
 }
 
-void TemplateImpl::read() {
+const TemplateImpl::Contents& TemplateImpl::requireContents(const Profile& profile) {
+    Contents& contents = readings_[profile.name];
+    if (!contents)
+        translate<opc::Exception, ppt_error::cannotOpenFile>(path_, [&] { contents = read(*profile.rules); });
+    return contents;
+}
+
+TemplateImpl::Contents TemplateImpl::read(const Rules& rules) const {
     OPCPackage package(path_);
     package.openRead(boost::make_shared<boost::interprocess::ibufferstream>(bytes_->data(), bytes_->size()));
     PartDOMBuilder builder(package);
-    TemplateReader reader(builder, *rules_);
+    TemplateReader reader(builder, rules);
     if (reader.load() != Refusal::None)
         raise(ppt_error::invalidTemplate(path_));
-    contents_ = reader.getTemplate();
-    for (const auto& slide : contents_->slides)
+    for (const auto& slide : reader.getTemplate()->slides)
         if (!TemplateParser::hasMaster(*slide))
             raise(ppt_error::invalidTemplate(path_));
+    return reader.getTemplate();
 }
 
 const char* TemplateImpl::getFullyQualifiedHostTypeName() const {
@@ -51,15 +64,21 @@ boost::shared_ptr<PPTObject> TemplateImpl::makeHandle() {
     return ObjectAccess::makeFacade<Template>(this);
 }
 
-boost::shared_ptr<PresentationModel> TemplateImpl::makeModel() const {
-    return boost::make_shared<PresentationModel>(contents_, rules_);
+boost::shared_ptr<PresentationModel> TemplateImpl::makeModel(const Profile& profile) {
+    return boost::make_shared<PresentationModel>(requireContents(profile), profile.rules);
 }
 
 // Template
 
 Template::Template() : Template(getDefaultTemplatePath()) {}
-Template::Template(const std::wstring& path) : Template(new TemplateImpl(path)) {}
+Template::Template(const std::wstring& path) : Template(path, kClassicProfile) {}
+Template::Template(const std::wstring& path, const std::wstring& profile)
+    : Template(new TemplateImpl(path, findProfile(profile))) {}
 Template::Template(TemplateImpl* impl) : PPTObject(impl) {}
+
+Template Template::forOffice(const std::wstring& path) {
+    return Template(path, kOfficeProfile);
+}
 
 const std::wstring Template::getPath() const {
     return implOf<TemplateImpl>(*this)->getPath();

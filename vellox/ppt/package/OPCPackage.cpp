@@ -7,6 +7,7 @@
 #include "vellox/opc/FileSystemPhysicalPackage.h"
 #include "vellox/opc/ZipPhysicalPackage.h"
 
+#include <boost/interprocess/streams/bufferstream.hpp>
 #include <boost/make_shared.hpp>
 #include <exception>
 #include <filesystem>
@@ -86,6 +87,16 @@ void OPCPackage::openReadWrite(bool allowFolder) {
             physicalPackage_ = boost::make_shared<opc::FileSystemPhysicalPackage>(path_);
         else
             physicalPackage_ = boost::make_shared<opc::ZipPhysicalPackage>(path_, true, std::wstring());
+    });
+}
+
+void OPCPackage::openToSave(boost::shared_ptr<const std::string> content) {
+    openGuarded(opc::OpenMode::ReadWrite, [&] {
+        content_ = std::move(content);
+        inputFile_ =
+            boost::make_shared<boost::interprocess::ibufferstream>(content_->data(), content_->size());
+        inputAdaptor_ = boost::make_shared<opc::StdIStreamAdaptor>(inputFile_);
+        physicalPackage_ = boost::make_shared<opc::ZipPhysicalPackage>(inputAdaptor_, path_);
     });
 }
 

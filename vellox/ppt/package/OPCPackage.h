@@ -32,6 +32,8 @@ public:
     void openRead(boost::shared_ptr<std::istream> content);
     void openWrite(bool asFolder);
     void openReadWrite(bool allowFolder);
+    /// From bytes in memory, to be saved to the path, which keeps what stands there until then.
+    void openToSave(boost::shared_ptr<const std::string> content);
     /// @}
     /// @throws opc::Exception if the package can't be saved; the file is as it was then
     void close();
@@ -45,6 +47,7 @@ private:
     template <class Body> void openGuarded(opc::OpenMode mode, Body makePhysicalPackage);
     bool isFolder() const;
 
+    boost::shared_ptr<const std::string> content_; // that the input is read from, if it isn't a file
     boost::shared_ptr<std::istream> inputFile_;
     boost::shared_ptr<std::ostream> outputFile_;
     boost::shared_ptr<opc::LocalFileSystemOps> fileOps_;

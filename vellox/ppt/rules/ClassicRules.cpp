@@ -16,6 +16,10 @@ FileNameFault ClassicRules::judgeFileName(const std::wstring& name) const {
     return FileUtils::judgeFileName(name);
 }
 
+Appearance ClassicRules::appearsWhen() const {
+    return Appearance::AtOpen;
+}
+
 Refusal ClassicRules::refuse(const PackageFacts& package) const {
     if (!package.hasMainPart)
         return Refusal::NoMainPart;
@@ -35,6 +39,10 @@ Rules::Names ClassicRules::nameLayouts(const Names& layouts) const {
 
 Order ClassicRules::orderLayouts() const {
     return Order::Relationships;
+}
+
+bool ClassicRules::numbersLayouts() const {
+    return false;
 }
 
 // A layout or a slide is read

@@ -11,10 +11,12 @@ namespace vellox::ppt {
 class ClassicRules : public Rules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;
+    bool numbersLayouts() const override;
     TreePath findsTree() const override;
     NodeType classify(const ShapeFacts& shape) const override;
     Names nameShapes(const std::vector<NamedShape>& page) const override;

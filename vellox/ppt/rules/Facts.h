@@ -32,6 +32,12 @@ enum class Refusal {
     OtherMainType ///< its main part is something else
 };
 
+/// When the file of a deck comes to its place.
+enum class Appearance {
+    AtOpen, ///< a copy of the template, which the deck is written into when it is closed
+    AtClose ///< the deck itself; until then the place keeps what stands there
+};
+
 /// In which order layouts are listed, and masters searched.
 enum class Order {
     Relationships, ///< layouts as the relationships of their master come, masters by the names of their parts

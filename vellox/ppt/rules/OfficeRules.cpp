@@ -56,6 +56,11 @@ FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
     return FileNameFault::None;
 }
 
+// A deck that is never finished costs nobody the one before it.
+Appearance OfficeRules::appearsWhen() const {
+    return Appearance::AtClose;
+}
+
 Rules::Names OfficeRules::nameMasters(const Names& themes) const {
     return makeUnique(themes);
 }
@@ -66,6 +71,10 @@ Rules::Names OfficeRules::nameLayouts(const Names& layouts) const {
 
 Order OfficeRules::orderLayouts() const {
     return Order::Template;
+}
+
+bool OfficeRules::numbersLayouts() const {
+    return true;
 }
 
 // A layout or a slide is read

@@ -12,9 +12,11 @@ namespace vellox::ppt {
 class OfficeRules : public ClassicRules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    Appearance appearsWhen() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;
+    bool numbersLayouts() const override;
     TreePath findsTree() const override;
     NodeType classify(const ShapeFacts& shape) const override;
     Names nameShapes(const std::vector<NamedShape>& page) const override;

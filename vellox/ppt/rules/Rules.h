@@ -20,6 +20,7 @@ public:
 
     /// Whether a file of this name may be made.
     virtual FileNameFault judgeFileName(const std::wstring& name) const = 0;
+    virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
     /// The names under which the masters are found, from those of their themes.
@@ -27,6 +28,8 @@ public:
     /// The names under which the layouts of one master are found, from their own.
     virtual Names nameLayouts(const Names& layouts) const = 0;
     virtual Order orderLayouts() const = 0;
+    /// Whether a layout that bears no such name is found as "#1", "#2", its number in that order.
+    virtual bool numbersLayouts() const = 0;
 
     /// How the shapes of a layout are found.
     virtual TreePath findsTree() const = 0;

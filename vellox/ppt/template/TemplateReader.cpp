@@ -156,6 +156,8 @@ void TemplateReader::loadLayouts(const opc::Part& masterPart, DOMDocument* docum
     master.layoutNames = rules_.nameLayouts(master.layoutNames);
     for (std::size_t i = 0; i < master.layoutNames.size(); ++i)
         master.layoutsByName.emplace(master.layoutNames[i], (*master.layouts)[i]);
+    for (std::size_t i = 0; i < master.layoutNames.size() && rules_.numbersLayouts(); ++i)
+        master.layoutsByName.emplace(L"#" + std::to_wstring(i + 1), (*master.layouts)[i]);
 }
 
 // The document of a layout or slide, to be marked with data-uid. Marks that it has already, from wherever, are
@@ -286,6 +288,7 @@ void TemplateReader::parseShape(DOMElement& element, TemplateShapes& shapes, con
         return;
     const boost::shared_ptr<TemplateShape> shape = makeRecord(element, facts);
     shapes.push_back(shape);
+    shape->givesWayInGroup = isInGroup && rules_.reachesIntoGroups();
     const Place ofLayout = layout ? findKinsPlace(*layout, facts, rules_.findsKin()) : Place();
     choosePlaces(*shape, facts, readPlace(element), ofLayout, layout ? layout->master.lock().get() : nullptr);
     if (shape->type != NodeType::Group)

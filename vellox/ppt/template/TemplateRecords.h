@@ -72,6 +72,7 @@ struct TemplateShape : ShapeGeometry {
     Place successorPlace;           ///< for a picture or a table in its stead; empty if there is none
     Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
     boost::shared_ptr<TemplateShapes> children; ///< of a group
+    bool givesWayInGroup = false;               ///< whether a picture may take its place in a group
 };
 
 struct TemplateTheme {
@@ -94,8 +95,9 @@ struct TemplateMaster {
     std::map<std::wstring, Place> placesByType; ///< from the type of a placeholder to its place, see Kin.h
     unsigned int maxShapeId = 0;                ///< greatest id of a p:cNvPr
     boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< as the rules order them
-    std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByName;   ///< the first of each name
-    std::vector<std::wstring> layoutNames;                                     ///< with repeats
+    std::map<std::wstring, boost::shared_ptr<TemplateLayout>>
+        layoutsByName;                     ///< the first of each name, and "#1"
+    std::vector<std::wstring> layoutNames; ///< with repeats
 };
 
 struct TemplateLayout {

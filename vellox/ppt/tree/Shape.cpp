@@ -65,9 +65,14 @@ void ShapeImpl::replace(const HvContentPtr&) {
     raise(ppt_error::invalidReplaceArg());
 }
 
-PPTNodeImpl* ShapeImpl::findSlide() const {
+// A slide; or a group for a picture, where what the template says of the shape allows it. Readers don't expect tables
+// in groups.
+PPTNodeImpl* ShapeImpl::findHolder(NodeType successor) const {
     PPTNodeImpl* parent = getParent();
-    if (!parent || parent->getNodeType() != NodeType::Slide)
+    const bool mayStayInGroup =
+        successor == NodeType::Picture && templateShape_ && templateShape_->givesWayInGroup;
+    if (!parent || (parent->getNodeType() != NodeType::Slide &&
+                    !(mayStayInGroup && parent->getNodeType() == NodeType::Group)))
         return nullptr;
     for (const Child& child : parent->getChildren())
         if (implOf<PPTNodeImpl>(*child) == this)

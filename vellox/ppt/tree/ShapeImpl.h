@@ -41,11 +41,11 @@ public:
 protected:
     void markContentReplaced() { contentReplaced_ = true; }
     /// Puts a new shape of class Impl, made from this one and a given one, in this one's place on its slide.
-    /// @return a handle on the new shape; the given one if this shape doesn't stand directly on a slide
+    /// @return a handle on the new shape; the given one if this shape stands where it can't give way
     template <class Impl, class Facade> Facade giveWayTo(Facade given, TakeName takeName);
 
 private:
-    PPTNodeImpl* findSlide() const;
+    PPTNodeImpl* findHolder(NodeType successor) const;
     void reportThatItStays() const;
     void extendId();
 
@@ -57,8 +57,9 @@ private:
 
 // The given handle comes by value: listeners may let the caller's stand for something else.
 template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(Facade given, TakeName takeName) {
-    const boost::intrusive_ptr<PPTNodeImpl> slide(findSlide());
-    if (!slide) {
+    const NodeType successor = implOf<Impl>(given)->getNodeType();
+    const boost::intrusive_ptr<PPTNodeImpl> holder(findHolder(successor));
+    if (!holder) {
         reportThatItStays();
         return given;
     }
@@ -66,11 +67,11 @@ template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(Facade given, Ta
     const Child replacement = (new Impl(*this, takeName, *implOf<Impl>(given)))->makeInterface();
     implOf<Impl>(*replacement)->appendClones(*implOf<Impl>(given));
     // Listeners have heard of new objects, and may have given this one's place to another.
-    if (findSlide() != slide.get()) {
+    if (findHolder(successor) != holder.get()) {
         reportThatItStays();
         return given;
     }
-    slide->replaceChild(*self, replacement);
+    holder->replaceChild(*self, replacement);
     return static_cast<const Facade&>(*replacement);
 }
 
