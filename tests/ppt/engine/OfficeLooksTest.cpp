@@ -252,6 +252,7 @@ TEST_F(OfficeLooksTest, ReplacedTablesLookAsBefore) {
     EXPECT_EQ(valuesOf(frame, "a:ext", "cx"), Texts{"4000"});
     EXPECT_EQ(valuesOf(frame, "a:tr", "h"), (Texts{"400", "300", "300", "200"}));
     EXPECT_EQ(valuesOf(frame, "a:rPr", "sz"), (Texts{"100", "100", "300", "400", "400", "700", "800"}));
+    EXPECT_EQ(valuesOf(frame, "a:endParaRPr", "sz"), Texts{"300"}); // of the emptied cell
     EXPECT_EQ(valuesOf(frame, "a:tcPr", "anchor"), (Texts{"b", "b", "", "b", "", "ctr", "t"}));
 }
 

@@ -36,6 +36,10 @@ constexpr FindingKind kFindingKinds[] = {
     {"charactersDropped", Severity::Warning},
     {"cannotChangeOutputPath", Severity::Warning},
     {"cannotChangeTemplatePath", Severity::Warning},
+    {"cannotChangeProfile", Severity::Warning},
+    {"emptyPlaceholder", Severity::Info},
+    {"textTooLong", Severity::Warning},
+    {"tableTooLong", Severity::Warning},
     {"moreFindings", Severity::Info},
 };
 

@@ -29,6 +29,14 @@ Refusal ClassicRules::refuse(const PackageFacts& package) const {
     return isKnown ? Refusal::None : Refusal::OtherMainType;
 }
 
+bool ClassicRules::namesNearest() const {
+    return false;
+}
+
+bool ClassicRules::sendsFindings() const {
+    return false;
+}
+
 Rules::Names ClassicRules::nameMasters(const Names& themes) const {
     return themes;
 }
@@ -177,6 +185,10 @@ bool ClassicRules::alignsNumbers() const {
 
 TableParts ClassicRules::showParts(const TableParts& set, const TableParts*) const {
     return set;
+}
+
+Rules::Names ClassicRules::listTableStyles() const {
+    return {};
 }
 
 TableStyle ClassicRules::chooseTableStyle(const TableStyleFacts& style) const {

@@ -13,6 +13,8 @@ public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
     Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;
@@ -34,6 +36,7 @@ public:
     bool showsTruth() const override;
     bool alignsNumbers() const override;
     TableParts showParts(const TableParts& set, const TableParts* former) const override;
+    Names listTableStyles() const override;
     TableStyle chooseTableStyle(const TableStyleFacts& style) const override;
     bool bringsStyleName() const override;
     bool fillsRows() const override;

@@ -56,6 +56,14 @@ FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
     return FileNameFault::None;
 }
 
+bool OfficeRules::namesNearest() const {
+    return true;
+}
+
+bool OfficeRules::sendsFindings() const {
+    return true;
+}
+
 // A deck that is never finished costs nobody the one before it.
 Appearance OfficeRules::appearsWhen() const {
     return Appearance::AtClose;
@@ -258,6 +266,13 @@ TableParts OfficeRules::showParts(const TableParts& set, const TableParts* forme
             shown[i] = true;
     }
     return shown;
+}
+
+Rules::Names OfficeRules::listTableStyles() const {
+    Names names;
+    for (const BuiltInTableStyle& style : getBuiltInTableStyles())
+        names.push_back(style.name);
+    return names;
 }
 
 TableStyle OfficeRules::chooseTableStyle(const TableStyleFacts& style) const {

@@ -12,6 +12,8 @@ namespace vellox::ppt {
 class OfficeRules : public ClassicRules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Appearance appearsWhen() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
@@ -34,6 +36,7 @@ public:
     bool showsTruth() const override;
     bool alignsNumbers() const override;
     TableParts showParts(const TableParts& set, const TableParts* former) const override;
+    Names listTableStyles() const override;
     TableStyle chooseTableStyle(const TableStyleFacts& style) const override;
     bool bringsStyleName() const override;
     bool fillsRows() const override;

@@ -23,6 +23,10 @@ public:
     virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
+    /// Whether the errors of unknown names tell in their text which are near.
+    virtual bool namesNearest() const = 0;
+    /// Whether what a presentation finds is also sent as a warning.
+    virtual bool sendsFindings() const = 0;
     /// The names under which the masters are found, from those of their themes.
     virtual Names nameMasters(const Names& themes) const = 0;
     /// The names under which the layouts of one master are found, from their own.
@@ -67,6 +71,8 @@ public:
     /// Which parts of a table its style shows in their own way.
     /// @param former those of the table whose place it takes, or null
     virtual TableParts showParts(const TableParts& set, const TableParts* former) const = 0;
+    /// The names of styles that a table may have beside the template's.
+    virtual Names listTableStyles() const = 0;
     virtual TableStyle chooseTableStyle(const TableStyleFacts& style) const = 0;
     /// Whether a table that takes a place brings the name of its style along.
     virtual bool bringsStyleName() const = 0;

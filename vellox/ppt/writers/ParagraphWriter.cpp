@@ -70,7 +70,7 @@ void ParagraphWriter::writeEnd(bool hasRuns) const {
     if (table && getRules().sizesEmptyCells()) {
         const TextImpl* text = hasRuns ? findOnlyText() : nullptr;
         if (!hasRuns || (text && text->getTextContent().empty())) {
-            PropertyElement end = look_ ? look_->endParaRPr : PropertyElement(xml::kAEndParaRPr);
+            PropertyElement end = look_ ? look_->makeEmptyEnd() : PropertyElement(xml::kAEndParaRPr);
             putFontSize(end);
             return end.writeTo(getMarkup());
         }

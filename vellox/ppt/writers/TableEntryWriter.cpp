@@ -35,7 +35,11 @@ void TableEntryWriter::writeEmpty() const {
     const ParagraphLook* former = look_ ? look_->text.find(0) : nullptr;
     if (!getRules().sizesEmptyCells())
         return writeEmptyParagraph(getMarkup(), former);
-    ParagraphLook sized = former ? *former : ParagraphLook();
+    ParagraphLook sized;
+    if (former) {
+        sized.pPr = former->pPr;
+        sized.endParaRPr = former->makeEmptyEnd();
+    }
     putFontSize(sized.endParaRPr);
     writeEmptyParagraph(getMarkup(), &sized);
 }

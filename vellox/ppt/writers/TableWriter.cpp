@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NameHint.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -162,7 +163,8 @@ void TableWriter::reportNoRows() const {
 }
 
 void TableWriter::reportMissingStyle(const std::wstring& name) const {
-    getWriter().report(ppt_finding::invalidTableStyle(name));
+    const NameHint hint = isHeard(table_) ? makeNameHint(name, getModel().listTableStyleNames()) : NameHint();
+    getWriter().report(ppt_finding::invalidTableStyle(name, hint.getTail()));
     if (!wantsErrors())
         return;
     const ppt_warning::invalidTableStyle id(name);
@@ -201,11 +203,13 @@ void TableWriter::updateGrid(const GraphicFrameElements& frame, const TableConte
     const std::vector<int> widths = getRules().shareWidth(facts);
     if (widths.empty())
         return;
-    removeChildElements(frame.tblGrid, xml::kAGridCol);
+    std::vector<DOMElement*> columns = getChildElements(frame.tblGrid);
+    while (columns.size() < widths.size())
+        columns.push_back(appendElement(frame.tblGrid, xml::kAGridCol));
     double sum = 0;
-    for (const int width : widths) {
-        setAttribute(appendElement(frame.tblGrid, xml::kAGridCol), xml::kW, num2str(width));
-        sum += width;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        setAttribute(columns[i], xml::kW, num2str(widths[i]));
+        sum += widths[i];
     }
     if (context.meter)
         setAttribute(ext, xml::kCx, num2str(truncateToInt(sum)));

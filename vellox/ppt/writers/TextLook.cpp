@@ -44,6 +44,13 @@ ParagraphLook readLook(const DOMElement& paragraph, const DOMElement* run) {
 
 } // namespace
 
+PropertyElement ParagraphLook::makeEmptyEnd() const {
+    PropertyElement end = endParaRPr;
+    if (end.isEmpty())
+        end.layOver(rPr);
+    return end;
+}
+
 TextLook::TextLook(const DOMElement* txBody) {
     std::vector<bool> haveRuns; // whether that of a level is of a paragraph with a run
     for (const DOMElement* child : getChildElements(txBody)) {
@@ -83,10 +90,11 @@ void writeEmptyParagraph(opc::MarkupBuffer& out, const ParagraphLook* look) {
         return out.append(kEmptyParagraph);
     const std::size_t start = out.openElement("a:p");
     look->pPr.writeTo(out);
-    if (look->endParaRPr.isEmpty())
+    const PropertyElement end = look->makeEmptyEnd();
+    if (end.isEmpty())
         out.append("<a:endParaRPr/>");
     else
-        look->endParaRPr.writeTo(out);
+        end.writeTo(out);
     out.closeElement("a:p", start);
 }
 

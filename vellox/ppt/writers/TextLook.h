@@ -17,6 +17,9 @@ struct ParagraphLook {
     PropertyElement pPr{xml::kAPPr};
     PropertyElement rPr{xml::kARPr}; ///< of its first run
     PropertyElement endParaRPr{xml::kAEndParaRPr};
+
+    /// The end of a paragraph without text, which is as high as the run was if nothing else is said.
+    PropertyElement makeEmptyEnd() const;
 };
 
 /// The looks of the paragraphs of a text body, by their levels. The names in it are those of the document, which has to
