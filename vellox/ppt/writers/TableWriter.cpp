@@ -59,6 +59,7 @@ void TableWriter::write() {
     }
     readFormer();
     const GraphicFrameElements made = makeGraphicFrame();
+    writeAltText(made.frame);
     writeProperties(made.tbl);
     if (getRules().measuresColumns())
         context.meter.emplace(context.colCount);
