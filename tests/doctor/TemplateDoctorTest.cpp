@@ -110,19 +110,19 @@ TEST_F(TemplateDoctorTest, LeavesIndexesThatSlidesUse) {
 }
 
 TEST_F(TemplateDoctorTest, RefusesWhatIsNoTemplate) {
-    const std::wstring file = folder / L"none.pptx", output = folder / L"output.pptx";
+    const std::wstring file = folder / L"none.pptx", present = folder / L"output.pptx";
     writeFile(file, "no package");
-    writeFile(output, "precious");
+    writeFile(present, "precious");
     for (const std::wstring& path : {file, folder / L"missing.pptx", std::wstring(folder / L"")}) {
         EXPECT_EQ(errorOf([&] { inspectTemplate(path); }).substr(0, 24), "ppt_error:cannotOpenFile");
-        EXPECT_EQ(errorOf([&] { healTemplate(path, output); }).substr(0, 24), "ppt_error:cannotOpenFile");
+        EXPECT_EQ(errorOf([&] { healTemplate(path, present); }).substr(0, 24), "ppt_error:cannotOpenFile");
     }
     TemplateBuilder builder;
     builder.setContentType("application/xml");
     const std::wstring other = write(builder.build());
     EXPECT_EQ(errorOf([&] { inspectTemplate(other); }).substr(0, 25), "ppt_error:invalidTemplate");
-    EXPECT_EQ(errorOf([&] { healTemplate(other, output); }).substr(0, 25), "ppt_error:invalidTemplate");
-    EXPECT_EQ(readFile(output), "precious");
+    EXPECT_EQ(errorOf([&] { healTemplate(other, present); }).substr(0, 25), "ppt_error:invalidTemplate");
+    EXPECT_EQ(readFile(present), "precious");
 }
 
 TEST(SpeakingNames, SayWherePlaceholdersStand) {
