@@ -103,8 +103,8 @@ void ContentTypes::remove(const std::set<PartName>& names) {
     const std::vector<Row> former = std::exchange(overrides_, {});
     overrideByName_.clear();
     for (const Row& row : former)
-        if (names.count(PartName(row.first)) == 0)
-            setOverride(PartName(row.first), row.second);
+        if (names.count(PartName(row.key)) == 0)
+            setOverride(PartName(row.key), *row.type);
     isChanged_ = isChanged_ || overrides_.size() != former.size();
 }
 
