@@ -3,11 +3,13 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/Exception.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/Failures.h"
 #include "vellox/ppt/engine/OutputFile.h"
 #include "vellox/ppt/engine/OutputReader.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/template/NotesPage.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -133,8 +135,12 @@ std::wstring Slide::getNotes() const {
 }
 
 void Slide::setNotes(const std::wstring& text) {
-    if (TemplateSlide* record = requireRecord(*pimpl()))
-        record->notes = changeNotes(record->notes.get(), text);
+    TemplateSlide* record = requireRecord(*pimpl());
+    if (!record)
+        return;
+    record->notes = changeNotes(record->notes.get(), text);
+    if (const std::size_t dropped = opc::XercesString(text).getDropped())
+        report(ppt_finding::charactersDropped(std::to_wstring(dropped)), *pimpl());
 }
 
 } // namespace vellox::ppt

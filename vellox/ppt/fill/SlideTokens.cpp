@@ -96,10 +96,17 @@ private:
             const bool isInGroup = shape->getParent() != slide_.get();
             const bool isPicture = getObjectImpl<PictureImpl>(successor.content) != nullptr;
             if (!isInGroup || (isPicture && shape->getTemplateShape()->givesWayInGroup))
-                successors_.push_back(successor);
+                successors_.push_back(withTable(successor));
             else
                 reports_.push_back({successor.uid, Fault::Refused, successor.token});
         }
+    }
+
+    // A table that can't be made is found out here.
+    static TokenDocument::Successor withTable(TokenDocument::Successor successor) {
+        if (const auto table = TableContent::getValue(successor.content))
+            successor.content = boost::make_shared<ObjectContent>(Table(table));
+        return successor;
     }
 
     void tell(const TokenDocument::Report& each) const {
@@ -124,8 +131,7 @@ private:
         Place where = successor.place ? successor.place : record->successorPlace;
         if (!where)
             where = record->textPlace;
-        const boost::shared_ptr<HvTable> table = TableContent::getValue(successor.content);
-        shape->giveWayTo(table ? boost::make_shared<ObjectContent>(Table(table)) : successor.content, where);
+        shape->giveWayTo(successor.content, where);
     }
 
     boost::intrusive_ptr<SlideImpl> slide_;
