@@ -42,7 +42,7 @@ Parts makeSick() {
                       shape(2, "Title Placeholder 1", "<p:ph type='title'/>", place(10, 20, 3000, 400)));
     builder
         .addLayout(
-            "Own\nlayout",
+            "Own&#xA;layout",
             shape(2, "Title 1", "<p:ph type='title'/>") +
                 shape(3, "Content Placeholder 2", "<p:ph idx='1' type='obj'/>", place(0, 1000, 1000, 900)) +
                 shape(4, "Content Placeholder 3", "<p:ph idx='1' type='obj'/>",
