@@ -85,7 +85,7 @@ def test_slides_are_filled_by_name_or_not_at_all(tmp_path):
         assert [len(deck), len(list(first))] == [3, 1]
         assert list(deck) == [first, before, slide]
         assert slide["Title"].Text == slide["type:title"].Text == "Week 47"
-        with pytest.raises(ppt.UnknownNameError, match="Title"):
+        with pytest.raises(ppt.UnknownNameError, match="Titel"):
             slide.fill({"Title": "lost", "Titel": "x"})
         with pytest.raises(ppt.BadTypeError):
             deck.add("Title Only", {"Title": ppt.Table([["a"]])})
