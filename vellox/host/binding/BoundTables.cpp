@@ -117,7 +117,9 @@ BoundClass describeTableEntry() {
                           make<TableEntry, Paragraph>({"paragraph"})};
     bound.properties = makeFontRows<TableEntry>();
     append(bound.properties,
-           {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>()});
+           {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>(),
+            property<TableEntry, &TableEntry::getText, &TableEntry::setText>(
+                "Text", "What the cell shows, as text. A cell of the template's keeps its look.")});
     bound.methods = {
         Method<TableEntry, Paragraph(const Paragraph&)>::row<&TableEntry::append>(
             "append", {"paragraph"}, "Appends this very paragraph, which must not stand anywhere yet."),

@@ -4,10 +4,14 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/xml/BodyText.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
 
@@ -46,6 +50,8 @@ TableImpl::TableImpl(const TableImpl& other)
       broughtStyleName_(other.broughtStyleName_),
       parts_(other.parts_),
       colSpecs_(other.colSpecs_) {
+    for (const auto& [place, cell] : other.templateCells_)
+        templateCells_.emplace(place, TableEntry::cast(cell->clone()));
     announceCreated(*this);
 }
 
@@ -118,6 +124,8 @@ boost::shared_ptr<TableRow> TableImpl::row(unsigned int i) const {
 }
 
 boost::shared_ptr<TableEntry> TableImpl::entry(unsigned int r, unsigned int c) const {
+    if (getChildren().empty())
+        return templateEntry({r, c});
     const boost::shared_ptr<TableRow> found = row(r);
     if (!found)
         return {};
@@ -125,6 +133,19 @@ boost::shared_ptr<TableEntry> TableImpl::entry(unsigned int r, unsigned int c) c
     if (entries != nCols_)
         raise(dom_error::entriesColumnsMismatch(num2str(r + 1), num2str(entries), num2str(nCols_)));
     return c < entries ? TableEntry::cast(found->getChildren()[c]) : boost::shared_ptr<TableEntry>();
+}
+
+boost::shared_ptr<TableEntry> TableImpl::templateEntry(const CellPlace& place) const {
+    const auto source = findSource(*this);
+    const xercesc::DOMElement* cell =
+        source ? findCell(source->find(getTemplateUid()), place.first, place.second) : nullptr;
+    if (!cell)
+        return {};
+    boost::shared_ptr<TableEntry>& entry = templateCells_[place];
+    if (!entry)
+        entry = boost::make_shared<TableEntry>();
+    implOf<TableEntryImpl>(*entry)->setTemplateCell(source, *cell);
+    return entry;
 }
 
 void TableImpl::checkReplaceable() const {
@@ -285,6 +306,10 @@ boost::shared_ptr<TableEntry> Table::entry(unsigned int r, unsigned int c) {
 
 Table Table::replace(const Table& table) {
     return pimpl()->replace(table);
+}
+
+boost::shared_ptr<Table> Table::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<Table>(node);
 }
 
 } // namespace vellox::ppt

@@ -92,6 +92,8 @@ public:
     TableRow append(const TableRow& row);
     /// @return an empty pointer if there is no such row
     boost::shared_ptr<TableRow> row(unsigned int i);
+    /// An entry, or, for a table of the template whose rows are still those, what stands for the template's cell: its
+    /// text can be read and set, and formats that it gets come on top of those that the cell has.
     /// @return an empty pointer if there is no such entry
     /// @throws entriesColumnsMismatch if the row has more or fewer entries than the table has columns
     boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c);
@@ -104,6 +106,9 @@ public:
     ///         in which case nothing changes
     /// @throws tableCannotBeReplaced if this table stands nowhere (any more)
     Table replace(const Table& table);
+
+    /// The node as a Table, or an empty pointer.
+    static boost::shared_ptr<Table> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
     friend struct ObjectAccess;

@@ -5,6 +5,8 @@
 #define VELLOX_PPT_TREE_TABLEIMPL_H
 
 #include <array>
+#include <map>
+#include <utility>
 
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/rules/Facts.h"
@@ -48,18 +50,25 @@ public:
     void appendContent(const HvTable& content);
     boost::shared_ptr<TableRow> row(unsigned int i) const;
     boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c) const;
+    /// A row and a column, from 0.
+    using CellPlace = std::pair<unsigned int, unsigned int>;
+    using TemplateCells = std::map<CellPlace, boost::shared_ptr<TableEntry>>;
+    /// Entries that were asked for and stand for what the template has in this table.
+    const TemplateCells& getTemplateCells() const { return templateCells_; }
     Table replace(const Table& table);
     /// @throws tableCannotBeReplaced if this table stands nowhere
     virtual void checkReplaceable() const;
 
 private:
     void appendContentRow(const HvTable& content, unsigned int r);
+    boost::shared_ptr<TableEntry> templateEntry(const CellPlace& place) const;
 
     unsigned int nCols_ = 0;
     BaseAttribute<std::wstring> styleName_;
     BaseAttribute<std::wstring> broughtStyleName_;
     std::array<BaseAttribute<bool>, kTablePartCount> parts_; // by their numbers
-    Table::ColSpecs colSpecs_; // in column order; no children, and without parents
+    Table::ColSpecs colSpecs_;            // in column order; no children, and without parents
+    mutable TemplateCells templateCells_; // likewise; made when they are asked for
 };
 
 } // namespace vellox::ppt

@@ -27,6 +27,7 @@ namespace vellox::ppt {
 
 class ExternalLinkImpl;
 class FormatsInForce;
+class NotesParts;
 class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
@@ -34,6 +35,7 @@ class PPTNode;
 class PPTNodeImpl;
 class PPTPartWriter;
 class PresentationModel;
+class SlideCopies;
 class SlideDocument;
 class SlideImpl;
 class TableEntryImpl;
@@ -92,6 +94,8 @@ public:
     PPTWriter& operator=(const PPTWriter&) = delete;
     ~PPTWriter();
 
+    /// To be called before any of the slides is written.
+    void prepare(const std::vector<boost::shared_ptr<PPTNode>>& slides);
     /// Writes a slide with all that it holds.
     void write(const PPTNode& node);
     /// Ends the writing: lists the slides in the presentation part, in the order in which they were written.
@@ -121,6 +125,8 @@ public:
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
+    SlideCopies& getCopies() { return *copies_; }
+    NotesParts& getNotes() { return *notes_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
     SlideDocument* getCurrentSlide() const { return currentSlide_; }
@@ -146,6 +152,8 @@ private:
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
+    boost::shared_ptr<SlideCopies> copies_;
+    boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
     std::set<std::wstring> tableStyleIds_; // that tables have

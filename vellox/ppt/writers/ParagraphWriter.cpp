@@ -55,6 +55,16 @@ void ParagraphWriter::write() {
     getWriter().countParagraph();
 }
 
+void ParagraphWriter::applyTo(DOMElement* paragraph) {
+    applyFormats();
+    arrange(pPr_);
+    if (pPr_.isEmpty())
+        return;
+    DOMElement* properties = requireFirstChild(paragraph, xml::kAPPr);
+    pPr_.applyTo(properties);
+    arrange(properties);
+}
+
 PPTWriter::Frame ParagraphWriter::makeRunFrame() const {
     PPTWriter::Frame frame = makeFrame();
     frame.runs = look_;

@@ -19,6 +19,8 @@ public:
     ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Lays the formats of the paragraph over those of one that is there.
+    void applyTo(xercesc::DOMElement* paragraph);
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 

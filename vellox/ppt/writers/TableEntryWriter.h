@@ -19,6 +19,8 @@ public:
     TableEntryWriter(const ElementImpl& entry, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Writes what the entry has come to have over a cell that is there.
+    void writeOver(const TableEntryImpl& entry, xercesc::DOMElement* cell);
     /// Writes a cell without content.
     void writeBlank();
     void applyFormat(const Format& format) override;
@@ -34,6 +36,9 @@ public:
     void setColumnWidth(int widthEmu);
 
 private:
+    void applyToTexts(xercesc::DOMElement* body) const;
+    void applyToText(xercesc::DOMElement* properties) const;
+
     template <class Content> void writeCell(Content content);
     void writeEmpty() const;
 

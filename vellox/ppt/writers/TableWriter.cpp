@@ -9,10 +9,13 @@
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TableEntryWriter.h"
+#include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -55,6 +58,7 @@ void TableWriter::write() {
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
+        writeTemplateCells();
         return reportNoRows();
     }
     readFormer();
@@ -155,6 +159,18 @@ void TableWriter::writeStyle(DOMElement* properties, const std::wstring& id) con
     removeChildElements(properties, xml::kATableStyle);
     requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(id));
     getWriter().useTableStyle(id);
+}
+
+void TableWriter::writeTemplateCells() const {
+    for (const auto& [place, entry] : table_.getTemplateCells()) {
+        const auto* impl = implOf<TableEntryImpl>(*entry);
+        DOMElement* cell =
+            impl->isTouched() ? findCell(getSlideElement(), place.first, place.second) : nullptr;
+        if (cell)
+            TableEntryWriter(*impl, getWriter(), getParentNode()).writeOver(*impl, cell);
+        else if (impl->isTouched())
+            getWriter().report(ppt_finding::emptyTable());
+    }
 }
 
 // A table of the template that nobody has touched has none either.

@@ -35,6 +35,12 @@ void TextWriter::writeLine(const std::wstring& line) {
     writeRun(line);
 }
 
+void TextWriter::applyTo(DOMElement* properties) {
+    prepare();
+    rPr_.applyTo(properties);
+    arrange(properties);
+}
+
 void TextWriter::prepare() {
     applyFormats();
     if (const ParagraphLook* look = getWriter().getFrame().runs)

@@ -145,6 +145,7 @@ inline constexpr XMLCh kRId[] = u"r:id";
 inline constexpr XMLCh kRPrefix[] = u"r:";
 inline constexpr XMLCh kRot[] = u"rot";
 inline constexpr XMLCh kShowMasterSp[] = u"showMasterSp";
+inline constexpr XMLCh kShow[] = u"show";
 inline constexpr XMLCh kSmtClean[] = u"smtClean";
 inline constexpr XMLCh kStrike[] = u"strike";
 inline constexpr XMLCh kStyleId[] = u"styleId";
