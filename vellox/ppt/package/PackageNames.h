@@ -33,6 +33,8 @@ inline constexpr wchar_t kTheme[] =
 namespace vellox::ppt::contenttype {
 
 inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
+inline constexpr wchar_t kTableStyles[] =
+    L"application/vnd.openxmlformats-officedocument.presentationml.tableStyles+xml";
 
 inline constexpr wchar_t kNotesMaster[] =
     L"application/vnd.openxmlformats-officedocument.presentationml.notesMaster+xml";

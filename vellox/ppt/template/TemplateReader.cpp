@@ -357,11 +357,17 @@ void TemplateReader::chooseSizes(TemplateShape& shape, const ShapeFacts& facts, 
 // Table styles
 
 void TemplateReader::loadTableStyles(const std::wstring& partName) {
-    const OwnedDocument document(builder_.getDocument(builder_.getPart(partName)));
-    for (const DOMElement* element : getElementsByName(document.get(), xml::kATblStyle)) {
+    const opc::Part part = builder_.getPart(partName);
+    template_->tableStylesPartName = part.getName().toString();
+    template_->tableStylesDocument.reset(builder_.getDocument(part));
+    DOMDocument* document = template_->tableStylesDocument.get();
+    template_->defaultTableStyleId = getAttribute(document->getDocumentElement(), xml::kDef);
+    for (const DOMElement* element : getElementsByName(document, xml::kATblStyle)) {
         const auto style = boost::make_shared<TemplateTableStyle>();
         style->styleId = getAttribute(element, xml::kStyleId);
         style->styleName = getAttribute(element, xml::kStyleName);
+        template_->isDefaultTableStyleDefined =
+            template_->isDefaultTableStyleDefined || style->styleId == template_->defaultTableStyleId;
         template_->tableStyles.push_back(style);
     }
 }

@@ -159,6 +159,10 @@ struct ReadTemplate {
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByPartName;
     std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part
     std::vector<boost::shared_ptr<TemplateTableStyle>> tableStyles;
+    std::wstring tableStylesPartName; ///< empty if there is none
+    OwnedDocument tableStylesDocument;
+    std::wstring defaultTableStyleId; ///< of new tables; empty if the template doesn't say
+    bool isDefaultTableStyleDefined = false;
 };
 
 } // namespace vellox::ppt

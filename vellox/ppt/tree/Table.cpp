@@ -36,6 +36,8 @@ TableImpl::TableImpl(const std::wstring& name, const Record& record) : NodeOf(na
 TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table)
     : NodeOf(former, takeName),
       nCols_(table.nCols_),
+      broughtStyleName_(table.styleName_.isSet() ? table.styleName_ : table.broughtStyleName_),
+      parts_(table.parts_),
       colSpecs_(table.colSpecs_) {
     setStyle(table.getStyle());
     announceCreated(*this);
@@ -45,6 +47,8 @@ TableImpl::TableImpl(const TableImpl& other)
     : NodeOf(other),
       nCols_(other.nCols_),
       styleName_(other.styleName_),
+      broughtStyleName_(other.broughtStyleName_),
+      parts_(other.parts_),
       colSpecs_(other.colSpecs_) {
     for (const auto& [place, cell] : other.templateCells_)
         templateCells_.emplace(place, TableEntry::cast(cell->clone()));
@@ -86,6 +90,24 @@ void TableImpl::appendContentRow(const HvTable& content, unsigned int r) {
         row.append(entry);
     }
     append(row.makeInterface());
+}
+
+void TableImpl::setStyleName(const std::wstring& styleName) {
+    styleName_.set(styleName);
+    broughtStyleName_.unset();
+}
+
+void TableImpl::unsetStyleName() {
+    styleName_.unset();
+    broughtStyleName_.unset();
+}
+
+TableParts TableImpl::getParts() const {
+    TableParts parts;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        if (parts_[i].isSet())
+            parts[i] = parts_[i].get();
+    return parts;
 }
 
 void TableImpl::growTo(std::size_t entries) {
@@ -182,11 +204,83 @@ const BaseAttribute<std::wstring>& Table::getStyleName() const {
 }
 
 void Table::setStyleName(const std::wstring& styleName) {
-    pimpl()->styleName().set(styleName);
+    pimpl()->setStyleName(styleName);
 }
 
 void Table::unsetStyleName() {
-    pimpl()->styleName().unset();
+    pimpl()->unsetStyleName();
+}
+
+const BaseAttribute<bool>& Table::getHeaderRow() const {
+    return pimpl()->part(TablePart::HeaderRow);
+}
+
+void Table::setHeaderRow(bool isOn) {
+    pimpl()->part(TablePart::HeaderRow).set(isOn);
+}
+
+void Table::unsetHeaderRow() {
+    pimpl()->part(TablePart::HeaderRow).unset();
+}
+
+const BaseAttribute<bool>& Table::getTotalRow() const {
+    return pimpl()->part(TablePart::TotalRow);
+}
+
+void Table::setTotalRow(bool isOn) {
+    pimpl()->part(TablePart::TotalRow).set(isOn);
+}
+
+void Table::unsetTotalRow() {
+    pimpl()->part(TablePart::TotalRow).unset();
+}
+
+const BaseAttribute<bool>& Table::getFirstColumn() const {
+    return pimpl()->part(TablePart::FirstColumn);
+}
+
+void Table::setFirstColumn(bool isOn) {
+    pimpl()->part(TablePart::FirstColumn).set(isOn);
+}
+
+void Table::unsetFirstColumn() {
+    pimpl()->part(TablePart::FirstColumn).unset();
+}
+
+const BaseAttribute<bool>& Table::getLastColumn() const {
+    return pimpl()->part(TablePart::LastColumn);
+}
+
+void Table::setLastColumn(bool isOn) {
+    pimpl()->part(TablePart::LastColumn).set(isOn);
+}
+
+void Table::unsetLastColumn() {
+    pimpl()->part(TablePart::LastColumn).unset();
+}
+
+const BaseAttribute<bool>& Table::getBandedRows() const {
+    return pimpl()->part(TablePart::BandedRows);
+}
+
+void Table::setBandedRows(bool isOn) {
+    pimpl()->part(TablePart::BandedRows).set(isOn);
+}
+
+void Table::unsetBandedRows() {
+    pimpl()->part(TablePart::BandedRows).unset();
+}
+
+const BaseAttribute<bool>& Table::getBandedColumns() const {
+    return pimpl()->part(TablePart::BandedColumns);
+}
+
+void Table::setBandedColumns(bool isOn) {
+    pimpl()->part(TablePart::BandedColumns).set(isOn);
+}
+
+void Table::unsetBandedColumns() {
+    pimpl()->part(TablePart::BandedColumns).unset();
 }
 
 const Table::ColSpecs& Table::getColSpecs() const {

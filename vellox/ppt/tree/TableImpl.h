@@ -4,10 +4,12 @@
 #ifndef VELLOX_PPT_TREE_TABLEIMPL_H
 #define VELLOX_PPT_TREE_TABLEIMPL_H
 
+#include <array>
 #include <map>
 #include <utility>
 
 #include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/Table.h"
 
@@ -31,7 +33,15 @@ public:
     /// The count follows the widest row and never shrinks.
     void growTo(std::size_t entries);
     const BaseAttribute<std::wstring>& getStyleName() const { return styleName_; }
-    BaseAttribute<std::wstring>& styleName() { return styleName_; }
+    /// That of the table which was put in another shape's place, of which this one was made. Setting a name or
+    /// unsetting it makes it count for nothing.
+    const BaseAttribute<std::wstring>& getBroughtStyleName() const { return broughtStyleName_; }
+    void setStyleName(const std::wstring& styleName);
+    void unsetStyleName();
+    /// Which parts the style is to show in their own way.
+    TableParts getParts() const;
+    BaseAttribute<bool>& part(TablePart part) { return parts_[static_cast<std::size_t>(part)]; }
+    const BaseAttribute<bool>& part(TablePart part) const { return parts_[static_cast<std::size_t>(part)]; }
     const Table::ColSpecs& getColSpecs() const { return colSpecs_; }
     void setColSpecs(const Table::ColSpecs& colSpecs) { colSpecs_ = colSpecs; }
     void append(const Child& row);
@@ -55,6 +65,8 @@ private:
 
     unsigned int nCols_ = 0;
     BaseAttribute<std::wstring> styleName_;
+    BaseAttribute<std::wstring> broughtStyleName_;
+    std::array<BaseAttribute<bool>, kTablePartCount> parts_; // by their numbers
     Table::ColSpecs colSpecs_;            // in column order; no children, and without parents
     mutable TemplateCells templateCells_; // likewise; made when they are asked for
 };

@@ -9,6 +9,7 @@
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
 #include "vellox/ppt/writers/SlideRemoval.h"
+#include "vellox/ppt/writers/TableStylesPart.h"
 
 #include <boost/make_shared.hpp>
 
@@ -56,6 +57,7 @@ void PPTWriter::finish() {
     for (const Written& written : slides_) // two slides of a damaged template may be one part
         removed.erase(opc::PartName(written.partName));
     removeSlides(removed, *partWriter_);
+    defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     partWriter_->alignMainType(model_->getTemplate().presentationPartName);
 }
 

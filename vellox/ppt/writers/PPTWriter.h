@@ -44,6 +44,8 @@ class TableRowImpl;
 class TextBoxImpl;
 class TextBoxPlaceholderImpl;
 class TextImpl;
+class TextLook;
+struct ParagraphLook;
 struct TableContext;
 
 class PPTWriter {
@@ -54,6 +56,8 @@ public:
         const FormatsInForce* formats = nullptr; ///< at the element
         TableContext* table = nullptr;           ///< around the children, if there is one
         opc::MarkupBuffer* markup = nullptr;     ///< where they are written
+        const TextLook* texts = nullptr;         ///< of what paragraphs among them come in the stead of
+        const ParagraphLook* runs = nullptr;     ///< likewise, of texts among them
         unsigned int paragraphs = 0;             ///< how many of them have been paragraphs
     };
 
@@ -112,6 +116,9 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// Has a table style among those that the deck defines, if it is one that programs have built in.
+    void useTableStyle(const std::wstring& id) { tableStyleIds_.insert(id); }
+
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
     /// Null between shapes.
@@ -149,6 +156,7 @@ private:
     boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
+    std::set<std::wstring> tableStyleIds_; // that tables have
     SlideDocument* currentSlide_ = nullptr;
     Frame frame_;
     opc::MarkupBuffer nowhere_;

@@ -12,6 +12,7 @@ namespace vellox::ppt {
 
 class ParagraphImpl;
 class TextImpl;
+struct ParagraphLook;
 
 class ParagraphWriter : public ElementWriter {
 public:
@@ -29,6 +30,9 @@ public:
 
 private:
     void preparePPr();
+    unsigned int getLevel() const;
+    PPTWriter::Frame makeRunFrame() const;
+    void writeEnd(bool hasRuns) const;
     const TextImpl* findOnlyText() const;
     bool isWholeContent() const;
     bool isNumberInBody() const;
@@ -38,6 +42,7 @@ private:
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
+    const ParagraphLook* look_; // of the one in whose stead it comes; null if there is none
 };
 
 } // namespace vellox::ppt

@@ -34,6 +34,7 @@ public:
 
 private:
     void prepare();
+    void measure(const std::wstring& line) const;
     void writeRun(const std::wstring& line);
     void writeBreak();
 
