@@ -4,12 +4,13 @@ from __future__ import annotations
 import os
 from typing import TYPE_CHECKING
 
+from ._batch import Result, batch
 from ._findings import Finding, read_findings
 
 if TYPE_CHECKING:
     from .ppt import Presentation, Template
 
-__all__ = ["Finding", "check", "deck"]
+__all__ = ["Finding", "Result", "batch", "check", "deck"]
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,
