@@ -5,8 +5,6 @@
 #include "cli/Files.h"
 #include "cli/Progress.h"
 
-#include <filesystem>
-
 namespace vellox::cli {
 
 namespace {
@@ -67,7 +65,7 @@ public:
         const Data data = data_.empty() ? Data{Data::Kind::Record, {}, {}, {}, 0} : readDataFile(data_);
         const DeckDescription description(data, data_);
         const std::vector<Task> tasks = listTasks(readTokens(data));
-        const ppt::Template source = openTemplate();
+        const ppt::Template source = ppt::Template::forOffice(fromUtf8(findTemplate(template_)));
         return makeDecks(tasks, description, source, console);
     }
 
@@ -122,14 +120,6 @@ private:
                 throw DataFailure(place,
                                   entry.first + ": \"" + entry.second + "\" can't be part of a file's name");
         return output;
-    }
-
-    ppt::Template openTemplate() const {
-        std::error_code ignored;
-        if (template_ == "default" && !std::filesystem::exists(template_, ignored))
-            return ppt::Template::forOffice(ppt::Template().getPath());
-        requireFile(template_);
-        return ppt::Template::forOffice(fromUtf8(template_));
     }
 
     int makeDecks(const std::vector<Task>& tasks, const DeckDescription& description,

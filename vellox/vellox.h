@@ -16,6 +16,8 @@
 #define VELLOX_VELLOX_H
 
 #include "vellox/check/PackageCheck.h"
+#include "vellox/doctor/ReportJson.h"
+#include "vellox/doctor/TemplateDoctor.h"
 #include "vellox/foundation/ByteArray.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Dimension.h"

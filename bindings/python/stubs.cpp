@@ -99,6 +99,7 @@ constexpr const char* kResults[][2] = {
     {"Presentation.getLayoutNames", "list[str]"},
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
     {"Presentation.getFindings", "list[tuple[str, str, str, str, str, str]]"},
+    {"Template.healTemplate", "list[tuple[str, str, str, str, str, str]]"},
     {"Template.checkPackage", "list[tuple[str, str, str, str, str, str]]"},
 };
 

@@ -7,7 +7,7 @@ import re
 import shutil
 import signal
 import subprocess
-import time
+import xml.dom.minidom
 import zipfile
 
 import pytest
@@ -227,6 +227,33 @@ def test_broken_files(work):
     assert "No such file" in fail("check", "none.pptx")
     assert json.loads(run("check", "deck.pptx", "bad.pptx", "--json", status=1).stdout)[0]["isSound"]
     assert "[vellox:ppt_error:cannotOpenFile]" in fail("text", "half.pptx", "--verbose")
+
+
+def test_templates_are_inspected_and_healed(work):
+    run("new", "mine.pptx")
+    shown = run("inspect", "mine.pptx", "--html", "mine.html").stdout + run("inspect", "mine.pptx").stdout
+    assert shown.startswith("Master ") and "\n  1. Title Slide\n       Title: " in shown
+    assert json.loads(run("inspect", "default", "--json").stdout)["masters"][0]["layouts"][0]["placeholders"]
+    page = xml.dom.minidom.parseString(re.sub(r"<!DOCTYPE html>|<meta [^>]*>", "", pathlib.Path("mine.html").read_text()))
+    assert len([svg for svg in page.getElementsByTagName("svg") if svg.getAttribute("viewBox")]) == 11
+    assert "http" not in pathlib.Path("mine.html").read_text()
+    with zipfile.ZipFile("mine.pptx") as source, zipfile.ZipFile("bad.pptx", "w") as target:
+        for entry in source.namelist():
+            data = source.read(entry)
+            if entry == "ppt/slideLayouts/slideLayout2.xml":
+                data = data.replace(b'name="Title and Content"', b'name="&lt;b&gt;Twice"').replace(
+                    b'name="Content"', b'name="Title"')
+            target.writestr(entry, data)
+    found = run("doctor", "bad.pptx", "--strict", status=1).stdout
+    assert "bad.pptx: warning: " in found and "or use --heal (duplicateName)" in found
+    run("inspect", "bad.pptx", "--html", "bad.html")
+    assert "<b>" not in pathlib.Path("bad.html").read_text()
+    assert "healed.pptx: mended: " in run("doctor", "bad.pptx", "--heal", "healed.pptx").stdout
+    assert "duplicateName" not in run("doctor", "healed.pptx").stdout
+    run("check", "healed.pptx")
+    assert "No such file" in fail("doctor", "none.pptx")
+    assert "one template" in fail("doctor", "mine.pptx", "bad.pptx", "--heal", "x.pptx")
+    assert "none/x.html" in fail("inspect", "mine.pptx", "--html", "none/x.html")
 
 
 def test_new_templates(work):

@@ -73,3 +73,14 @@ def test_decks_of_a_template_that_is_read_once(tmp_path):
         deck.add("Title and Content").replace("Title", "this week's")
         assert output.read_text() == "last week's"
     assert b"this week&apos;s" in read_parts(output)[b"ppt/slides/slide2.xml"].replace(b"'", b"&apos;")
+
+
+def test_a_template_is_inspected_and_healed(tmp_path):
+    template = tmp_path / "template.pptx"
+    ppt.Presentation(template).open()
+    report = vellox.inspect(template)
+    content = report.masters[0].layouts[1].placeholders[1]
+    assert content.kind == "ContentPlaceholder" and content.box.cx > 0 and report.as_dict()["slides"] == 0
+    assert report.masters[0].colours["accent1"] and report.table_styles[0].name
+    changes = vellox.heal(template, tmp_path / "healed.pptx")
+    assert all(change.severity == "info" for change in changes) and vellox.heal(tmp_path / "healed.pptx", template) == []

@@ -1,4 +1,6 @@
 #include "vellox/check/PackageCheck.h"
+#include "vellox/doctor/ReportJson.h"
+#include "vellox/doctor/TemplateDoctor.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/host/binding/Adapters.h"
 #include "vellox/host/binding/BoundClasses.h"
@@ -61,6 +63,14 @@ TextCells checkFile(Wide path) {
     return toRows(checkPackage(path));
 }
 
+std::wstring inspectFile(Wide path) {
+    return fromUtf8(toJson(inspectTemplate(path)));
+}
+
+TextCells healFile(Wide input, Wide output) {
+    return toRows(healTemplate(input, output));
+}
+
 /// Of the last handle on a presentation.
 bool isUnfinished(const PPTObject& deck) {
     const auto* impl = implOf<PresentationImpl>(deck);
@@ -91,9 +101,17 @@ BoundClass describeTemplate() {
     bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"}),
                           make<Template, std::wstring, std::wstring>({"path", "profile"})};
     bound.properties = {readOnlyProperty<Template, &Template::getPath>("Path", "The file that was read.")};
-    bound.methods = {StaticMethod<TextCells(Wide)>::row<&checkFile>(
-        "checkPackage", {"path"},
-        "What a strict reader would want to repair in a file: rows as those of Presentation.getFindings().")};
+    bound.methods = {
+        StaticMethod<TextCells(Wide)>::row<&checkFile>("checkPackage", {"path"},
+                                                       "What a strict reader would want to repair in a file: "
+                                                       "rows as those of Presentation.getFindings()."),
+        StaticMethod<std::wstring(Wide)>::row<&inspectFile>(
+            "inspectTemplate", {"path"},
+            "Masters, layouts, placeholders and findings of a template, as JSON."),
+        StaticMethod<TextCells(Wide, Wide)>::row<&healFile>(
+            "healTemplate", {"input", "output"},
+            "Writes a mended copy of a template. What was changed: rows as those of checkPackage()."),
+    };
     return bound;
 }
 
