@@ -42,7 +42,7 @@ Parts makeSick() {
                       shape(2, "Title Placeholder 1", "<p:ph type='title'/>", place(10, 20, 3000, 400)));
     builder
         .addLayout(
-            "Own\nlayout",
+            "Own&#xA;layout",
             shape(2, "Title 1", "<p:ph type='title'/>") +
                 shape(3, "Content Placeholder 2", "<p:ph idx='1' type='obj'/>", place(0, 1000, 1000, 900)) +
                 shape(4, "Content Placeholder 3", "<p:ph idx='1' type='obj'/>",
@@ -110,19 +110,19 @@ TEST_F(TemplateDoctorTest, LeavesIndexesThatSlidesUse) {
 }
 
 TEST_F(TemplateDoctorTest, RefusesWhatIsNoTemplate) {
-    const std::wstring file = folder / L"none.pptx", output = folder / L"output.pptx";
+    const std::wstring file = folder / L"none.pptx", present = folder / L"output.pptx";
     writeFile(file, "no package");
-    writeFile(output, "precious");
+    writeFile(present, "precious");
     for (const std::wstring& path : {file, folder / L"missing.pptx", std::wstring(folder / L"")}) {
         EXPECT_EQ(errorOf([&] { inspectTemplate(path); }).substr(0, 24), "ppt_error:cannotOpenFile");
-        EXPECT_EQ(errorOf([&] { healTemplate(path, output); }).substr(0, 24), "ppt_error:cannotOpenFile");
+        EXPECT_EQ(errorOf([&] { healTemplate(path, present); }).substr(0, 24), "ppt_error:cannotOpenFile");
     }
     TemplateBuilder builder;
     builder.setContentType("application/xml");
     const std::wstring other = write(builder.build());
     EXPECT_EQ(errorOf([&] { inspectTemplate(other); }).substr(0, 25), "ppt_error:invalidTemplate");
-    EXPECT_EQ(errorOf([&] { healTemplate(other, output); }).substr(0, 25), "ppt_error:invalidTemplate");
-    EXPECT_EQ(readFile(output), "precious");
+    EXPECT_EQ(errorOf([&] { healTemplate(other, present); }).substr(0, 25), "ppt_error:invalidTemplate");
+    EXPECT_EQ(readFile(present), "precious");
 }
 
 TEST(SpeakingNames, SayWherePlaceholdersStand) {
