@@ -118,6 +118,26 @@ def test_json_and_csv_are_as_good(work):
     assert "latin.csv: it isn't in UTF-8" in fail("fill", "default", "deck.yaml", "-o", "{id}.pptx", "--each", "latin.csv")
 
 
+def test_tokens_of_the_templates_slides(work):
+    pathlib.Path("slides.yaml").write_text(
+        "slides:\n  - layout: Title and Content\n    contents:\n      Title: 'Dear {name}, {flow:.1f}, {day:%d.%m.%Y}'\n"
+        "      Content: '{points}'\n  - layout: Title and Table\n    contents:\n      Title: '{sum.mean}'\n"
+        "      Table: {table: [[Site, Flow], ['{rows.Site}', '{rows.Flow:.2f}']]}\n")
+    run("fill", "default", "slides.yaml", "-o", "template.pptx")
+    pathlib.Path("tokens.yaml").write_text(
+        "tokens:\n  name: Ada\n  flow: 3.14159\n  day: 2026-11-21\n  points: [a, [b], c]\n  sum: {mean: 2.50}\n"
+        "  rows: {rows: flow-1.csv}\n")
+    assert run("fill", "template.pptx", "tokens.yaml", "-o", "deck.pptx").stderr == ""
+    text = run("text", "deck.pptx").stdout
+    assert "Title: Dear Ada, 3.1, 21.11.2026\nContent:\n    a\n      b\n    c\n" in text
+    assert "Title: 2.50\n" in text and "    | North; old | 1.50 |\n    | South | 7.00 |\n" in text
+    pathlib.Path("names.csv").write_text("name,flow\nBob,7.5\n")
+    assert "warning: " in run("fill", "template.pptx", "names.csv", "-o", "bob.pptx").stderr
+    assert "Title: Dear Bob, 7.5, {day:%d.%m.%Y}\n" in run("text", "bob.pptx").stdout
+    run("fill", "template.pptx", "names.csv", "-o", "strict.pptx", "--strict", status=2)
+    assert "strict.pptx" not in list_files()
+
+
 def test_strict_writes_no_deck_that_is_other_than_asked(work):
     pathlib.Path("deck.yaml").write_text(DECK.replace("Title: Points", "Titel: Points"))
     run("fill", "default", "deck.yaml", "-o", "deck.pptx", "--strict", status=2)
@@ -335,7 +355,8 @@ def test_the_schema_says_what_the_program_says(work):
     yaml = pytest.importorskip("yaml")
     schema = json.loads((pathlib.Path(__file__).parents[2] / "cli/deck.schema.json").read_text())
     for wrong, right in [("", ""), ("layout: Title Slide", "layuot: Title Slide"), ("[First, [", "[First, {a: b}, ["),
-                         ("layout: Title Slide", "layout: 3"), ("table: ", "tabel: "), ("tokens: {", "tokens: {z: [1], ")]:
+                         ("layout: Title Slide", "layout: 3"), ("table: ", "tabel: "), ("tokens: {", "tokens: {z: [1, {a: b}], "),
+                         ("tokens: {", "tokens: {z: {picture: 3}, ")]:
         text = DECK.replace(wrong, right) if wrong else DECK
         pathlib.Path("deck.yaml").write_text(text)
         done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "-o", "x.pptx"], capture_output=True)
