@@ -21,7 +21,8 @@ body { margin: 0 auto; max-width: 1200px; padding: 1rem; background: var(--page)
   font: 15px/1.5 system-ui, sans-serif; }
 h1 { font-size: 1.5rem; margin: .5rem 0; overflow-wrap: anywhere; } h2 { font-size: 1.2rem; margin: 2rem 0 .25rem; }
 h3 { font-size: 1rem; margin: 0 0 .5rem; } p { margin: .25rem 0; color: var(--faint); }
-.layouts { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(100%, 340px), 1fr)); gap: 1rem; margin-top: 1rem; }
+.layouts { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(100%, 340px), 1fr)); gap: 1rem; margin-top: 1rem;
+  align-items: start; }
 .layout { background: var(--paper); border: 1px solid var(--line); border-radius: 6px; padding: .75rem; min-width: 0; }
 .layout > svg { width: 100%; height: auto; display: block; border: 1px solid var(--line); }
 svg text { fill: #17202a; font-family: system-ui, sans-serif; } svg .kind { fill: #44515e; }
@@ -29,6 +30,7 @@ svg text { fill: #17202a; font-family: system-ui, sans-serif; } svg .kind { fill
 .swatches i { display: inline-block; width: 1em; height: 1em; border: 1px solid var(--line); vertical-align: -.15em; margin-right: .3em; }
 table { border-collapse: collapse; width: 100%; font-size: 13px; margin-top: .5rem; } td, th { text-align: left; padding: .15rem .4rem .15rem 0;
   vertical-align: top; border-bottom: 1px solid var(--line); overflow-wrap: anywhere; }
+summary { margin-top: .5rem; color: var(--faint); cursor: pointer; }
 .error { color: #c62828; } .warning { color: #b26a00; } .info { color: var(--faint); }
 )";
 
@@ -142,10 +144,10 @@ private:
         for (const PlaceholderReport& placeholder : layout.placeholders)
             if (placeholder.box)
                 draw(placeholder, *placeholder.box);
-        page_ += "</svg>\n<table>\n";
+        page_ += "</svg>\n<details><summary>Placeholders</summary>\n<table>\n";
         for (const PlaceholderReport& placeholder : layout.placeholders)
             writeRow(placeholder);
-        page_ += "</table>\n</div>\n";
+        page_ += "</table>\n</details>\n</div>\n";
     }
 
     /// A box with a drawing of its own, so that a long name ends at its edge.
@@ -162,7 +164,7 @@ private:
                  escape(getLabel(placeholder)) + "</text>";
         if (hasKind)
             page_ += "<text class=\"kind\" x=\"6\" y=\"" + std::to_string(2 * size + 6) + "\" font-size=\"" +
-                     std::to_string(size * 7 / 10) + "\">" + escape(placeholder.kind) + "</text>";
+                     std::to_string(size * 7 / 10) + "\">" + escape(getKindWord(placeholder)) + "</text>";
         page_ += "</svg>\n";
     }
 
@@ -171,9 +173,14 @@ private:
         return placeholder.handle.empty() ? placeholder.type : placeholder.handle;
     }
 
+    /// "Content" of "ContentPlaceholder"; that it is one goes without saying.
+    static std::string getKindWord(const PlaceholderReport& placeholder) {
+        return placeholder.kind.substr(0, placeholder.kind.find("Placeholder"));
+    }
+
     void writeRow(const PlaceholderReport& placeholder) {
-        page_ +=
-            "<tr><td>" + escape(getLabel(placeholder)) + "</td><td>" + escape(placeholder.kind) + "</td><td>";
+        page_ += "<tr><td>" + escape(getLabel(placeholder)) + "</td><td>" + escape(getKindWord(placeholder)) +
+                 "</td><td>";
         if (placeholder.box) {
             const BoxEmu& box = *placeholder.box;
             page_ += toCentimeters(box.x) + ", " + toCentimeters(box.y) + "; " + toCentimeters(box.cx) +

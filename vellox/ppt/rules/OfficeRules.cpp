@@ -315,11 +315,12 @@ struct Wish {
 
 Wish makeWish(const ColumnFacts& column, double left, std::size_t open) {
     constexpr double kMargins = 2 * 91440;
+    constexpr double kReserve = 1.15; // fonts differ, and headers are bold
     if (column.former > 0)
         return {column.former, column.former};
     const double third = left / static_cast<double>(open) / 3;
-    const double least = std::max(third, std::min(column.longestWord + kMargins, left / 2));
-    return {least, std::max(least, std::min(column.longestLine + kMargins, left))};
+    const double least = std::max(third, std::min(column.longestWord * kReserve + kMargins, left / 2));
+    return {least, std::max(least, std::min(column.longestLine * kReserve + kMargins, left))};
 }
 
 // Lines are broken where they have to be. What is too much or too little is shared in proportion.
