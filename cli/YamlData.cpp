@@ -2,7 +2,7 @@
 
 #include <yaml-cpp/yaml.h>
 
-#include <regex>
+#include <boost/regex.hpp>
 #include <set>
 
 namespace vellox::cli {
@@ -11,15 +11,16 @@ namespace {
 
 /// Plain words that stand for something else than themselves, as in YAML's core schema.
 Data::Kind judge(const std::string& word) {
-    static const std::regex kNumber(R"([-+]?(\.[0-9]+|[0-9]+(\.[0-9]*)?)([eE][-+]?[0-9]+)?)");
+    static const boost::regex& number =
+        *new const boost::regex(R"([-+]?(\.[0-9]+|[0-9]+(\.[0-9]*)?)([eE][-+]?[0-9]+)?)");
     if (word.empty() || word == "~" || word == "null" || word == "Null" || word == "NULL")
         return Data::Kind::Nothing;
     if (word == "true" || word == "True" || word == "TRUE" || word == "false" || word == "False" ||
         word == "FALSE")
         return Data::Kind::Logical;
     constexpr std::size_t kMaxNumber = 100;
-    return word.size() <= kMaxNumber && std::regex_match(word, kNumber) ? Data::Kind::Number
-                                                                        : Data::Kind::Text;
+    return word.size() <= kMaxNumber && boost::regex_match(word, number) ? Data::Kind::Number
+                                                                         : Data::Kind::Text;
 }
 
 /// An alias stands for all of its anchor again, so that a short text can be a huge tree: values are counted.
