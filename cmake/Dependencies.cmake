@@ -1,6 +1,6 @@
 # All of these are packages of Debian 12; scripts/install-packages names them.
 
-find_package(Boost 1.74 REQUIRED COMPONENTS regex locale)
+find_package(Boost 1.74 REQUIRED)
 find_package(XercesC 3.2 REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip>=1.7)
