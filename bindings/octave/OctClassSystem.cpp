@@ -4,6 +4,7 @@
 #include "bindings/octave/OctObject.h"
 #include "bindings/octave/OctObjects.h"
 #include "bindings/octave/OctRows.h"
+#include "vellox/host/binding/BindingRegistry.h"
 #include "vellox/host/binding/HostCall.h"
 #include "vellox/host/binding/Module.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
@@ -125,7 +126,8 @@ bool OctClassSystem::isValid(const objreg::HostInterface& hostObject) const {
 }
 
 void OctClassSystem::letEnd(ObjectPtr object) {
-    if (!listening_.empty())
+    // What is ending already is gone when its listeners have heard of that: nothing may hold it longer.
+    if (!listening_.empty() && !BindingRegistry::isEnding(*object))
         waiting_.push_back(std::move(object));
 }
 

@@ -63,7 +63,9 @@ void warnOfLoss(const BoundClass& bound, const ObjectPtr& facade) {
 } // namespace
 
 OctSlot::~OctSlot() {
-    getSlots().erase(owner_);
+    const auto own = getSlots().find(owner_);
+    if (own != getSlots().end() && own->second == this) // an object that is made once more has another by now
+        getSlots().erase(own);
     owner_ = nullptr;
     drop();
 }
