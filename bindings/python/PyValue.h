@@ -37,6 +37,7 @@ struct Reading {
 /// | buffers, such as arrays of NumPy        | logical, the integer class, single or double  |
 /// | arrays of anything else                 | cells of the array's shape                    |
 /// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
+/// | a dictionary that stands in no list     | the same, its values being the columns        |
 /// | what has `__array__` and `to_numpy`     | as an array, or cells of one row              |
 /// | what has a `__str__` of its own         | char                                          |
 /// | in a list, what has a `__repr__` too    | char                                          |
@@ -75,6 +76,7 @@ private:
     bool readList();
     bool readBuffer(PyObject* object);
     bool readFrame();
+    bool readDictionary();
     bool readArray();
     bool readNumberLike();
     bool readText();

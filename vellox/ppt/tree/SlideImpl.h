@@ -4,9 +4,11 @@
 #ifndef VELLOX_PPT_TREE_SLIDEIMPL_H
 #define VELLOX_PPT_TREE_SLIDEIMPL_H
 
+#include <map>
+
 #include "vellox/ppt/object/ElementImpl.h"
 #include "vellox/ppt/object/NodeOf.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/ChartRecords.h"
 #include "vellox/ppt/tree/Slide.h"
 
 namespace vellox::ppt {
@@ -25,7 +27,14 @@ public:
     const std::wstring& getSlideMasterName() const { return slideMasterName_; }
     const boost::shared_ptr<TemplateSlide>& getTemplateSlide() const { return templateSlide_; }
 
+    /// A chart of the template on this slide.
+    /// @throws noSuchChart
+    ChartRecord& requireChart(const std::wstring& name);
+    /// Those that have been asked for.
+    const std::map<std::wstring, ChartRecord>& getCharts() const { return charts_; }
+
 private:
+    std::map<std::wstring, ChartRecord> charts_;
     std::wstring slideMasterName_;
     std::wstring layoutName_;
     boost::shared_ptr<TemplateSlide> templateSlide_; // null on a bare slide

@@ -3,6 +3,7 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideList.h"
 
@@ -21,6 +22,12 @@ PPTWriter::~PPTWriter() = default;
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+ChartParts& PPTWriter::getChartParts() {
+    if (!chartParts_)
+        chartParts_ = boost::make_shared<ChartParts>(*partWriter_);
+    return *chartParts_;
 }
 
 void PPTWriter::write(const PPTNode& node) {

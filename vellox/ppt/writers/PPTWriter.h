@@ -25,6 +25,7 @@ class MsgID;
 
 namespace vellox::ppt {
 
+class ChartParts;
 class ExternalLinkImpl;
 class FormatsInForce;
 class OPCPackage;
@@ -113,6 +114,7 @@ public:
     /// Null between shapes.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
+    ChartParts& getChartParts();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
@@ -139,6 +141,7 @@ private:
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
+    boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
     SlideDocument* currentSlide_ = nullptr;

@@ -8,6 +8,7 @@
 #include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/SlideReports.h"
@@ -38,6 +39,9 @@ void SlideWriter::write() {
     opc::MarkupBuffer text;
     document.writeTo(text);
     getPartWriter().writeMarkup(partName, text.get());
+    for (const auto& [name, chart] : slide_.getCharts())
+        if (chart.data)
+            getWriter().getChartParts().write(partName, getWriter().getCurrentSlideNumber(), chart);
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same
