@@ -59,5 +59,7 @@
 #include "vellox/ppt/tree/TableRow.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
+#include "vellox/reading/DeckComparison.h"
+#include "vellox/reading/DeckReader.h"
 
 #endif
