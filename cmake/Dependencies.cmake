@@ -8,6 +8,8 @@ pkg_check_modules(libdeflate REQUIRED IMPORTED_TARGET libdeflate>=1.14)
 pkg_check_modules(tiff REQUIRED IMPORTED_TARGET libtiff-4>=4.5)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter>=1.1)
 pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
+# Without it nobody can tell whether a template's fonts are installed.
+pkg_check_modules(fontconfig IMPORTED_TARGET fontconfig>=2.13)
 find_program(MSGFMT msgfmt REQUIRED)
 
 # The command needs three more; a build without them goes on without it.

@@ -7,6 +7,7 @@
 #include "vellox/opc/XercesString.h"
 
 #include <boost/algorithm/string/predicate.hpp>
+#include <utility>
 
 namespace opc {
 
@@ -96,6 +97,15 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
 void ContentTypes::change(const PartName& name, const ContentType& type) {
     isChanged_ = true;
     setOverride(name, type.toString());
+}
+
+void ContentTypes::remove(const std::set<PartName>& names) {
+    const std::vector<Row> former = std::exchange(overrides_, {});
+    overrideByName_.clear();
+    for (const Row& row : former)
+        if (names.count(PartName(row.key)) == 0)
+            setOverride(PartName(row.key), *row.type);
+    isChanged_ = isChanged_ || overrides_.size() != former.size();
 }
 
 void ContentTypes::setDefault(const std::wstring& extension, const std::wstring& type) {

@@ -5,6 +5,7 @@
 #define VELLOX_OPC_CONTENTTYPES_H
 
 #include <map>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -48,6 +49,9 @@ public:
     void add(const PartName& name, const ContentType& type);
     /// Gives a part that is listed another type.
     void change(const PartName& name, const ContentType& type);
+
+    /// Forgets what is listed for single parts.
+    void remove(const std::set<PartName>& names);
 
     /// True if the stream must be written anew: something was added, or it was in a form that readers
     /// stumble over.

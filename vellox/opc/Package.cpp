@@ -133,6 +133,20 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     return part;
 }
 
+void PackageContents::deleteParts(const std::set<PartName>& names) {
+    std::set<PartName> all;
+    for (const PartName& name : names) {
+        all.insert(name);
+        all.insert(name.getRelationshipPartName());
+    }
+    for (const PartName& name : all) {
+        sources_.erase(name);
+        hasDeleted_ = parts_.erase(name.getKey()) > 0 || hasDeleted_;
+    }
+    types_.remove(all);
+    physical_->deleteParts(all);
+}
+
 RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     const PartName part = source ? source->getRelationshipPartName() : PartName(L"/_rels/.rels");
     const auto known = sources_.find(part);
@@ -149,7 +163,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
 }
 
 bool PackageContents::hasChanges() const {
-    bool changed = types_.isChanged();
+    bool changed = types_.isChanged() || hasDeleted_;
     for (const auto& part : parts_)
         changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
     for (const auto& source : sources_)
@@ -220,6 +234,10 @@ Part Package::getPart(const PartName& name) const {
 
 Part Package::createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info) {
     return Part(contents_, contents_->createPart(name, type, info));
+}
+
+void Package::deleteParts(const std::set<PartName>& names) {
+    contents_->deleteParts(names);
 }
 
 RelationshipTable& Package::getTable() const {

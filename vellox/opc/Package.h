@@ -12,6 +12,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -94,6 +95,9 @@ public:
     Part getPart(const PartName& name) const;
     /// @throws opc::Exception if there is a part of that name
     Part createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info);
+    /// Takes parts out, with the relationships that start from them. Handles on them are of no use any more, and
+    /// relationships that lead to them stay.
+    void deleteParts(const std::set<PartName>& names);
 
 protected:
     RelationshipTable& getTable() const override;

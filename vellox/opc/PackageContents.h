@@ -25,6 +25,7 @@ public:
     boost::shared_ptr<PhysicalPart> findPart(const PartName& name) const;
     boost::shared_ptr<PhysicalPart> createPart(const PartName& name, const ContentType& type,
                                                StandardPartInfo info);
+    void deleteParts(const std::set<PartName>& names);
     /// The relationships of the package (no source) or of a part; read on first use.
     RelationshipTable& getRelationships(const PartName* source);
     ContentTypes& getContentTypes() { return types_; }
@@ -44,6 +45,7 @@ private:
         parts_; // by the keys of their names
     std::map<PartName, RelationshipTable>
         sources_; // by the name of the relationship part, in whose order they are saved
+    bool hasDeleted_ = false;
 };
 
 } // namespace opc

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
 
 using namespace vellox;
 using namespace vellox::ppt;
@@ -190,6 +191,24 @@ TEST_F(ChartWritersTest, WhatCantBeShownIsRefused) {
         "ppt_error:chartValueNoNumber A 1 much");
     slide.chart(L"Lost").setData({L"a"}, {{L"A", {1}}});
     EXPECT_EQ(errorOf([&] { deck.close(); }), "ppt_error:unsupportedChart 1 Lost -");
+}
+
+// A copy that was made before is as it was, and has a chart and a workbook of its own.
+TEST_F(ChartWritersTest, CopiesHaveChartsOfTheirOwn) {
+    Slide slide = useChart(chartXml(columns(ser(0, "A"))));
+    Slide plain = deck.copy(slide);
+    slide.chart(L"Sales").setData({L"a"}, {{L"First", {1}}});
+    deck.copy(slide).chart(L"Sales").setData({L"b"}, {{L"Second", {2}}});
+    deck.copy(slide);
+    std::multiset<std::string> names;
+    std::size_t workbooks = 0;
+    for (const auto& [name, content] : close()) {
+        if (name.compare(0, 16, "ppt/charts/chart") == 0)
+            names.insert(textsOf(content, "c:v").at(0));
+        workbooks += name.compare(0, 15, "ppt/embeddings/") == 0;
+    }
+    EXPECT_EQ(names, (std::multiset<std::string>{"A", "First", "First", "Second"}));
+    EXPECT_EQ(workbooks, 4u);
 }
 
 // Whatever stands in a chart that somebody made.

@@ -1,5 +1,6 @@
 #include "vellox/ppt/template/ChartRecords.h"
 
+#include "vellox/ppt/template/SlideSource.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {

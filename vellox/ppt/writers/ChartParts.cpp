@@ -17,15 +17,21 @@ ChartParts::ChartParts(PPTPartWriter& partWriter)
     : partWriter_(partWriter),
       parser_(opc::XercesHelper::createParser()) {}
 
-void ChartParts::write(const std::wstring& slidePartName, std::size_t slideNumber, const ChartRecord& chart) {
-    const std::wstring partName = findPart(slidePartName, chart);
+void ChartParts::write() {
+    for (const Task& task : tasks_)
+        write(task);
+}
+
+void ChartParts::write(const Task& task) {
+    const ChartRecord& chart = task.chart;
+    const std::wstring partName = findPart(task);
     if (partName.empty())
-        raise(ppt_error::unsupportedChart(std::to_wstring(slideNumber), chart.name, L"-"));
+        raise(ppt_error::unsupportedChart(std::to_wstring(task.slideNumber), chart.name, L"-"));
     const opc::DocumentScope source = read(partName);
     ChartDocument document(*source);
     const std::wstring kind = document.findUnsupportedKind();
     if (!kind.empty())
-        raise(ppt_error::unsupportedChart(std::to_wstring(slideNumber), chart.name, kind));
+        raise(ppt_error::unsupportedChart(std::to_wstring(task.slideNumber), chart.name, kind));
     const std::wstring sheet = document.findSheetName();
     document.setData(*chart.data, sheet);
 
@@ -41,10 +47,10 @@ void ChartParts::write(const std::wstring& slidePartName, std::size_t slideNumbe
 }
 
 // What a template leads to needn't be there, and needn't be a chart.
-std::wstring ChartParts::findPart(const std::wstring& slidePartName, const ChartRecord& chart) const {
-    const opc::Part slide = partWriter_.getPart(slidePartName);
+std::wstring ChartParts::findPart(const Task& task) const {
+    const opc::Part slide = partWriter_.getPart(task.slidePartName);
     for (const opc::Relationship& row : slide.getRelationships()) {
-        if (row.getID() != chart.relationshipId || row.isExternal())
+        if (row.getID() != task.chart.relationshipId || row.isExternal())
             continue;
         const std::wstring name = row.getTargetURI().toString();
         const bool isChart = partWriter_.hasPart(name) &&

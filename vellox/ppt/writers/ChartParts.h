@@ -6,6 +6,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include "vellox/opc/Package.h"
 #include "vellox/opc/XercesHelper.h"
@@ -20,20 +21,32 @@ class ChartParts {
 public:
     explicit ChartParts(PPTPartWriter& partWriter);
 
-    /// Gives a chart its data, and its workbook the same.
+    /// Takes note of a chart of a slide.
     /// @param slideNumber for errors
+    void add(const std::wstring& slidePartName, std::size_t slideNumber, const ChartRecord& chart) {
+        tasks_.push_back({slidePartName, slideNumber, chart});
+    }
+    /// Gives these charts their data, and their workbooks the same.
     /// @throws unsupportedChart if there is no chart, or one of a kind that can't be filled
     /// @throws partDOMBuildError if its part can't be read
     /// @throws chartWorkbookFailed
-    void write(const std::wstring& slidePartName, std::size_t slideNumber, const ChartRecord& chart);
+    void write();
 
 private:
-    std::wstring findPart(const std::wstring& slidePartName, const ChartRecord& chart) const;
+    struct Task {
+        std::wstring slidePartName;
+        std::size_t slideNumber;
+        ChartRecord chart;
+    };
+
+    void write(const Task& task);
+    std::wstring findPart(const Task& task) const;
     opc::DocumentScope read(const std::wstring& partName);
     std::wstring findOwnWorkbook(const opc::Part& part, const std::wstring& relationshipId) const;
     std::wstring makeWorkbookPart();
 
     PPTPartWriter& partWriter_;
+    std::vector<Task> tasks_;
     opc::XercesProcess xerces_;
     opc::ParserScope parser_;
     std::set<std::wstring> workbooks_; // that have been written

@@ -3,9 +3,14 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/ChartParts.h"
+#include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
+#include "vellox/ppt/writers/SlideRemoval.h"
+#include "vellox/ppt/writers/TableStylesPart.h"
 
 #include <boost/make_shared.hpp>
 
@@ -13,7 +18,9 @@ namespace vellox::ppt {
 
 PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package)
     : model_(std::move(model)),
-      partWriter_(boost::make_shared<PPTPartWriter>(std::move(package))) {
+      partWriter_(boost::make_shared<PPTPartWriter>(std::move(package))),
+      copies_(boost::make_shared<SlideCopies>(*partWriter_)),
+      notes_(boost::make_shared<NotesParts>(model_->getTemplate(), *partWriter_)) {
     partWriter_->setSlideCounter(static_cast<unsigned int>(model_->getSlides().size()));
 }
 
@@ -30,6 +37,20 @@ ChartParts& PPTWriter::getChartParts() {
     return *chartParts_;
 }
 
+void PPTWriter::writeCharts() {
+    if (chartParts_)
+        chartParts_->write();
+}
+
+void PPTWriter::prepare(const PPTNode::Children& slides) {
+    for (const auto& slide : slides) {
+        const auto* impl = implAs<SlideImpl>(*slide);
+        const boost::shared_ptr<TemplateSlide> record = impl ? impl->getTemplateSlide() : nullptr;
+        if (record && !record->originName.empty())
+            copies_->remember(record->originName);
+    }
+}
+
 void PPTWriter::write(const PPTNode& node) {
     node.acceptWriter(this, nullptr);
 }
@@ -40,7 +61,15 @@ void PPTWriter::finish() {
         written.slide->partName = written.partName;
         slides.push_back(written.slide);
     }
-    updateSlideList(model_->getTemplate(), slides, *partWriter_);
+    updateSlideList(model_->getTemplate(), slides, *partWriter_, *notes_);
+    std::set<opc::PartName> removed;
+    for (const auto& slide : model_->getSlides())
+        if (!hasWritten(*slide))
+            removed.insert(opc::PartName(slide->partName));
+    for (const Written& written : slides_) // two slides of a damaged template may be one part
+        removed.erase(opc::PartName(written.partName));
+    removeSlides(removed, *partWriter_);
+    defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     partWriter_->alignMainType(model_->getTemplate().presentationPartName);
 }
 

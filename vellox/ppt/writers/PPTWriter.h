@@ -28,6 +28,7 @@ namespace vellox::ppt {
 class ChartParts;
 class ExternalLinkImpl;
 class FormatsInForce;
+class NotesParts;
 class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
@@ -35,6 +36,7 @@ class PPTNode;
 class PPTNodeImpl;
 class PPTPartWriter;
 class PresentationModel;
+class SlideCopies;
 class SlideDocument;
 class SlideImpl;
 class TableEntryImpl;
@@ -43,6 +45,8 @@ class TableRowImpl;
 class TextBoxImpl;
 class TextBoxPlaceholderImpl;
 class TextImpl;
+class TextLook;
+struct ParagraphLook;
 struct TableContext;
 
 class PPTWriter {
@@ -53,6 +57,8 @@ public:
         const FormatsInForce* formats = nullptr; ///< at the element
         TableContext* table = nullptr;           ///< around the children, if there is one
         opc::MarkupBuffer* markup = nullptr;     ///< where they are written
+        const TextLook* texts = nullptr;         ///< of what paragraphs among them come in the stead of
+        const ParagraphLook* runs = nullptr;     ///< likewise, of texts among them
         unsigned int paragraphs = 0;             ///< how many of them have been paragraphs
     };
 
@@ -89,6 +95,8 @@ public:
     PPTWriter& operator=(const PPTWriter&) = delete;
     ~PPTWriter();
 
+    /// To be called before any of the slides is written.
+    void prepare(const std::vector<boost::shared_ptr<PPTNode>>& slides);
     /// Writes a slide with all that it holds.
     void write(const PPTNode& node);
     /// Ends the writing: lists the slides in the presentation part, in the order in which they were written.
@@ -109,13 +117,20 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// Has a table style among those that the deck defines, if it is one that programs have built in.
+    void useTableStyle(const std::wstring& id) { tableStyleIds_.insert(id); }
+
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
     /// Null between shapes.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     ChartParts& getChartParts();
+    /// Gives charts their data, once all slides are written: a copy of a slide has its charts as the original had them.
+    void writeCharts();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
+    SlideCopies& getCopies() { return *copies_; }
+    NotesParts& getNotes() { return *notes_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
     SlideDocument* getCurrentSlide() const { return currentSlide_; }
@@ -142,8 +157,11 @@ private:
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
+    boost::shared_ptr<SlideCopies> copies_;
+    boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
+    std::set<std::wstring> tableStyleIds_; // that tables have
     SlideDocument* currentSlide_ = nullptr;
     Frame frame_;
     opc::MarkupBuffer nowhere_;
