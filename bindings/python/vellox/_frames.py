@@ -27,10 +27,16 @@ def read_frame(frame: Any) -> list[list[Any]]:
 
 def read_dictionary(columns: dict[Any, Any]) -> list[list[Any]]:
     """The names of columns, then their rows; columns of different lengths are an error."""
-    lists = [_to_list(read_column(column)) if hasattr(column, "dtype") else list(column) for column in columns.values()]
+    lists = [_read_values(column) for column in columns.values()]
     if len({len(column) for column in lists}) > 1:
         raise ValueError(f"columns have different lengths: {[len(column) for column in lists]}")
     return [[str(name) for name in columns], *(list(row) for row in zip(*lists))] if lists else []
+
+
+def _read_values(column: Any) -> list[Any]:
+    if hasattr(column, "dtype"):
+        return _to_list(read_column(column) if hasattr(column, "to_numpy") else column)
+    return list(column)
 
 
 def read_column(column: Any) -> Any:
