@@ -25,6 +25,14 @@ def read_frame(frame: Any) -> list[list[Any]]:
     return rows + [list(row) for row in zip(*columns)] if columns else []
 
 
+def read_dictionary(columns: dict[Any, Any]) -> list[list[Any]]:
+    """The names of columns, then their rows; columns of different lengths are an error."""
+    lists = [_to_list(read_column(column)) if hasattr(column, "dtype") else list(column) for column in columns.values()]
+    if len({len(column) for column in lists}) > 1:
+        raise ValueError(f"columns have different lengths: {[len(column) for column in lists]}")
+    return [[str(name) for name in columns], *(list(row) for row in zip(*lists))] if lists else []
+
+
 def read_column(column: Any) -> Any:
     """The values of a series, an index or an array: a list, or an array of NumPy."""
     codes = getattr(getattr(column, "cat", column), "codes", None)

@@ -17,6 +17,8 @@ inline constexpr wchar_t kNotesSlide[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/notesSlide";
 inline constexpr wchar_t kOfficeDocument[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
+inline constexpr wchar_t kPackage[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/package";
 inline constexpr wchar_t kSlide[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slide";
 inline constexpr wchar_t kSlideLayout[] =
@@ -32,6 +34,8 @@ inline constexpr wchar_t kTheme[] =
 
 namespace vellox::ppt::contenttype {
 
+inline constexpr wchar_t kChart[] = L"application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+inline constexpr wchar_t kWorkbook[] = L"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
 inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
 inline constexpr wchar_t kTableStyles[] =
     L"application/vnd.openxmlformats-officedocument.presentationml.tableStyles+xml";

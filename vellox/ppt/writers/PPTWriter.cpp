@@ -4,6 +4,7 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
@@ -28,6 +29,17 @@ PPTWriter::~PPTWriter() = default;
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+ChartParts& PPTWriter::getChartParts() {
+    if (!chartParts_)
+        chartParts_ = boost::make_shared<ChartParts>(*partWriter_);
+    return *chartParts_;
+}
+
+void PPTWriter::writeCharts() {
+    if (chartParts_)
+        chartParts_->write();
 }
 
 void PPTWriter::prepare(const PPTNode::Children& slides) {

@@ -25,6 +25,7 @@ class MsgID;
 
 namespace vellox::ppt {
 
+class ChartParts;
 class ExternalLinkImpl;
 class FormatsInForce;
 class NotesParts;
@@ -124,6 +125,9 @@ public:
     /// Null between shapes.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
+    ChartParts& getChartParts();
+    /// Gives charts their data, once all slides are written: a copy of a slide has its charts as the original had them.
+    void writeCharts();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     SlideCopies& getCopies() { return *copies_; }
     NotesParts& getNotes() { return *notes_; }
@@ -152,6 +156,7 @@ private:
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
+    boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
     boost::shared_ptr<SlideCopies> copies_;
     boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
