@@ -333,6 +333,14 @@ struct VELLOX_API cannotChangeOutputPath : MsgID {
 struct VELLOX_API cannotChangeTemplatePath : MsgID {
     cannotChangeTemplatePath() : MsgID(kCatalog, "cannotChangeTemplatePath", 0) {}
 };
+/// The template has macros, and a file with the extension of the output can't have any.
+struct VELLOX_API macrosLeftOut : MsgID {
+    macrosLeftOut() : MsgID(kCatalog, "macrosLeftOut", 0) {}
+};
+/// The template is signed, and what was signed isn't the deck.
+struct VELLOX_API signaturesRemoved : MsgID {
+    signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
+};
 /// More was found than is kept.
 struct VELLOX_API moreFindings : MsgID {
     explicit moreFindings(const std::wstring& kept) : MsgID(kCatalog, "moreFindings", {kept}) {}

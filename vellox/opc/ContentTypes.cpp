@@ -95,6 +95,21 @@ void ContentTypes::change(const PartName& name, const ContentType& type) {
     setOverride(name, type.toString());
 }
 
+void ContentTypes::remove(const std::set<PartName>& names) {
+    std::vector<Row> former;
+    former.swap(overrides_);
+    std::map<std::size_t, PartName> namesByRow;
+    for (const auto& [name, row] : overrideByName_)
+        if (names.count(name) == 0)
+            namesByRow.emplace(row, name);
+    overrideByName_.clear();
+    for (const auto& [row, name] : namesByRow) {
+        overrideByName_.emplace(name, overrides_.size());
+        overrides_.push_back(std::move(former[row]));
+    }
+    isChanged_ = isChanged_ || overrides_.size() != former.size();
+}
+
 void ContentTypes::setDefault(const std::wstring& extension, const std::wstring& type) {
     const std::wstring key = vellox::toLowerString(extension);
     if (defaultByExtension_.emplace(key, defaults_.size()).second)

@@ -5,6 +5,7 @@
 #define VELLOX_OPC_CONTENTTYPES_H
 
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,6 +42,8 @@ public:
     /// isn't taken by another type. An empty type leaves the part with that of its extension; where the list
     /// has none, it becomes that of unknown bytes.
     void add(const PartName& name, const ContentType& type);
+    /// Forgets types that are said of single parts, which are gone.
+    void remove(const std::set<PartName>& names);
     /// Gives a part that is listed another type.
     void change(const PartName& name, const ContentType& type);
 

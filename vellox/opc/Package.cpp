@@ -54,6 +54,10 @@ void RelationshipSource::deleteRelationship(const std::wstring& id) {
     getTable().remove(id);
 }
 
+void RelationshipSource::deleteRelationships(const std::wstring& type) {
+    getTable().removeOfType(type);
+}
+
 // Part
 
 Part::Part(boost::shared_ptr<PackageContents> contents, boost::shared_ptr<PhysicalPart> physical)
@@ -133,6 +137,18 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     return parts_[name] = physical_->createPart(name, info);
 }
 
+void PackageContents::deleteParts(const std::set<PartName>& names) {
+    std::set<PartName> condemned = names;
+    for (const PartName& name : names) {
+        condemned.insert(name.getRelationshipPartName());
+        sources_.erase(name.getRelationshipPartName());
+    }
+    for (const PartName& name : condemned)
+        isCut_ = parts_.erase(name) > 0 || isCut_;
+    physical_->deleteParts(condemned);
+    types_.remove(condemned);
+}
+
 RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     const PartName part = source ? source->getRelationshipPartName() : PartName(L"/_rels/.rels");
     const auto known = sources_.find(part);
@@ -149,7 +165,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
 }
 
 bool PackageContents::hasChanges() const {
-    bool changed = types_.isChanged();
+    bool changed = isCut_ || types_.isChanged();
     for (const auto& part : parts_)
         changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
     for (const auto& source : sources_)
@@ -221,6 +237,10 @@ Part Package::getPart(const PartName& name) const {
 
 Part Package::createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info) {
     return Part(contents_, contents_->createPart(name, type, info));
+}
+
+void Package::deleteParts(const std::set<PartName>& names) {
+    contents_->deleteParts(names);
 }
 
 RelationshipTable& Package::getTable() const {

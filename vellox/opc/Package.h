@@ -12,6 +12,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,8 @@ public:
     Relationship createExternalRelationship(const std::wstring& type, const std::wstring& target,
                                             const std::wstring& id);
     void deleteRelationship(const std::wstring& id);
+    /// All of a type.
+    void deleteRelationships(const std::wstring& type);
 
 protected:
     virtual RelationshipTable& getTable() const = 0;
@@ -94,6 +97,8 @@ public:
     Part getPart(const PartName& name) const;
     /// @throws opc::Exception if there is a part of that name
     Part createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info);
+    /// Takes parts out, with the relationships that start from them. What leads to them stays.
+    void deleteParts(const std::set<PartName>& names);
 
 protected:
     RelationshipTable& getTable() const override;

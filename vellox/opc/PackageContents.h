@@ -23,6 +23,7 @@ public:
     boost::shared_ptr<PhysicalPart> findPart(const PartName& name) const;
     boost::shared_ptr<PhysicalPart> createPart(const PartName& name, const ContentType& type,
                                                StandardPartInfo info);
+    void deleteParts(const std::set<PartName>& names);
     /// The relationships of the package (no source) or of a part; read on first use.
     RelationshipTable& getRelationships(const PartName* source);
     ContentTypes& getContentTypes() { return types_; }
@@ -45,6 +46,7 @@ private:
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;
     std::map<PartName, boost::shared_ptr<PhysicalPart>> parts_;
+    bool isCut_ = false;                 // parts are gone
     std::map<PartName, Source> sources_; // by the name of the relationship part
 };
 

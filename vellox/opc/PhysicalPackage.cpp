@@ -35,9 +35,9 @@ void PhysicalPart::setContentFile(const std::wstring& path) {
     file_ = path;
 }
 
-void PhysicalPackage::deletePart(const PartName& name) {
+void PhysicalPackage::deleteParts(const std::set<PartName>& names) {
     parts_.erase(std::remove_if(parts_.begin(), parts_.end(),
-                                [&](const auto& part) { return part->getName() == name; }),
+                                [&](const auto& part) { return names.count(part->getName()) > 0; }),
                  parts_.end());
 }
 

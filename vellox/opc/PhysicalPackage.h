@@ -6,6 +6,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -82,7 +83,7 @@ public:
     /// All parts but the content-type stream, in the order of the container, new ones last.
     std::vector<boost::shared_ptr<PhysicalPart>> getParts() const { return parts_; }
     virtual boost::shared_ptr<PhysicalPart> createPart(const PartName& name, StandardPartInfo info) = 0;
-    void deletePart(const PartName& name);
+    void deleteParts(const std::set<PartName>& names);
 
     bool hasContentTypeStream() const { return contentTypes_ != nullptr; }
     boost::shared_ptr<InputStream> getContentTypeInputStream() const { return contentTypes_->openInput(); }

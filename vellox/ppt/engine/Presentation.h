@@ -131,6 +131,8 @@ public:
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
     /// | charactersDropped | warning | a text or a name holds characters that no file can |
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
+    /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
+    /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
     /// | moreFindings | info | there are more than are kept, which is 1000 |
     const std::vector<Finding> getFindings() const;
 

@@ -218,6 +218,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         writer.write(*slide);
     state_ = PresentationState::Closed;
     attempt.keep();
+    writer.setReporter(this);
     writer.finish();
 }
 

@@ -16,6 +16,7 @@
 #include "vellox/foundation/Dimension.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/NodeType.h"
+#include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/xml/Dom.h"
 
@@ -141,6 +142,7 @@ struct ReadTemplate {
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByPartName;
     std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part
     std::vector<boost::shared_ptr<TemplateTableStyle>> tableStyles;
+    std::vector<PackageExtra> extras; ///< those that the rules may leave out
 };
 
 } // namespace vellox::ppt
