@@ -19,7 +19,7 @@ constexpr char kHead[] = R"(# The classes of vellox.ppt
 
 For those who tie a further host language to vellox: each class with its superclass, how its objects are made, its
 properties and its methods. Users of Python ask `help(vellox.ppt.Slide)` instead, which speaks of Python's own kinds of
-values, and read [python.md](python.md).
+values, and read [python.md](python.md); users of Octave ask `help vellox.ppt.Slide`, and read [octave.md](octave.md).
 
 A class has what its superclasses have. Classes stand in the package `vellox.ppt`; the words are those that arguments
 are matched by:

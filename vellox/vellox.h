@@ -25,6 +25,7 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/foundation/InfoUtils.h"
 #include "vellox/foundation/MessageCatalog.h"
+#include "vellox/foundation/NameHint.h"
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/host/values/HvContent.h"

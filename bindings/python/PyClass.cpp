@@ -10,6 +10,7 @@
 #include "bindings/python/PyResults.h"
 #include "bindings/python/PyTerms.h"
 #include "vellox/host/binding/BindingRegistry.h"
+#include "vellox/host/binding/HostCall.h"
 
 #include <structmember.h>
 
@@ -46,17 +47,6 @@ void deallocate(PyObject* self) {
     freeInstance(self);
 }
 
-/// Whether objects of a class are made of a number that they show.
-bool takesNumber(const BoundClass& bound) {
-    const auto isNumber = [](const Parameter& parameter) {
-        return parameter.word.getKind() == SignatureWord::Kind::Double;
-    };
-    return std::any_of(bound.constructors.begin(), bound.constructors.end(),
-                       [&](const BoundConstructor& each) {
-                           return std::any_of(each.signature.begin(), each.signature.end(), isNumber);
-                       });
-}
-
 ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const bool isForUsers =
         !pyClass.bound.constructors.empty() && !pyClass.bound.constructors.front().isHidden;
@@ -67,7 +57,7 @@ ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(arguments));
     Reading reading;
     reading.rowsAreTables = true;
-    reading.digits = takesNumber(pyClass.bound) ? Digits::Always : Digits::OfItems;
+    reading.digits = getDigits(pyClass.bound);
     const PyCall call(values, count, reading);
     const std::size_t chosen =
         call.select(pyClass.constructorSignatures, pyClass.fullName, pyClass.constructorsText);
@@ -83,7 +73,7 @@ int initObject(PyObject* self, PyObject* arguments, PyObject* keywords) {
         const PyClass& pyClass = PyClassSystem::get().getClassOf(Py_TYPE(self));
         if (keywords && PyDict_GET_SIZE(keywords) > 0)
             throw PythonError(PyExc_TypeError, pyClass.fullName + " takes no keyword arguments");
-        LibraryCall call;
+        HostCall call;
         const ObjectPtr made = construct(pyClass, arguments);
         if (made) {
             slotOf(self).hold(pyClass, made); // an object that is made once more lets go of the former one
@@ -100,7 +90,7 @@ PyObject* getProperty(PyObject* self, void* closure) {
     return guarded<PyObject*>(nullptr, [&] {
         const auto& property = *static_cast<const PyProperty*>(closure);
         const ObjectPtr facade = requireFacade(self, *property.owner, Use::ReadOfRoot);
-        LibraryCall call;
+        HostCall call;
         PyRef value = toPython(property.row->get(*facade));
         call.finish();
         return value.release();
@@ -114,15 +104,13 @@ int setProperty(PyObject* self, PyObject* value, void* closure) {
         const ObjectPtr facade = requireFacade(self, *property.owner, Use::Any);
         PyObject* given = value ? value : Py_None;
         Reading reading;
-        // A number that is shown, or one that is counted with.
-        reading.digits =
-            property.row->type.getKind() == SignatureWord::Kind::Compound ? Digits::Always : Digits::Never;
+        reading.digits = getDigits(*property.row);
         const PyValue view(given, reading);
         if (!property.row->takes(view))
             throw PythonError(PyExc_TypeError, property.owner->fullName + "." + property.row->name +
                                                    " takes " + getTypeName(*property.row) + ", not " +
                                                    view.getClassName() + " " + describeValues(&given, 1));
-        LibraryCall call;
+        HostCall call;
         const Given context(facade.get(), property.owner->bound.name, property.row->name, &given, 1);
         context.run([&] { property.row->set(*facade, view); });
         call.finish();

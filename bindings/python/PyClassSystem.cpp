@@ -2,8 +2,7 @@
 
 #include "bindings/python/PyInstance.h"
 #include "bindings/python/PyListeners.h"
-#include "vellox/host/binding/BindingRegistry.h"
-#include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/host/binding/HostCall.h"
 
 namespace vellox::ppt::python {
 
@@ -76,39 +75,10 @@ bool PyClassSystem::isValid(const objreg::HostInterface& hostObject) const {
 
 // Listeners
 
-namespace {
-
-/// A flag that is up while this lives.
-class Raised {
-public:
-    explicit Raised(bool& flag) : flag_(flag), former_(std::exchange(flag, true)) {}
-    ~Raised() { flag_ = former_; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    bool& flag_;
-    bool former_;
-};
-
-} // namespace
-
 void PyClassSystem::fireEvent(objreg::HostInterface& hostObject, const BoundEvent&,
                               const MessageEventData& payload) {
-    const auto source = payload.getMessage().getSource();
-    const bool isMade = source && BindingRegistry::isUnderConstruction(*source);
-    // A listener that makes objects of its own doesn't hear of their lives, or it would never come to an end.
-    if (isListenerRunning_ && (isMade || (source && BindingRegistry::isEnding(*source))))
-        return;
-    const Raised running(isListenerRunning_);
-    try {
-        callListeners(static_cast<PySlot&>(hostObject).getOwner(), payload);
-    } catch (const PythonError& failure) {
-        if (!isMade)
-            throw;
-        if (!failure_)
-            failure_ = failure;
-    }
+    PyObject* owner = static_cast<PySlot&>(hostObject).getOwner();
+    callHostListeners(payload, [&] { callListeners(owner, payload); });
 }
 
 void PyClassSystem::translateException() {
@@ -118,21 +88,6 @@ void PyClassSystem::translateException() {
 void PyClassSystem::end() {
     isEnding_ = true;
     listening_ = PyRef();
-}
-
-// LibraryCall
-
-LibraryCall::LibraryCall() : outer_(std::exchange(PyClassSystem::get().failure_, std::nullopt)) {}
-
-LibraryCall::~LibraryCall() {
-    // What nobody heard of, because the call failed in another way, ends last: Python code may run then.
-    outer_.swap(PyClassSystem::get().failure_);
-}
-
-void LibraryCall::finish() {
-    std::optional<PythonError>& failure = PyClassSystem::get().failure_;
-    if (failure)
-        throw *std::exchange(failure, std::nullopt);
 }
 
 } // namespace vellox::ppt::python

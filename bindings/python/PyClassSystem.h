@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -49,31 +48,11 @@ public:
     void translateException() override;
 
 private:
-    friend class LibraryCall;
-
     std::deque<PyClass> classes_;
     std::unordered_map<PyTypeObject*, const PyClass*> byType_;
     PyRef made_;
     PyRef listening_;
-    std::optional<PythonError> failure_; // of a listener that heard of an object under construction
-    bool isListenerRunning_ = false;
     bool isEnding_ = false;
-};
-
-/// A call from Python into the library. What a listener raises while an object is under construction waits until
-/// the library has come to the end of the call: the object is whole then, and whoever got hold of it may use it.
-class LibraryCall {
-public:
-    LibraryCall();
-    ~LibraryCall();
-    LibraryCall(const LibraryCall&) = delete;
-    LibraryCall& operator=(const LibraryCall&) = delete;
-
-    /// Raises what waits.
-    void finish();
-
-private:
-    std::optional<PythonError> outer_;
 };
 
 } // namespace vellox::ppt::python

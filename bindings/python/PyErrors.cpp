@@ -1,5 +1,6 @@
 #include "bindings/python/PyErrors.h"
 
+#include "vellox/foundation/NameHint.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/engine/Presentation.h"
 
@@ -9,6 +10,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <cwctype>
 #include <iterator>
 #include <new>
 
@@ -127,6 +129,7 @@ constexpr struct {
     {"placeholderWasReplacedByObject", Kind::State},
     {"missingPictureFile", Kind::File},
     {"invalidLayoutName", Kind::Name},
+    {"notAsAsked", Kind::Value},
     {"invalidLayoutOrSlideMasterName", Kind::Name},
     {"cannotOpenFile", Kind::File},
     {"cannotOpenTemplate", Kind::File},
@@ -292,12 +295,22 @@ PyRef makeFileError(PyObject* type, const PyRef& text, const std::vector<std::ws
     return checked(PyObject_CallFunction(type, "iOO", fault.number, text.get(), path.get()));
 }
 
+/// The nearest names to one that doesn't exist, as a note. The text is the same in all profiles.
+void addNote(const PyRef& error, const NameHint& hint) {
+    if (hint.text.empty())
+        return;
+    std::wstring note = hint.text;
+    note.front() = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(note.front())));
+    checked(PyObject_CallMethod(error.get(), "add_note", "O", toPython(note + L".").get()));
+}
+
 /// @param given null where nothing is known of the call
 void setError(const hostfx::except::IMsgIDException& error, const Given* given) {
     const MsgID& id = error.getMsgID();
     const Kind kind = findKind(id);
     PyObject* type = kind == Kind::Count ? errorType : getType(kind);
-    std::string words = error.what();
+    const auto* hinted = dynamic_cast<const IHintedError*>(&error);
+    std::string words = hinted ? hinted->getPlainText() : error.what();
     if (kind == Kind::Type && id.args.empty() && given)
         words += " " + given->describe();
     const PyRef text = fromUtf8Text(words.c_str());
@@ -309,6 +322,8 @@ void setError(const hostfx::except::IMsgIDException& error, const Given* given) 
     if (PyObject_SetAttrString(made.get(), "identifier", identifier.get()) < 0 ||
         PyObject_SetAttrString(made.get(), "arguments", arguments.get()) < 0)
         throw PythonError();
+    if (hinted)
+        addNote(made, hinted->getHint());
     PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(made.get())), made.get());
 }
 

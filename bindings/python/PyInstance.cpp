@@ -5,6 +5,7 @@
 #include "bindings/python/PyErrors.h"
 #include "bindings/python/PyRepr.h"
 #include "vellox/host/binding/BindingRegistry.h"
+#include "vellox/host/binding/Descriptions.h"
 
 #include <new>
 
@@ -57,9 +58,7 @@ namespace {
 void warnOfLoss(PyObject* self) {
     const PySlot& slot = slotOf(self);
     const ObjectPtr facade = slot.getProxy();
-    const bool isOnlyHandle = facade.use_count() == 2; // beside the slot's own
-    if (!isOnlyHandle || slot.isGivenUp() || !slot.getClass()->bound.isUnfinished ||
-        !slot.getClass()->bound.isUnfinished(*facade))
+    if (!facade || slot.isGivenUp() || !isLost(slot.getClass()->bound, facade))
         return;
     const ErrorKept kept;
     const int result = guarded<int>(-1, [&] {

@@ -5,6 +5,7 @@
 #include "bindings/python/PyInstance.h"
 #include "bindings/python/PyResults.h"
 #include "bindings/python/PyTerms.h"
+#include "vellox/host/binding/HostCall.h"
 
 #include <structmember.h>
 
@@ -70,7 +71,7 @@ PyObject* callMethod(PyObject* callable, PyObject* const* objects, std::size_t f
         const std::size_t chosen =
             arguments.select(overloads.signatures, overloads.qualifiedName, overloads.doc);
         const Given given(self.get(), overloads.owner.bound.name, overloads.name.c_str(), objects, count);
-        LibraryCall call;
+        HostCall call;
         PyRef result = given.run([&] {
             return toPython(overloads.methods[chosen]->invoke(self.get(), arguments.getArguments()));
         });

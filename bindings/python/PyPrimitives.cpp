@@ -4,6 +4,7 @@
 #include "bindings/python/PyErrors.h"
 #include "bindings/python/PyInstance.h"
 #include "vellox/host/binding/BindingRegistry.h"
+#include "vellox/host/binding/HostCall.h"
 
 namespace vellox::ppt::python {
 
@@ -15,7 +16,7 @@ PyRef makeTwin(PyObject* self) {
     const PyClass& held = *slotOf(self).getClass();
     if (!held.bound.copy)
         throw PythonError(PyExc_TypeError, held.fullName + " objects can't be copied");
-    LibraryCall call;
+    hostbind::HostCall call;
     const ObjectPtr made = held.bound.copy(*facade);
     PyRef twin = allocateInstance(Py_TYPE(self));
     slotOf(twin.get()).hold(held, made);

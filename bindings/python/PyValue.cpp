@@ -6,17 +6,18 @@
 #include "vellox/host/binding/BindingRegistry.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 namespace vellox::ppt::python {
+
+using hostbind::isLong;
+using hostbind::kDeepestList;
+using hostbind::wantsDigits;
 
 namespace {
 
 constexpr int kUnknownClass = 0;
 constexpr int kInt32Class = 12;
-/// Lists in lists beyond this are taken for ones that hold themselves.
-constexpr unsigned int kDeepestList = 1000;
 
 bool fitsInt(double number) {
     return number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
@@ -26,17 +27,10 @@ bool isList(PyObject* object) {
     return PyList_Check(object) || PyTuple_Check(object);
 }
 
-/// From here on two whole numbers may be one double.
-constexpr double kFirstLong = 9007199254740992;
-
-bool isLong(double number) {
-    return std::abs(number) >= kFirstLong;
-}
-
 bool isLong(PyObject* number) {
     int overflow = 0;
     const long long value = PyLong_AsLongLongAndOverflow(number, &overflow);
-    return overflow != 0 || isLong(static_cast<double>(value));
+    return overflow != 0 || hostbind::isLong(static_cast<double>(value));
 }
 
 bool has(PyObject* object, const char* attribute) {
@@ -171,7 +165,7 @@ bool PyValue::readBuffer(PyObject* object) {
     if (code_ < HvFirstIntegerClass)
         return true;
     const bool hasLong = std::any_of(numbers.begin(), numbers.end(), [](double n) { return isLong(n); });
-    if (hasLong && wantsDigits(numbers.size() > 1 || reading_.depth > 0)) {
+    if (hasLong && wantsDigits(reading_.digits, numbers.size() > 1 || reading_.depth > 0)) {
         elements().items = buffer.readIntegers();
         code_ = HvCellClass;
         if (numbers.size() == 1)
@@ -329,12 +323,8 @@ void PyValue::setScalar(int code, double number) {
     number_ = number;
 }
 
-bool PyValue::wantsDigits(bool isItem) const {
-    return reading_.digits == Digits::Always || (isItem && reading_.digits == Digits::OfItems);
-}
-
 void PyValue::setInteger(PyObject* number) {
-    if (isLong(number) && wantsDigits(reading_.depth > 0))
+    if (isLong(number) && wantsDigits(reading_.digits, reading_.depth > 0))
         return setText(checked(PyNumber_ToBase(number, 10)));
     const double value = PyLong_AsDouble(number);
     if (value == -1 && PyErr_Occurred())

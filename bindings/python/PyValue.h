@@ -9,21 +9,15 @@
 #include <vector>
 
 #include "bindings/python/PyRef.h"
+#include "vellox/host/binding/Digits.h"
 #include "vellox/host/values/hvArray.h"
 
 namespace vellox::ppt::python {
 
-/// Which whole numbers of 2^53 and more, which no double can tell apart, are texts of all their digits.
-enum class Digits {
-    OfItems, ///< those in lists and arrays
-    Always,
-    Never
-};
-
 /// What the reading of a value depends on besides the value.
 struct Reading {
     bool rowsAreTables = false; ///< a list of equally long lists is a table, else a row of rows
-    Digits digits = Digits::OfItems;
+    hostbind::Digits digits = hostbind::Digits::OfItems;
     unsigned int depth = 0; ///< how many lists this value stands in
 };
 
@@ -91,7 +85,6 @@ private:
     void readRow(const PyRef& items);
     void readItems(PyObject* array);
     void readOnlyElement(PyObject* array);
-    bool wantsDigits(bool isItem) const;
     Elements& elements();
 
     PyObject* object_;

@@ -85,6 +85,8 @@ constexpr const char* kResults[][2] = {
     {"Presentation.getMasterNames", "list[str]"},
     {"Presentation.getLayoutNames", "list[str]"},
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
+    {"Presentation.getFindings", "list[tuple[str, str, str, str, str, str]]"},
+    {"Template.checkPackage", "list[tuple[str, str, str, str, str, str]]"},
 };
 
 constexpr char kListenerMethods[] =

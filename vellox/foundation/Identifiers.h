@@ -160,6 +160,11 @@ struct VELLOX_API invalidLayoutOrSlideMasterName : MsgID {
     invalidLayoutOrSlideMasterName(const std::wstring& layout, const std::wstring& master)
         : MsgID(kCatalog, "invalidLayoutOrSlideMasterName", {layout, master}) {}
 };
+/// A strict presentation isn't what was asked for. The code of the finding comes behind its text.
+struct VELLOX_API notAsAsked : MsgID {
+    notAsAsked(const std::wstring& finding, const std::wstring& code)
+        : MsgID(kCatalog, "notAsAsked", {finding, code}) {}
+};
 /// A file can't be opened; the argument may begin with the reason.
 struct VELLOX_API cannotOpenFile : MsgID {
     explicit cannotOpenFile(const std::wstring& file) : MsgID(kCatalog, "cannotOpenFile", {file}) {}
@@ -247,14 +252,46 @@ struct VELLOX_API unknownImageType : MsgID {
 
 } // namespace ppt_warning
 
-/// What was asked for and isn't in the deck, or is other than asked. Never sent or thrown: kept with the presentation.
+/// What helps with an error or a finding, in words that stand behind its own or around it.
+namespace ppt_hint {
+
+inline constexpr char kCatalog[] = "vellox:ppt_hint";
+
+/// Names that are near to one that doesn't exist.
+struct VELLOX_API nearestNames : MsgID {
+    explicit nearestNames(const std::wstring& names) : MsgID(kCatalog, "nearestNames", {names}) {}
+};
+/// None is near: the names that there are.
+struct VELLOX_API allNames : MsgID {
+    explicit allNames(const std::wstring& names) : MsgID(kCatalog, "allNames", {names}) {}
+};
+/// None is near: the first of the names that there are, and how many more.
+struct VELLOX_API someNames : MsgID {
+    someNames(const std::wstring& names, const std::wstring& more)
+        : MsgID(kCatalog, "someNames", {names, more}) {}
+};
+/// A finding about a slide.
+struct VELLOX_API onSlide : MsgID {
+    onSlide(const std::wstring& slide, const std::wstring& text)
+        : MsgID(kCatalog, "onSlide", {slide, text}) {}
+};
+/// A finding about a shape of a slide.
+struct VELLOX_API inShape : MsgID {
+    inShape(const std::wstring& slide, const std::wstring& shape, const std::wstring& text)
+        : MsgID(kCatalog, "inShape", {slide, shape, text}) {}
+};
+
+} // namespace ppt_hint
+
+/// What was asked for and isn't in the deck, or is other than asked. Kept with the presentation.
 namespace ppt_finding {
 
 inline constexpr char kCatalog[] = "vellox:ppt_finding";
 
-/// Text or content is for a name that nothing bears.
+/// Text or content is for a name that nothing bears. A hint begins with a semicolon.
 struct VELLOX_API unknownName : MsgID {
-    explicit unknownName(const std::wstring& name) : MsgID(kCatalog, "unknownName", {name}) {}
+    unknownName(const std::wstring& name, const std::wstring& hint)
+        : MsgID(kCatalog, "unknownName", {name, hint}) {}
 };
 /// Text or content is for a name that several shapes of one slide bear.
 struct VELLOX_API ambiguousName : MsgID {
@@ -301,9 +338,10 @@ struct VELLOX_API unreadablePicture : MsgID {
 struct VELLOX_API unknownImageType : MsgID {
     explicit unknownImageType(const std::wstring& file) : MsgID(kCatalog, "unknownImageType", {file}) {}
 };
-/// The template has no table style of this name.
+/// The template has no table style of this name. A hint begins with a semicolon.
 struct VELLOX_API invalidTableStyle : MsgID {
-    explicit invalidTableStyle(const std::wstring& style) : MsgID(kCatalog, "invalidTableStyle", {style}) {}
+    invalidTableStyle(const std::wstring& style, const std::wstring& hint)
+        : MsgID(kCatalog, "invalidTableStyle", {style, hint}) {}
 };
 /// A table has no rows.
 struct VELLOX_API emptyTable : MsgID {
@@ -340,6 +378,22 @@ struct VELLOX_API macrosLeftOut : MsgID {
 /// The template is signed, and what was signed isn't the deck.
 struct VELLOX_API signaturesRemoved : MsgID {
     signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
+};
+/// The profile of an open presentation is to change.
+struct VELLOX_API cannotChangeProfile : MsgID {
+    cannotChangeProfile() : MsgID(kCatalog, "cannotChangeProfile", 0) {}
+};
+/// A placeholder of a new slide got nothing.
+struct VELLOX_API emptyPlaceholder : MsgID {
+    emptyPlaceholder() : MsgID(kCatalog, "emptyPlaceholder", 0) {}
+};
+/// A text needs more room than its box has, as far as that can be estimated; in percent of the box.
+struct VELLOX_API textTooLong : MsgID {
+    explicit textTooLong(const std::wstring& percent) : MsgID(kCatalog, "textTooLong", {percent}) {}
+};
+/// A table needs more room than its box or its slide has, as far as that can be estimated; in percent of that.
+struct VELLOX_API tableTooLong : MsgID {
+    explicit tableTooLong(const std::wstring& percent) : MsgID(kCatalog, "tableTooLong", {percent}) {}
 };
 /// More was found than is kept.
 struct VELLOX_API moreFindings : MsgID {

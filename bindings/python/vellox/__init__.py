@@ -4,26 +4,40 @@ from __future__ import annotations
 import os
 from typing import TYPE_CHECKING
 
+from ._findings import Finding, read_findings
+
 if TYPE_CHECKING:
     from .ppt import Presentation, Template
 
-__all__ = ["deck"]
+__all__ = ["Finding", "check", "deck"]
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,
-         profile: str = "office") -> Presentation:
+         profile: str = "office", strict: bool = False) -> Presentation:
     """A presentation that is written to output when the with statement ends.
 
         with vellox.deck("report.pptx", "company.potx") as deck:
             slide = deck.add("Title and Content")
 
     Without a template it is made on the default one. For many decks on one, ppt.Template(path, "office") reads it
-    once. The profile says by which rules slides are made of the
-    template: "office" as the office programs do, "classic" as vellox.ppt.Presentation does by itself.
+    once. The profile says by which rules slides are made of the template: "office" as the office programs do,
+    "classic" as vellox.ppt.Presentation does by itself. A strict deck raises the first thing that was asked for and
+    isn't in it; else deck.Findings tells it.
     """
     from . import ppt
 
     source = template if template is None or isinstance(template, ppt.Template) else os.fspath(template)
     presentation = ppt.Presentation(os.fspath(output), *([] if source is None else [source]))
     presentation.Profile = profile
+    presentation.Strict = strict
     return presentation
+
+
+def check(path: str | os.PathLike[str]) -> list[Finding]:
+    """What a strict reader would want to repair in a presentation or template, and what else is amiss there.
+
+    Nothing is changed, and nothing raised for a bad file: one without a finding of severity "error" is sound.
+    """
+    from . import ppt
+
+    return read_findings(ppt.Template.checkPackage(os.fspath(path)))

@@ -10,6 +10,8 @@ import copy
 from types import TracebackType
 from typing import TYPE_CHECKING, Any, Literal, Self
 
+from ._findings import Finding, read_findings
+
 
 class Object:
     """Copies."""
@@ -39,14 +41,20 @@ class Object:
 
 
 class Presentation:
-    """The with statement."""
+    """The with statement, and findings."""
 
     __slots__ = ()
 
     if TYPE_CHECKING:
+        def getFindings(self) -> list[tuple[str, str, str, str, str, str]]: ...
         def __vellox_give_up__(self) -> None: ...
         def open(self) -> bool: ...
         def close(self) -> bool: ...
+
+    @property
+    def Findings(self) -> list[Finding]:
+        """What was asked for and isn't in the deck, or is other than asked, in the order in which it came out."""
+        return read_findings(self.getFindings())
 
     def __enter__(self) -> Self:
         """Gives the presentation itself."""

@@ -10,6 +10,7 @@ import tempfile
 import numpy as np
 import pytest
 
+import vellox
 import vellox.ppt as ppt
 
 
@@ -132,3 +133,26 @@ def test_with_closes_only_on_success(tmp_path):
             deck.add("Blank")
             shutil.rmtree(path.parent)
     assert list(tmp_path.iterdir()) == []
+
+
+def test_errors_of_names_have_the_nearest_as_a_note(tmp_path):
+    for make in (ppt.Presentation, vellox.deck):
+        with pytest.raises(ppt.UnknownNameError) as caught:
+            make(tmp_path / "deck.pptx").add("Blnak")
+        assert caught.value.__notes__ == ['The nearest names are "Blank".'] and "nearest" not in str(caught.value)
+
+
+def test_findings(tmp_path):
+    with vellox.deck(tmp_path / "deck.pptx") as deck:
+        slide = deck.add("Title Only")
+        slide.add("Titel", "x")
+    wrong, empty = deck.Findings
+    assert (wrong.severity, wrong.code, wrong.slide, wrong.shape) == ("error", "unknownName", 1, None)
+    assert wrong.as_dict()["text"] == wrong.text and str(wrong) == "slide 1: " + wrong.text
+    assert (empty.code, str(empty)) == ("emptyPlaceholder", 'slide 1, "Title": the placeholder was left empty')
+    strict = vellox.deck(tmp_path / "strict.pptx", strict=True)
+    with pytest.raises(ppt.BadValueError, match="slide 1: nothing bears") as caught:
+        strict.add("Blank").add("Nobody", "x")
+    assert caught.value.arguments[1] == "unknownName" and strict.Findings == []
+    assert [finding for finding in vellox.check(tmp_path / "deck.pptx") if finding.severity == "error"] == []
+    assert vellox.check(tmp_path / "none.pptx")[0].code == "cannotOpen"

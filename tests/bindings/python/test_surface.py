@@ -7,6 +7,7 @@ import sys
 
 import pytest
 
+import vellox
 import vellox.ppt as ppt
 
 GUIDE = pathlib.Path(__file__).parents[3] / "docs/python.md"
@@ -84,18 +85,23 @@ def test_help_lists_the_overloads():
     assert undocumented in ([], ["Error.identifier", "Error.arguments"])
 
 
-def get_snippets():
-    return re.findall(r"^```python\n(.*?)^```$", GUIDE.read_text(), re.MULTILINE | re.DOTALL)
+def get_snippets(page=GUIDE):
+    return re.findall(r"^```python\n(.*?)^```$", page.read_text(), re.MULTILINE | re.DOTALL)
 
 
-def test_the_guide_runs(tmp_path, monkeypatch):
-    """All snippets, in their order, as one script."""
-    snippets = get_snippets()
-    assert len(snippets) > 5
+PAGES = [page for page in [GUIDE.parents[1] / "README.md", *sorted(GUIDE.parent.glob("*.md"))]
+         if "```python\n" in page.read_text()]
+
+
+@pytest.mark.parametrize("page", PAGES, ids=lambda page: page.stem)
+def test_the_pages_run(page, tmp_path, monkeypatch):
+    """All snippets of a page, in their order, as one script, with the files that pages speak of."""
     monkeypatch.chdir(tmp_path)
-    picture = GUIDE.parents[1] / "examples/data/pump-curve.png"
-    (tmp_path / "pump-curve.png").write_bytes(picture.read_bytes())
-    scope = {"__name__": "guide"}
-    for number, snippet in enumerate(snippets, 1):
-        exec(compile(snippet, f"snippet {number}", "exec"), scope)  # pylint: disable=exec-used
-    assert len(list(tmp_path.glob("*.pptx"))) >= 3
+    for data in (GUIDE.parents[1] / "examples/data").iterdir():
+        (tmp_path / data.name).write_bytes(data.read_bytes())
+    ppt.Presentation("corporate.pptx").open()
+    (tmp_path / "corporate.pptx").rename("corporate.potx")
+    scope = {"__name__": page.stem, "ppt": ppt, "vellox": vellox, "regions": ["north", "south"]}
+    for number, snippet in enumerate(get_snippets(page), 1):
+        exec(compile(snippet, f"{page.name}, snippet {number}", "exec"), scope)  # pylint: disable=exec-used
+    assert list(tmp_path.glob("*.pptx"))

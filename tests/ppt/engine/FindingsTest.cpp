@@ -1,5 +1,6 @@
 // What a presentation tells of what was asked for and isn't in the deck.
 
+#include "vellox/foundation/NameHint.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/messages/FindingKinds.h"
 #include "vellox/ppt/messages/FindingList.h"
@@ -39,12 +40,13 @@ protected:
         return static_cast<const Slide&>(*deck.getChildren()[0]);
     }
 
-    /// "code slide shape" of each finding.
+    /// "code slide shape" of each finding, but for what is merely worth knowing.
     Lines told() {
         Lines lines;
         for (const Finding& finding : deck.getFindings())
-            lines.push_back(fromUtf8(finding.code) + L" " + std::to_wstring(finding.slide) + L" " +
-                            finding.shape);
+            if (finding.severity != Severity::Info)
+                lines.push_back(fromUtf8(finding.code) + L" " + std::to_wstring(finding.slide) + L" " +
+                                finding.shape);
         return lines;
     }
 };
@@ -58,7 +60,7 @@ TEST_F(FindingsTest, NamesThatAreNotBorne) {
     deck.replace(L"Subtitle", L"y");
     const std::vector<Finding> findings = deck.getFindings();
     EXPECT_EQ(told(), (Lines{L"unknownName 1 ", L"unknownName 0 "}));
-    EXPECT_EQ(findings[0].text, L"nothing bears the name \"Titel\"");
+    EXPECT_EQ(findings[0].text, L"nothing bears the name \"Titel\"; the nearest names are \"Title\"");
     EXPECT_EQ(findings[0].severity, Severity::Error);
     deck.add(L"Blank", 0);
     EXPECT_EQ(told()[0], L"unknownName 2 "); // by the slide's number of now
@@ -163,6 +165,107 @@ TEST_F(FindingsTest, ACloseThatFailedLeavesNone) {
     EXPECT_EQ(told(), Lines());
     close();
     EXPECT_EQ(told(), Lines{L"invalidTableStyle 1 "});
+}
+
+// A sheet of text in a small box, and the same in a large one or with small letters.
+TEST_F(FindingsTest, WhatFindsNoRoom) {
+    const std::wstring words(300, L'w');
+    useLayout(shape(2, "Small", "<p:ph type='body' idx='1'/>", place(0, 0, 2000000, 1000000)) +
+              shape(3, "Large", "<p:ph type='body' idx='2'/>", place(0, 0, 8000000, 4000000)) +
+              shape(4, "Table", "<p:ph type='tbl' idx='3'/>", place(0, 0, 8000000, 2000000)) +
+              shape(5, "Unused", "<p:ph type='body' idx='4'/>"));
+    Slide slide = deck.add(L"Own");
+    for (const wchar_t* name : {L"Small", L"Large"})
+        slide.add(name, words);
+    TextBox free(L"Free");
+    free.setWidth(L"2000000emus");
+    free.setHeight(L"1000000emus");
+    free.setFontSize(L"4pt");
+    free.add(words);
+    slide.add(free);
+    Table table(1);
+    for (int i = 0; i < 12; ++i) {
+        TableRow row;
+        row.append(TableEntry(L"one line"));
+        table.append(row);
+    }
+    slide.replace(L"Table", object(table));
+    close();
+    EXPECT_EQ(told(), (Lines{L"textTooLong 1 Small", L"tableTooLong 1 Table"}));
+    const Finding left = deck.getFindings().at(2);
+    EXPECT_EQ(left.code + " " + toUtf8(left.shape), "emptyPlaceholder Unused");
+    EXPECT_EQ(deck.getFindings()[0].text, L"the text takes about 570 % of the room that its box has");
+}
+
+// By the name of the error, the first finding that is one is raised, and nothing has happened then.
+TEST_F(FindingsTest, AStrictPresentationRaisesThem) {
+    Slide slide = deck.add(L"Title and Content");
+    slide.add(L"Contnet", L"x");
+    deck.setStrict(true);
+    EXPECT_EQ(errorOf([&] { slide.add(L"Titel", L"x"); }),
+              "ppt_error:notAsAsked slide 1: nothing bears the name \"Titel\"; the nearest names are "
+              "\"Title\" unknownName");
+    EXPECT_EQ(told(), Lines{L"unknownName 1 "}); // from before
+    const std::string before = readFile(output);
+    EXPECT_EQ(errorOf([&] { deck.close(); }).substr(0, 20), "ppt_error:notAsAsked");
+    EXPECT_EQ(readFile(output), before);
+
+    Presentation other(folder / L"other.pptx");
+    other.setStrict(true);
+    Slide pictured = other.add(L"Blank");
+    pictured.add(Picture(folder / L"missing.png"));
+    const std::string untouched = readFile(folder / L"other.pptx");
+    EXPECT_EQ(errorOf([&] { other.close(); }).substr(0, 20), "ppt_error:notAsAsked");
+    EXPECT_EQ(readFile(folder / L"other.pptx"), untouched);
+    other.setStrict(false);
+    EXPECT_TRUE(other.close());
+}
+
+TEST_F(FindingsTest, OfficeSendsThem) {
+    std::vector<std::wstring> heard;
+    MessageDispatcher dispatcher = MessageDispatcher::getTheDispatcher();
+    const auto token = dispatcher.addListener([&](const MessageEventData& event) {
+        heard.push_back(event.getMessage().getText());
+        deck = Presentation(folder / L"else.pptx"); // the last handle on it
+    });
+    deck.add(L"Blank").add(L"Nobody", L"x");
+    EXPECT_EQ(heard, Lines());
+    deck = Presentation::forOffice(output);
+    Slide slide = deck.add(L"Title Only");
+    slide.add(L"Titel", L"x");
+    EXPECT_EQ(heard, Lines{L"nothing bears the name \"Titel\"; the nearest names are \"Title\""});
+    dispatcher.removeListener(token);
+}
+
+// The nearest names stand beside the text of an error, and in it with the profile "office".
+TEST_F(FindingsTest, ErrorsOfNamesHaveTheNearest) {
+    const auto ask = [](Presentation& asked, const std::wstring& layout, const wchar_t* master) {
+        try {
+            master ? asked.add(layout, master) : asked.add(layout);
+        } catch (const hostfx::except::IMsgIDException& error) {
+            return dynamic_cast<const IHintedError&>(error).getHint().text + L"|" + fromUtf8(error.what());
+        }
+        return std::wstring();
+    };
+    const std::wstring hint = L"the nearest names are \"Title and Content\"";
+    const std::wstring beside = ask(deck, L"title and contnet", nullptr);
+    EXPECT_EQ(beside.substr(0, hint.size()), hint);
+    EXPECT_EQ(beside.find(hint, 1), std::wstring::npos) << "its text stays as it always was";
+    Presentation office = Presentation::forOffice(folder / L"office.pptx");
+    EXPECT_NE(ask(office, L"title and contnet", nullptr).find(L" (" + hint), std::wstring::npos);
+    const std::wstring master = deck.getMasterNames()[0];
+    EXPECT_NE(ask(deck, L"Blank", (L"x" + master).c_str()).find(L"\"" + master + L"\""), std::wstring::npos);
+    EXPECT_NE(ask(deck, L"Blnak", master.c_str()).find(L"\"Blank\""), std::wstring::npos);
+    EXPECT_EQ(ask(deck, L"xyzzy", nullptr).substr(0, 10), L"there are ");
+}
+
+TEST(NameHint, NearestNames) {
+    const Lines names{L"Title", L"Title", L"Subtitle", L"Content Placeholder 2", L"", L"Picture"};
+    EXPECT_EQ(findNearestNames(L"TITEL", names), (Lines{L"Title"}));
+    EXPECT_EQ(findNearestNames(L"content", names), (Lines{L"Content Placeholder 2"}));
+    EXPECT_EQ(findNearestNames(L"Sub title", names), (Lines{L"Subtitle", L"Title"}));
+    EXPECT_EQ(findNearestNames(L"Elsewhere", names), Lines());
+    EXPECT_EQ(findNearestNames(std::wstring(100000, L'x'), {std::wstring(100001, L'x')}).size(), 1u);
 }
 
 TEST_F(FindingsTest, AreLimited) {

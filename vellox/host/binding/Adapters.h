@@ -216,6 +216,32 @@ private:
 };
 /// @}
 
+/// A function that a class has without an object of it: StaticMethod<R(A...)>::row<&function>(...).
+template <class Form> struct StaticMethod;
+
+template <class R, class... A> struct StaticMethod<R(A...)> {
+    template <class T> using Plain = std::remove_cv_t<std::remove_reference_t<T>>;
+
+    template <R (*kFunction)(A...)>
+    static BoundMethod row(const char* name, const ParameterNames<sizeof...(A)>& parameters,
+                           const char* doc) {
+        BoundMethod made = {name, makeSignature<Plain<A>...>(parameters, std::index_sequence_for<A...>()),
+                            SignatureWord(ToHost<Plain<R>>::kWord),
+                            [](PPTObject*, const Arguments& arguments) {
+                                return call<kFunction>(arguments, std::index_sequence_for<A...>());
+                            },
+                            doc};
+        made.isStatic = true;
+        return made;
+    }
+
+private:
+    template <R (*kFunction)(A...), std::size_t... kI>
+    static HostResult call(const Arguments& arguments, std::index_sequence<kI...>) {
+        return ToHost<Plain<R>>::convert(kFunction(FromHost<Plain<A>>::convert(arguments[kI])...));
+    }
+};
+
 /// @{ Properties. The getters and setters are members of facades or of what these derive from.
 template <class Member> struct MemberTypes;
 template <class C, class R> struct MemberTypes<R (C::*)()> { using Result = std::decay_t<R>; };

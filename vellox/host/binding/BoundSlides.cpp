@@ -1,7 +1,9 @@
+#include "vellox/check/PackageCheck.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/host/binding/Adapters.h"
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/host/binding/ContentArguments.h"
+#include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/engine/Presentation.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 
@@ -41,6 +43,24 @@ TextCells getTableStyleNames(Presentation& deck) {
     return cells;
 }
 
+/// A row for each finding: severity, code, part, number of the slide (0 for none), shape, text.
+TextCells toRows(const std::vector<Finding>& findings) {
+    TextCells cells = {6, {}};
+    for (const Finding& finding : findings)
+        cells.texts.insert(cells.texts.end(),
+                           {fromUtf8(toString(finding.severity)), fromUtf8(finding.code), finding.part,
+                            std::to_wstring(finding.slide), finding.shape, finding.text});
+    return cells;
+}
+
+TextCells getFindings(Presentation& deck) {
+    return toRows(deck.getFindings());
+}
+
+TextCells checkFile(Wide path) {
+    return toRows(checkPackage(path));
+}
+
 /// Of the last handle on a presentation.
 bool isUnfinished(const PPTObject& deck) {
     const auto* impl = implOf<PresentationImpl>(deck);
@@ -71,6 +91,9 @@ BoundClass describeTemplate() {
     bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"}),
                           make<Template, std::wstring, std::wstring>({"path", "profile"})};
     bound.properties = {readOnlyProperty<Template, &Template::getPath>("Path", "The file that was read.")};
+    bound.methods = {StaticMethod<TextCells(Wide)>::row<&checkFile>(
+        "checkPackage", {"path"},
+        "What a strict reader would want to repair in a file: rows as those of Presentation.getFindings().")};
     return bound;
 }
 
@@ -93,6 +116,8 @@ BoundClass describePresentation() {
         property<Deck, &Deck::getProfile, &Deck::setProfile>(
             "Profile", "By which rules slides are made of the template: \"classic\" or \"office\"; can't be "
                        "changed once the presentation is open."),
+        property<Deck, &Deck::getStrict, &Deck::setStrict>(
+            "Strict", "Whether the first finding that is an error is raised."),
     };
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},
@@ -105,25 +130,29 @@ BoundClass describePresentation() {
             Method<Deck, void(Wide, const Paragraph&)>::row<&Deck::add>("add", {"name", "paragraph"}, "")),
     };
     append(bound.methods, makeReplaceByNameRows<Deck>());
-    append(bound.methods,
-           {Method<Deck, Slide(Wide)>::row<&Deck::add>("add", {"layout"},
-                                                       "Adds a slide of a layout at the end."),
-            Method<Deck, Slide(Wide, Wide)>::row<&Deck::add>("add", {"layout", "master"},
-                                                             "The same, of the layout of one slide master."),
-            Method<Deck, Slide(Wide, const Slide&)>::row<&Deck::add>("add", {"layout", "before"},
-                                                                     "Adds a slide before a slide."),
-            Method<Deck, Slide(Wide, Wide, const Slide&)>::row<&Deck::add>(
-                "add", {"layout", "master", "before"}, "The same, of the layout of one slide master."),
-            Method<Deck, Slide(Wide, unsigned int)>::row<&addAt>(
-                "add", {"layout", "position"}, "Adds a slide at a position, which counts from 1."),
-            Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
-                "add", {"layout", "master", "position"}, "The same, of the layout of one slide master."),
-            Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", {},
-                                                            "The names of the slide masters."),
-            Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
-                "getLayoutNames", {"master"}, "The names of a slide master's layouts."),
-            Method<Deck, TextCells()>::row<&getTableStyleNames>(
-                "getTableStyleNames", {}, "The name and the id of each table style of the template.")});
+    append(
+        bound.methods,
+        {Method<Deck, Slide(Wide)>::row<&Deck::add>("add", {"layout"},
+                                                    "Adds a slide of a layout at the end."),
+         Method<Deck, Slide(Wide, Wide)>::row<&Deck::add>("add", {"layout", "master"},
+                                                          "The same, of the layout of one slide master."),
+         Method<Deck, Slide(Wide, const Slide&)>::row<&Deck::add>("add", {"layout", "before"},
+                                                                  "Adds a slide before a slide."),
+         Method<Deck, Slide(Wide, Wide, const Slide&)>::row<&Deck::add>(
+             "add", {"layout", "master", "before"}, "The same, of the layout of one slide master."),
+         Method<Deck, Slide(Wide, unsigned int)>::row<&addAt>(
+             "add", {"layout", "position"}, "Adds a slide at a position, which counts from 1."),
+         Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
+             "add", {"layout", "master", "position"}, "The same, of the layout of one slide master."),
+         Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", {},
+                                                         "The names of the slide masters."),
+         Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
+             "getLayoutNames", {"master"}, "The names of a slide master's layouts."),
+         Method<Deck, TextCells()>::row<&getFindings>(
+             "getFindings", {},
+             "What isn't as it was asked for: severity, code, part, number of the slide or 0, shape, text."),
+         Method<Deck, TextCells()>::row<&getTableStyleNames>(
+             "getTableStyleNames", {}, "The name and the id of each table style of the template.")});
     return bound;
 }
 

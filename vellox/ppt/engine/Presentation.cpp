@@ -10,6 +10,7 @@
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -59,6 +60,7 @@ PresentationImpl::PresentationImpl(const PresentationImpl& other)
       profile_(other.profile_),
       state_(other.state_),
       compression_(other.compression_),
+      isStrict_(other.isStrict_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
 }
@@ -85,7 +87,8 @@ bool PresentationImpl::isOpenOrClosed() const {
 template <class Warning> void PresentationImpl::warnThatItStays() {
     const Warning id;
     // In a constructor or destructor no handle on this object can be made, as a message would need one.
-    if (getClient() && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
+    const bool isSentAnyway = profile_.rules->sendsFindings();                // with the report
+    if (getClient() && !isSentAnyway && wantsWarnings() && getRefCount() > 0) // NOLINTNEXTLINE(*.VirtualCall)
         MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, *makeInterface()));
     reportWarning(id);
     report(MsgID(ppt_finding::kCatalog, id.id, id.args), *this);
@@ -136,10 +139,8 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
     boost::shared_ptr<TemplateLayout> layout;
     if (model_)
         layout = masterName ? model_->findLayout(layoutName, *masterName) : model_->findLayout(layoutName);
-    if (!layout && masterName)
-        raise(ppt_error::invalidLayoutOrSlideMasterName(layoutName, *masterName));
     if (!layout)
-        raise(ppt_error::invalidLayoutName(layoutName));
+        refuseLayout(layoutName, masterName);
     const boost::shared_ptr<TemplateSlide> record = model_->createSlide(layout);
     auto* slide = new SlideImpl(record);
     const Child handle = slide->makeInterface();
@@ -316,6 +317,14 @@ const Presentation::NamePairs Presentation::getTableStyleNames() {
 
 const std::vector<Finding> Presentation::getFindings() const {
     return pimpl()->getFindings();
+}
+
+bool Presentation::getStrict() const {
+    return pimpl()->isStrict();
+}
+
+void Presentation::setStrict(bool strict) {
+    pimpl()->setStrict(strict);
 }
 
 const std::wstring Presentation::getOutputPath() const {

@@ -73,12 +73,14 @@ public:
     /// @return false if the presentation isn't open: it never was, or it is closed
     /// @throws cannotOpenFile if the output can't be saved, with the reason and the path; the file at the
     ///         output path is as it was then
+    /// @throws notAsAsked if the presentation is strict and a finding is an error; likewise
     bool close();
 
     /// @{ Adds a slide of a layout: at the end, before the slide at an index from 0 (at the end if there is
     /// none), or before a slide (at the end if that isn't one of this presentation). Where several slide
     /// masters have a layout of the name, one of them may be named; else the one whose part name sorts first
-    /// is taken. Names are exact. With the profile "office", "#3" is a master's third layout.
+    /// is taken. Names are exact. With the profile "office", "#3" is a master's third layout. The errors are
+    /// IHintedErrors with the nearest names, which the profile "office" puts into their texts, too.
     /// @throws invalidLayoutName
     /// @throws invalidLayoutOrSlideMasterName in the forms with a master
     Slide add(const std::wstring& layoutName);
@@ -108,7 +110,7 @@ public:
     /// What was asked for and isn't in the deck, or is other than asked, in the order in which it came out: while the
     /// deck was made, and when it was closed. Each has a code, a severity, a text, and the number of the slide and the
     /// name of the shape as far as it is about one. Errors: asked for and not there; warnings: there, but maybe not as
-    /// meant. Nothing else comes of them. A copy of a presentation begins without.
+    /// meant. With the profile "office" each is sent as a WarningMessage, too. A copy of a presentation begins without.
     ///
     /// | code | severity | meaning |
     /// |---|---|---|
@@ -133,8 +135,18 @@ public:
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
     /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
     /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
-    /// | moreFindings | info | there are more than are kept, which is 1000 |
+    /// | cannotChangeProfile | warning | the profile of an open presentation was to change |
+    /// | emptyPlaceholder | info | a placeholder of a new slide got nothing |
+    /// | textTooLong | warning | a text takes more room than its box has, by an estimate |
+    /// | tableTooLong | warning | a table takes more height than there is for it, by an estimate |
+    /// | moreFindings | info | there are more of a severity than are kept, which is 1000 |
     const std::vector<Finding> getFindings() const;
+    /// @{ Whether the presentation refuses to be other than asked: the first finding that is an error is raised as
+    /// notAsAsked, at once by the operation that it comes of, and by close() before the output is touched. What was
+    /// raised isn't kept; what was found before is raised by close(). False by default.
+    bool getStrict() const;
+    void setStrict(bool strict);
+    /// @}
 
     /// @{ As last set, with "/" as separator; once the presentation is open with the folder and the extension
     /// that it was opened with.

@@ -62,9 +62,8 @@ public:
     /// Serves the slides of the template, and a caller who appends a node: opens first, and does nothing
     /// once the presentation is closed.
     void appendChild(const Child& child) override;
-    void hear(const MsgID& finding, const ReportPlace& place) const override {
-        findings_.add(finding, place);
-    }
+    void hear(const MsgID& finding, const ReportPlace& place) const override;
+    bool listens() const override { return isStrict_ || findings_.isOpen(); }
 
     virtual bool open();
     virtual bool close();
@@ -88,7 +87,9 @@ public:
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
 
-    const std::vector<Finding>& getFindings() const { return findings_.get(getChildren()); }
+    std::vector<Finding> getFindings() const { return findings_.get(getChildren()); }
+    bool isStrict() const { return isStrict_; }
+    void setStrict(bool strict) { isStrict_ = strict; }
 
     PresentationState getState() const { return state_; }
 
@@ -98,6 +99,9 @@ private:
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
     template <class Warning> void warnThatItStays();
     bool isOpenOrClosed() const;
+    void sendFinding(const MsgID& finding, const ReportPlace& place) const;
+    void refuseWhatIsLeft() const;
+    [[noreturn]] void refuseLayout(const std::wstring& layoutName, const std::wstring* masterName) const;
     void tellOfReading();
     void parseTemplate(const std::wstring& templateFile);
     void readTemplate(const std::wstring& templateFile);
@@ -116,6 +120,7 @@ private:
     Profile profile_;
     PresentationState state_ = PresentationState::Created;
     opc::Compression compression_ = opc::Compression::Normal;
+    bool isStrict_ = false;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;
     std::wstring tempTemplatePath_;            // empty when there is no working copy

@@ -182,6 +182,7 @@ bool PresentationImpl::close() {
     if (isBusy_ || state_ != PresentationState::Open)
         return false;
     const Busy busy(this, isBusy_);
+    refuseWhatIsLeft();
     const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
     const auto package = boost::make_shared<OPCPackage>(path);
     package->setCompression(compression_);

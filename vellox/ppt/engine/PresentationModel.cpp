@@ -54,10 +54,24 @@ const PresentationModel::Names& PresentationModel::getLayoutNames(const std::wst
     return master == template_->mastersByName.end() ? none : master->second->layoutNames;
 }
 
+PresentationModel::Names PresentationModel::getAllLayoutNames() const {
+    Names names;
+    for (const auto& master : template_->masters)
+        names.insert(names.end(), master->layoutNames.begin(), master->layoutNames.end());
+    return names;
+}
+
 void PresentationModel::getTableStyleNames(NamePairs& list) const {
     list.clear();
     for (const auto& style : template_->tableStyles)
         list.emplace_back(style->styleName, style->styleId);
+}
+
+PresentationModel::Names PresentationModel::listTableStyleNames() const {
+    Names names;
+    for (const auto& style : template_->tableStyles)
+        names.push_back(style->styleName);
+    return names;
 }
 
 const std::wstring* PresentationModel::findTableStyleId(const std::wstring& styleName) const {

@@ -44,8 +44,12 @@ public:
     const Names& getMasterNames() const { return template_->masterNames; }
     /// Empty for an unknown master.
     const Names& getLayoutNames(const std::wstring& masterName) const;
+    /// Those of all masters, master after master.
+    Names getAllLayoutNames() const;
     /// Fills the list with (name, id) of each table style.
     void getTableStyleNames(NamePairs& list) const;
+    /// The names alone.
+    Names listTableStyleNames() const;
     /// The id of the first table style of that name.
     /// @return null if there is none
     const std::wstring* findTableStyleId(const std::wstring& styleName) const;

@@ -51,13 +51,21 @@ bool holdsShapes(const PPTNodeImpl& node) {
 
 void report(const MsgID& finding, const PPTNodeImpl& node) {
     ReportPlace place;
-    for (const PPTNodeImpl* step = &node; step; step = step->getParent()) {
+    for (const PPTNodeImpl *step = &node, *next = nullptr; step; step = next) {
+        next = step->getParent(); // the presentation, the last, may be gone when all have heard it
         if (step->getNodeType() == NodeType::Slide)
             place.slide = step;
-        else if (!place.shape && step->getParent() && holdsShapes(*step->getParent()))
+        else if (!place.shape && next && holdsShapes(*next))
             place.shape = step;
         step->hear(finding, place);
     }
+}
+
+bool isHeard(const PPTNodeImpl& node) {
+    for (const PPTNodeImpl* step = &node; step; step = step->getParent())
+        if (step->listens())
+            return true;
+    return false;
 }
 
 void announceCreated(PPTObjectImpl& object) {

@@ -20,7 +20,12 @@ struct ReportPlace {
 
 /// Reports that what was asked for isn't in the deck, or is other than asked. The finding, one of those in FindingKinds.h,
 /// goes up from the node that it is about to the presentation that holds that, which keeps it; without one it is lost.
+/// A listener may end what is held by nobody else. To be called before anything is changed, where that can be.
+/// @throws notAsAsked if the presentation is strict and this an error
 void report(const MsgID& finding, const PPTNodeImpl& node);
+
+/// Whether a report about a node would be kept: hints for it need not be looked for otherwise.
+bool isHeard(const PPTNodeImpl& node);
 
 /// Reports that an object, or one level of it, has been made. To be called once its own fields are set.
 void announceCreated(PPTObjectImpl& object);

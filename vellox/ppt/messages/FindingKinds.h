@@ -38,6 +38,10 @@ constexpr FindingKind kFindingKinds[] = {
     {"cannotChangeTemplatePath", Severity::Warning},
     {"macrosLeftOut", Severity::Warning},
     {"signaturesRemoved", Severity::Warning},
+    {"cannotChangeProfile", Severity::Warning},
+    {"emptyPlaceholder", Severity::Info},
+    {"textTooLong", Severity::Warning},
+    {"tableTooLong", Severity::Warning},
     {"moreFindings", Severity::Info},
 };
 

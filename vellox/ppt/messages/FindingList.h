@@ -4,20 +4,22 @@
 #ifndef VELLOX_PPT_MESSAGES_FINDINGLIST_H
 #define VELLOX_PPT_MESSAGES_FINDINGLIST_H
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
+#include "vellox/foundation/MsgID.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/Finding.h"
 #include "vellox/ppt/object/PPTNode.h"
 
-namespace vellox {
-class MsgID;
-}
-
 namespace vellox::ppt {
 
-/// Findings in the order in which they were reported, up to a limit: a program may well use a wrong name a million times.
+/// What a finding of a kind is worth.
+Severity getSeverity(const MsgID& finding);
+
+/// Findings in the order in which they were reported, up to a limit for each severity: a program may well use a wrong
+/// name a million times, and errors aren't to be lost among hints. They are put into words when somebody reads them.
 class FindingList {
 public:
     static constexpr std::size_t kMaxFindings = 1000;
@@ -26,7 +28,10 @@ public:
     /// again.
     class Attempt {
     public:
-        explicit Attempt(FindingList& list) : list_(list), size_(list.findings_.size()) {}
+        explicit Attempt(FindingList& list)
+            : list_(list),
+              former_(list.count_),
+              size_(list.entries_.size()) {}
         Attempt(const Attempt&) = delete;
         Attempt& operator=(const Attempt&) = delete;
         ~Attempt();
@@ -34,17 +39,29 @@ public:
 
     private:
         FindingList& list_;
+        std::array<std::size_t, 3> former_;
         std::size_t size_;
         bool isKept_ = false;
     };
 
-    void add(const MsgID& id, const ReportPlace& place);
+    /// @return whether it is kept, or at least that there are more is told with it
+    bool add(const MsgID& id, const ReportPlace& place);
+    /// Whether an error that comes now would be kept.
+    bool isOpen() const;
     /// With the numbers that the slides have by now among these: those that are added ahead of others shift them.
-    const std::vector<Finding>& get(const PPTNode::Children& slides);
+    std::vector<Finding> get(const PPTNode::Children& slides) const;
+    /// One finding in words, whether it is kept or not.
+    static Finding describe(const MsgID& id, const ReportPlace& place, const PPTNode::Children& slides);
 
 private:
-    std::vector<Finding> findings_;
-    std::vector<const PPTNodeImpl*> slides_; // that each is about, or null; only to be compared
+    struct Entry {
+        MsgID id;
+        std::wstring shape;
+        const PPTNodeImpl* slide; // or null; only to be compared
+    };
+
+    std::vector<Entry> entries_;
+    std::array<std::size_t, 3> count_{}; // by severity
 };
 
 } // namespace vellox::ppt

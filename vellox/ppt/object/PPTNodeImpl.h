@@ -69,6 +69,8 @@ public:
     /// Takes note of a report about a node below, or about this one; see report(). Const, since it changes nothing that
     /// the node is or holds. Presentations do; other nodes forget it.
     virtual void hear(const MsgID& finding, const ReportPlace& place) const;
+    /// Whether the node would still keep what it hears.
+    virtual bool listens() const { return false; }
     /// This node as an element, or null: presentations are none. Spares the writers a dynamic cast for every
     /// step up the tree.
     virtual const ElementImpl* asElement() const { return nullptr; }

@@ -47,6 +47,14 @@ bool ClassicRules::leavesOut(Extra, const std::wstring&) const {
     return false;
 }
 
+bool ClassicRules::namesNearest() const {
+    return false;
+}
+
+bool ClassicRules::sendsFindings() const {
+    return false;
+}
+
 Rules::Names ClassicRules::nameMasters(const Names& themes) const {
     return themes;
 }

@@ -17,6 +17,8 @@ public:
     bool takesAnyPrefix() const override;
     std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const override;
     bool leavesOut(Extra what, const std::wstring& mainType) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
     Order orderLayouts() const override;

@@ -56,6 +56,14 @@ FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
     return FileNameFault::None;
 }
 
+bool OfficeRules::namesNearest() const {
+    return true;
+}
+
+bool OfficeRules::sendsFindings() const {
+    return true;
+}
+
 // A deck that is never finished costs nobody the one before it.
 Appearance OfficeRules::appearsWhen() const {
     return Appearance::AtClose;

@@ -12,6 +12,8 @@ namespace vellox::ppt {
 class OfficeRules : public ClassicRules {
 public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
+    bool namesNearest() const override;
+    bool sendsFindings() const override;
     Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
     std::wstring explain(Refusal cause, const std::wstring& detail) const override;

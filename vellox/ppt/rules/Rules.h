@@ -34,6 +34,10 @@ public:
     virtual std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const = 0;
     /// Whether something that the template's package has stays behind, for a deck with a main part of this type.
     virtual bool leavesOut(Extra what, const std::wstring& mainType) const = 0;
+    /// Whether the errors of unknown names tell in their text which are near.
+    virtual bool namesNearest() const = 0;
+    /// Whether what a presentation finds is also sent as a warning.
+    virtual bool sendsFindings() const = 0;
     /// The names under which the masters are found, from those of their themes.
     virtual Names nameMasters(const Names& themes) const = 0;
     /// The names under which the layouts of one master are found, from their own.

@@ -45,6 +45,8 @@ Refusal TemplateReader::load() {
     const Refusal refusal = rules_.refuse(facts_);
     if (refusal == Refusal::None) {
         template_->presentationDocument = readDocument(presentation);
+        const DOMElement* root = template_->presentationDocument->getDocumentElement();
+        template_->slideHeight = getAttribute(findChild(root, xml::kSldSz), xml::kCy);
         loadMasters(presentation);
         loadSlides(presentation);
         settleFields();
@@ -106,6 +108,9 @@ void TemplateReader::loadMaster(const opc::Part& presentation,
         addKin(*master, readFacts(*shape), place);
     }
     master->maxShapeId = findGreatestId(document.get());
+    const DOMElement* styles = findChild(document->getDocumentElement(), xml::kTxStyles);
+    master->titleSizes = readTextSizes(findChild(styles, xml::kTitleStyle));
+    master->bodySizes = readTextSizes(findChild(styles, xml::kBodyStyle));
     loadTheme(part, *master);
     loadLayouts(part, document.get(), *master);
 }
@@ -233,6 +238,7 @@ void TemplateReader::readLayoutShapes(const boost::shared_ptr<TemplateLayout>& l
         const auto shape = makeRecord(*element, facts);
         shape->place = readPlace(*element);
         choosePlaces(*shape, facts, shape->place, shape->place, layout->master.lock().get());
+        chooseSizes(*shape, facts, *element, layout->master.lock().get());
         layout->shapes->push_back(shape);
         addKin(*layout, facts, shape);
         if (!shape->xmlId.empty())
@@ -341,6 +347,14 @@ void TemplateReader::choosePlaces(TemplateShape& shape, const ShapeFacts& facts,
     };
     shape.successorPlace = choose(PlaceUse::Successor);
     shape.textPlace = choose(PlaceUse::Text);
+}
+
+void TemplateReader::chooseSizes(TemplateShape& shape, const ShapeFacts& facts, const DOMElement& element,
+                                 const TemplateMaster* master) {
+    const bool isTitle = facts.placeholderType == L"title" || facts.placeholderType == L"ctrTitle";
+    if (master)
+        shape.textSizes = isTitle ? master->titleSizes : master->bodySizes;
+    layOver(shape.textSizes, readTextSizes(findDescendant(&element, {xml::kTxBody, xml::kALstStyle})));
 }
 
 // Table styles

@@ -52,6 +52,8 @@ private:
     boost::shared_ptr<TemplateShape> makeRecord(xercesc::DOMElement& element, const ShapeFacts& facts);
     void choosePlaces(TemplateShape& shape, const ShapeFacts& facts, const Place& own, const Place& ofLayout,
                       const TemplateMaster* master) const;
+    static void chooseSizes(TemplateShape& shape, const ShapeFacts& facts, const xercesc::DOMElement& element,
+                            const TemplateMaster* master);
     void nameShapes();
     void settleFields();
 

@@ -18,6 +18,7 @@
 #include "vellox/ppt/object/NodeType.h"
 #include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/rules/Facts.h"
+#include "vellox/ppt/template/TextSizes.h"
 #include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
@@ -72,6 +73,7 @@ struct TemplateShape : ShapeGeometry {
     Place place;                    ///< the element's own, in a layout; empty if it gives none
     Place successorPlace;           ///< for a picture or a table in its stead; empty if there is none
     Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
+    TextSizes textSizes{};          ///< of its text, in a layout
     boost::shared_ptr<TemplateShapes> children; ///< of a group
     bool givesWayInGroup = false;               ///< whether a picture may take its place in a group
 };
@@ -94,6 +96,7 @@ struct TemplateMaster {
     std::wstring name;                        ///< as the rules make it of the theme's; empty without one
     std::map<std::wstring, Place> placesById; ///< from the id of a p:cNvPr to the place of the shape it is in
     std::map<std::wstring, Place> placesByType; ///< from the type of a placeholder to its place, see Kin.h
+    TextSizes titleSizes{}, bodySizes{};        ///< of the texts in placeholders
     unsigned int maxShapeId = 0;                ///< greatest id of a p:cNvPr
     boost::shared_ptr<std::vector<boost::shared_ptr<TemplateLayout>>> layouts; ///< as the rules order them
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>>
@@ -134,6 +137,7 @@ struct TemplateSlide {
 struct ReadTemplate {
     std::wstring presentationPartName;
     OwnedDocument presentationDocument;
+    std::wstring slideHeight;                               ///< in EMU
     std::vector<boost::shared_ptr<TemplateMaster>> masters; ///< in the order of the presentation part
     std::vector<std::wstring> masterNames;                  ///< one for each, with repeats
     std::map<std::wstring, boost::shared_ptr<TemplateMaster>> mastersByPartName;

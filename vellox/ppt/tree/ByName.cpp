@@ -1,6 +1,7 @@
 #include "vellox/ppt/tree/ByName.h"
 
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NameHint.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
@@ -21,11 +22,29 @@ bool takes(const PPTNode& node, Takes least) {
     return getNodeKind(node.getNodeType()).takes >= least;
 }
 
+void collectNames(const PPTNode& start, Takes least, std::vector<std::wstring>& names) {
+    for (const boost::shared_ptr<PPTNode>& child : start.getChildren()) {
+        if (child && takes(*child, least))
+            names.push_back(child->getName());
+        if (child && getNodeKind(child->getNodeType()).searched == Searched::ItselfAndBelow)
+            collectNames(*child, least, names);
+    }
+}
+
+void reportUnknown(const PPTNode& start, const std::wstring& name, Takes least) {
+    const auto& impl = *implOf<PPTNodeImpl>(start);
+    if (!isHeard(impl))
+        return;
+    std::vector<std::wstring> names;
+    collectNames(start, least, names);
+    report(ppt_finding::unknownName(name, makeNameHint(name, names).getTail()), impl);
+}
+
 // Reports what a caller may not have meant. The nodes of one slide stand side by side in the list.
 void reportBearers(const PPTNode& start, const std::wstring& name, Takes least,
                    const PPTNode::Children& found) {
     if (found.empty())
-        report(ppt_finding::unknownName(name), *implOf<PPTNodeImpl>(start));
+        reportUnknown(start, name, least);
     const PPTNodeImpl* slide = nullptr;
     unsigned int taking = 0;
     for (const boost::shared_ptr<PPTNode>& node : found) {

@@ -1,12 +1,16 @@
 #include "vellox/ppt/writers/SlideReports.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
+#include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/FitReports.h"
 
 namespace vellox::ppt {
 
@@ -32,18 +36,36 @@ void reportGrouped(const PPTNodeImpl& group) {
     }
 }
 
+// What stands on a slide of the template has contents that nobody here knows.
+void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
+    if (shape.getTemplateShape() && !isOnNewSlide)
+        return;
+    const NodeType type = shape.getNodeType();
+    if (type == NodeType::Table)
+        return reportFit(static_cast<const TableImpl&>(shape), slideHeight);
+    const bool isPlaceholder = isKindOf(type, NodeType::TextBoxPlaceholder);
+    if (isPlaceholder && shape.getChildren().empty() && !shape.isContentReplaced())
+        report(ppt_finding::emptyPlaceholder(), shape);
+    else if (isPlaceholder || type == NodeType::TextBox)
+        reportFit(shape);
+}
+
 } // namespace
 
-void reportOnSlide(const SlideImpl& slide, const Rules& rules) {
+void reportOnSlide(const SlideImpl& slide, const PresentationModel& model) {
     const boost::shared_ptr<TemplateLayout>& layout = slide.getTemplateSlide()->layout;
     if (layout && layout->prototype && !layout->prototype->isWhole)
         report(ppt_finding::layoutCopiedInPart(layout->name), slide);
+    const bool isNew = !slide.getTemplateSlide()->source;
+    const double height = str2double(model.getTemplate().slideHeight);
     reportName(slide);
     for (const auto& child : slide.getChildren()) {
         const auto* shape = implOf<PPTNodeImpl>(*child);
         reportName(*shape);
-        if (shape->getNodeType() == NodeType::Group && !rules.reachesIntoGroups())
+        if (shape->getNodeType() == NodeType::Group && !model.getRules().reachesIntoGroups())
             reportGrouped(*shape);
+        if (const auto* placed = implAs<ShapeImpl>(*child))
+            reportRoom(*placed, isNew, height);
     }
 }
 

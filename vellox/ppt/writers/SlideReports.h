@@ -6,12 +6,12 @@
 
 namespace vellox::ppt {
 
-class Rules;
+class PresentationModel;
 class SlideImpl;
 
-/// Reports shapes in groups that were changed where the rules don't reach them, names with characters that are left out, and what of the layout the slide
-/// lacks.
-void reportOnSlide(const SlideImpl& slide, const Rules& rules);
+/// Reports shapes in groups that were changed where the rules don't reach them, names with characters that are left
+/// out, what of the layout the slide lacks, placeholders that were left empty, and texts and tables that find no room.
+void reportOnSlide(const SlideImpl& slide, const PresentationModel& model);
 
 } // namespace vellox::ppt
 

@@ -32,7 +32,7 @@ void SlideWriter::write() {
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
-    reportOnSlide(slide_, getRules());
+    reportOnSlide(slide_, getModel());
     writeShapes(document, shapes, taken);
     arrange(document.getShapeTree());
     opc::MarkupBuffer text;

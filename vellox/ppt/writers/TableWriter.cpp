@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NameHint.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -79,10 +80,13 @@ void TableWriter::reportNoRows() const {
 }
 
 void TableWriter::reportMissingStyle() const {
-    getWriter().report(ppt_finding::invalidTableStyle(table_.getStyleName().get()));
+    const std::wstring& style = table_.getStyleName().get();
+    const NameHint hint =
+        isHeard(table_) ? makeNameHint(style, getModel().listTableStyleNames()) : NameHint();
+    getWriter().report(ppt_finding::invalidTableStyle(style, hint.getTail()));
     if (!wantsErrors())
         return;
-    const ppt_warning::invalidTableStyle id(table_.getStyleName().get());
+    const ppt_warning::invalidTableStyle id(style);
     MessageDispatcher::getTheDispatcher().dispatch(
         ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
 }

@@ -45,6 +45,10 @@ inline constexpr XMLCh kSp[] = u"p:sp";
 inline constexpr XMLCh kSpPr[] = u"p:spPr";
 inline constexpr XMLCh kExtLst[] = u"p:extLst";
 inline constexpr XMLCh kSpTree[] = u"p:spTree";
+inline constexpr XMLCh kSldSz[] = u"p:sldSz";
+inline constexpr XMLCh kTitleStyle[] = u"p:titleStyle";
+inline constexpr XMLCh kBodyStyle[] = u"p:bodyStyle";
+inline constexpr XMLCh kTxStyles[] = u"p:txStyles";
 inline constexpr XMLCh kTxBody[] = u"p:txBody";
 inline constexpr XMLCh kXfrm[] = u"p:xfrm";
 
@@ -55,6 +59,7 @@ inline constexpr XMLCh kP14SldIdLst[] = u"p14:sldIdLst";
 // DrawingML elements
 inline constexpr XMLCh kABlip[] = u"a:blip";
 inline constexpr XMLCh kABodyPr[] = u"a:bodyPr";
+inline constexpr XMLCh kADefRPr[] = u"a:defRPr";
 inline constexpr XMLCh kACs[] = u"a:cs";
 inline constexpr XMLCh kAEndParaRPr[] = u"a:endParaRPr";
 inline constexpr XMLCh kAExt[] = u"a:ext";

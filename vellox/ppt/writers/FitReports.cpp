@@ -1,0 +1,161 @@
+#include "vellox/ppt/writers/FitReports.h"
+
+#include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/CharacterFormats.h"
+#include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TextImpl.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace vellox::ppt {
+
+namespace {
+
+constexpr double kEmuPerPoint = 12700;
+constexpr double kDefaultSize = 18; // in points, as that of the other sizes here
+constexpr double kCharacterWidth = 0.5, kWideCharacterWidth = 1, kLineHeight = 1.2; // of the size
+constexpr double kMarginX = 91440, kMarginY = 45720;                                // in EMU, on either side
+constexpr double kTolerance = 1.15;
+
+struct Room {
+    double cx, cy;
+};
+
+// From here on characters are as wide as they are high.
+constexpr wchar_t kFirstWide = L'\x2E80';
+
+double findSize(const ElementImpl& element, double inherited) {
+    const auto format = element.getStyle().getFormat(FormatType::FontSize);
+    const auto* size = dynamic_cast<const FontSize*>(format.get());
+    const double points = size ? size->getDimension().getPointNumber() : 0;
+    return points > 0 ? points : inherited;
+}
+
+// The height of a paragraph, in EMU, where lines are so wide.
+class ParagraphMeasure {
+public:
+    ParagraphMeasure(double size, double width) : width_(width), size_(size) {}
+
+    void add(const std::wstring& text, double size) {
+        size_ = std::max(size_, size);
+        for (const wchar_t c : text) {
+            if (c == L'\n')
+                endLine();
+            else
+                line_ += size * kEmuPerPoint * (c < kFirstWide ? kCharacterWidth : kWideCharacterWidth);
+        }
+    }
+    double finish() {
+        endLine();
+        return lines_ * size_ * kEmuPerPoint * kLineHeight;
+    }
+
+private:
+    void endLine() {
+        lines_ += std::max(1.0, std::ceil(line_ / width_));
+        line_ = 0;
+    }
+
+    double width_, size_;
+    double line_ = 0, lines_ = 0;
+};
+
+double measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
+    ParagraphMeasure measure(size, width);
+    for (const auto& child : paragraph.getChildren())
+        if (const auto* text = implAs<TextImpl>(*child))
+            measure.add(text->getTextContent(), findSize(*text, size));
+    return measure.finish();
+}
+
+// @param sizes of the template, by level; null where it has none
+// @param size in force; 0 if nobody has set one
+double measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double size, double width) {
+    double height = 0;
+    for (const auto& child : box.getChildren()) {
+        const auto* paragraph = implAs<ParagraphImpl>(*child);
+        if (!paragraph)
+            continue;
+        const unsigned int level = paragraph->getLevel().isSet() ? paragraph->getLevel().get() : 1;
+        const double given = sizes && level >= 1 && level <= sizes->size() ? (*sizes)[level - 1] / 100.0 : 0;
+        const double own = findSize(*paragraph, size > 0 ? size : given);
+        height += measureParagraph(*paragraph, own > 0 ? own : kDefaultSize, width);
+    }
+    return height;
+}
+
+// Formats of slide and shape, as those of what stands between.
+double findSizeAbove(const ElementImpl& shape) {
+    const PPTNodeImpl* parent = shape.getParent();
+    const ElementImpl* above = parent ? parent->asElement() : nullptr;
+    return findSize(shape, above ? findSizeAbove(*above) : 0);
+}
+
+const PlaceText* findPlace(const ShapeImpl& shape) {
+    const auto& record = shape.getTemplateShape();
+    if (!record)
+        return nullptr;
+    return record->textPlace ? record->textPlace.get() : record->successorPlace.get();
+}
+
+double findLength(const BaseAttribute<Dimension>& own, const PlaceText* place,
+                  std::wstring PlaceText::*inherited) {
+    if (own.isSet())
+        return own.get().getEMUNumber();
+    return place ? str2double(place->*inherited) : 0;
+}
+
+std::wstring toPercent(double part) {
+    constexpr double kStep = 10;
+    return std::to_wstring(static_cast<long>(std::min(std::round(part * 100 / kStep) * kStep, 1e6)));
+}
+
+} // namespace
+
+void reportFit(const ShapeImpl& textBox) {
+    if (textBox.getChildren().empty())
+        return;
+    const PlaceText* place = findPlace(textBox);
+    const double cx = findLength(textBox.getGeometry().cx, place, &PlaceText::cx) - 2 * kMarginX;
+    const double cy = findLength(textBox.getGeometry().cy, place, &PlaceText::cy) - 2 * kMarginY;
+    if (cx <= 0 || cy <= 0)
+        return;
+    const auto& record = textBox.getTemplateShape();
+    const double height =
+        measureParagraphs(textBox, record ? &record->textSizes : nullptr, findSizeAbove(textBox), cx);
+    if (height > cy * kTolerance)
+        report(ppt_finding::textTooLong(toPercent(height / cy)), textBox);
+}
+
+void reportFit(const TableImpl& table, double slideHeight) {
+    const PlaceText* place = findPlace(table);
+    const double cx = findLength(table.getGeometry().cx, place, &PlaceText::cx);
+    const double y = findLength(table.getGeometry().y, place, &PlaceText::y);
+    double room = findLength(table.getGeometry().cy, place, &PlaceText::cy);
+    if (room <= 0)
+        room = slideHeight - y;
+    const double column = table.getNCols() > 0 ? cx / table.getNCols() - 2 * kMarginX : 0;
+    if (room <= 0 || column <= 0)
+        return;
+    const double size = findSizeAbove(table);
+    double height = 0;
+    for (const auto& child : table.getChildren()) {
+        const ElementImpl* row = implOf<PPTNodeImpl>(*child)->asElement();
+        double highest = kDefaultSize * kEmuPerPoint * kLineHeight;
+        for (const auto& cell : row ? row->getChildren() : PPTNode::Children()) {
+            const ElementImpl* entry = implOf<PPTNodeImpl>(*cell)->asElement();
+            const double own = entry ? findSize(*entry, findSize(*row, size)) : size;
+            highest = std::max(highest, measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column));
+        }
+        height += highest + 2 * kMarginY;
+    }
+    if (height > room * kTolerance)
+        report(ppt_finding::tableTooLong(toPercent(height / room)), table);
+}
+
+} // namespace vellox::ppt
