@@ -28,6 +28,7 @@ are matched by:
 |---|---|
 | char | a text |
 | logical scalar | one truth value |
+| uint8 vector | bytes, such as those of an image |
 | uint32 scalar | one whole number that isn't negative |
 | double scalar | one number |
 | any | what none of the others takes |

@@ -47,6 +47,17 @@ void deallocate(PyObject* self) {
     freeInstance(self);
 }
 
+/// Whether objects of a class are made of bytes.
+bool takesBytes(const BoundClass& bound) {
+    const auto isBytes = [](const Parameter& parameter) {
+        return parameter.word.getKind() == SignatureWord::Kind::Bytes;
+    };
+    return std::any_of(bound.constructors.begin(), bound.constructors.end(),
+                       [&](const BoundConstructor& each) {
+                           return std::any_of(each.signature.begin(), each.signature.end(), isBytes);
+                       });
+}
+
 ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const bool isForUsers =
         !pyClass.bound.constructors.empty() && !pyClass.bound.constructors.front().isHidden;
@@ -57,6 +68,7 @@ ObjectPtr construct(const PyClass& pyClass, PyObject* arguments) {
     const auto count = static_cast<std::size_t>(PyTuple_GET_SIZE(arguments));
     Reading reading;
     reading.rowsAreTables = true;
+    reading.imagesAreBytes = takesBytes(pyClass.bound);
     reading.digits = getDigits(pyClass.bound);
     const PyCall call(values, count, reading);
     const std::size_t chosen =

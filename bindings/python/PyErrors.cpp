@@ -128,6 +128,7 @@ constexpr struct {
     {"tableCannotBeReplaced", Kind::State},
     {"placeholderWasReplacedByObject", Kind::State},
     {"missingPictureFile", Kind::File},
+    {"unknownImageBytes", Kind::Value},
     {"invalidLayoutName", Kind::Name},
     {"notAsAsked", Kind::Value},
     {"invalidLayoutOrSlideMasterName", Kind::Name},

@@ -27,6 +27,8 @@ std::string getTypeName(const SignatureWord& word) {
         return "int";
     case Kind::Double:
         return "float";
+    case Kind::Bytes:
+        return "bytes";
     case Kind::Any:
         return "Any";
     case Kind::Void:

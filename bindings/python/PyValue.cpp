@@ -16,6 +16,7 @@ using hostbind::wantsDigits;
 
 namespace {
 
+constexpr char kFrames[] = "vellox._frames";
 constexpr int kUnknownClass = 0;
 constexpr int kInt32Class = 12;
 
@@ -42,9 +43,9 @@ bool isMasked(PyObject* object) {
     return has(object, "mask") && has(object, "filled") && has(object, "tolist");
 }
 
-/// What a function of the package's own makes of a frame or a column.
-PyRef readForeign(const char* function, PyObject* object) {
-    const PyRef module = checked(PyImport_ImportModule("vellox._frames"));
+/// What a function of the package's own makes of an object of another library.
+PyRef readForeign(const char* moduleName, const char* function, PyObject* object) {
+    const PyRef module = checked(PyImport_ImportModule(moduleName));
     return checked(PyObject_CallMethod(module.get(), function, "O", object));
 }
 
@@ -69,8 +70,8 @@ PyValue::PyValue(PyObject* object, const Reading& reading)
 void PyValue::read() {
     if (reading_.depth > kDeepestList)
         throw PythonError(PyExc_ValueError, "lists are nested too deeply");
-    static_cast<void>(readPlain() || readList() || readBuffer(object_) || readFrame() || readArray() ||
-                      readNumberLike() || readPath() || readText()); // else it stays unknown
+    static_cast<void>(readPlain() || readImage() || readList() || readBuffer(object_) || readFrame() ||
+                      readArray() || readNumberLike() || readPath() || readText()); // else it stays unknown
 }
 
 PyValue::~PyValue() = default;
@@ -94,6 +95,19 @@ bool PyValue::readPlain() {
     } else {
         return false;
     }
+    return true;
+}
+
+/// Images, in what they are kept in or made by.
+bool PyValue::readImage() {
+    if (!reading_.imagesAreBytes)
+        return false;
+    PyRef bytes = readForeign("vellox._images", "read_image", object_);
+    if (!PyBytes_Check(bytes.get()))
+        return false;
+    image_ = std::move(bytes);
+    code_ = HvUint8Class;
+    setShape(1, static_cast<std::size_t>(PyBytes_GET_SIZE(image_.get())));
     return true;
 }
 
@@ -180,7 +194,7 @@ bool PyValue::readBuffer(PyObject* object) {
 bool PyValue::readFrame() {
     if (!has(object_, "columns") || !has(object_, "to_numpy"))
         return false;
-    const PyRef rows = checked(PySequence_Tuple(readForeign("read_frame", object_).get()));
+    const PyRef rows = checked(PySequence_Tuple(readForeign(kFrames, "read_frame", object_).get()));
     readRow(rows);
     readTableRows(rows);
     return true;
@@ -195,7 +209,7 @@ bool PyValue::readArray() {
     if (!has(object_, "__array__"))
         return false;
     const PyRef array = has(object_, "to_numpy")
-                            ? readForeign("read_column", object_)
+                            ? readForeign(kFrames, "read_column", object_)
                             : checked(PyObject_CallMethod(object_, "__array__", nullptr));
     if (isList(array.get()))
         readRow(checked(PySequence_Tuple(array.get())));
@@ -384,6 +398,13 @@ const double* PyValue::getDoubles() const {
     return elements_ ? elements_->numbers.data() : nullptr;
 }
 
+std::vector<unsigned char> PyValue::getBytes() const {
+    if (!image_)
+        return hvArray::getBytes();
+    const auto* bytes = reinterpret_cast<const unsigned char*>(PyBytes_AS_STRING(image_.get()));
+    return {bytes, bytes + PyBytes_GET_SIZE(image_.get())};
+}
+
 const hvArray* PyValue::getCell(std::size_t i) const {
     if (!elements_ || i >= elements_->items.size())
         return nullptr;
@@ -391,7 +412,7 @@ const hvArray* PyValue::getCell(std::size_t i) const {
     std::unique_ptr<PyValue>& cell = elements_->cells[i];
     if (!cell)
         cell = std::make_unique<PyValue>(elements_->items[i].get(),
-                                         Reading{false, reading_.digits, reading_.depth + 1});
+                                         Reading{false, false, reading_.digits, reading_.depth + 1});
     return cell.get();
 }
 

@@ -16,7 +16,8 @@ namespace vellox::ppt::python {
 
 /// What the reading of a value depends on besides the value.
 struct Reading {
-    bool rowsAreTables = false; ///< a list of equally long lists is a table, else a row of rows
+    bool rowsAreTables = false;  ///< a list of equally long lists is a table, else a row of rows
+    bool imagesAreBytes = false; ///< what holds an image, or can make one, is that image's bytes
     hostbind::Digits digits = hostbind::Digits::OfItems;
     unsigned int depth = 0; ///< how many lists this value stands in
 };
@@ -40,6 +41,8 @@ struct Reading {
 /// | what has a `__str__` of its own         | char                                          |
 /// | in a list, what has a `__repr__` too    | char                                          |
 /// | objects of the library                  | object                                        |
+/// | where images are bytes: bytes, streams, | uint8, of one row                             |
+/// | what has `savefig`, `save`, `_repr_png_`|                                               |
 class PyValue : public hvArray {
 public:
     /// @throws PythonError for an object that fails to give what it promises
@@ -59,6 +62,7 @@ public:
     std::wstring getString() const override;
     const bool* getLogicals() const override;
     const double* getDoubles() const override;
+    std::vector<unsigned char> getBytes() const override;
     const hvArray* getCell(std::size_t i) const override;
     boost::shared_ptr<objreg::HostInterface> getObject(std::size_t i) const override;
 
@@ -67,6 +71,7 @@ private:
 
     /// @{ One kind of object each; false if it isn't of the kind.
     bool readPlain();
+    bool readImage();
     bool readList();
     bool readBuffer(PyObject* object);
     bool readFrame();
@@ -95,6 +100,7 @@ private:
     std::size_t dimensions_[2] = {1, 1};
     double number_ = 0;
     PyRef text_;
+    PyRef image_; // bytes
     std::unique_ptr<Elements> elements_;
 };
 

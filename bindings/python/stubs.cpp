@@ -21,6 +21,7 @@ constexpr char kHead[] = R"(# Written from the class table of the library.
 
 import datetime
 import os
+from _typeshed import SupportsRead
 from collections.abc import Callable, Sequence
 from typing import Any, Generic, Never, Protocol, SupportsFloat, SupportsIndex, TypeVar, overload
 
@@ -34,6 +35,18 @@ class _Frame(Protocol):
     def columns(self) -> Any: ...
     def to_numpy(self) -> Any: ...
 
+class _Figure(Protocol):
+    @property
+    def savefig(self) -> Callable[..., Any]: ...
+
+class _Saved(Protocol):
+    @property
+    def save(self) -> Callable[..., Any]: ...
+
+class _Shown(Protocol):
+    def _repr_png_(self) -> Any: ...
+
+_Image = bytes | bytearray | memoryview | SupportsRead[bytes] | _Figure | _Saved | _Shown
 _Text = str | os.PathLike[str] | datetime.date | datetime.time | datetime.timedelta
 _Number = SupportsFloat | SupportsIndex
 _Items = list[Any] | tuple[Any, ...] | float | memoryview | _Array | _Frame | None
@@ -137,6 +150,8 @@ std::string getArgumentType(const Parameter& parameter, bool isFirst) {
         return "SupportsIndex";
     case SignatureWord::Kind::Double:
         return "_Number";
+    case SignatureWord::Kind::Bytes:
+        return "_Image";
     case SignatureWord::Kind::Any:
         break;
     default:

@@ -143,6 +143,10 @@ struct VELLOX_API missingPictureFile : MsgID {
     missingPictureFile(const std::wstring& slide, const std::wstring& shape, const std::wstring& file)
         : MsgID(kCatalog, "missingPictureFile", {slide, shape, file}) {}
 };
+/// A picture is made of bytes that are no image of a known kind.
+struct VELLOX_API unknownImageBytes : MsgID {
+    explicit unknownImageBytes(const std::wstring& count) : MsgID(kCatalog, "unknownImageBytes", {count}) {}
+};
 /// A table that stands nowhere is to be replaced.
 struct VELLOX_API tableCannotBeReplaced : MsgID {
     tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}

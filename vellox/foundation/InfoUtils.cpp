@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
 #include "vellox/host/services/HostServices.h"
+#include "vellox/host/services/ImageProbe.h"
 #include "vellox/host/services/Utf8.h"
 
 #include <array>
@@ -26,18 +27,26 @@ constexpr std::size_t kFrameLeft = 6, kFrameTop = 7, kFrameRight = 8, kFrameBott
 
 using EmfHeader = std::array<std::uint32_t, kEmfHeaderWords>;
 
-bool readEmfHeader(const std::wstring& path, EmfHeader& header) {
-    std::error_code failure;
-    if (!std::filesystem::is_regular_file(toUtf8(path), failure))
-        return false; // a pipe might never answer
-    std::ifstream file(toUtf8(path), std::ios::binary);
+bool readEmfHeader(std::istream& image, EmfHeader& header) {
     std::array<unsigned char, 4 * kEmfHeaderWords> bytes{};
-    if (!file.read(reinterpret_cast<char*>(bytes.data()), bytes.size()))
+    if (!image.read(reinterpret_cast<char*>(bytes.data()), bytes.size()))
         return false;
     for (std::size_t i = 0; i < header.size(); ++i)
         header[i] = std::uint32_t(bytes[4 * i]) | std::uint32_t(bytes[4 * i + 1]) << 8 |
                     std::uint32_t(bytes[4 * i + 2]) << 16 | std::uint32_t(bytes[4 * i + 3]) << 24;
     return true;
+}
+
+ImageInfo readEmfSize(std::istream& image, const ImageInfo& unknown) {
+    EmfHeader header;
+    if (!readEmfHeader(image, header))
+        return unknown;
+    const double density = InfoUtils::getScreenPixelsPerInch();
+    const auto toPixels = [density](std::uint32_t from, std::uint32_t to) {
+        return density * static_cast<std::uint32_t>(to - from) / kHundredthMillimetresPerInch;
+    };
+    return ImageInfo(toPixels(header[kFrameLeft], header[kFrameRight]),
+                     toPixels(header[kFrameTop], header[kFrameBottom]));
 }
 
 } // namespace
@@ -55,15 +64,12 @@ ImageInfo ImageInfo::make(const std::wstring& path) const {
 }
 
 ImageInfo ImageInfoEMF::make(const std::wstring& path) const {
-    EmfHeader header;
-    if (!readEmfHeader(path, header))
-        return ImageInfo(getWidth(), getHeight());
-    const double density = InfoUtils::getScreenPixelsPerInch();
-    const auto toPixels = [density](std::uint32_t from, std::uint32_t to) {
-        return density * static_cast<std::uint32_t>(to - from) / kHundredthMillimetresPerInch;
-    };
-    return ImageInfo(toPixels(header[kFrameLeft], header[kFrameRight]),
-                     toPixels(header[kFrameTop], header[kFrameBottom]));
+    const ImageInfo unknown(getWidth(), getHeight());
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(toUtf8(path), failure))
+        return unknown; // a pipe might never answer
+    std::ifstream file(toUtf8(path), std::ios::binary);
+    return readEmfSize(file, unknown);
 }
 
 ImageInfo ImageInfoSVG::make(const std::wstring&) const {
@@ -78,6 +84,15 @@ ImageInfo InfoUtils::getImageInfo(const std::wstring& path) {
         *new const std::map<std::wstring, const ImageInfo*>{{L"emf", &emf}, {L"svg", &svg}};
     const auto found = readers.find(toLowerString(FileUtils::getFileNameExtension(path)));
     return (found == readers.end() ? &plain : found->second)->make(path);
+}
+
+ImageInfo InfoUtils::getImageInfo(std::istream& image, const std::wstring& extension) {
+    double width = kDefaultSize, height = kDefaultSize;
+    if (extension == L"emf")
+        return readEmfSize(image, ImageInfo(width, height));
+    if (extension != L"svg")
+        host::readImageSize(image, width, height);
+    return ImageInfo(width, height);
 }
 
 double InfoUtils::getScreenPixelsPerInch() {

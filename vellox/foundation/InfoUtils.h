@@ -4,6 +4,7 @@
 #ifndef VELLOX_FOUNDATION_INFOUTILS_H
 #define VELLOX_FOUNDATION_INFOUTILS_H
 
+#include <iosfwd>
 #include <string>
 
 #include "vellox/Api.h"
@@ -60,6 +61,8 @@ public:
     /// can't be read as an image counts as 300 by 300 pixels.
     /// @throws failedToDetermineFilename for a path that ends in a separator
     static ImageInfo getImageInfo(const std::wstring& path);
+    /// The size of an image in a stream, as that of a file with an extension in lower case.
+    static ImageInfo getImageInfo(std::istream& image, const std::wstring& extension);
     /// What the host says, asked for once; 96 where it says nothing.
     static double getScreenPixelsPerInch();
 };

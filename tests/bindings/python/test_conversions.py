@@ -4,7 +4,9 @@ import datetime
 import decimal
 import enum
 import fractions
+import io
 import pathlib
+import struct
 import uuid
 
 import numpy as np
@@ -12,6 +14,8 @@ import pandas as pd
 import pytest
 
 import vellox.ppt as ppt
+
+PNG = b"\x89PNG\r\n\x1a\n" + struct.pack(">I4sII", 13, b"IHDR", 30, 20) + b"\x08\x02\0\0\0" + bytes(4) + bytes(4) + b"IDAT"
 
 
 class Color(str, enum.Enum):
@@ -354,3 +358,34 @@ def test_overloads_take_numbers_as_they_want_them():
         with pytest.raises(TypeError, match=r"Paragraph\(text: str, level: int\)") as caught:
             ppt.Paragraph(*arguments)
         assert repr(arguments)[1:-1].rstrip(",") in str(caught.value)
+
+
+class Figure:
+    def savefig(self, stream, format):
+        stream.write({"png": PNG}[format])
+
+
+class Image:
+    def save(self, stream, format):
+        stream.write({"PNG": PNG}[format])
+
+
+class Shown:
+    def _repr_png_(self):
+        return PNG
+
+
+@pytest.mark.parametrize("source", [PNG, bytearray(PNG), memoryview(PNG), io.BytesIO(PNG), Figure(), Image(), Shown()])
+def test_images_come_from_what_holds_or_makes_them(source):
+    picture = ppt.Picture(source)
+    assert (picture.Width, picture.Height) == ("30px", "20px")
+
+
+def test_what_is_no_image_is_refused():
+    with pytest.raises(ppt.BadValueError) as caught:
+        ppt.Picture(b"<html/>")
+    assert caught.value.identifier == "vellox:ppt_error:unknownImageBytes"
+    with pytest.raises(TypeError, match="an image is bytes, not str"):
+        ppt.Picture(io.StringIO("text"))
+    with pytest.raises(TypeError):
+        ppt.Picture(3.5)

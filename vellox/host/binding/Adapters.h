@@ -80,6 +80,10 @@ template <> struct FromHost<double> {
     static constexpr const char* kWord = "double scalar";
     static double convert(const hvArray& value) { return value.getDouble(); }
 };
+template <> struct FromHost<std::vector<unsigned char>> {
+    static constexpr const char* kWord = "uint8 vector";
+    static std::vector<unsigned char> convert(const hvArray& value) { return value.getBytes(); }
+};
 /// A value as it is, for an adapter to sort out.
 template <> struct FromHost<hvArray> {
     static constexpr const char* kWord = "any";

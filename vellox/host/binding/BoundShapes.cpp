@@ -20,6 +20,8 @@ BoundClass describeShape() {
         optionalProperty<Shape, &Shape::getWidth, &Shape::setWidth, &Shape::unsetWidth>("Width", "A length."),
         optionalProperty<Shape, &Shape::getHeight, &Shape::setHeight, &Shape::unsetHeight>("Height",
                                                                                            "A length."),
+        optionalProperty<Shape, &Shape::getAltText, &Shape::setAltText, &Shape::unsetAltText>(
+            "AltText", "What the shape shows, in words, for people who can't see it."),
     };
     return bound;
 }
@@ -44,9 +46,20 @@ BoundClass describeTextBox() {
 }
 
 BoundClass describePicture() {
-    BoundClass bound =
-        describe<Picture>("Picture", "Shape", "An image from a file, in its own size unless told otherwise.");
-    bound.constructors = {make<Picture>(), make<Picture, std::wstring>({"path"})};
+    BoundClass bound = describe<Picture>(
+        "Picture", "Shape", "An image from a file or from memory, in its own size unless told otherwise.");
+    bound.constructors = {make<Picture>(), make<Picture, std::wstring>({"path"}),
+                          make<Picture, std::vector<unsigned char>>({"image"})};
+    bound.properties = {
+        optionalProperty<Picture, &Picture::getFit, &Picture::setFit, &Picture::unsetFit>(
+            "Fit", "How it goes into its box: \"contain\", \"enlarge\", \"cover\" or \"stretch\"."),
+        optionalProperty<Picture, &Picture::getFitPosition, &Picture::setFitPosition,
+                         &Picture::unsetFitPosition>(
+            "FitPosition", "Where it stands in its box, or what is kept of it: \"center\", \"top\", "
+                           "\"topLeft\" and others."),
+        optionalProperty<Picture, &Picture::getLink, &Picture::setLink, &Picture::unsetLink>(
+            "Link", "Where a click on it leads, such as \"https://example.org/report\"."),
+    };
     bound.methods = {makeReplaceRow<Picture, Picture>("picture")};
     return bound;
 }

@@ -19,6 +19,7 @@ constexpr struct {
     {"logical scalar", Kind::Logical},
     {"uint32 scalar", Kind::Uint32},
     {"double scalar", Kind::Double},
+    {"uint8 vector", Kind::Bytes},
     {"any", Kind::Any},
     {"void", Kind::Void},
     {"char or double scalar", Kind::Compound},
@@ -64,6 +65,9 @@ bool SignatureWord::matches(const hvArray& value) const {
         return code == HvUint32Class && value.getNElements() == 1;
     case Kind::Double:
         return code == HvDoubleClass && value.getNElements() == 1;
+    case Kind::Bytes:
+        return code == HvUint8Class && value.getNDimensions() == 2 &&
+               (value.getDimension(0) == 1 || value.getDimension(1) == 1);
     case Kind::Object:
         return PPTObjFromHostBase(value, className_).hasImpl();
     case Kind::Any:

@@ -29,13 +29,14 @@ struct Arguments {
 ///
 ///     "char"            a text                        "logical scalar"   one truth value
 ///     "uint32 scalar"   one unsigned 32-bit number    "double scalar"    one number
+///     "uint8 vector"    bytes, such as an image's
 ///     "any"             any value                     "void"             no result
 ///     a class's name    one object of it or a subclass
 ///
 /// and, for what a property holds, "list of" a class, "char or double scalar", and a class's name and "vector".
 class VELLOX_API SignatureWord {
 public:
-    enum class Kind { Char, Logical, Uint32, Double, Any, Void, Compound, Object };
+    enum class Kind { Char, Logical, Uint32, Double, Bytes, Any, Void, Compound, Object };
 
     /// @param word as above, the names of classes without their package
     explicit SignatureWord(const std::string& word);

@@ -20,24 +20,24 @@ namespace {
 constexpr tmsize_t kMaxTiffAllocation = 64 << 20;
 
 int readBytes(void* user, char* target, int count) {
-    auto& file = *static_cast<std::ifstream*>(user);
-    file.read(target, count);
-    return static_cast<int>(file.gcount());
+    auto& image = *static_cast<std::istream*>(user);
+    image.read(target, count);
+    return static_cast<int>(image.gcount());
 }
 
 void skipBytes(void* user, int count) {
-    static_cast<std::ifstream*>(user)->seekg(count, std::ios::cur);
+    static_cast<std::istream*>(user)->seekg(count, std::ios::cur);
 }
 
 int isAtEnd(void* user) {
-    return !static_cast<std::ifstream*>(user)->good();
+    return !static_cast<std::istream*>(user)->good();
 }
 
-bool readRasterSize(std::ifstream& file, double& width, double& height) {
+bool readRasterSize(std::istream& image, double& width, double& height) {
     const stbi_io_callbacks callbacks{readBytes, skipBytes, isAtEnd};
     int w = 0, h = 0, components = 0;
     // A BMP that is stored from the top down says so with a negative height.
-    if (!stbi_info_from_callbacks(&callbacks, &file, &w, &h, &components) || w <= 0 || h == 0)
+    if (!stbi_info_from_callbacks(&callbacks, &image, &w, &h, &components) || w <= 0 || h == 0)
         return false;
     width = w;
     height = std::abs(static_cast<double>(h));
@@ -49,14 +49,47 @@ int dropMessage(TIFF*, void*, const char*, const char*, va_list) {
     return 1;
 }
 
-bool readTiffSize(const std::string& path, double& width, double& height) {
+/// @{ A stream as libtiff reads files.
+tmsize_t readTiff(thandle_t user, void* target, tmsize_t count) {
+    auto& image = *static_cast<std::istream*>(user);
+    image.clear();
+    image.read(static_cast<char*>(target), count);
+    return image.gcount();
+}
+
+tmsize_t refuseToWrite(thandle_t, void*, tmsize_t) {
+    return 0;
+}
+
+toff_t seekTiff(thandle_t user, toff_t offset, int whence) {
+    auto& image = *static_cast<std::istream*>(user);
+    image.clear();
+    const std::ios::seekdir from = whence == SEEK_SET   ? std::ios::beg
+                                   : whence == SEEK_CUR ? std::ios::cur
+                                                        : std::ios::end;
+    image.seekg(static_cast<std::streamoff>(offset), from);
+    return static_cast<toff_t>(image.tellg());
+}
+
+int closeNothing(thandle_t) {
+    return 0;
+}
+
+toff_t getTiffSize(thandle_t user) {
+    return seekTiff(user, 0, SEEK_END);
+}
+/// @}
+
+bool readTiffSize(std::istream& image, double& width, double& height) {
     const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
                                                                                    TIFFOpenOptionsFree);
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxTiffAllocation);
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), dropMessage, nullptr);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), dropMessage, nullptr);
-    const std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff(TIFFOpenExt(path.c_str(), "rm", options.get()),
-                                                           TIFFClose);
+    const std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff(
+        TIFFClientOpenExt("image", "rm", &image, readTiff, refuseToWrite, seekTiff, closeNothing, getTiffSize,
+                          nullptr, nullptr, options.get()),
+        TIFFClose);
     constexpr std::uint32_t kMost = std::numeric_limits<std::int32_t>::max();
     std::uint32_t w = 0, h = 0;
     if (!tiff || !TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &w) ||
@@ -67,11 +100,11 @@ bool readTiffSize(const std::string& path, double& width, double& height) {
     return true;
 }
 
-bool looksLikeTiff(std::ifstream& file) {
+bool looksLikeTiff(std::istream& image) {
     std::array<char, 4> magic{};
-    file.read(magic.data(), magic.size());
-    file.clear();
-    file.seekg(0);
+    image.read(magic.data(), magic.size());
+    image.clear();
+    image.seekg(0);
     const bool little = magic[0] == 'I' && magic[1] == 'I' && (magic[2] == 42 || magic[2] == 43);
     const bool big = magic[0] == 'M' && magic[1] == 'M' && (magic[3] == 42 || magic[3] == 43);
     return little || big;
@@ -85,9 +118,11 @@ bool readImageSize(const std::string& path, double& width, double& height) {
     if (!std::filesystem::is_regular_file(path, failure))
         return false;
     std::ifstream file(path, std::ios::binary);
-    if (!file)
-        return false;
-    return looksLikeTiff(file) ? readTiffSize(path, width, height) : readRasterSize(file, width, height);
+    return file && readImageSize(file, width, height);
+}
+
+bool readImageSize(std::istream& image, double& width, double& height) {
+    return looksLikeTiff(image) ? readTiffSize(image, width, height) : readRasterSize(image, width, height);
 }
 
 } // namespace vellox::host

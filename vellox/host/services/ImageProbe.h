@@ -4,6 +4,7 @@
 #ifndef VELLOX_HOST_SERVICES_IMAGEPROBE_H
 #define VELLOX_HOST_SERVICES_IMAGEPROBE_H
 
+#include <istream>
 #include <string>
 
 namespace vellox::host {
@@ -14,6 +15,8 @@ namespace vellox::host {
 /// or PSD image of at least one pixel. Not readable are run-length encoded BMPs, PSDs that aren't RGB, and
 /// images of more than about 2^30 pixels
 bool readImageSize(const std::string& pathUtf8, double& width, double& height);
+/// The same of an image in a stream, from its first byte.
+bool readImageSize(std::istream& image, double& width, double& height);
 
 } // namespace vellox::host
 

@@ -42,6 +42,12 @@ const double* hvArray::getDoubles() const {
     return nullptr;
 }
 
+std::vector<unsigned char> hvArray::getBytes() const {
+    const double* numbers = getClassCode() == HvUint8Class ? getDoubles() : nullptr;
+    return numbers ? std::vector<unsigned char>(numbers, numbers + getNElements())
+                   : std::vector<unsigned char>();
+}
+
 const hvArray* hvArray::getCell(std::size_t) const {
     return nullptr;
 }

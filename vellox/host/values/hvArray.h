@@ -23,6 +23,7 @@ enum HvClass : int {
     HvDoubleClass = 6,
     HvSingleClass = 7,
     HvFirstIntegerClass = 8, ///< int8; uint8, int16 ... follow
+    HvUint8Class = 9,
     HvUint32Class = 13,
     HvLastIntegerClass = 15, ///< uint64
     HvObjectClass = 17
@@ -56,6 +57,8 @@ public:
     virtual const bool* getLogicals() const;
     /// The elements of a numeric value of any class, each as a double; they live as long as the value.
     virtual const double* getDoubles() const;
+    /// The elements of a uint8 value.
+    virtual std::vector<unsigned char> getBytes() const;
     /// Element i of a cell value; it belongs to this value. Null for an element that isn't there.
     virtual const hvArray* getCell(std::size_t i) const;
     /// Element i of an object value; empty if that isn't an object of the host's object system.

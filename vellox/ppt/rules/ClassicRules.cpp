@@ -205,6 +205,14 @@ const ElementForm* ClassicRules::formOf(std::u16string_view) const {
     return nullptr;
 }
 
+bool ClassicRules::sharesImages() const {
+    return false;
+}
+
+bool ClassicRules::readsTraits() const {
+    return false;
+}
+
 Missing ClassicRules::missingFile() const {
     return Missing::Passed;
 }

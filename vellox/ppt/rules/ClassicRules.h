@@ -41,6 +41,8 @@ public:
     bool alignsNumbers() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
+    bool sharesImages() const override;
+    bool readsTraits() const override;
     PictureFacts sizeFree(const PictureFacts& picture) const override;
     std::optional<Box> fit(const PictureFacts& picture, const Box* place) const override;
 };

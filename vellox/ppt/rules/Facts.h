@@ -152,6 +152,7 @@ struct PictureFacts {
     std::optional<double> cx, cy;   ///< in EMU, as far as they are set
     bool isWidthOfFile = false;     ///< it counts as set, and yet nobody has asked for it
     bool isHeightOfFile = false;
+    double perInchX = 0, perInchY = 0; ///< pixels of the image per inch; 0 where it doesn't say
 };
 
 /// What a run of text holds: a text, and what that was made of if it was no text.

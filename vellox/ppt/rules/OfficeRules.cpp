@@ -316,25 +316,36 @@ const ElementForm* OfficeRules::formOf(std::u16string_view element) const {
     return findElementForm(element);
 }
 
+bool OfficeRules::sharesImages() const {
+    return true;
+}
+
+bool OfficeRules::readsTraits() const {
+    return true;
+}
+
 Missing OfficeRules::missingFile() const {
     return Missing::Refused;
 }
 
 // A length that is set beside one of the file's decides alone.
 PictureFacts OfficeRules::sizeFree(const PictureFacts& picture) const {
-    constexpr double kEmuPerPixel = 9525;
+    constexpr double kEmuPerPixel = 9525, kEmuPerInch = 914400;
     PictureFacts sized = picture;
     const bool hasWidth = picture.cx && !picture.isWidthOfFile;
     const bool hasHeight = picture.cy && !picture.isHeightOfFile;
     if (picture.pixelWidth <= 0 || picture.pixelHeight <= 0 || (hasWidth && hasHeight))
         return sized;
+    const bool hasDensity = picture.perInchX > 0 && picture.perInchY > 0;
+    const double width = picture.pixelWidth * (hasDensity ? kEmuPerInch / picture.perInchX : kEmuPerPixel);
+    const double height = picture.pixelHeight * (hasDensity ? kEmuPerInch / picture.perInchY : kEmuPerPixel);
     if (hasWidth) {
-        sized.cy = *picture.cx * picture.pixelHeight / picture.pixelWidth;
+        sized.cy = *picture.cx * height / width;
     } else if (hasHeight) {
-        sized.cx = *picture.cy * picture.pixelWidth / picture.pixelHeight;
+        sized.cx = *picture.cy * width / height;
     } else {
-        sized.cx = picture.pixelWidth * kEmuPerPixel;
-        sized.cy = picture.pixelHeight * kEmuPerPixel;
+        sized.cx = width;
+        sized.cy = height;
     }
     return sized;
 }

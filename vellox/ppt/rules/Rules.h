@@ -83,6 +83,10 @@ public:
     /// @return null to leave it as it was made
     virtual const ElementForm* formOf(std::u16string_view element) const = 0;
     virtual Missing missingFile() const = 0;
+    /// Whether images of the same bytes are put into the deck once.
+    virtual bool sharesImages() const = 0;
+    /// Whether it counts what an image says of its resolution and of how it is to be turned.
+    virtual bool readsTraits() const = 0;
     /// The size of a picture that is placed freely, as far as it has one.
     /// @return the facts with the size that counts
     virtual PictureFacts sizeFree(const PictureFacts& picture) const = 0;

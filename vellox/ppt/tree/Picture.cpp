@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/FitWords.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/PictureImpl.h"
 
@@ -32,8 +33,9 @@ void takeExtent(Extent& extent, const Extent& given) {
 
 PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const PictureImpl& picture)
     : NodeOf(former, takeName),
-      path_(picture.path_),
-      fileSize_(picture.fileSize_) {
+      image_(picture.image_),
+      fileSize_(picture.fileSize_),
+      wishes_(picture.wishes_) {
     takeExtent(geometry().cx, picture.getGeometry().cx);
     takeExtent(geometry().cy, picture.getGeometry().cy);
     announceCreated(*this);
@@ -41,8 +43,9 @@ PictureImpl::PictureImpl(const ShapeImpl& former, TakeName takeName, const Pictu
 
 PictureImpl::PictureImpl(const PictureImpl& other)
     : NodeOf(other),
-      path_(other.path_),
-      fileSize_(other.fileSize_) {
+      image_(other.image_),
+      fileSize_(other.fileSize_),
+      wishes_(other.wishes_) {
     announceCreated(*this);
 }
 
@@ -50,9 +53,9 @@ PictureImpl::~PictureImpl() {
     announceDestroyed(*this);
 }
 
-void PictureImpl::setPath(const std::wstring& path) {
-    fileSize_ = InfoUtils::getImageInfo(path);
-    path_ = path;
+void PictureImpl::setImage(const ImageSource& image) {
+    fileSize_ = image.getInfo();
+    image_ = image;
     geometry().cx.setFromFile(Dimension(num2str(fileSize_.getWidth())));
     geometry().cy.setFromFile(Dimension(num2str(fileSize_.getHeight())));
 }
@@ -73,6 +76,9 @@ Picture::Picture() : Picture(new PictureImpl) {}
 Picture::Picture(const std::wstring& path) : Picture(new PictureImpl) {
     pimpl()->setPath(path);
 }
+Picture::Picture(const std::vector<unsigned char>& image) : Picture(new PictureImpl) {
+    pimpl()->setImage(ImageSource(std::string(image.begin(), image.end())));
+}
 Picture::Picture(PictureImpl* impl) : Shape(impl) {}
 
 PictureImpl* Picture::pimpl() {
@@ -89,6 +95,42 @@ const std::wstring& Picture::getPath() const {
 
 void Picture::setPath(const std::wstring& path) {
     pimpl()->setPath(path);
+}
+
+const BaseAttribute<std::wstring>& Picture::getFit() const {
+    return pimpl()->getWishes().fit;
+}
+
+void Picture::setFit(const std::wstring& fit) {
+    pimpl()->wishes().fit.set(requireFit(fit).word);
+}
+
+void Picture::unsetFit() {
+    pimpl()->wishes().fit.unset();
+}
+
+const BaseAttribute<std::wstring>& Picture::getFitPosition() const {
+    return pimpl()->getWishes().fitPosition;
+}
+
+void Picture::setFitPosition(const std::wstring& position) {
+    pimpl()->wishes().fitPosition.set(requireFitPosition(position).word);
+}
+
+void Picture::unsetFitPosition() {
+    pimpl()->wishes().fitPosition.unset();
+}
+
+const BaseAttribute<std::wstring>& Picture::getLink() const {
+    return pimpl()->getWishes().link;
+}
+
+void Picture::setLink(const std::wstring& target) {
+    pimpl()->wishes().link.set(target);
+}
+
+void Picture::unsetLink() {
+    pimpl()->wishes().link.unset();
 }
 
 Picture Picture::replace(const Picture& picture) {

@@ -5,6 +5,7 @@
 #define VELLOX_PPT_TREE_PICTURE_H
 
 #include <string>
+#include <vector>
 
 #include "vellox/ppt/tree/Shape.h"
 
@@ -20,13 +21,44 @@ public:
     Picture();
     /// As setPath().
     explicit Picture(const std::wstring& path);
+    /// Of an image in memory, with its size. The bytes are copied once; what they hold says what kind it is.
+    /// @throws unknownImageBytes for what is no image of a known kind
+    explicit Picture(const std::vector<unsigned char>& image);
 
-    /// As it was given.
+    /// As it was given; empty for an image in memory.
     const std::wstring& getPath() const;
     /// Sets the file, and with it width and height to the image's own size in pixels; set another size
     /// afterwards. A file that can't be read counts as 300 by 300 pixels.
     /// @throws failedToDetermineFilename for a path that ends in a separator
     void setPath(const std::wstring& path);
+
+    /// @{ How the picture goes into its box: "contain", "enlarge", "cover" or "stretch", in any case. The box is that of
+    /// the shape in whose place it comes, or, of a free picture, its width and height where somebody has set both.
+    ///
+    /// - contain: as when nothing is set. In place of a shape at its own size, or the size that is set, shrunk until
+    ///   it fits; in the box of a free picture as large as it fits.
+    /// - enlarge: as large as it fits, also if its own size is smaller.
+    /// - cover: as large as it fills the box, with what goes beyond cut off.
+    /// - stretch: the box, whatever becomes of the proportions.
+    ///
+    /// @throws invalidPropertyValue for other words
+    const BaseAttribute<std::wstring>& getFit() const;
+    void setFit(const std::wstring& fit);
+    void unsetFit();
+    /// @}
+    /// @{ Where the picture stands in a box that it doesn't fill, and what is kept of one that is cut: "center" if
+    /// nothing is set, or "top", "bottom", "left", "right", "topLeft", "topRight", "bottomLeft", "bottomRight", in
+    /// any case.
+    /// @throws invalidPropertyValue for other words
+    const BaseAttribute<std::wstring>& getFitPosition() const;
+    void setFitPosition(const std::wstring& position);
+    void unsetFitPosition();
+    /// @}
+    /// @{ Where a click on the picture leads, such as L"https://example.org/report".
+    const BaseAttribute<std::wstring>& getLink() const;
+    void setLink(const std::wstring& target);
+    void unsetLink();
+    /// @}
 
     using Shape::replace;
     /// Puts a new picture, made from the given one, in this picture's place and under its name. The new one

@@ -4,7 +4,7 @@
 #ifndef VELLOX_PPT_TREE_PICTUREIMPL_H
 #define VELLOX_PPT_TREE_PICTUREIMPL_H
 
-#include "vellox/foundation/InfoUtils.h"
+#include "vellox/foundation/ImageSource.h"
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
@@ -24,8 +24,16 @@ public:
 
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
 
-    const std::wstring& getPath() const { return path_; }
-    void setPath(const std::wstring& path);
+    const std::wstring& getPath() const { return image_.getPath(); }
+    void setPath(const std::wstring& path) { setImage(ImageSource(path)); }
+    const ImageSource& getImage() const { return image_; }
+    void setImage(const ImageSource& image);
+    /// What is asked for beside the shape's own.
+    struct Wishes {
+        BaseAttribute<std::wstring> fit, fitPosition, link;
+    };
+    const Wishes& getWishes() const { return wishes_; }
+    Wishes& wishes() { return wishes_; }
     /// The size of the file when the path was set, in pixels, whatever width and height are now; 0 by 0 without
     /// a file.
     const ImageInfo& getFileSize() const { return fileSize_; }
@@ -34,8 +42,9 @@ public:
     virtual void checkReplaceable() const;
 
 private:
-    std::wstring path_;
+    ImageSource image_;
     ImageInfo fileSize_;
+    Wishes wishes_;
 };
 
 } // namespace vellox::ppt

@@ -31,14 +31,16 @@ ShapeImpl::ShapeImpl(const ShapeImpl& other)
       contentReplaced_(other.contentReplaced_),
       templateUid_(other.templateUid_),
       templateShape_(other.templateShape_),
-      geometry_(other.geometry_) {
+      geometry_(other.geometry_),
+      altText_(other.altText_) {
     announceCreated(*this);
 }
 
 ShapeImpl::ShapeImpl(const ShapeImpl& former, TakeName takeName)
     : templateUid_(former.templateUid_),
       templateShape_(former.templateShape_),
-      geometry_(former.geometry_) {
+      geometry_(former.geometry_),
+      altText_(former.altText_) {
     if (takeName == TakeName::Always)
         PPTNodeImpl::setName(former.getName());
     else if (geometry_.shapeName.isSet())
@@ -148,6 +150,18 @@ void Shape::setHeight(const std::wstring& length) {
 
 void Shape::unsetHeight() {
     pimpl()->geometry().cy.unset();
+}
+
+const BaseAttribute<std::wstring>& Shape::getAltText() const {
+    return pimpl()->getAltText();
+}
+
+void Shape::setAltText(const std::wstring& text) {
+    pimpl()->altText().set(text);
+}
+
+void Shape::unsetAltText() {
+    pimpl()->altText().unset();
 }
 
 void Shape::replace(const HvContentPtr& content) {

@@ -47,6 +47,13 @@ public:
     void unsetHeight();
     /// @}
 
+    /// @{ What the shape shows, in words, for people who can't see it. One that isn't set is the template's; an
+    /// empty one says that the shape shows nothing of interest.
+    const BaseAttribute<std::wstring>& getAltText() const;
+    void setAltText(const std::wstring& text);
+    void unsetAltText();
+    /// @}
+
     /// Gives the shape other content. What a shape takes is told at its class; a bare shape, a group and a
     /// picture take none.
     /// @throws invalidReplaceArg for what the shape doesn't take

@@ -34,6 +34,8 @@ public:
 
     const ShapeGeometry& getGeometry() const { return geometry_; }
     ShapeGeometry& geometry() { return geometry_; }
+    const BaseAttribute<std::wstring>& getAltText() const { return altText_; }
+    BaseAttribute<std::wstring>& altText() { return altText_; }
     const std::wstring& getTemplateUid() const { return templateUid_; }
     const Record& getTemplateShape() const { return templateShape_; }
     bool isContentReplaced() const { return contentReplaced_; }
@@ -53,6 +55,7 @@ private:
     std::wstring templateUid_;     // empty for a shape made by a caller
     Record templateShape_;         // null for a shape made by a caller
     ShapeGeometry geometry_;
+    BaseAttribute<std::wstring> altText_;
 };
 
 // The given handle comes by value: listeners may let the caller's stand for something else.
@@ -66,6 +69,8 @@ template <class Impl, class Facade> Facade ShapeImpl::giveWayTo(Facade given, Ta
     const Child self = makeInterface();
     const Child replacement = (new Impl(*this, takeName, *implOf<Impl>(given)))->makeInterface();
     implOf<Impl>(*replacement)->appendClones(*implOf<Impl>(given));
+    if (implOf<Impl>(given)->getAltText().isSet())
+        implOf<Impl>(*replacement)->altText() = implOf<Impl>(given)->getAltText();
     // Listeners have heard of new objects, and may have given this one's place to another.
     if (findHolder(successor) != holder.get()) {
         reportThatItStays();

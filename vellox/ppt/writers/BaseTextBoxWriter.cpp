@@ -41,6 +41,7 @@ void BaseTextBoxWriter::write() {
         return writeParagraphs(slide->getText(getTemplateShape()->id));
     if (!shape)
         shape = findOrMakeShape();
+    writeAltText(shape);
     DOMElement* txBody = findChild(shape, xml::kTxBody);
     writeSpPr(shape);
     arrange(findChild(shape, xml::kSpPr));
@@ -57,7 +58,8 @@ void BaseTextBoxWriter::write() {
 // A shape that gets nothing but paragraphs needs no nodes.
 bool BaseTextBoxWriter::staysInPlace() const {
     const TemplateShape* record = getTemplateShape();
-    return record && !textBox_.getGeometry().hasPlacement() && getCurrentSlide()->takesText(record->id);
+    return record && !textBox_.getGeometry().hasPlacement() && !textBox_.getAltText().isSet() &&
+           getCurrentSlide()->takesText(record->id);
 }
 
 void BaseTextBoxWriter::writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs) const {

@@ -2,17 +2,13 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
-#include "vellox/host/services/FileSystem.h"
-#include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 
 #include <algorithm>
-#include <array>
 #include <boost/algorithm/string/predicate.hpp>
-#include <fstream>
 #include <set>
 
 namespace vellox::ppt {
@@ -54,19 +50,6 @@ void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<s
     }
 }
 
-// Whether an image can be had in whole. It is copied when the package is saved, and that would be too late to
-// find out: the presentation is closed by then. Anything but a regular file, such as a pipe, might never answer.
-bool canBeRead(const std::wstring& path) {
-    namespace fsys = hostfx::filesystem;
-    if (!fsys::isRegularFile(fsys::Path(path)))
-        return false;
-    std::ifstream file(toUtf8(path), std::ios::binary);
-    std::array<char, 64 << 10> block;
-    while (file)
-        file.read(block.data(), block.size());
-    return file.eof() && !file.bad();
-}
-
 } // namespace
 
 PPTPartWriter::PPTPartWriter(boost::shared_ptr<OPCPackage> package) : PartDOMWriter(std::move(package)) {}
@@ -105,15 +88,35 @@ std::wstring PPTPartWriter::chooseMediaName(const std::wstring& imagePath) const
     return name;
 }
 
-std::wstring PPTPartWriter::addImage(const std::wstring& partName, const std::wstring& imagePath) {
-    if (!canBeRead(imagePath))
-        return {};
-    getPart(partName);
-    const std::wstring type = findImageType(imagePath);
-    const std::wstring name = chooseMediaName(imagePath);
-    opc::Part image = isCompressed(type) ? createStoredPart(name, type) : createPart(name, type);
-    image.setContentFile(imagePath);
-    return addRelationship(partName, relationship::kImage, image.getName().toString());
+std::wstring PPTPartWriter::addImage(const std::wstring& partName, const ImageSource& image, bool isShared) {
+    const std::wstring imagePart = requireImagePart(image, isShared);
+    return imagePart.empty() ? imagePart : addRelationship(partName, relationship::kImage, imagePart);
+}
+
+std::wstring PPTPartWriter::requireImagePart(const ImageSource& image, bool isShared) {
+    std::wstring present = isShared ? images_.findSource(image) : std::wstring();
+    ImageIndex::Reading reading;
+    if (!present.empty() || !ImageIndex::read(image, reading))
+        return present;
+    if (isShared)
+        present = images_.findEqual(reading);
+    if (!present.empty())
+        return present;
+    const std::wstring name = createImagePart(image);
+    if (isShared)
+        images_.add(reading, name);
+    return name;
+}
+
+std::wstring PPTPartWriter::createImagePart(const ImageSource& image) {
+    const std::wstring type = findImageType(image.getFileName());
+    const std::wstring name = chooseMediaName(image.getFileName());
+    opc::Part part = isCompressed(type) ? createStoredPart(name, type) : createPart(name, type);
+    if (const ImageSource::Bytes& bytes = image.getBytes())
+        part.getOutputStream().write(reinterpret_cast<const unsigned char*>(bytes->data()), bytes->size());
+    else
+        part.setContentFile(image.getPath());
+    return part.getName().toString();
 }
 
 bool PPTPartWriter::leadsToImage(const std::wstring& partName, const std::wstring& relationshipId) const {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "vellox/ppt/package/PartDOMWriter.h"
+#include "vellox/ppt/writers/ImageIndex.h"
 
 namespace vellox::ppt {
 
@@ -29,10 +30,11 @@ public:
     /// Points from a part to a target outside the package, which is made a reference if it isn't one.
     /// @return the id of the relationship; empty if the target is empty or blank, or if there is no such part
     std::wstring addHyperlink(const std::wstring& partName, const std::wstring& target);
-    /// Puts an image file into the package, in a part of its own with a random name, and points to it from a
-    /// part. The file is copied when the package is saved.
-    /// @return the id of the relationship; empty if the file can't be read to its end, or is no regular file
-    std::wstring addImage(const std::wstring& partName, const std::wstring& imagePath);
+    /// Puts an image into the package, in a part with a random name, and points to it from a part. A file is copied
+    /// when the package is saved.
+    /// @param isShared whether an image of the same bytes that was put in before serves as well
+    /// @return the id of the relationship; empty if a file can't be read to its end, or is no regular file
+    std::wstring addImage(const std::wstring& partName, const ImageSource& image, bool isShared);
     /// Whether a relationship of a part leads to a part whose type is that of an image. It isn't for a file
     /// whose extension neither this library nor the template knows.
     bool leadsToImage(const std::wstring& partName, const std::wstring& relationshipId) const;
@@ -49,8 +51,11 @@ public:
 
 private:
     std::wstring chooseMediaName(const std::wstring& imagePath) const;
+    std::wstring requireImagePart(const ImageSource& image, bool isShared);
+    std::wstring createImagePart(const ImageSource& image);
 
     unsigned int slideCounter_ = 0;
+    ImageIndex images_;
 };
 
 } // namespace vellox::ppt

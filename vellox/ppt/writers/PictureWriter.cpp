@@ -3,14 +3,15 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
-#include "vellox/foundation/InfoUtils.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 
@@ -23,47 +24,78 @@ PictureWriter::PictureWriter(const PictureImpl& picture, PPTWriter& writer, DOMN
 void PictureWriter::write() {
     SlideDocument* slide = getCurrentSlide();
     DOMElement* former = getSlideElement();
-    if (!slide || picture_.getPath().empty())
-        return reportMissingPath();
-    const PictureFacts facts = readFacts();
-    const std::wstring id = getPartWriter().addImage(getCurrentSlidePartName(), picture_.getPath());
+    if (!slide || picture_.getImage().isEmpty())
+        return keep(former);
+    readImage();
+    const std::wstring id = addImage();
+    if (!former) {
+        const ShapeGeometry geometry = sizeFree();
+        const PictureElements made = makeFreePicture(*slide, id, geometry.shapeName, geometry);
+        if (const auto placement = fitFree(geometry))
+            writePlacement(made, *placement, orientation_);
+        return dress(made.pic);
+    }
+    const std::optional<PicturePlacement> placement = fitInPlace();
+    DOMNode* parent = former->getParentNode();
+    const PictureElements made =
+        makePictureInPlace(*slide, id, former, placement ? placement->box : std::optional<Box>());
+    if (placement)
+        writePlacement(made, *placement, orientation_);
+    if (parent)
+        parent->replaceChild(made.pic, former);
+    dress(made.pic);
+}
+
+// A picture of the template that nobody gave another image stays.
+void PictureWriter::keep(DOMElement* former) {
+    if (getShapeType() != NodeType::Picture)
+        return getWriter().report(ppt_finding::pictureWithoutFile());
+    if (former)
+        dress(former);
+}
+
+void PictureWriter::dress(DOMElement* shape) const {
+    writeAltText(shape);
+    writeLink(shape);
+}
+
+std::wstring PictureWriter::addImage() const {
+    const ImageSource& image = picture_.getImage();
+    const bool isShared = image.getBytes() || getRules().sharesImages();
+    const std::wstring id = getPartWriter().addImage(getCurrentSlidePartName(), image, isShared);
     if (id.empty() && getRules().missingFile() == Missing::Refused)
         refuseMissing();
     if (id.empty())
         getWriter().report(ppt_finding::unreadablePicture(picture_.getPath()));
     else if (!getPartWriter().leadsToImage(getCurrentSlidePartName(), id))
         reportUnknownType();
-    if (!former) {
-        makeFreePicture(*slide, id, picture_.getGeometry().shapeName, sizeFree(facts));
-        return;
+    return id;
+}
+
+void PictureWriter::readImage() {
+    const ImageInfo info = picture_.getImage().getInfo();
+    facts_ = {info.getWidth(), info.getHeight(), {}, {}};
+    if (getRules().readsTraits()) {
+        const ImageTraits traits = picture_.getImage().getTraits();
+        orientation_ = traits.orientation;
+        facts_.perInchX = traits.perInchX;
+        facts_.perInchY = traits.perInchY;
     }
-    DOMNode* parent = former->getParentNode();
-    const PictureElements made = makePictureInPlace(*slide, id, former, fit(facts));
-    if (parent)
-        parent->replaceChild(made.pic, former);
-}
-
-// A picture of the template that nobody has touched has none either.
-void PictureWriter::reportMissingPath() const {
-    if (getShapeType() != NodeType::Picture)
-        getWriter().report(ppt_finding::pictureWithoutFile());
-}
-
-PictureFacts PictureWriter::readFacts() const {
-    const ImageInfo info = InfoUtils::getImageInfo(picture_.getPath());
-    PictureFacts facts{info.getWidth(), info.getHeight(), {}, {}};
+    if (liesOnSide(orientation_)) {
+        std::swap(facts_.pixelWidth, facts_.pixelHeight);
+        std::swap(facts_.perInchX, facts_.perInchY);
+    }
     const ShapeGeometry& geometry = picture_.getGeometry();
     if (geometry.cx.isSet())
-        facts.cx = geometry.cx.get().getEMUNumber();
+        facts_.cx = geometry.cx.get().getEMUNumber();
     if (geometry.cy.isSet())
-        facts.cy = geometry.cy.get().getEMUNumber();
-    facts.isWidthOfFile = geometry.cx.isFromFile();
-    facts.isHeightOfFile = geometry.cy.isFromFile();
-    return facts;
+        facts_.cy = geometry.cy.get().getEMUNumber();
+    facts_.isWidthOfFile = geometry.cx.isFromFile();
+    facts_.isHeightOfFile = geometry.cy.isFromFile();
 }
 
-ShapeGeometry PictureWriter::sizeFree(const PictureFacts& facts) const {
-    const PictureFacts sized = getRules().sizeFree(facts);
+ShapeGeometry PictureWriter::sizeFree() const {
+    const PictureFacts sized = getRules().sizeFree(facts_);
     ShapeGeometry geometry = picture_.getGeometry();
     const auto take = [](Extent& extent, const std::optional<double>& given,
                          const std::optional<double>& found) {
@@ -71,17 +103,59 @@ ShapeGeometry PictureWriter::sizeFree(const PictureFacts& facts) const {
             extent.setFromFile(
                 Dimension(num2str(truncateToInt(*found)) + Dimension::dim2str(Dimension::emus)));
     };
-    take(geometry.cx, facts.cx, sized.cx);
-    take(geometry.cy, facts.cy, sized.cy);
+    take(geometry.cx, facts_.cx, sized.cx);
+    take(geometry.cy, facts_.cy, sized.cy);
     return geometry;
 }
 
-std::optional<Box> PictureWriter::fit(const PictureFacts& facts) const {
+// A size that somebody has set in both directions is a box. Nothing is said of a picture that fills its own size.
+std::optional<PicturePlacement> PictureWriter::fitFree(const ShapeGeometry& geometry) const {
+    const Box box = readBox(geometry);
+    const bool hasBox = facts_.cx && facts_.cy && !facts_.isWidthOfFile && !facts_.isHeightOfFile;
+    if (hasBox && picture_.getWishes().fit.isSet()) {
+        PictureFacts facts = facts_;
+        facts.cx.reset();
+        facts.cy.reset();
+        return fitInBox(box, facts);
+    }
+    return orientation_ == 1 ? std::optional<PicturePlacement>() : PicturePlacement{box, {}};
+}
+
+std::optional<PicturePlacement> PictureWriter::fitInPlace() const {
     const Place& place = getTemplateShape()->successorPlace;
-    if (!place)
-        return getRules().fit(facts, nullptr);
-    const Box box = readBox(*place);
-    return getRules().fit(facts, &box);
+    if (place)
+        return fitInBox(readBox(*place), facts_);
+    const std::optional<Box> box = getRules().fit(facts_, nullptr);
+    return box ? PicturePlacement{*box, {}} : std::optional<PicturePlacement>();
+}
+
+PicturePlacement PictureWriter::fitInBox(const Box& box, const PictureFacts& facts) const {
+    const PictureImpl::Wishes& wishes = picture_.getWishes();
+    const Fit fit = wishes.fit.isSet() ? requireFit(wishes.fit.get()).fit : Fit::Contain;
+    const FitPosition& position = requireFitPosition(wishes.fitPosition.isSet() ? wishes.fitPosition.get()
+                                                                                : std::wstring(kMiddleOfBox));
+    if (fit != Fit::Contain) {
+        const bool hasDensity = facts.perInchX > 0 && facts.perInchY > 0;
+        const double width = hasDensity ? facts.pixelWidth / facts.perInchX : facts.pixelWidth;
+        const double height = hasDensity ? facts.pixelHeight / facts.perInchY : facts.pixelHeight;
+        return fitInto(box, width, height, fit, position);
+    }
+    const Box fitted = getRules().fit(facts, &box).value_or(box);
+    return {wishes.fitPosition.isSet() ? moveInto(box, fitted, position) : fitted, {}};
+}
+
+void PictureWriter::writeLink(DOMElement* shape) const {
+    const BaseAttribute<std::wstring>& link = picture_.getWishes().link;
+    DOMElement* properties = findChild(findNonVisual(*shape), xml::kCNvPr);
+    if (!link.isSet() || !properties)
+        return;
+    const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link.get());
+    if (id.empty())
+        return getWriter().report(ppt_finding::emptyLinkTarget());
+    removeChildElements(properties, xml::kAHlinkClick);
+    DOMElement* click = createElement(xml::kAHlinkClick);
+    setAttribute(click, xml::kRId, id);
+    properties->insertBefore(click, properties->getFirstChild());
 }
 
 // Nothing has been saved yet: the output is as it was.

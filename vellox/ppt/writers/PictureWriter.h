@@ -8,6 +8,7 @@
 
 #include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/writers/PicturePlacement.h"
 #include "vellox/ppt/writers/ShapeWriter.h"
 
 namespace vellox::ppt {
@@ -20,14 +21,21 @@ public:
     void write() override;
 
 private:
-    void reportMissingPath() const;
-    PictureFacts readFacts() const;
-    ShapeGeometry sizeFree(const PictureFacts& facts) const;
-    std::optional<Box> fit(const PictureFacts& facts) const;
+    void keep(xercesc::DOMElement* former);
+    void dress(xercesc::DOMElement* shape) const;
+    void readImage();
+    std::wstring addImage() const;
+    ShapeGeometry sizeFree() const;
+    std::optional<PicturePlacement> fitFree(const ShapeGeometry& geometry) const;
+    std::optional<PicturePlacement> fitInPlace() const;
+    PicturePlacement fitInBox(const Box& box, const PictureFacts& facts) const;
+    void writeLink(xercesc::DOMElement* shape) const;
     [[noreturn]] void refuseMissing() const;
     void reportUnknownType() const;
 
     const PictureImpl& picture_;
+    PictureFacts facts_{0, 0, {}, {}}; // of the image as it is to be seen
+    unsigned int orientation_ = 1;
 };
 
 } // namespace vellox::ppt

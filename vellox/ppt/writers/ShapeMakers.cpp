@@ -24,13 +24,6 @@ std::wstring toExtent(double emu) {
     return num2str(std::max(0, truncateToInt(emu)));
 }
 
-void writeBox(DOMElement* off, DOMElement* ext, const Box& box) {
-    setAttribute(off, xml::kX, toCoordinate(box.x));
-    setAttribute(off, xml::kY, toCoordinate(box.y));
-    setAttribute(ext, xml::kCx, toExtent(box.cx));
-    setAttribute(ext, xml::kCy, toExtent(box.cy));
-}
-
 // The box with what the geometry sets in the place of its own values.
 Box overlay(Box box, const ShapeGeometry& geometry) {
     const auto take = [](double& value, const BaseAttribute<Dimension>& length) {
@@ -181,6 +174,17 @@ ShapeElements makeFreeTextBox(SlideDocument& slide, const BaseAttribute<std::wst
 
 Box readBox(const PlaceText& place) {
     return {str2double(place.x), str2double(place.y), str2double(place.cx), str2double(place.cy)};
+}
+
+Box readBox(const ShapeGeometry& geometry) {
+    return overlay(kFreeShapeBox, geometry);
+}
+
+void writeBox(DOMElement* off, DOMElement* ext, const Box& box) {
+    setAttribute(off, xml::kX, toCoordinate(box.x));
+    setAttribute(off, xml::kY, toCoordinate(box.y));
+    setAttribute(ext, xml::kCx, toExtent(box.cx));
+    setAttribute(ext, xml::kCy, toExtent(box.cy));
 }
 
 GraphicFrameElements makeTableInPlace(SlideDocument& slide, DOMElement* former, const PlaceText* place,

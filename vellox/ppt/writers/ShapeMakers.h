@@ -56,6 +56,10 @@ PictureElements makePictureInPlace(SlideDocument& slide, const std::wstring& rel
 /// @}
 /// The numbers of a place; 0 for what is none.
 Box readBox(const PlaceText& place);
+/// Where a free shape with this geometry stands.
+Box readBox(const ShapeGeometry& geometry);
+/// Writes a box, in whole numbers.
+void writeBox(xercesc::DOMElement* off, xercesc::DOMElement* ext, const Box& box);
 
 /// The elements of an existing p:sp.
 ShapeElements readShapeElements(xercesc::DOMElement* shape);

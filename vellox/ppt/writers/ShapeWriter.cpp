@@ -1,7 +1,9 @@
 #include "vellox/ppt/writers/ShapeWriter.h"
 
+#include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 
@@ -21,6 +23,14 @@ xercesc::DOMElement* ShapeWriter::getSlideElement() const {
 NodeType ShapeWriter::getShapeType() const {
     const TemplateShape* record = getTemplateShape();
     return record ? record->type : NodeType::None;
+}
+
+void ShapeWriter::writeAltText(xercesc::DOMElement* element) const {
+    const BaseAttribute<std::wstring>& text = shape_.getAltText();
+    xercesc::DOMElement* properties =
+        text.isSet() && element ? findChild(findNonVisual(*element), xml::kCNvPr) : nullptr;
+    if (properties)
+        setAttribute(properties, xml::kDescr, text.get());
 }
 
 } // namespace vellox::ppt

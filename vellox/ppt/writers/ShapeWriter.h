@@ -24,6 +24,10 @@ public:
     /// What the slide's element is; None for a shape that a caller made.
     NodeType getShapeType() const;
 
+protected:
+    /// Writes the alternative text of the shape, if it has one of its own, to its element.
+    void writeAltText(xercesc::DOMElement* element) const;
+
 private:
     const ShapeImpl& shape_;
 };

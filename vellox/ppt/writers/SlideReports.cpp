@@ -23,7 +23,7 @@ void reportName(const PPTNodeImpl& node) {
 
 bool isChanged(const ShapeImpl& shape) {
     return shape.isContentReplaced() || !shape.getChildren().empty() || !shape.getStyle().getMap().empty() ||
-           shape.getGeometry().hasPlacement();
+           shape.getGeometry().hasPlacement() || shape.getAltText().isSet();
 }
 
 void reportGrouped(const PPTNodeImpl& group) {

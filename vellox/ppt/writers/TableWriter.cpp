@@ -38,7 +38,9 @@ void TableWriter::write() {
             ensureParagraph(getSlideElement());
         return reportNoRows();
     }
-    DOMElement* tbl = readGraphicFrame(makeFrame()).tbl;
+    DOMElement* frame = makeFrame();
+    writeAltText(frame);
+    DOMElement* tbl = readGraphicFrame(frame).tbl;
     if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
         reportMissingStyle();
     arrange(findChild(tbl, xml::kATblPr));
