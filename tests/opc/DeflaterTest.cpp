@@ -60,4 +60,35 @@ TEST(Deflater, WritesWhatCanBeReadAtEveryLevel) {
     EXPECT_LT(sizes[0], 300000u);
 }
 
+std::string read(Part part) {
+    std::string content;
+    unsigned char block[1000];
+    InputStream& stream = part.getInputStream();
+    while (const std::size_t count = stream.read(block, sizeof block))
+        content.append(reinterpret_cast<const char*>(block), count);
+    return content;
+}
+
+TEST(Deflater, KeepsNewContentReadableAndReplaceable) {
+    const test::TempFolder folder;
+    const auto file = LocalFileSystemOps().createOutputStream(folder / L"a.zip", kWriteBinary);
+    Package package(
+        boost::make_shared<ZipPhysicalPackage>(boost::make_shared<StdOStreamAdaptor>(file), false), true);
+    package.open(OpenMode::Write);
+    Part part = package.createPart(PartName(L"/a.xml"), ContentType(L"application/x+xml"), {});
+    const auto write = [&](const std::string& text, bool mustClose) {
+        OutputStream& stream = part.getOutputStream();
+        stream.write(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+        if (mustClose)
+            stream.close();
+        EXPECT_EQ(read(part), text);
+    };
+    write("<a>first</a>", true);
+    write(makeXml(), true);
+    write("<a>first</a>", true); // once more: it is remembered
+    write("<a>last</a>", false);
+    package.close(false);
+    EXPECT_EQ(test::readParts(folder / L"a.zip").at("a.xml"), "<a>last</a>");
+}
+
 } // namespace

@@ -131,7 +131,26 @@ long str2long(const std::wstring& text) {
     return readWhole<long>(text);
 }
 
+namespace {
+
+// Of digits and points alone, as lengths are, and few of them.
+bool readPlainNumber(const std::wstring& text, double& value) {
+    char digits[16];
+    const auto isPlain = [](wchar_t c) { return (c >= L'0' && c <= L'9') || c == L'.'; };
+    if (text.empty() || text.size() > sizeof digits || !std::all_of(text.begin(), text.end(), isPlain))
+        return false;
+    std::transform(text.begin(), text.end(), digits, [](wchar_t c) { return static_cast<char>(c); });
+    value = 0;
+    std::from_chars(digits, digits + text.size(), value);
+    return true;
+}
+
+} // namespace
+
 double str2double(const std::wstring& text) {
+    double plain = 0;
+    if (readPlainNumber(text, plain))
+        return plain;
     std::string number = narrow(text);
     const std::size_t start = number.find_first_not_of("+-") == 1 ? 1 : 0;
     if (isNamedValue(number.substr(start)))

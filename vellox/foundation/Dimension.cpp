@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <locale>
+#include <string_view>
 
 namespace vellox {
 
@@ -15,7 +16,7 @@ namespace {
 constexpr double kNoFactor = 1.0;
 
 struct UnitRow {
-    const wchar_t* text;
+    std::wstring_view text;
     double emu;
     double pixel;
     double twips;
@@ -52,8 +53,8 @@ double factor(Dimension::Units unit, double UnitRow::*column) {
 }
 
 struct Pieces {
-    std::wstring number;
-    std::wstring units;
+    std::wstring_view number;
+    std::wstring_view units;
 };
 
 // Beyond ASCII the global locale rules.
@@ -71,13 +72,23 @@ bool isOfUnits(wchar_t c) {
 
 // Lengths come by the thousand, one for each cell of a table, and a regular expression would take longer over
 // this than all else that is done for a cell's size. What doesn't fit is ignored.
-Pieces split(const std::wstring& text) {
-    const auto end = text.end();
-    const auto number = std::find_if_not(text.begin(), end, isBlank);
-    const auto digits = number != end && *number == L'-' ? number + 1 : number;
-    const auto afterNumber = std::find_if_not(digits, end, isOfNumber);
-    const auto units = std::find_if_not(afterNumber, end, isBlank);
-    return {std::wstring(number, afterNumber), std::wstring(units, std::find_if_not(units, end, isOfUnits))};
+Pieces split(std::wstring_view text) {
+    const wchar_t* const end = text.data() + text.size();
+    const wchar_t* const number = std::find_if_not(text.data(), end, isBlank);
+    const wchar_t* const digits = number != end && *number == L'-' ? number + 1 : number;
+    const wchar_t* const afterNumber = std::find_if_not(digits, end, isOfNumber);
+    const wchar_t* const units = std::find_if_not(afterNumber, end, isBlank);
+    const auto cut = [](const wchar_t* from, const wchar_t* to) {
+        return std::wstring_view(from, static_cast<std::size_t>(to - from));
+    };
+    return {cut(number, afterNumber), cut(units, std::find_if_not(units, end, isOfUnits))};
+}
+
+// By the index of its row; that behind the last if it is none.
+std::size_t findUnit(std::wstring_view lowerCase) {
+    const auto row = std::find_if(kUnits.begin(), kUnits.end(),
+                                  [&](const UnitRow& each) { return each.text == lowerCase; });
+    return static_cast<std::size_t>(row - kUnits.begin());
 }
 
 } // namespace
@@ -96,17 +107,13 @@ Dimension& Dimension::operator=(const Dimension& other) {
 
 bool Dimension::isValid(const std::wstring& text) {
     const Pieces pieces = split(text);
-    return !pieces.number.empty() && (pieces.units.empty() || str2dim(pieces.units) != invalid);
+    return !pieces.number.empty() && (pieces.units.empty() || str2dim(std::wstring(pieces.units)) != invalid);
 }
 
 const Dimension::Units& Dimension::str2dim(const std::wstring& text) {
     static constexpr std::array<Units, 11> values{px,      in,           mm,    cm,   pt,     pi,
                                                   percent, proportional, twips, emus, invalid};
-    const std::wstring lower = toLowerString(text);
-    std::size_t i = 0;
-    while (i < kUnits.size() && lower != kUnits[i].text)
-        ++i;
-    return values[i];
+    return values[findUnit(toLowerString(text))];
 }
 
 const std::wstring& Dimension::dim2str(Units unit) {
@@ -128,19 +135,18 @@ void Dimension::setRawValue(const std::wstring& value) {
 }
 
 void Dimension::parse() {
-    Pieces pieces = split(rawValue_);
+    const Pieces pieces = split(rawValue_);
     if (pieces.number == L"-")
         raise(dom_error::invalidDimensionSign());
-    if (pieces.number.empty())
-        pieces.number = L"0";
-    units_ = str2dim(pieces.units);
+    units_ = str2dim(std::wstring(pieces.units));
     if (units_ == invalid) {
         if (!pieces.units.empty())
-            raise(dom_error::invalidDimensionUnits(pieces.units));
+            raise(dom_error::invalidDimensionUnits(std::wstring(pieces.units)));
         units_ = px;
     }
-    rawValue_ = pieces.number + dim2str(units_);
-    numericValue_ = str2double(pieces.number);
+    const std::wstring number(pieces.number.empty() ? L"0" : pieces.number);
+    rawValue_ = number + dim2str(units_);
+    numericValue_ = str2double(number);
 }
 
 double Dimension::toEMU() const {

@@ -3,7 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/Limits.h"
-#include "vellox/opc/NodeLinks.h"
+#include "vellox/opc/MarkupBuffer.h"
 #include "vellox/opc/XercesString.h"
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -21,11 +21,13 @@ std::wstring getAttribute(const DOMElement& element, const XMLCh* name) {
     return toWideString(element.getAttribute(name));
 }
 
-void appendRow(DOMElementImpl& root, const XMLCh* element, const XMLCh* key, const std::wstring& keyText,
+// With attributes in the order of their names.
+void appendRow(MarkupBuffer& out, std::string_view start, const XMLCh* key, const std::wstring& keyText,
                const std::wstring& type) {
-    DOMElementImpl& row = appendElement(root, element);
-    addAttribute(row, key, XercesString(keyText));
-    addAttribute(row, u"ContentType", XercesString(type));
+    out.append(start);
+    out.appendAttribute(u"ContentType", XercesString(type));
+    out.appendAttribute(key, XercesString(keyText));
+    out.append("/>");
 }
 
 } // namespace
@@ -56,23 +58,24 @@ void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
     }
 }
 
-void ContentTypes::write(DOMLSSerializer& serializer, OutputStream& stream) const {
-    const DocumentScope document(XercesHelper::createDocument(u"Types"));
-    auto& root = static_cast<DOMElementImpl&>(*document->getDocumentElement());
-    addAttribute(root, u"xmlns", kNamespace);
+void ContentTypes::write(OutputStream& stream) const {
+    MarkupBuffer out;
+    const std::size_t start = out.openDocument("Types", kNamespace);
     for (const Row& row : defaults_)
-        appendRow(root, u"Default", u"Extension", row.first, row.second);
+        appendRow(out, "<Default", u"Extension", row.key, *row.type);
     for (const Row& row : overrides_)
-        appendRow(root, u"Override", u"PartName", row.first, row.second);
-    XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
+        appendRow(out, "<Override", u"PartName", row.key, *row.type);
+    out.closeElement("Types", start);
+    stream.write(reinterpret_cast<const unsigned char*>(out.get().data()), out.getLength());
+    stream.close();
 }
 
 ContentType ContentTypes::find(const PartName& name) const {
-    const auto single = overrideByName_.find(name);
+    const auto single = overrideByName_.find(name.getKey());
     if (single != overrideByName_.end())
-        return ContentType(overrides_[single->second].second);
+        return ContentType(*overrides_[single->second].type);
     const auto general = defaultByExtension_.find(name.getExtension());
-    return ContentType(general == defaultByExtension_.end() ? L"" : defaults_[general->second].second);
+    return ContentType(general == defaultByExtension_.end() ? L"" : *defaults_[general->second].type);
 }
 
 void ContentTypes::add(const PartName& name, const ContentType& type) {
@@ -83,7 +86,7 @@ void ContentTypes::add(const PartName& name, const ContentType& type) {
         return;
     isChanged_ = true;
     const std::wstring extension = name.getExtension();
-    const bool isOverridden = overrideByName_.count(name) > 0; // a row that outlived its part
+    const bool isOverridden = overrideByName_.count(name.getKey()) > 0; // a row that outlived its part
     if (type.isXml() || isOverridden || extension.empty() || defaultByExtension_.count(extension) > 0)
         setOverride(name, text);
     else
@@ -96,32 +99,35 @@ void ContentTypes::change(const PartName& name, const ContentType& type) {
 }
 
 void ContentTypes::remove(const std::set<PartName>& names) {
+    std::unordered_set<std::size_t> condemned;
+    for (const PartName& name : names) {
+        const auto found = overrideByName_.find(name.getKey());
+        if (found != overrideByName_.end())
+            condemned.insert(found->second);
+    }
+    if (condemned.empty())
+        return;
     std::vector<Row> former;
     former.swap(overrides_);
-    std::map<std::size_t, PartName> namesByRow;
-    for (const auto& [name, row] : overrideByName_)
-        if (names.count(name) == 0)
-            namesByRow.emplace(row, name);
     overrideByName_.clear();
-    for (const auto& [row, name] : namesByRow) {
-        overrideByName_.emplace(name, overrides_.size());
-        overrides_.push_back(std::move(former[row]));
-    }
-    isChanged_ = isChanged_ || overrides_.size() != former.size();
+    for (std::size_t i = 0; i < former.size(); ++i)
+        if (condemned.count(i) == 0)
+            setOverride(PartName(former[i].key), *former[i].type);
+    isChanged_ = true;
 }
 
 void ContentTypes::setDefault(const std::wstring& extension, const std::wstring& type) {
     const std::wstring key = vellox::toLowerString(extension);
     if (defaultByExtension_.emplace(key, defaults_.size()).second)
-        defaults_.emplace_back(extension, type);
+        defaults_.push_back({extension, hold(type)});
 }
 
 void ContentTypes::setOverride(const PartName& name, const std::wstring& type) {
-    const auto entry = overrideByName_.emplace(name, overrides_.size());
+    const auto entry = overrideByName_.emplace(name.getKey(), overrides_.size());
     if (entry.second)
-        overrides_.emplace_back(name.toString(), type);
+        overrides_.push_back({name.toString(), hold(type)});
     else
-        overrides_[entry.first->second].second = type;
+        overrides_[entry.first->second].type = hold(type);
 }
 
 } // namespace opc

@@ -7,7 +7,8 @@
 #include <map>
 #include <set>
 #include <string>
-#include <utility>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "vellox/opc/PartName.h"
@@ -31,10 +32,14 @@ private:
 /// A default for each extension, and what overrides it for single parts.
 class ContentTypes {
 public:
+    ContentTypes() = default;
+    ContentTypes(const ContentTypes&) = delete;
+    ContentTypes& operator=(const ContentTypes&) = delete;
+
     /// @throws opc::Exception if the stream isn't the list that it should be
     void read(xercesc::DOMLSParser& namespaceAwareParser, InputStream& stream);
-    /// Writes the list with its namespace as the default one, which some readers insist on.
-    void write(xercesc::DOMLSSerializer& serializer, OutputStream& stream) const;
+    /// Writes the list with its namespace as the default one, which some readers insist on, and closes the stream.
+    void write(OutputStream& stream) const;
 
     /// Empty for a part that the list doesn't cover.
     ContentType find(const PartName& name) const;
@@ -54,16 +59,22 @@ public:
     bool isChanged() const { return isChanged_; }
 
 private:
-    using Row = std::pair<std::wstring, std::wstring>;
+    /// An extension or a part's name, and the type, which is one of types_.
+    struct Row {
+        std::wstring key;
+        const std::wstring* type;
+    };
 
     void setDefault(const std::wstring& extension, const std::wstring& type);
     void setOverride(const PartName& name, const std::wstring& type);
+    const std::wstring* hold(const std::wstring& type) { return &*types_.insert(type).first; }
 
+    std::unordered_set<std::wstring> types_; // they are few and long, the parts many
     // Rows in the order of the stream, and where to find them.
     std::vector<Row> defaults_;
     std::vector<Row> overrides_;
     std::map<std::wstring, std::size_t> defaultByExtension_;
-    std::map<PartName, std::size_t> overrideByName_;
+    std::unordered_map<std::string, std::size_t> overrideByName_; // by the keys of the names
     bool isChanged_ = false;
     bool hasPrefix_ = false;
 };

@@ -1,7 +1,10 @@
 #include "vellox/opc/Deflater.h"
 
+#include "vellox/opc/Exception.h"
+
 #include <algorithm>
 #include <array>
+#include <boost/make_shared.hpp>
 #include <new>
 
 namespace opc {
@@ -20,12 +23,14 @@ const Levels& getLevels(Compression compression) {
     return kLevels[static_cast<std::size_t>(compression)];
 }
 
-/// What libzip asks of a source, which it opens once; it asks for the checksum when it has read all.
+// What is remembered, and of how many.
+constexpr std::size_t kSmallContent = 1 << 10;
+constexpr std::size_t kMostSmall = 64;
+
+/// What libzip asks of a source.
 class DeflatedBytes {
 public:
-    DeflatedBytes(libdeflate_compressor* compressor, const std::string& bytes)
-        : compressor_(compressor),
-          bytes_(bytes) {
+    explicit DeflatedBytes(boost::shared_ptr<const Deflated> content) : content_(std::move(content)) {
         zip_error_init(&error_);
     }
     DeflatedBytes(const DeflatedBytes&) = delete;
@@ -44,11 +49,11 @@ public:
         case ZIP_SOURCE_STAT:
             return stat(*static_cast<zip_stat_t*>(data));
         case ZIP_SOURCE_OPEN:
-            return open();
+            position_ = 0;
+            return 0;
         case ZIP_SOURCE_READ:
             return read(static_cast<char*>(data), length);
         case ZIP_SOURCE_CLOSE:
-            deflated_.reset();
             return 0;
         default:
             zip_error_set(&error_, ZIP_ER_OPNOTSUPP, 0);
@@ -59,46 +64,23 @@ public:
 private:
     zip_int64_t stat(zip_stat_t& facts) const {
         zip_stat_init(&facts);
-        facts.size = bytes_.size();
+        facts.size = content_->fullSize;
         facts.comp_method = ZIP_CM_DEFLATE;
-        facts.valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD;
-        if (isDeflated_) {
-            facts.comp_size = deflatedSize_;
-            facts.crc = crc_;
-            facts.valid |= ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC;
-        }
+        facts.comp_size = content_->bytes.size();
+        facts.crc = content_->checksum;
+        facts.valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC;
         return sizeof facts;
     }
 
-    zip_int64_t open() {
-        const std::size_t bound = libdeflate_deflate_compress_bound(compressor_, bytes_.size());
-        deflated_.reset(new (std::nothrow) char[bound]); // an exception mustn't pass through libzip
-        if (!deflated_) {
-            zip_error_set(&error_, ZIP_ER_MEMORY, 0);
-            return -1;
-        }
-        deflatedSize_ =
-            libdeflate_deflate_compress(compressor_, bytes_.data(), bytes_.size(), deflated_.get(), bound);
-        crc_ = libdeflate_crc32(0, bytes_.data(), bytes_.size());
-        isDeflated_ = true;
-        position_ = 0;
-        return 0;
-    }
-
     zip_int64_t read(char* target, zip_uint64_t count) {
-        const std::size_t taken = std::min<std::size_t>(count, deflatedSize_ - position_);
-        std::copy_n(deflated_.get() + position_, taken, target);
+        const std::size_t taken = std::min<std::size_t>(count, content_->bytes.size() - position_);
+        std::copy_n(content_->bytes.data() + position_, taken, target);
         position_ += taken;
         return static_cast<zip_int64_t>(taken);
     }
 
-    libdeflate_compressor* compressor_;
-    const std::string& bytes_;
-    std::unique_ptr<char[]> deflated_;
-    std::size_t deflatedSize_ = 0;
+    boost::shared_ptr<const Deflated> content_;
     std::size_t position_ = 0;
-    zip_uint32_t crc_ = 0;
-    bool isDeflated_ = false;
     zip_error_t error_{};
 };
 
@@ -116,8 +98,43 @@ Deflater::Deflater(Compression compression)
         throw std::bad_alloc();
 }
 
-zip_source_t* Deflater::makeSource(zip_t* archive, const std::string& bytes) const {
-    auto source = std::make_unique<DeflatedBytes>(compressor_.get(), bytes);
+std::string Deflated::inflate() const {
+    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> decompressor(
+        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    std::string content(fullSize, '\0');
+    if (!decompressor ||
+        libdeflate_deflate_decompress(decompressor.get(), bytes.data(), bytes.size(), content.data(),
+                                      content.size(), nullptr) != LIBDEFLATE_SUCCESS)
+        throw Exception("what was written can't be read back");
+    return content;
+}
+
+boost::shared_ptr<const Deflated> Deflater::deflate(const std::string& content) {
+    if (content.size() > kSmallContent)
+        return makeDeflated(content);
+    if (small_.size() >= kMostSmall)
+        small_.clear();
+    boost::shared_ptr<const Deflated>& known = small_[content];
+    if (!known)
+        known = makeDeflated(content);
+    return known;
+}
+
+boost::shared_ptr<const Deflated> Deflater::makeDeflated(const std::string& content) {
+    const auto made = boost::make_shared<Deflated>();
+    const std::size_t bound = libdeflate_deflate_compress_bound(compressor_.get(), content.size());
+    if (space_.size() < bound)
+        space_.resize(bound);
+    made->bytes.assign(space_, 0,
+                       libdeflate_deflate_compress(compressor_.get(), content.data(), content.size(),
+                                                   space_.data(), space_.size()));
+    made->fullSize = content.size();
+    made->checksum = libdeflate_crc32(0, content.data(), content.size());
+    return made;
+}
+
+zip_source_t* Deflater::makeSource(zip_t* archive, boost::shared_ptr<const Deflated> content) {
+    auto source = std::make_unique<DeflatedBytes>(std::move(content));
     zip_source_t* made = zip_source_function(archive, answer, source.get());
     if (made)
         static_cast<void>(source.release()); // libzip ends it with ZIP_SOURCE_FREE

@@ -64,6 +64,14 @@ void MarkupBuffer::appendAttribute(const XMLCh* name, const XMLCh* value) {
     append("\"");
 }
 
+std::size_t MarkupBuffer::openDocument(std::string_view root, const XMLCh* space) {
+    append(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes" ?><)");
+    append(root);
+    appendAttribute(u"xmlns", space);
+    append(">");
+    return length_;
+}
+
 std::size_t MarkupBuffer::openElement(std::string_view name) {
     append("<");
     append(name);

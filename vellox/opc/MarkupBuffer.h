@@ -31,6 +31,9 @@ public:
     void appendValue(const XMLCh* value) { append(value, kValue); }
     /// @}
     void appendAttribute(const XMLCh* name, const XMLCh* value);
+    /// Begins a document of one element with a default namespace.
+    /// @return what closeElement() wants
+    std::size_t openDocument(std::string_view root, const XMLCh* space);
     /// Begins an element that has no attributes.
     /// @return what closeElement() wants
     std::size_t openElement(std::string_view name);

@@ -96,8 +96,7 @@ RelationshipTable& Part::getTable() const {
 // PackageContents
 
 PackageContents::PackageContents(boost::shared_ptr<PhysicalPackage> physical)
-    : serializer_(XercesHelper::createWriter()),
-      physical_(std::move(physical)) {}
+    : physical_(std::move(physical)) {}
 
 void PackageContents::open(OpenMode mode) {
     physical_->open(mode);
@@ -115,12 +114,12 @@ void PackageContents::open(OpenMode mode) {
 
 void PackageContents::indexParts() {
     for (const auto& part : physical_->getParts())
-        if (!parts_.emplace(part->getName(), part).second)
+        if (!parts_.emplace(part->getName().getKey(), part).second)
             throw Exception("it has two parts named " + quote(part->getName()));
 }
 
 boost::shared_ptr<PhysicalPart> PackageContents::findPart(const PartName& name) const {
-    const auto found = parts_.find(name);
+    const auto found = parts_.find(name.getKey());
     return found == parts_.end() ? boost::shared_ptr<PhysicalPart>() : found->second;
 }
 
@@ -132,9 +131,10 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     // Relationships that some program has left behind under the name aren't those of the new part.
     const PartName leftBehind = name.getRelationshipPartName();
     if (findPart(leftBehind))
-        sources_.insert_or_assign(leftBehind,
-                                  Source{leftBehind, RelationshipTable::makeEmpty(name.getFolder())});
-    return parts_[name] = physical_->createPart(name, info);
+        sources_.insert_or_assign(leftBehind, RelationshipTable::makeEmpty(name.getFolder()));
+    auto part = physical_->createPart(name, info);
+    parts_.emplace(part->getName().getKey(), part);
+    return part;
 }
 
 void PackageContents::deleteParts(const std::set<PartName>& names) {
@@ -144,7 +144,7 @@ void PackageContents::deleteParts(const std::set<PartName>& names) {
         sources_.erase(name.getRelationshipPartName());
     }
     for (const PartName& name : condemned)
-        isCut_ = parts_.erase(name) > 0 || isCut_;
+        isCut_ = parts_.erase(name.getKey()) > 0 || isCut_;
     physical_->deleteParts(condemned);
     types_.remove(condemned);
 }
@@ -153,7 +153,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     const PartName part = source ? source->getRelationshipPartName() : PartName(L"/_rels/.rels");
     const auto known = sources_.find(part);
     if (known != sources_.end())
-        return known->second.table;
+        return known->second;
     RelationshipTable table(source ? source->getFolder() : L"/");
     try {
         if (const auto stored = findPart(part))
@@ -161,7 +161,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     } catch (const Exception& failure) {
         throw Exception(quote(part) + ": " + failure.what());
     }
-    return sources_.emplace(part, Source{part, std::move(table)}).first->second.table;
+    return sources_.emplace(part, std::move(table)).first->second;
 }
 
 bool PackageContents::hasChanges() const {
@@ -169,19 +169,18 @@ bool PackageContents::hasChanges() const {
     for (const auto& part : parts_)
         changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
     for (const auto& source : sources_)
-        changed = changed || source.second.table.isChanged();
+        changed = changed || source.second.isChanged();
     return changed;
 }
 
 void PackageContents::saveRelationships() {
-    for (const auto& entry : sources_) {
-        const Source& source = entry.second;
-        if (!source.table.isChanged())
+    for (const auto& [name, table] : sources_) {
+        if (!table.isChanged())
             continue;
-        auto part = findPart(source.relationshipPart);
+        auto part = findPart(name);
         if (!part)
-            part = createPart(source.relationshipPart, ContentType(kRelationshipType), StandardPartInfo());
-        source.table.write(*serializer_, part->startOutput());
+            part = createPart(name, ContentType(kRelationshipType), StandardPartInfo());
+        table.write(part->startOutput());
     }
 }
 
@@ -190,7 +189,7 @@ void PackageContents::save() {
         return physical_->close(false);
     saveRelationships();
     if (types_.needsWriting())
-        types_.write(*serializer_, physical_->getContentTypeOutputStream());
+        types_.write(physical_->getContentTypeOutputStream());
     physical_->close(true);
 }
 

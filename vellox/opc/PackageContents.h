@@ -5,6 +5,8 @@
 #define VELLOX_OPC_PACKAGECONTENTS_H
 
 #include <map>
+#include <string_view>
+#include <unordered_map>
 
 #include "vellox/opc/Package.h"
 
@@ -30,11 +32,6 @@ public:
     const boost::shared_ptr<XmlBudget>& getXmlBudget() const { return budget_; }
 
 private:
-    struct Source {
-        PartName relationshipPart;
-        RelationshipTable table;
-    };
-
     void indexParts();
     void saveRelationships();
     bool hasChanges() const;
@@ -42,12 +39,13 @@ private:
     XercesProcess xerces_;
     boost::shared_ptr<XmlBudget> budget_;
     ParserScope parser_; // from the opening on
-    SerializerScope serializer_;
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;
-    std::map<PartName, boost::shared_ptr<PhysicalPart>> parts_;
-    bool isCut_ = false;                 // parts are gone
-    std::map<PartName, Source> sources_; // by the name of the relationship part
+    bool isCut_ = false; // parts are gone
+    std::unordered_map<std::string_view, boost::shared_ptr<PhysicalPart>>
+        parts_; // by the keys of their names
+    std::map<PartName, RelationshipTable>
+        sources_; // by the name of the relationship part, in whose order they are saved
 };
 
 } // namespace opc

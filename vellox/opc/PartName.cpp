@@ -3,6 +3,8 @@
 #include "vellox/host/services/Utf8.h"
 #include "vellox/opc/Exception.h"
 
+#include <string_view>
+
 namespace opc {
 
 namespace {
@@ -17,7 +19,7 @@ int hexValue(char c) {
 }
 
 // The byte that "%XX" at a position stands for, or -1 where there is no such triple.
-int decodeTriple(const std::string& text, std::size_t at) {
+int decodeTriple(std::string_view text, std::size_t at) {
     if (text[at] != '%' || at + 2 >= text.size())
         return -1;
     const int high = hexValue(text[at + 1]), low = hexValue(text[at + 2]);
@@ -48,7 +50,7 @@ void require(bool holds, const std::string& name, const char* fault) {
         throw Exception("\"" + name + "\" is no part name: " + fault);
 }
 
-void checkSegment(const std::string& segment, const std::string& name) {
+void checkSegment(std::string_view segment, const std::string& name) {
     require(!segment.empty(), name, "an element of it is empty");
     require(segment.find_first_not_of('.') != std::string::npos, name, "an element of it is made of dots");
     for (std::size_t i = 0; i < segment.size(); ++i) {
@@ -63,7 +65,7 @@ void checkName(const std::string& name) {
     require(!name.empty() && name[0] == '/', name, "it doesn't begin with \"/\"");
     for (std::size_t start = 1; start <= name.size();) {
         const std::size_t end = std::min(name.find('/', start), name.size());
-        checkSegment(name.substr(start, end - start), name);
+        checkSegment(std::string_view(name).substr(start, end - start), name);
         start = end + 1;
     }
 }
@@ -100,12 +102,14 @@ URI PartName::toURI() const {
 }
 
 std::string PartName::toEntryName() const {
+    constexpr std::string_view kEncoded = " \"<>^`{|}#?";
     std::string entry;
     const std::string bytes = vellox::toUtf8(name_);
+    entry.reserve(bytes.size());
     for (std::size_t i = 1; i < bytes.size(); ++i) {
         const auto byte = static_cast<unsigned char>(bytes[i]);
-        const bool mustEncode = std::string(" \"<>^`{|}#?").find(bytes[i]) != std::string::npos ||
-                                (byte == '%' && decodeTriple(bytes, i) < 0);
+        const bool mustEncode =
+            kEncoded.find(bytes[i]) != kEncoded.npos || (byte == '%' && decodeTriple(bytes, i) < 0);
         if (mustEncode)
             entry += {'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]};
         else

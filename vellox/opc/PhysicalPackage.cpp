@@ -20,13 +20,14 @@ boost::shared_ptr<InputStream> PhysicalPart::openInput() const {
     if (content_ == Content::Original)
         return openOriginal();
     if (content_ == Content::Bytes)
-        return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>(bytes_));
+        return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>(readBytes()));
     return boost::make_shared<StdIStreamAdaptor>(LocalFileSystemOps().createInputStream(file_, kReadBinary));
 }
 
 OutputStream& PhysicalPart::startOutput() {
     content_ = Content::Bytes;
     bytes_.clear();
+    beginBytes();
     return output_;
 }
 

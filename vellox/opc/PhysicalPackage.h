@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "vellox/opc/Compression.h"
@@ -38,7 +39,8 @@ public:
     /// The content as it stands: the new one if there is one.
     /// @throws opc::Exception
     boost::shared_ptr<InputStream> openInput() const;
-    /// Starts new content, empty at first. The stream writes to memory and stays valid as long as the part.
+    /// Starts new content, empty at first. The stream writes to memory and stays valid as long as the part. Content is
+    /// whole once the stream is closed, or the container saved.
     OutputStream& startOutput();
     /// Makes a file on disk the new content. It is read in small blocks when the container is saved, and
     /// must still be there then.
@@ -52,14 +54,33 @@ public:
 protected:
     /// The content that the container holds.
     virtual boost::shared_ptr<InputStream> openOriginal() const = 0;
+    /// New content in memory.
+    virtual std::string readBytes() const { return bytes_; }
+    /// New content in memory has come to its start, or to its end.
+    virtual void beginBytes() {}
+    virtual void endBytes() {}
+    std::string takeBytes() { return std::exchange(bytes_, {}); }
 
 private:
+    /// Collects the bytes of a part.
+    class Output : public OutputStream {
+    public:
+        explicit Output(PhysicalPart& part) : part_(part) {}
+        void write(const unsigned char* bytes, std::size_t count) override {
+            part_.bytes_.append(reinterpret_cast<const char*>(bytes), count);
+        }
+        void close() override { part_.endBytes(); }
+
+    private:
+        PhysicalPart& part_;
+    };
+
     PartName name_;
     StandardPartInfo info_;
     Content content_ = Content::Original;
     std::string bytes_;
     std::wstring file_;
-    StringOutputStream output_{bytes_};
+    Output output_{*this};
 };
 
 /// A container. Package works with it, and so does who has to see what Package glosses over.

@@ -1,7 +1,7 @@
 #include "vellox/opc/Relationship.h"
 
 #include "vellox/opc/Exception.h"
-#include "vellox/opc/NodeLinks.h"
+#include "vellox/opc/MarkupBuffer.h"
 #include "vellox/opc/XercesString.h"
 
 #include <algorithm>
@@ -35,19 +35,21 @@ void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
     }
 }
 
-void RelationshipTable::write(DOMLSSerializer& serializer, OutputStream& stream) const {
-    const DocumentScope document(XercesHelper::createDocument(u"Relationships"));
-    auto& root = static_cast<DOMElementImpl&>(*document->getDocumentElement());
-    addAttribute(root, u"xmlns", kNamespace);
-    for (const Relationship& relationship : rows_) {
-        DOMElementImpl& row = appendElement(root, u"Relationship");
-        addAttribute(row, u"Id", XercesString(relationship.getID()));
-        addAttribute(row, u"Type", XercesString(relationship.getType()));
-        addAttribute(row, u"Target", XercesString(relationship.getTarget()));
-        if (relationship.isExternal())
-            addAttribute(row, u"TargetMode", u"External");
+void RelationshipTable::write(OutputStream& stream) const {
+    MarkupBuffer out;
+    const std::size_t start = out.openDocument("Relationships", kNamespace);
+    for (const Relationship& row : rows_) {
+        out.append("<Relationship");
+        out.appendAttribute(u"Id", XercesString(row.getID()));
+        out.appendAttribute(u"Target", XercesString(row.getTarget()));
+        if (row.isExternal())
+            out.appendAttribute(u"TargetMode", u"External");
+        out.appendAttribute(u"Type", XercesString(row.getType()));
+        out.append("/>");
     }
-    XercesHelper::writeDocumentToStream(&serializer, document.get(), stream);
+    out.closeElement("Relationships", start);
+    stream.write(reinterpret_cast<const unsigned char*>(out.get().data()), out.getLength());
+    stream.close();
 }
 
 const Relationship* RelationshipTable::find(const std::wstring& id) const {

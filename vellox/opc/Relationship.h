@@ -54,7 +54,8 @@ public:
 
     /// @throws opc::Exception if the stream isn't a list of relationships
     void read(xercesc::DOMLSParser& namespaceAwareParser, InputStream& stream);
-    void write(xercesc::DOMLSSerializer& serializer, OutputStream& stream) const;
+    /// Writes the part, and closes the stream.
+    void write(OutputStream& stream) const;
 
     const std::vector<Relationship>& getAll() const { return rows_; }
     /// @return null if there is none with that id

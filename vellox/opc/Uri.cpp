@@ -11,15 +11,14 @@ namespace opc {
 
 namespace {
 
-using Segments = std::vector<std::wstring>;
+using Segments = std::vector<std::wstring_view>;
 
-Segments splitPath(const std::wstring& path) {
-    Segments segments(1);
-    for (const wchar_t c : path) {
-        if (c == L'/')
-            segments.emplace_back();
-        else
-            segments.back().push_back(c);
+Segments splitPath(std::wstring_view path) {
+    Segments segments;
+    for (std::size_t start = 0; start <= path.size();) {
+        const std::size_t end = std::min(path.find(L'/', start), path.size());
+        segments.push_back(path.substr(start, end - start));
+        start = end + 1;
     }
     return segments;
 }
@@ -27,10 +26,11 @@ Segments splitPath(const std::wstring& path) {
 } // namespace
 
 std::wstring resolveTarget(const std::wstring& folder, const std::wstring& target) {
-    const std::wstring path = URI(target).getPath();
-    const bool isAbsolute = !path.empty() && path[0] == L'/';
+    const bool isAbsolute = !target.empty() && target[0] == L'/';
+    const std::wstring whole = isAbsolute ? target : folder + target;
+    const std::size_t end = whole.find_first_of(L"?#", isAbsolute ? 0 : folder.size());
     Segments result;
-    for (const std::wstring& segment : splitPath(isAbsolute ? path : folder + path)) {
+    for (const std::wstring_view segment : splitPath(std::wstring_view(whole).substr(0, end))) {
         if (segment == L"..") {
             if (!result.empty())
                 result.pop_back();
@@ -39,8 +39,9 @@ std::wstring resolveTarget(const std::wstring& folder, const std::wstring& targe
         }
     }
     std::wstring name;
-    for (const std::wstring& segment : result)
-        name += L"/" + segment;
+    name.reserve(whole.size() + 1);
+    for (const std::wstring_view segment : result)
+        name.append(L"/").append(segment);
     return name.empty() ? L"/" : name;
 }
 
@@ -54,7 +55,7 @@ std::wstring makeRelativeTarget(const std::wstring& folder, const std::wstring& 
     for (std::size_t i = shared; i + 1 < from.size(); ++i)
         target += L"../";
     for (std::size_t i = shared; i < to.size(); ++i)
-        target += (i > shared ? L"/" : L"") + to[i];
+        target.append(i > shared ? L"/" : L"").append(to[i]);
     return target;
 }
 

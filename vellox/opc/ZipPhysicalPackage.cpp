@@ -108,41 +108,57 @@ class ZipPhysicalPackage::Entry : public PhysicalPart {
 public:
     static constexpr long long kNew = -1;
 
-    Entry(PartName name, StandardPartInfo info, std::string entryName, zip_t* archive, long long index)
+    Entry(ZipPhysicalPackage& package, PartName name, StandardPartInfo info, std::string entryName,
+          long long index)
         : PhysicalPart(std::move(name), info),
+          package_(package),
           entryName_(std::move(entryName)),
-          archive_(archive),
           index_(index) {}
 
     const std::string& getEntryName() const { return entryName_; }
     /// The entry in the target as it is in its archive, still compressed.
     zip_source_t* makeSource(zip_t* target) const {
-        return zip_source_zip(target, archive_, getIndex(), ZIP_FL_COMPRESSED, 0, -1);
+        return zip_source_zip(target, package_.archive_.get(), getIndex(), ZIP_FL_COMPRESSED, 0, -1);
+    }
+    /// Its new content in memory.
+    zip_source_t* makeBytesSource(zip_t* target) {
+        endBytes();
+        return deflated_ ? Deflater::makeSource(target, deflated_)
+                         : zip_source_buffer(target, getBytes().data(), getBytes().size(), 0);
     }
     zip_uint64_t getIndex() const { return static_cast<zip_uint64_t>(index_); }
     /// Whether the archive holds the entry uncompressed.
     bool isStored() const {
         zip_stat_t facts;
-        return zip_stat_index(archive_, getIndex(), 0, &facts) == 0 && (facts.valid & ZIP_STAT_COMP_METHOD) &&
-               facts.comp_method == ZIP_CM_STORE;
+        return zip_stat_index(package_.archive_.get(), getIndex(), 0, &facts) == 0 &&
+               (facts.valid & ZIP_STAT_COMP_METHOD) && facts.comp_method == ZIP_CM_STORE;
     }
 
 protected:
+    // Deflated at once, so that a deck of thousands of slides never is in memory in full length.
+    void beginBytes() override { deflated_.reset(); }
+    void endBytes() override {
+        if (getInfo().compressionType != 0 && !deflated_)
+            deflated_ = package_.requireDeflater().deflate(takeBytes());
+    }
+    std::string readBytes() const override { return deflated_ ? deflated_->inflate() : getBytes(); }
     boost::shared_ptr<InputStream> openOriginal() const override {
         if (index_ == kNew)
             return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>());
         const auto place = static_cast<zip_uint64_t>(index_);
         zip_stat_t facts;
-        if (zip_stat_index(archive_, place, 0, &facts) != 0)
-            fail(zip_get_error(archive_));
+        zip_t* const archive = package_.archive_.get();
+        if (zip_stat_index(archive, place, 0, &facts) != 0)
+            fail(zip_get_error(archive));
         checkInflation(facts);
-        return boost::make_shared<EntryStream>(archive_, place);
+        return boost::make_shared<EntryStream>(archive, place);
     }
 
 private:
+    ZipPhysicalPackage& package_;
     std::string entryName_;
-    zip_t* archive_;
     long long index_;
+    boost::shared_ptr<const Deflated> deflated_;
 };
 
 ZipPhysicalPackage::ZipPhysicalPackage(boost::shared_ptr<StdIStreamAdaptor> input)
@@ -231,13 +247,13 @@ void ZipPhysicalPackage::listEntries() {
         const std::wstring name = readEntryName(facts.name);
         if (name.empty() || name.back() == L'/')
             continue;
-        addEntry(name, boost::make_shared<Entry>(PartName(L"/" + name), StandardPartInfo(),
-                                                 vellox::toUtf8(name), archive_.get(), i));
+        addEntry(name, boost::make_shared<Entry>(*this, PartName(L"/" + name), StandardPartInfo(),
+                                                 vellox::toUtf8(name), i));
     }
 }
 
 boost::shared_ptr<PhysicalPart> ZipPhysicalPackage::createPart(const PartName& name, StandardPartInfo info) {
-    const auto part = boost::make_shared<Entry>(name, info, name.toEntryName(), nullptr, Entry::kNew);
+    const auto part = boost::make_shared<Entry>(*this, name, info, name.toEntryName(), Entry::kNew);
     part->startOutput();
     parts_.push_back(part);
     return part;
@@ -246,8 +262,8 @@ boost::shared_ptr<PhysicalPart> ZipPhysicalPackage::createPart(const PartName& n
 OutputStream& ZipPhysicalPackage::getContentTypeOutputStream() {
     if (!contentTypes_)
         contentTypes_ =
-            boost::make_shared<Entry>(PartName(std::wstring(L"/") + kContentTypesEntry), StandardPartInfo(),
-                                      vellox::toUtf8(kContentTypesEntry), nullptr, Entry::kNew);
+            boost::make_shared<Entry>(*this, PartName(std::wstring(L"/") + kContentTypesEntry),
+                                      StandardPartInfo(), vellox::toUtf8(kContentTypesEntry), Entry::kNew);
     return contentTypes_->startOutput();
 }
 
@@ -263,7 +279,13 @@ void ZipPhysicalPackage::close(bool save) {
         input_->close();
 }
 
-void ZipPhysicalPackage::saveToFile() const {
+Deflater& ZipPhysicalPackage::requireDeflater() {
+    if (!deflater_)
+        deflater_ = std::make_unique<Deflater>(compression_);
+    return *deflater_;
+}
+
+void ZipPhysicalPackage::saveToFile() {
     try {
         const fsys::Path place{std::filesystem::path(path_)};
         fsys::FreshFile fresh(place);
@@ -277,16 +299,15 @@ void ZipPhysicalPackage::saveToFile() const {
     }
 }
 
-void ZipPhysicalPackage::writeArchive(std::ostream& stream) const {
-    const Deflater deflater(compression_);
+void ZipPhysicalPackage::writeArchive(std::ostream& stream) {
     ZipError error;
     Archive target = openSource(makeWriteSource(stream, error.get()), ZIP_CREATE | ZIP_TRUNCATE, error.get());
     if (!target)
         fail(error.get());
     if (contentTypes_)
-        writeEntry(target.get(), static_cast<const Entry&>(*contentTypes_), deflater);
+        writeEntry(target.get(), static_cast<Entry&>(*contentTypes_));
     for (const auto& part : parts_)
-        writeEntry(target.get(), static_cast<const Entry&>(*part), deflater);
+        writeEntry(target.get(), static_cast<Entry&>(*part));
     if (zip_close(target.get()) != 0)
         fail(zip_get_error(target.get()));
     static_cast<void>(target.release()); // zip_close has ended it
@@ -319,23 +340,20 @@ void ZipPhysicalPackage::copyHeaders(std::istream& source, std::iostream& target
             copyZipHeader(target, headers[i], sources[static_cast<const Entry*>(entries[i])->getIndex()]);
 }
 
-zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, const Entry& entry,
-                                             const Deflater& deflater) const {
+zip_source_t* ZipPhysicalPackage::makeSource(zip_t* target, Entry& entry) {
     switch (entry.getContent()) {
     case PhysicalPart::Content::Original:
         return entry.makeSource(target);
     case PhysicalPart::Content::Bytes:
-        if (!isStored(entry))
-            return deflater.makeSource(target, entry.getBytes());
-        return zip_source_buffer(target, entry.getBytes().data(), entry.getBytes().size(), 0);
+        return entry.makeBytesSource(target);
     case PhysicalPart::Content::File:
         return makeFileSource(target, vellox::toUtf8(entry.getContentFile()));
     }
     return nullptr;
 }
 
-void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const {
-    zip_source_t* source = makeSource(target, entry, deflater);
+void ZipPhysicalPackage::writeEntry(zip_t* target, Entry& entry) {
+    zip_source_t* source = makeSource(target, entry);
     if (!source)
         fail(zip_get_error(target));
     const zip_int64_t index = zip_file_add(target, entry.getEntryName().c_str(), source, ZIP_FL_ENC_UTF_8);
@@ -351,7 +369,7 @@ void ZipPhysicalPackage::writeEntry(zip_t* target, const Entry& entry, const Def
         return;
     }
     const zip_int32_t method = isStored(entry) ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
-    if (zip_set_file_compression(target, place, method, deflater.getZlibLevel()) != 0 ||
+    if (zip_set_file_compression(target, place, method, requireDeflater().getZlibLevel()) != 0 ||
         zip_file_set_dostime(target, place, kNewEntryTime, kNewEntryDate, 0) != 0)
         fail(zip_get_error(target));
 }

@@ -53,18 +53,20 @@ private:
     Archive openForReading() const;
     std::uint64_t measure() const;
     void listEntries();
-    void saveToFile() const;
-    void writeArchive(std::ostream& stream) const;
+    Deflater& requireDeflater();
+    void saveToFile();
+    void writeArchive(std::ostream& stream);
     void copyHeaders(std::iostream& target) const;
     void copyHeaders(std::istream& source, std::iostream& target) const;
-    void writeEntry(zip_t* target, const Entry& entry, const Deflater& deflater) const;
-    zip_source_t* makeSource(zip_t* target, const Entry& entry, const Deflater& deflater) const;
+    void writeEntry(zip_t* target, Entry& entry);
+    static zip_source_t* makeSource(zip_t* target, Entry& entry);
 
     boost::shared_ptr<StdIStreamAdaptor> input_;
     boost::shared_ptr<StdOStreamAdaptor> output_;
     std::string path_;
     hostfx::filesystem::FileIdentity former_; // of the file at the path, as it was opened
     Archive archive_;
+    std::unique_ptr<Deflater> deflater_; // from the first content on
 };
 
 } // namespace opc

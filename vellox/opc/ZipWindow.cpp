@@ -10,6 +10,10 @@ constexpr std::size_t kCapacity = 512 << 10; // a picture of usual size, with it
 
 }
 
+ZipWindow::ZipWindow(std::ostream& stream) : stream_(stream) {
+    bytes_.reserve(kCapacity); // of which the system gives what is used
+}
+
 bool ZipWindow::put(std::uint64_t place, const char* bytes, std::size_t count) {
     if (place != streamPlace_)
         stream_.seekp(static_cast<std::streamoff>(place));

@@ -15,7 +15,7 @@ namespace opc {
 /// loses memory when that can't be told.
 class ZipWindow {
 public:
-    explicit ZipWindow(std::ostream& stream) : stream_(stream) {}
+    explicit ZipWindow(std::ostream& stream);
 
     /// @{ Where the next bytes go, from 0 to the size.
     std::uint64_t getPlace() const { return place_; }

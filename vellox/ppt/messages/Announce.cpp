@@ -12,8 +12,11 @@ namespace vellox::ppt {
 
 namespace {
 
-MessageFilter getFilter() {
-    return MessageDispatcher::getTheDispatcher().getMessageFilter();
+// The dispatcher has one, and keeps it. Every object that comes or goes asks, so that even a handle would cost.
+const MessageFilter& getFilter() {
+    static const MessageFilter& filter =
+        *new MessageFilter(MessageDispatcher::getTheDispatcher().getMessageFilter());
+    return filter;
 }
 
 void dispatch(const Message& message) {

@@ -20,18 +20,18 @@ boost::shared_ptr<PPTClientImpl> PPTClientImpl::clone() const {
 
 namespace {
 
-std::wstring makeId() {
+unsigned int takeNumber() {
     static unsigned int counter = 0;
-    return num2str(++counter);
+    return ++counter;
 }
 
 } // namespace
 
-PPTObjectImpl::PPTObjectImpl() : id_(makeId()) {}
+PPTObjectImpl::PPTObjectImpl() : number_(takeNumber()) {}
 
-PPTObjectImpl::PPTObjectImpl(const PPTObjectImpl& other) : Wrappable(other), id_(makeId()) {
-    if (other.client_)
-        setClient(other.client_->clone());
+PPTObjectImpl::PPTObjectImpl(const PPTObjectImpl& other) : Wrappable(other), number_(takeNumber()) {
+    if (const auto client = other.getClient())
+        setClient(client->clone());
 }
 
 PPTObjectImpl::~PPTObjectImpl() {
@@ -46,19 +46,44 @@ boost::shared_ptr<PPTObject> PPTObjectImpl::makeHandle() {
     return boost::shared_ptr<PPTObject>(new PPTObject(ObjectAccess::makeHandle(this)));
 }
 
+PPTObjectImpl::Marks& PPTObjectImpl::requireMarks() {
+    if (!marks_)
+        marks_ = std::make_unique<Marks>();
+    return *marks_;
+}
+
+std::wstring PPTObjectImpl::getId() const {
+    return marks_ && marks_->id ? *marks_->id : num2str(number_);
+}
+
+void PPTObjectImpl::setId(const std::wstring& id) {
+    requireMarks().id = id;
+}
+
+void PPTObjectImpl::setTag(const std::wstring& tag) {
+    requireMarks().tag = tag;
+}
+
 std::wstring PPTObjectImpl::getTag() const {
-    if (!tag_.empty())
-        return tag_;
+    if (marks_ && !marks_->tag.empty())
+        return marks_->tag;
     const std::wstring name = toStringFromASCIIStringLiteral(getFullyQualifiedHostTypeName());
-    return name.substr(name.find(L'.') + 1) + L":" + id_;
+    return name.substr(name.find(L'.') + 1) + L":" + getId();
+}
+
+boost::shared_ptr<PPTClientImpl> PPTObjectImpl::getClient() const {
+    return marks_ ? marks_->client : boost::shared_ptr<PPTClientImpl>();
 }
 
 void PPTObjectImpl::setClient(const boost::shared_ptr<PPTClientImpl>& client) {
-    if (client_ && client_->object_ == this)
-        client_->object_ = nullptr; // somebody may hold it longer
-    client_ = client;
-    if (client_)
-        client_->object_ = this;
+    if (!client && !marks_)
+        return;
+    const boost::shared_ptr<PPTClientImpl> former = getClient(); // somebody may hold it longer
+    if (former && former->object_ == this)
+        former->object_ = nullptr;
+    requireMarks().client = client;
+    if (client)
+        client->object_ = this;
 }
 
 void intrusive_ptr_add_ref(PPTObjectImpl* object) {

@@ -6,6 +6,8 @@
 
 #include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "vellox/host/services/Wrappable.h"
@@ -25,11 +27,11 @@ public:
     /// A new facade of the object's own class.
     virtual boost::shared_ptr<PPTObject> makeHandle();
 
-    const std::wstring& getId() const { return id_; }
-    void setId(const std::wstring& id) { id_ = id; }
+    std::wstring getId() const;
+    void setId(const std::wstring& id);
     std::wstring getTag() const;
-    void setTag(const std::wstring& tag) { tag_ = tag; }
-    const boost::shared_ptr<PPTClientImpl>& getClient() const { return client_; }
+    void setTag(const std::wstring& tag);
+    boost::shared_ptr<PPTClientImpl> getClient() const;
     void setClient(const boost::shared_ptr<PPTClientImpl>& client);
     int getRefCount() const { return refCount_; }
 
@@ -61,9 +63,17 @@ private:
     friend void intrusive_ptr_add_ref(PPTObjectImpl* object);
     friend void intrusive_ptr_release(PPTObjectImpl* object);
 
-    boost::shared_ptr<PPTClientImpl> client_;
-    std::wstring id_;
-    std::wstring tag_;
+    /// What few objects have; a deck has objects by the hundred thousand.
+    struct Marks {
+        boost::shared_ptr<PPTClientImpl> client;
+        std::optional<std::wstring> id; // one that was set
+        std::wstring tag;
+    };
+
+    Marks& requireMarks();
+
+    std::unique_ptr<Marks> marks_;
+    unsigned int number_; // the Id of an object that wasn't given another
     int refCount_ = 0;
     Life life_ = Life::Whole;
 };
