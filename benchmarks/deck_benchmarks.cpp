@@ -103,6 +103,31 @@ void copyOfPictures(benchmark::State& state) {
 }
 BENCHMARK(copyOfPictures)->Unit(benchmark::kMillisecond);
 
+void tokens(benchmark::State& state) {
+    constexpr unsigned kTokensPerSlide = 10;
+    const auto slides = static_cast<unsigned>(state.range(0));
+    const std::wstring source = inTempFolder(L"vellox-bench-tokens.pptx");
+    writeTokenTemplate(source, slides, kTokensPerSlide);
+    for (auto _ : state)
+        fillTokenDeck(getOutput(), source, kTokensPerSlide);
+    state.SetItemsProcessed(state.iterations() * slides * kTokensPerSlide);
+    std::filesystem::remove(toUtf8(source));
+    removeOutput();
+}
+BENCHMARK(tokens)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void copies(benchmark::State& state) {
+    const auto slides = static_cast<unsigned>(state.range(0));
+    const std::wstring source = inTempFolder(L"vellox-bench-sample.pptx");
+    writeTokenTemplate(source, 1, 10);
+    for (auto _ : state)
+        copySlides(getOutput(), source, slides);
+    state.SetItemsProcessed(state.iterations() * slides);
+    std::filesystem::remove(toUtf8(source));
+    removeOutput();
+}
+BENCHMARK(copies)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 } // namespace vellox::bench

@@ -95,6 +95,53 @@ void makePictureDeck(const std::wstring& output, unsigned slides, const std::vec
     deck.close();
 }
 
+namespace {
+
+std::wstring sayTokens(unsigned first, unsigned end) {
+    std::wstring text = L"Of";
+    for (unsigned token = first; token < end; ++token)
+        text += say(L" {value", token) + L":.2f}";
+    return text;
+}
+
+} // namespace
+
+void writeTokenTemplate(const std::wstring& path, unsigned slides, unsigned tokensPerSlide) {
+    Presentation deck(path);
+    for (unsigned i = 0; i < slides; ++i) {
+        Slide slide = deck.add(L"Two Content");
+        slide.replace(L"Title", sayTokens(0, 1));
+        slide.add(L"Left Content", sayTokens(1, tokensPerSlide / 2));
+        slide.add(L"Right Content", L"A text without any");
+        TableRow row;
+        for (unsigned token = tokensPerSlide / 2; token < tokensPerSlide; ++token)
+            row.append(TableEntry(sayTokens(token, token + 1)));
+        Table table;
+        table.append(row);
+        slide.add(table);
+    }
+    deck.close();
+}
+
+void fillTokenDeck(const std::wstring& output, const std::wstring& templatePath, unsigned tokensPerSlide) {
+    Presentation deck(output, templatePath);
+    std::vector<Contents::Row> values;
+    for (unsigned token = 0; token < tokensPerSlide; ++token)
+        values.emplace_back(say(L"value", token), token * 1.5);
+    deck.fillTokens(values, true);
+    deck.close();
+}
+
+void copySlides(const std::wstring& output, const std::wstring& templatePath, unsigned copies) {
+    Presentation deck(output, templatePath);
+    deck.open();
+    const Slide sample = *Slide::cast(deck.getChildren().front());
+    for (unsigned i = 0; i < copies; ++i)
+        deck.copy(sample).replace(L"Title", say(L"Copy ", i));
+    deck.remove(sample);
+    deck.close();
+}
+
 void openDeck(const std::wstring& output, const std::wstring& templatePath) {
     Presentation(output, templatePath).open();
 }

@@ -23,6 +23,13 @@ void makeSmallDeck(const std::wstring& output, const std::wstring& image);
 void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks);
 /// @}
 
+/// Writes a deck of slides to be filled: on each a title, two boxes and a table, with so many tokens together.
+void writeTokenTemplate(const std::wstring& path, unsigned slides, unsigned tokensPerSlide);
+/// Fills the tokens of such a deck.
+void fillTokenDeck(const std::wstring& output, const std::wstring& templatePath, unsigned tokensPerSlide);
+/// Copies the first slide of a deck so many times, each with a title of its own, and takes it out.
+void copySlides(const std::wstring& output, const std::wstring& templatePath, unsigned copies);
+
 /// Opens a deck as template, as a presentation does that adds nothing.
 void openDeck(const std::wstring& output, const std::wstring& templatePath);
 /// Writes the default template with that many small vector shapes on its master.

@@ -14,7 +14,7 @@ import time
 
 SOURCES = os.path.dirname(os.path.abspath(__file__))
 
-# Name, kind and count of make_deck, what to divide by for one deck, and whether there is a Python version.
+# Name, kind and count of make_deck, what to divide by for one deck, and whether other languages make it too.
 WORKLOADS = [
     ("W1  1,000 slides of a title and five bullets", "text", 1000, 1, True),
     ("W1  5,000 slides", "text", 5000, 1, False),
@@ -43,7 +43,9 @@ class Bench:
         self.programs = os.path.join(build, "bin")
         self.folder = folder
         self.runs = runs
-        os.environ.update(PYTHONPATH=os.path.join(build, "python"), PYTHONDONTWRITEBYTECODE="1")
+        octave = os.path.join(build, "octave")
+        self.has_octave = os.path.exists(octave)
+        os.environ.update(PYTHONPATH=os.path.join(build, "python"), PYTHONDONTWRITEBYTECODE="1", OCTAVE_PATH=octave)
         run([os.path.join(self.programs, "make_deck"), "images", "200", folder])
 
     def path(self, name):
@@ -56,6 +58,11 @@ class Bench:
         script = os.path.join(SOURCES, "python", "make_deck.py")
         return ["/usr/bin/python3", script, kind, str(count), self.path("deck.pptx"), self.folder]
 
+    def octave_deck(self, kind, count):
+        script = os.path.join(SOURCES, "octave", "make_deck.m")
+        return ["/usr/bin/octave-cli", "--norc", "--no-history", "--quiet", script, kind, str(count),
+                self.path("deck.pptx"), self.folder]
+
     def floor(self, times):
         return [os.path.join(self.programs, "floor"), "write", self.path("parts"), self.path("floor"), str(times)]
 
@@ -64,16 +71,18 @@ class Bench:
         rounds = [[run(command, self.by_cpu) for command in commands] for _ in range(self.runs)]
         return [tuple(statistics.median(figures) for figures in zip(*runs)) for runs in zip(*rounds)]
 
-    def workload(self, title, kind, count, decks, with_python):
+    def workload(self, title, kind, count, decks, with_others):
         run(self.deck(kind, count))
         run([os.path.join(self.programs, "floor"), "unpack", self.path("deck.pptx"), self.path("parts")])
         commands = [self.deck(kind, count), self.floor(decks)]
-        if with_python:
+        if with_others:
             commands.append(self.python_deck(kind, count))
-        (seconds, peak), (least, _), *python = self.measure(commands)
-        from_python = f"{python[0][0] / seconds:10.2f}" if python else ""
+            if self.has_octave:
+                commands.append(self.octave_deck(kind, count))
+        (seconds, peak), (least, _), *others = self.measure(commands)
+        from_others = "".join(f"{other / seconds:10.2f}" for other, _ in others)
         print(f"{title:52}{1000 * seconds / decks:9.1f} ms{1000 * least / decks:9.1f} ms"
-              f"{seconds / least:8.1f}{peak / 1024:8.0f} MB{from_python}", flush=True)
+              f"{seconds / least:8.1f}{peak / 1024:8.0f} MB{from_others}", flush=True)
         return seconds, peak
 
     def openings(self):
@@ -100,9 +109,9 @@ def main():
     options = arguments.parse_args()
     with tempfile.TemporaryDirectory() as folder:
         bench = Bench(os.path.abspath(options.build), folder, options.runs, options.cpu)
-        print(f"{'':52}{'a deck':>12}{'floor':>12}{'times':>8}{'peak':>11}{'Python':>10}")
-        results = {(kind, count): bench.workload(title, kind, count, decks, with_python)
-                   for title, kind, count, decks, with_python in WORKLOADS}
+        print(f"{'':52}{'a deck':>12}{'floor':>12}{'times':>8}{'peak':>11}{'Python':>10}{'Octave':>10}")
+        results = {(kind, count): bench.workload(title, kind, count, decks, with_others)
+                   for title, kind, count, decks, with_others in WORKLOADS}
         more = results["text", 5000][1] - results["text", 1000][1]
         print(f"\nMemory for each further slide of text: {more / 4000:.1f} kB")
         bench.openings()

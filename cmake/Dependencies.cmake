@@ -7,4 +7,17 @@ pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip>=1.7)
 pkg_check_modules(libdeflate REQUIRED IMPORTED_TARGET libdeflate>=1.14)
 pkg_check_modules(tiff REQUIRED IMPORTED_TARGET libtiff-4>=4.5)
 pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
+# Without it nobody can tell whether a template's fonts are installed.
+pkg_check_modules(fontconfig IMPORTED_TARGET fontconfig>=2.13)
 find_program(MSGFMT msgfmt REQUIRED)
+
+# The command needs three more; a build without them goes on without it.
+if(VELLOX_CLI)
+    find_package(CLI11 2.1 QUIET)
+    find_package(nlohmann_json 3.11 QUIET)
+    find_package(yaml-cpp 0.7 QUIET)
+    if(NOT (CLI11_FOUND AND nlohmann_json_FOUND AND yaml-cpp_FOUND))
+        message(STATUS "The command vellox is left out: scripts/install-packages cli brings what it needs")
+        set(VELLOX_CLI OFF)
+    endif()
+endif()

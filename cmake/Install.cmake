@@ -1,5 +1,5 @@
-# What find_package(vellox) and pkg-config find. There are four components: what runs, what programs are built with,
-# the Python package, and tools for users.
+# What find_package(vellox) and pkg-config find. There are five components: what runs, what programs are built with,
+# the Python package, the Octave package, and tools for users.
 
 include(CMakePackageConfigHelpers)
 

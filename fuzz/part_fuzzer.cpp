@@ -31,7 +31,7 @@ const test::Parts& getBase() {
     static const test::Parts parts = [] {
         const test::TempFolder folder;
         ppt::Presentation deck(folder / L"base.pptx");
-        deck.add(L"Two Content").replace(L"Title", L"text");
+        deck.add(L"Two Content").replace(L"Title", L"{text} and {list}");
         deck.close();
         return test::readParts(folder / L"base.pptx");
     }();
@@ -46,8 +46,32 @@ ppt::Table makeTable() {
     return table;
 }
 
+// What the template brings is a sample: copied, filled, and taken out.
+void useSamples(ppt::Presentation& deck) {
+    constexpr std::size_t kMostSamples = 3;
+    const ppt::PPTNode::Children slides(deck.getChildren());
+    for (std::size_t i = 0; i < slides.size() && i < kMostSamples; ++i) {
+        const auto sample = ppt::Slide::cast(slides[i]);
+        ppt::Slide copy = deck.copy(*sample);
+        copy.setNotes(copy.getNotes() + L" {text}");
+        copy.setHidden(!copy.isHidden());
+        copy.fill({}, true);
+        for (const auto& child : copy.getChildren()) {
+            const auto table = ppt::Table::cast(child);
+            if (const auto cell = table ? table->entry(0, 0) : nullptr)
+                cell->setText(cell->getText() + L"\n{text}");
+        }
+    }
+    deck.fillTokens(
+        {{L"text", 2.5}, {L"list", ppt::list({L"a", ppt::list({L"b"})})}, {L"table", makeTable()}});
+    if (!slides.empty())
+        deck.remove(*ppt::Slide::cast(slides.front()));
+}
+
 void makeDeck(const std::wstring& output, const std::wstring& templateFile) {
     ppt::Presentation deck(output, templateFile);
+    deck.open();
+    useSamples(deck);
     for (const std::wstring& master : deck.getMasterNames())
         for (const std::wstring& layout : deck.getLayoutNames(master)) {
             ppt::Slide slide = deck.add(layout, master);

@@ -52,6 +52,8 @@ class Caller:
     def pick(self, wanted):
         """A value of a type, as a docstring names it, or any."""
         plain = {"str": TEXTS, "int": [0, 1, 2, 3], "float": [0.5], "bool": [True, False]}
+        if wanted == "Mapping":
+            return {self.draw.choice(["Title", "type:body", "idx:1"] + TEXTS): self.pick("Any")}
         if wanted in plain:
             return self.draw.choice(plain[wanted])
         found = [each for each in self.objects if isinstance(each, getattr(ppt, wanted, ()))]

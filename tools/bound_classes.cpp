@@ -32,11 +32,12 @@ are matched by:
 | uint32 scalar | one whole number that isn't negative |
 | double scalar | one number |
 | any | what none of the others takes |
+| fields | values under names, such as a dictionary |
 | a class | one object of it or of a subclass |
 | Node vector | nodes, each of its own class |
 
 *Or empty* means that the value may be the empty array: reading gives it where nothing is set, and setting it unsets.
-Subscripts count from 1.
+Subscripts count from 1. Parameters in brackets can be left out; those with `=` are given by their names.
 )";
 
 std::string removePackage(std::string text) {
@@ -49,8 +50,9 @@ std::string removePackage(std::string text) {
 std::string formatSignature(const Signature& signature) {
     std::string text;
     for (const Parameter& parameter : signature)
-        text += (text.empty() ? "" : ", ") + removePackage(parameter.word.getText()) + " *" + parameter.name +
-                "*";
+        text += (text.empty() ? "" : ", ") + std::string(parameter.isOptional ? "[" : "") +
+                removePackage(parameter.word.getText()) + " *" + parameter.name + "*" +
+                (parameter.isKeyword ? "=" : "") + (parameter.isOptional ? "]" : "");
     return "(" + text + ")";
 }
 

@@ -16,6 +16,8 @@
 #define VELLOX_VELLOX_H
 
 #include "vellox/check/PackageCheck.h"
+#include "vellox/doctor/ReportJson.h"
+#include "vellox/doctor/TemplateDoctor.h"
 #include "vellox/foundation/ByteArray.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Dimension.h"
@@ -42,9 +44,11 @@
 #include "vellox/ppt/messages/Message.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/messages/MessageFilter.h"
+#include "vellox/ppt/object/Content.h"
 #include "vellox/ppt/object/PPTClientImpl.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/object/PPTObject.h"
+#include "vellox/ppt/tree/Cast.h"
 #include "vellox/ppt/tree/ColSpec.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/ExternalLink.h"
@@ -59,5 +63,7 @@
 #include "vellox/ppt/tree/TableRow.h"
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
+#include "vellox/reading/DeckComparison.h"
+#include "vellox/reading/DeckReader.h"
 
 #endif

@@ -10,14 +10,16 @@ OctCall::OctCall(const octave_value_list& values, const Reading& reading) {
 }
 
 std::size_t OctCall::select(const std::vector<const hostbind::Signature*>& signatures,
-                            const std::string& name, const std::function<std::string()>& describe) const {
+                            const std::function<Expected()>& describe) const {
     const int found = hostbind::findOverload(signatures, getArguments());
     if (found >= 0)
         return static_cast<std::size_t>(found);
     std::string given;
     for (const OctValue& value : values_)
         given += (given.empty() ? "" : ", ") + value.getClassName();
-    raiseError("Octave:invalid-fun-call", name + " doesn't take (" + given + "). It takes:\n\n" + describe());
+    const Expected expected = describe();
+    raiseError("Octave:invalid-fun-call",
+               expected.name + " doesn't take (" + given + "). It takes:\n\n" + expected.overloads);
 }
 
 } // namespace vellox::ppt::oct

@@ -14,6 +14,12 @@
 
 namespace vellox::ppt::oct {
 
+/// What an error tells of a function.
+struct Expected {
+    std::string name;
+    std::string overloads;
+};
+
 /// Views of arguments.
 class OctCall {
 public:
@@ -23,8 +29,8 @@ public:
 
     /// The position of the signature that fits.
     /// @throws octave::execution_exception with a text that lists what would fit
-    std::size_t select(const std::vector<const hostbind::Signature*>& signatures, const std::string& name,
-                       const std::function<std::string()>& describe) const;
+    std::size_t select(const std::vector<const hostbind::Signature*>& signatures,
+                       const std::function<Expected()>& describe) const;
 
 private:
     std::deque<OctValue> values_;

@@ -2,6 +2,8 @@
 
 #include "bindings/octave/OctErrors.h"
 #include "bindings/octave/OctObject.h"
+#include "bindings/octave/OctObjects.h"
+#include "bindings/octave/OctRows.h"
 #include "vellox/host/binding/HostCall.h"
 #include "vellox/host/binding/Module.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
@@ -9,6 +11,7 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace vellox::ppt::oct {
 
@@ -49,11 +52,13 @@ void OctClassSystem::begin() {
     setHostClassSystem(&get());
     HostInitialize_vellox_ppt();
     getInterpreter().feval("atexit", ovl("__vellox_exit__"));
+    installDelete();
 }
 
 void OctClassSystem::end() {
     isEnding_ = true;
     listening_.clear();
+    waiting_.clear();
     HostTerminate_vellox_ppt();
 }
 
@@ -80,16 +85,34 @@ OctClass& OctClassSystem::getClass(std::size_t number) {
     return classes_[number];
 }
 
+OctClass& OctClassSystem::findClass(const BoundClass& bound) {
+    // Both are in the order of the table.
+    return classes_[static_cast<std::size_t>(&bound - getBoundClasses().data())];
+}
+
 objreg::HostInterface& OctClassSystem::makeInstance(const BoundClass& bound, const ObjectPtr& object) {
     const octave::cdef_object made = allocateObject(bound);
     made_ = octave::to_ov(made);
     OctSlot& slot = OctSlot::put(made);
     slot.hold(bound, object);
+    shortenWay(bound);
     return slot;
 }
 
 bool OctClassSystem::isValid(const objreg::HostInterface& hostObject) const {
     return !isEnding_ && hostObject.getProxy();
+}
+
+void OctClassSystem::letEnd(ObjectPtr object) {
+    if (!listening_.empty())
+        waiting_.push_back(std::move(object));
+}
+
+void OctClassSystem::endWaiting() {
+    while (!waiting_.empty()) { // listeners may make others wait
+        const std::vector<ObjectPtr> ending = std::exchange(waiting_, {});
+        static_cast<void>(ending);
+    }
 }
 
 // Listeners

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "bindings/octave/OctErrors.h"
 #include "bindings/octave/Octave.h"
 #include "vellox/host/binding/HostClassSystem.h"
 
@@ -23,6 +24,7 @@ struct OctClass {
     const hostbind::BoundClass& bound;
     std::vector<const hostbind::Signature*> constructors;
     std::vector<Overloads> methods; ///< by the row of each name's first overload
+    bool hasShortWay = false;       ///< see shortenWay()
 
     explicit OctClass(const hostbind::BoundClass& boundClass);
     const Overloads& getOverloads(std::size_t row);
@@ -40,8 +42,15 @@ public:
 
     /// @throws octave::execution_exception for a number that no class has
     OctClass& getClass(std::size_t number);
+    OctClass& findClass(const hostbind::BoundClass& bound);
     /// Lets go of the object that makeInstance() made, once somebody else holds it.
     void releaseMade() { made_ = octave_value(); }
+
+    /// Lets go of an object of the library: at once, or while there are listeners, who hear of its end, at the next call
+    /// from a class file. Octave lets go of objects in the midst of changing variables, which no function may then see.
+    void letEnd(hostbind::ObjectPtr object);
+    /// Lets end what waits for it.
+    void endWaiting();
 
     /// @{ The listeners of an object, which is kept while it has some.
     void addListener(const octave_value& object, const octave_value& listener);
@@ -70,10 +79,19 @@ private:
 
     std::vector<OctClass> classes_;
     octave_value made_;
+    std::vector<hostbind::ObjectPtr> waiting_;
     std::vector<Listening> listening_;
     unsigned long listenerCount_ = 0;
     bool isEnding_ = false;
 };
+
+/// Runs what Octave calls: the way in for everything.
+template <class Function> auto enter(Function function) {
+    return guarded([&] {
+        OctClassSystem::get().endWaiting();
+        return function();
+    });
+}
 
 } // namespace vellox::ppt::oct
 

@@ -87,7 +87,9 @@ void OctSlot::drop() {
         return;
     warnOfLoss(*class_, getProxy());
     BindingRegistry::remove(proxy_, *this);
-    ObjectPtr().swap(proxy_);
+    ObjectPtr dropped;
+    dropped.swap(proxy_);
+    OctClassSystem::get().letEnd(std::move(dropped));
 }
 
 void OctSlot::retract() noexcept {

@@ -78,14 +78,24 @@ Values isValid(const Values& values) {
     return ovl(valid);
 }
 
-Values letGo(const Values& values) {
+namespace {
+
+/// (object): what `delete` does.
+Values letGo(const Values& values, int) {
+    if (values.length() != 1)
+        raiseError("Octave:invalid-fun-call", "delete takes one object, or an array of them");
     for (const octave_value& each : getElements(values(0)).values)
-        if (OctSlot* slot = findSlot(each)) {
-            HostCall call;
+        if (OctSlot* slot = findSlot(each))
             slot->drop();
-            call.finish();
-        }
     return {};
+}
+
+} // namespace
+
+void installDelete() {
+    octave::cdef_manager& manager = getInterpreter().get_cdef_manager();
+    octave::cdef_class root = manager.find_class(getBoundClasses().front().getFullName());
+    root.install_method(manager.make_method(root, "delete", letGo));
 }
 
 // Showing

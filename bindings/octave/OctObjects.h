@@ -14,8 +14,9 @@ octave_value_list compare(const octave_value_list& values);
 octave_value_list isEqual(const octave_value_list& values);
 /// (object): whether it stands for an object of the library, element by element.
 octave_value_list isValid(const octave_value_list& values);
-/// (object): lets go of what it stands for.
-octave_value_list letGo(const octave_value_list& values);
+/// Gives all objects a method `delete`, which lets go of what they stand for. Octave also calls it for each object whose
+/// last variable goes: a function in a class file would be slow, and run in the midst of other functions' ends.
+void installDelete();
 /// (object): what is shown of it, as text.
 octave_value_list show(const octave_value_list& values);
 /// (dimension, values...): a cell array of them, and of what stands in them.

@@ -18,11 +18,17 @@ namespace vellox::ppt::python {
 class PyCall {
 public:
     /// No bound function takes more.
-    static constexpr std::size_t kMostArguments = 4;
+    static constexpr std::size_t kMostArguments = 8;
 
-    PyCall(PyObject* const* objects, std::size_t count, const Reading& reading = {});
+    /// @param names of the last arguments, a tuple; null if none has one
+    PyCall(PyObject* const* objects, std::size_t count, const Reading& reading = {},
+           PyObject* names = nullptr);
 
-    hostbind::Arguments getArguments() const { return {pointers_.data(), count_}; }
+    hostbind::Arguments getArguments() const { return {pointers_.data(), count_ - named_.size()}; }
+    /// All of them as a signature that fits has them.
+    std::vector<const hvArray*> orderFor(const hostbind::Signature& signature) const {
+        return *hostbind::orderArguments(signature, getArguments(), named_);
+    }
 
     /// The position of the signature that fits.
     /// @throws PythonError a TypeError that lists what would fit
@@ -34,6 +40,7 @@ private:
     std::size_t count_;
     std::array<std::optional<PyValue>, kMostArguments> values_;
     std::array<const hvArray*, kMostArguments> pointers_ = {};
+    std::vector<hostbind::NamedArgument> named_; // the last of them
 };
 
 } // namespace vellox::ppt::python

@@ -26,6 +26,8 @@ struct Overloads {
     std::string textSignature;
     std::vector<const BoundMethod*> methods;
     std::vector<const Signature*> signatures;
+    bool takesKeywords = false;
+    bool takesFields = false;
 
     Overloads(const PyClass& ownerClass, const char* methodName)
         : owner(ownerClass),
@@ -34,8 +36,13 @@ struct Overloads {
           methods(owner.bound.getOverloads(methodName)) {
         doc = describeOverloads(methods);
         textSignature = formatTextSignature(methods);
-        for (const BoundMethod* method : methods)
+        for (const BoundMethod* method : methods) {
             signatures.push_back(&method->signature);
+            for (const Parameter& parameter : method->signature) {
+                takesKeywords = takesKeywords || parameter.isKeyword;
+                takesFields = takesFields || parameter.word.getKind() == SignatureWord::Kind::Fields;
+            }
+        }
     }
     bool isStatic() const { return methods.front()->isStatic; }
 };
@@ -63,17 +70,22 @@ ObjectPtr takeSelf(const Overloads& overloads, PyObject* const*& objects, std::s
 PyObject* callMethod(PyObject* callable, PyObject* const* objects, std::size_t flags, PyObject* keywords) {
     return guarded<PyObject*>(nullptr, [&] {
         const Overloads& overloads = overloadsOf(callable);
-        if (keywords && PyTuple_GET_SIZE(keywords) > 0)
+        const auto named = static_cast<std::size_t>(keywords ? PyTuple_GET_SIZE(keywords) : 0);
+        if (named > 0 && !overloads.takesKeywords)
             throw PythonError(PyExc_TypeError, overloads.qualifiedName + " takes no keyword arguments");
         auto count = static_cast<std::size_t>(PyVectorcall_NARGS(flags));
         const ObjectPtr self = takeSelf(overloads, objects, count);
-        const PyCall arguments(objects, count);
+        count += named;
+        Reading reading;
+        reading.fields = overloads.takesFields;
+        const PyCall arguments(objects, count, reading, keywords);
         const std::size_t chosen =
             arguments.select(overloads.signatures, overloads.qualifiedName, overloads.doc);
         const Given given(self.get(), overloads.owner.bound.name, overloads.name.c_str(), objects, count);
         HostCall call;
         PyRef result = given.run([&] {
-            return toPython(overloads.methods[chosen]->invoke(self.get(), arguments.getArguments()));
+            const std::vector<const hvArray*> ordered = arguments.orderFor(*overloads.signatures[chosen]);
+            return toPython(overloads.methods[chosen]->invoke(self.get(), {ordered.data(), ordered.size()}));
         });
         call.finish();
         return result.release();

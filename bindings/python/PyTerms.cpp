@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace vellox::ppt::python {
 
@@ -31,6 +32,8 @@ std::string getTypeName(const SignatureWord& word) {
         return "bytes";
     case Kind::Any:
         return "Any";
+    case Kind::Fields:
+        return "Mapping[str, Any]";
     case Kind::Void:
         return "None";
     case Kind::Object:
@@ -48,8 +51,14 @@ std::string getTypeName(const BoundProperty& property) {
 
 std::string formatParameters(const Signature& signature) {
     std::string text;
-    for (const Parameter& parameter : signature)
-        text += (text.empty() ? "" : ", ") + std::string(parameter.name) + ": " + getTypeName(parameter.word);
+    bool hasKeywords = false;
+    for (const Parameter& parameter : signature) {
+        text += text.empty() ? "" : ", ";
+        if (parameter.isKeyword && !std::exchange(hasKeywords, true))
+            text += "*, ";
+        text += std::string(parameter.name) + ": " + getTypeName(parameter.word) +
+                (parameter.isOptional ? " = ..." : "");
+    }
     return text;
 }
 
@@ -82,16 +91,25 @@ std::string mergeNames(const std::vector<const Signature*>& overloads, std::size
     return merged;
 }
 
+template <class Wanted> std::size_t count(const Signature& signature, Wanted isWanted) {
+    return static_cast<std::size_t>(std::count_if(signature.begin(), signature.end(), isWanted));
+}
+
 std::string mergeParameters(std::string text, const std::vector<const Signature*>& overloads) {
     std::size_t least = overloads.empty() ? 0 : overloads.front()->size();
     std::size_t most = 0;
+    std::string keywords;
     for (const Signature* signature : overloads) {
-        least = std::min(least, signature->size());
-        most = std::max(most, signature->size());
+        least = std::min(least, count(*signature, [](const Parameter& p) { return !p.isOptional; }));
+        most = std::max(most, count(*signature, [](const Parameter& p) { return !p.isKeyword; }));
+        for (const Parameter& parameter : *signature)
+            keywords += parameter.isKeyword ? std::string(", ") + parameter.name + "=..." : "";
     }
+    if (!keywords.empty())
+        keywords = ", *" + keywords;
     for (std::size_t i = 0; i < most; ++i)
         text += (text.empty() ? "" : ", ") + mergeNames(overloads, i) + (i < least ? "" : "=...");
-    return "(" + text + (text.empty() ? ")" : ", /)");
+    return "(" + text + (text.empty() ? "" : ", /") + keywords + ")";
 }
 
 } // namespace

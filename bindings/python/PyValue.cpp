@@ -56,7 +56,9 @@ struct PyValue::Elements {
     std::vector<std::size_t> shape; // of more or fewer than two dimensions
     std::vector<double> numbers;
     std::unique_ptr<bool[]> logicals;
-    std::vector<PyRef> items; // column after column
+    bool hasFields = false;
+    std::vector<std::wstring> names; // of fields
+    std::vector<PyRef> items;        // of fields, or column after column
     std::vector<std::unique_ptr<PyValue>> cells;
 };
 
@@ -71,7 +73,8 @@ void PyValue::read() {
     if (reading_.depth > kDeepestList)
         throw PythonError(PyExc_ValueError, "lists are nested too deeply");
     static_cast<void>(readPlain() || readImage() || readList() || readBuffer(object_) || readFrame() ||
-                      readArray() || readNumberLike() || readPath() || readText()); // else it stays unknown
+                      readArray() || readFields() || readNumberLike() || readPath() ||
+                      readText()); // else it stays unknown
 }
 
 PyValue::~PyValue() = default;
@@ -282,6 +285,23 @@ void PyValue::readOnlyElement(PyObject* array) {
     read();
 }
 
+/// A dictionary, and what else has keys and values for them.
+bool PyValue::readFields() {
+    if (!reading_.fields || (!PyDict_Check(object_) && !(has(object_, "keys") && PyMapping_Check(object_))))
+        return false;
+    const PyRef pairs = checked(PyMapping_Items(object_));
+    const PyRef rows = checked(PySequence_Tuple(pairs.get()));
+    elements().hasFields = true;
+    for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(rows.get()); ++i) {
+        const PyRef row = checked(PySequence_Tuple(PyTuple_GET_ITEM(rows.get(), i)));
+        if (PyTuple_GET_SIZE(row.get()) != 2)
+            throw PythonError(PyExc_ValueError, "a mapping gives other than keys with their values");
+        elements().names.push_back(toWide(checked(PyObject_Str(PyTuple_GET_ITEM(row.get(), 0))).get()));
+        elements().items.push_back(PyRef::share(PyTuple_GET_ITEM(row.get(), 1)));
+    }
+    return true;
+}
+
 bool PyValue::readNumberLike() {
     if (PyIndex_Check(object_)) {
         setInteger(checked(PyNumber_Index(object_)).get());
@@ -411,9 +431,26 @@ const hvArray* PyValue::getCell(std::size_t i) const {
     elements_->cells.resize(elements_->items.size());
     std::unique_ptr<PyValue>& cell = elements_->cells[i];
     if (!cell)
-        cell = std::make_unique<PyValue>(elements_->items[i].get(),
-                                         Reading{false, false, reading_.digits, reading_.depth + 1});
+        cell = std::make_unique<PyValue>(
+            elements_->items[i].get(),
+            Reading{false, false, reading_.digits, reading_.depth + 1, reading_.fields});
     return cell.get();
+}
+
+bool PyValue::hasFields() const {
+    return elements_ && elements_->hasFields;
+}
+
+std::size_t PyValue::getNFields() const {
+    return hasFields() ? elements_->names.size() : 0;
+}
+
+std::wstring PyValue::getFieldName(std::size_t i) const {
+    return elements_->names[i];
+}
+
+const hvArray& PyValue::getField(std::size_t i) const {
+    return *getCell(i);
 }
 
 boost::shared_ptr<objreg::HostInterface> PyValue::getObject(std::size_t) const {

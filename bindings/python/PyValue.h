@@ -11,6 +11,7 @@
 #include "bindings/python/PyRef.h"
 #include "vellox/host/binding/Digits.h"
 #include "vellox/host/values/hvArray.h"
+#include "vellox/host/values/hvFields.h"
 
 namespace vellox::ppt::python {
 
@@ -20,6 +21,7 @@ struct Reading {
     bool imagesAreBytes = false; ///< what holds an image, or can make one, is that image's bytes
     hostbind::Digits digits = hostbind::Digits::OfItems;
     unsigned int depth = 0; ///< how many lists this value stands in
+    bool fields = false;    ///< dictionaries are values under names, else they are what their texts say
 };
 
 /// A view of a Python object, which it doesn't own; made on the stack for the time of a call. Elements of lists
@@ -38,12 +40,13 @@ struct Reading {
 /// | arrays of anything else                 | cells of the array's shape                    |
 /// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
 /// | what has `__array__` and `to_numpy`     | as an array, or cells of one row              |
+/// | dictionaries, where fields are wanted   | fields                                        |
 /// | what has a `__str__` of its own         | char                                          |
 /// | in a list, what has a `__repr__` too    | char                                          |
 /// | objects of the library                  | object                                        |
 /// | where images are bytes: bytes, streams, | uint8, of one row                             |
 /// | what has `savefig`, `save`, `_repr_png_`|                                               |
-class PyValue : public hvArray {
+class PyValue : public hvArray, public hvFields {
 public:
     /// @throws PythonError for an object that fails to give what it promises
     explicit PyValue(PyObject* object, const Reading& reading = {});
@@ -66,6 +69,11 @@ public:
     const hvArray* getCell(std::size_t i) const override;
     boost::shared_ptr<objreg::HostInterface> getObject(std::size_t i) const override;
 
+    bool hasFields() const override;
+    std::size_t getNFields() const override;
+    std::wstring getFieldName(std::size_t i) const override;
+    const hvArray& getField(std::size_t i) const override;
+
 private:
     struct Elements;
 
@@ -76,6 +84,7 @@ private:
     bool readBuffer(PyObject* object);
     bool readFrame();
     bool readArray();
+    bool readFields();
     bool readNumberLike();
     bool readText();
     bool readPath();

@@ -60,6 +60,19 @@ PyModuleDef definition = {PyModuleDef_HEAD_INIT,
                           nullptr,
                           nullptr};
 
+/// The functions of the layer in Python, which stand beside the classes.
+void addUnits(PyObject* module) {
+    const PyRef units = checked(PyImport_ImportModule("vellox._units"));
+    const PyRef names = checked(PyObject_GetAttrString(units.get(), "__all__"));
+    const PyRef all = checked(PySequence_Tuple(names.get()));
+    for (Py_ssize_t i = 0; i < PyTuple_GET_SIZE(all.get()); ++i) {
+        PyObject* name = PyTuple_GET_ITEM(all.get(), i);
+        const PyRef function = checked(PyObject_GetAttr(units.get(), name));
+        if (PyObject_SetAttr(module, name, function.get()) < 0)
+            throw PythonError();
+    }
+}
+
 PyObject* makeModule() {
     if (PyInterpreterState_Get() != PyInterpreterState_Main())
         throw PythonError(PyExc_ImportError, "vellox.ppt works in the main interpreter only");
@@ -69,6 +82,7 @@ PyObject* makeModule() {
     hostbind::setHostClassSystem(&PyClassSystem::get());
     HostInitialize_vellox_ppt();
     PyClassSystem::get().addTypes(module.get());
+    addUnits(module.get());
     if (PyModule_AddStringConstant(module.get(), "__version__", VELLOX_VERSION) < 0)
         throw PythonError();
     callAtExit();

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <iostream>
 #include <set>
+#include <utility>
 
 using namespace vellox::ppt::hostbind;
 using namespace vellox::ppt::python;
@@ -22,10 +23,11 @@ constexpr char kHead[] = R"(# Written from the class table of the library.
 import datetime
 import os
 from _typeshed import SupportsRead
-from collections.abc import Callable, Sequence
+from collections.abc import Callable, Mapping, Sequence
 from typing import Any, Generic, Never, Protocol, SupportsFloat, SupportsIndex, TypeVar, overload
 
 from . import _conveniences
+from ._units import cm as cm, emu as emu, inch as inch, mm as mm, pt as pt
 
 class _Array(Protocol):
     def __array__(self) -> Any: ...
@@ -99,6 +101,7 @@ constexpr const char* kResults[][2] = {
     {"Presentation.getLayoutNames", "list[str]"},
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},
     {"Presentation.getFindings", "list[tuple[str, str, str, str, str, str]]"},
+    {"Template.healTemplate", "list[tuple[str, str, str, str, str, str]]"},
     {"Template.checkPackage", "list[tuple[str, str, str, str, str, str]]"},
 };
 
@@ -150,6 +153,8 @@ std::string getArgumentType(const Parameter& parameter, bool isFirst) {
         return "SupportsIndex";
     case SignatureWord::Kind::Double:
         return "_Number";
+    case SignatureWord::Kind::Logical:
+        return "bool";
     case SignatureWord::Kind::Bytes:
         return "_Image";
     case SignatureWord::Kind::Any:
@@ -167,10 +172,16 @@ std::string getArgumentType(const Parameter& parameter, bool isFirst) {
 std::string formatFunction(const std::string& name, const Signature& signature, const std::string& result,
                            bool isStatic) {
     std::string list = isStatic ? "" : "self";
-    for (const Parameter& parameter : signature)
+    bool hasKeywords = false;
+    for (const Parameter& parameter : signature) {
+        if (parameter.isKeyword && !std::exchange(hasKeywords, true))
+            list += ", /, *";
         list += (list.empty() ? "" : ", ") + std::string(parameter.name) + ": " +
-                getArgumentType(parameter, &parameter == &signature.front());
-    return "    def " + name + "(" + list + (signature.empty() ? "" : ", /") + ") -> " + result + ": ...\n";
+                getArgumentType(parameter, &parameter == &signature.front()) +
+                (parameter.isOptional ? " = ..." : "");
+    }
+    return "    def " + name + "(" + list + (signature.empty() || hasKeywords ? "" : ", /") + ") -> " +
+           result + ": ...\n";
 }
 
 /// Of abstract classes the library alone makes objects; nothing can be passed to what wants a Never.

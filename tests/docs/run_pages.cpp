@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 int main(int argc, char** argv) {
     if (argc != 4)
         return 2;
-    const fs::path folder = fs::absolute(argv[1]), corporate = fs::absolute(argv[2]), picture = fs::absolute(argv[3]);
+    const fs::path folder = fs::absolute(argv[1]), corporate = fs::absolute(argv[2]),
+                   picture = fs::absolute(argv[3]);
     unsigned int failures = 0;
     for (unsigned int i = 0; i < kPageCount; ++i) {
         fs::remove_all(folder);

@@ -39,10 +39,6 @@ HvContentPtr number(double value) {
     return boost::make_shared<DoubleContent>(value);
 }
 
-HvContentPtr list(std::initializer_list<HvContentPtr> items) {
-    return boost::make_shared<ListContent>(boost::make_shared<MemoryList>(items));
-}
-
 std::string runsOf(const std::string& slideXml) {
     std::string runs;
     for (const std::string& shape : findAll(slideXml, "p:sp")) {

@@ -75,7 +75,6 @@ private:
 /// @{ Content.
 HvContentPtr text(const wchar_t* value);
 HvContentPtr number(double value);
-HvContentPtr list(std::initializer_list<HvContentPtr> items);
 template <class Facade> HvContentPtr object(const Facade& handle) {
     return boost::make_shared<ObjectContent>(handle);
 }

@@ -155,6 +155,42 @@ struct VELLOX_API tableCannotBeReplaced : MsgID {
 struct VELLOX_API placeholderWasReplacedByObject : MsgID {
     placeholderWasReplacedByObject() : MsgID(kCatalog, "placeholderWasReplacedByObject", 0) {}
 };
+/// A slide isn't one of the presentation's, or not any more.
+struct VELLOX_API slideNotInPresentation : MsgID {
+    slideNotInPresentation() : MsgID(kCatalog, "slideNotInPresentation", 0) {}
+};
+/// A slide has no shape of this name.
+struct VELLOX_API unknownShape : MsgID {
+    explicit unknownShape(const std::wstring& name) : MsgID(kCatalog, "unknownShape", {name}) {}
+};
+/// Several shapes of a slide bear this name, and one is wanted.
+struct VELLOX_API ambiguousShape : MsgID {
+    ambiguousShape(const std::wstring& name, const std::wstring& count)
+        : MsgID(kCatalog, "ambiguousShape", {name, count}) {}
+};
+/// A shape can't take what it is to be filled with.
+struct VELLOX_API shapeRefusesContent : MsgID {
+    shapeRefusesContent(const std::wstring& name, const std::wstring& content)
+        : MsgID(kCatalog, "shapeRefusesContent", {name, content}) {}
+};
+/// Two names of one call stand for one shape.
+struct VELLOX_API shapeFilledTwice : MsgID {
+    shapeFilledTwice(const std::wstring& name, const std::wstring& other)
+        : MsgID(kCatalog, "shapeFilledTwice", {name, other}) {}
+};
+/// A handle is to be taken for one of a class, and there is none.
+struct VELLOX_API emptyHandle : MsgID {
+    explicit emptyHandle(const std::wstring& wanted) : MsgID(kCatalog, "emptyHandle", {wanted}) {}
+};
+/// A handle is to be taken for one of a class that its object isn't of.
+struct VELLOX_API wrongClass : MsgID {
+    wrongClass(const std::wstring& name, const std::wstring& present)
+        : MsgID(kCatalog, "wrongClass", {name, present}) {}
+};
+/// Tokens without values, or values without tokens, where all have to be there.
+struct VELLOX_API tokensLeft : MsgID {
+    explicit tokensLeft(const std::wstring& tokens) : MsgID(kCatalog, "tokensLeft", {tokens}) {}
+};
 /// The template has no layout of this name.
 struct VELLOX_API invalidLayoutName : MsgID {
     explicit invalidLayoutName(const std::wstring& layout) : MsgID(kCatalog, "invalidLayoutName", {layout}) {}
@@ -398,6 +434,18 @@ struct VELLOX_API textTooLong : MsgID {
 /// A table needs more room than its box or its slide has, as far as that can be estimated; in percent of that.
 struct VELLOX_API tableTooLong : MsgID {
     explicit tableTooLong(const std::wstring& percent) : MsgID(kCatalog, "tableTooLong", {percent}) {}
+};
+/// A token has no value.
+struct VELLOX_API tokenWithoutValue : MsgID {
+    explicit tokenWithoutValue(const std::wstring& token) : MsgID(kCatalog, "tokenWithoutValue", {token}) {}
+};
+/// A value has no token.
+struct VELLOX_API valueWithoutToken : MsgID {
+    explicit valueWithoutToken(const std::wstring& name) : MsgID(kCatalog, "valueWithoutToken", {name}) {}
+};
+/// A value can't stand where its token does, or not in the form that the token asks for.
+struct VELLOX_API tokenRefusesValue : MsgID {
+    explicit tokenRefusesValue(const std::wstring& token) : MsgID(kCatalog, "tokenRefusesValue", {token}) {}
 };
 /// More was found than is kept.
 struct VELLOX_API moreFindings : MsgID {

@@ -7,6 +7,7 @@
 #include "vellox/opc/XercesString.h"
 
 #include <boost/algorithm/string/predicate.hpp>
+#include <utility>
 
 namespace opc {
 
@@ -99,21 +100,12 @@ void ContentTypes::change(const PartName& name, const ContentType& type) {
 }
 
 void ContentTypes::remove(const std::set<PartName>& names) {
-    std::unordered_set<std::size_t> condemned;
-    for (const PartName& name : names) {
-        const auto found = overrideByName_.find(name.getKey());
-        if (found != overrideByName_.end())
-            condemned.insert(found->second);
-    }
-    if (condemned.empty())
-        return;
-    std::vector<Row> former;
-    former.swap(overrides_);
+    const std::vector<Row> former = std::exchange(overrides_, {});
     overrideByName_.clear();
-    for (std::size_t i = 0; i < former.size(); ++i)
-        if (condemned.count(i) == 0)
-            setOverride(PartName(former[i].key), *former[i].type);
-    isChanged_ = true;
+    for (const Row& row : former)
+        if (names.count(PartName(row.key)) == 0)
+            setOverride(PartName(row.key), *row.type);
+    isChanged_ = isChanged_ || overrides_.size() != former.size();
 }
 
 void ContentTypes::setDefault(const std::wstring& extension, const std::wstring& type) {

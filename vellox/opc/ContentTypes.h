@@ -47,10 +47,11 @@ public:
     /// isn't taken by another type. An empty type leaves the part with that of its extension; where the list
     /// has none, it becomes that of unknown bytes.
     void add(const PartName& name, const ContentType& type);
-    /// Forgets types that are said of single parts, which are gone.
-    void remove(const std::set<PartName>& names);
     /// Gives a part that is listed another type.
     void change(const PartName& name, const ContentType& type);
+
+    /// Forgets what is listed for single parts.
+    void remove(const std::set<PartName>& names);
 
     /// True if the stream must be written anew: something was added, or it was in a form that readers
     /// stumble over.

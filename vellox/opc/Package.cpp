@@ -138,15 +138,17 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
 }
 
 void PackageContents::deleteParts(const std::set<PartName>& names) {
-    std::set<PartName> condemned = names;
+    std::set<PartName> all;
     for (const PartName& name : names) {
-        condemned.insert(name.getRelationshipPartName());
-        sources_.erase(name.getRelationshipPartName());
+        all.insert(name);
+        all.insert(name.getRelationshipPartName());
     }
-    for (const PartName& name : condemned)
-        isCut_ = parts_.erase(name.getKey()) > 0 || isCut_;
-    physical_->deleteParts(condemned);
-    types_.remove(condemned);
+    for (const PartName& name : all) {
+        sources_.erase(name);
+        hasDeleted_ = parts_.erase(name.getKey()) > 0 || hasDeleted_;
+    }
+    types_.remove(all);
+    physical_->deleteParts(all);
 }
 
 RelationshipTable& PackageContents::getRelationships(const PartName* source) {
@@ -165,7 +167,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
 }
 
 bool PackageContents::hasChanges() const {
-    bool changed = isCut_ || types_.isChanged();
+    bool changed = types_.isChanged() || hasDeleted_;
     for (const auto& part : parts_)
         changed = changed || part.second->getContent() != PhysicalPart::Content::Original;
     for (const auto& source : sources_)

@@ -97,7 +97,8 @@ public:
     Part getPart(const PartName& name) const;
     /// @throws opc::Exception if there is a part of that name
     Part createPart(const PartName& name, const ContentType& type, const StandardPartInfo& info);
-    /// Takes parts out, with the relationships that start from them. What leads to them stays.
+    /// Takes parts out, with the relationships that start from them. Handles on them are of no use any more, and
+    /// relationships that lead to them stay.
     void deleteParts(const std::set<PartName>& names);
 
 protected:

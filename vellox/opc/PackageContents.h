@@ -41,11 +41,11 @@ private:
     ParserScope parser_; // from the opening on
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;
-    bool isCut_ = false; // parts are gone
     std::unordered_map<std::string_view, boost::shared_ptr<PhysicalPart>>
         parts_; // by the keys of their names
     std::map<PartName, RelationshipTable>
         sources_; // by the name of the relationship part, in whose order they are saved
+    bool hasDeleted_ = false;
 };
 
 } // namespace opc

@@ -104,6 +104,7 @@ public:
     /// All parts but the content-type stream, in the order of the container, new ones last.
     std::vector<boost::shared_ptr<PhysicalPart>> getParts() const { return parts_; }
     virtual boost::shared_ptr<PhysicalPart> createPart(const PartName& name, StandardPartInfo info) = 0;
+    void deletePart(const PartName& name) { deleteParts({name}); }
     void deleteParts(const std::set<PartName>& names);
 
     bool hasContentTypeStream() const { return contentTypes_ != nullptr; }

@@ -33,8 +33,3 @@ function disp (self)
   puts (__vellox__ ("show", self));
 endfunction
 
-function delete (self)
-  ## Lets go of what an object stands for. What stands in a deck lives on there.
-  __vellox__ ("delete", self);
-endfunction
-

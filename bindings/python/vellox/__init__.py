@@ -4,12 +4,13 @@ from __future__ import annotations
 import os
 from typing import TYPE_CHECKING
 
+from ._doctor import TemplateReport, read_report
 from ._findings import Finding, read_findings
 
 if TYPE_CHECKING:
     from .ppt import Presentation, Template
 
-__all__ = ["Finding", "check", "deck"]
+__all__ = ["Finding", "TemplateReport", "check", "deck", "heal", "inspect"]
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,
@@ -41,3 +42,23 @@ def check(path: str | os.PathLike[str]) -> list[Finding]:
     from . import ppt
 
     return read_findings(ppt.Template.checkPackage(os.fspath(path)))
+
+
+def inspect(path: str | os.PathLike[str]) -> TemplateReport:
+    """Masters, layouts and placeholders of a template, and what of it stands in the way of programs.
+
+    Nothing is changed, and no slide made.
+    """
+    from . import ppt
+
+    return read_report(ppt.Template.inspectTemplate(os.fspath(path)))
+
+
+def heal(path: str | os.PathLike[str], output: str | os.PathLike[str]) -> list[Finding]:
+    """Writes a copy of a template with names that speak, and with all else mended that can be without another look.
+
+    What was changed is returned. The output may be the template itself: it is replaced once the copy is complete.
+    """
+    from . import ppt
+
+    return read_findings(ppt.Template.healTemplate(os.fspath(path), os.fspath(output)))

@@ -7,10 +7,15 @@ name these classes as bases, so that the types here are those that checkers see.
 from __future__ import annotations
 
 import copy
+from collections.abc import Iterator
 from types import TracebackType
 from typing import TYPE_CHECKING, Any, Literal, Self
 
 from ._findings import Finding, read_findings
+
+if TYPE_CHECKING:
+    from .ppt import Shape
+    from .ppt import Slide as _Slide
 
 
 class Object:
@@ -41,7 +46,7 @@ class Object:
 
 
 class Presentation:
-    """The with statement, and findings."""
+    """The with statement, the slides in order, and findings."""
 
     __slots__ = ()
 
@@ -50,6 +55,22 @@ class Presentation:
         def __vellox_give_up__(self) -> None: ...
         def open(self) -> bool: ...
         def close(self) -> bool: ...
+        @property
+        def Children(self) -> list[_Slide]: ...
+
+    def __len__(self) -> int:
+        """The number of slides."""
+        self.open()
+        return len(self.Children)
+
+    def __bool__(self) -> bool:
+        """Also without slides."""
+        return True
+
+    def __iter__(self) -> Iterator[_Slide]:
+        """The slides that there are now: they may be removed meanwhile."""
+        self.open()
+        return iter(self.Children)
 
     @property
     def Findings(self) -> list[Finding]:
@@ -72,3 +93,24 @@ class Presentation:
         else:
             self.__vellox_give_up__()
         return False
+
+
+class Slide:
+    """The shapes, in order and by name."""
+
+    __slots__ = ()
+
+    if TYPE_CHECKING:
+        def shape(self, name: str, /) -> Shape: ...
+        @property
+        def Children(self) -> list[Shape]: ...
+
+    def __iter__(self) -> Iterator[Shape]:
+        """The shapes that there are now, those at the back first; what a group holds comes with the group."""
+        return iter(self.Children)
+
+    def __getitem__(self, name: str, /) -> Shape:
+        """The one shape of a name, or of "idx:13", "type:title", "type:body#2"."""
+        if not isinstance(name, str):
+            raise TypeError(f"shapes have names, which are no {type(name).__name__}")
+        return self.shape(name)

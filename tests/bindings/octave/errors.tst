@@ -18,7 +18,8 @@
 %! deck.close ();
 
 %!test # what no overload takes lists what they take
-%! slide = vellox.ppt.Presentation ("overloads.pptx").add ("Blank");
+%! deck = vellox.ppt.Presentation ("overloads.pptx");
+%! slide = deck.add ("Blank");
 %! try
 %!   slide.add (1, 2, 3);
 %!   assert (false);
@@ -31,6 +32,7 @@
 %! assert (identifier_of (@() slide.find ("a", "b", "c", "d", "e", "f")), "Octave:invalid-fun-call");
 %! assert (identifier_of (@() vellox.ppt.TextBox (1)), "Octave:invalid-fun-call");
 %! assert (identifier_of (@() slide.find (slide)), "Octave:invalid-fun-call");
+%! deck.close ();
 
 %!error <abstract> vellox.ppt.Slide ()
 %!error <the library alone> vellox.ppt.MessageDispatcher ()
@@ -52,6 +54,8 @@
 %! deck.close ();
 
 %!test # an array isn't one object
-%! slide = vellox.ppt.Presentation ("array.pptx").add ("Title and Content");
+%! deck = vellox.ppt.Presentation ("array.pptx");
+%! slide = deck.add ("Title and Content");
 %! list = slide.Children;
 %! assert (identifier_of (@() __vellox__ ("get", 1, 0, list)), "vellox:notOneObject");
+%! deck.close ();

@@ -110,6 +110,26 @@
 %! assert (class (slide.Children(end)), "vellox.ppt.TextBox");
 %! deck.close ();
 
+%!testif ; ! isempty (available_graphics_toolkits ())
+%! # figures are printed at the size of their box
+%! warning ("off", "all", "local");
+%! figure_handle = figure ("visible", "off");
+%! plot (1:3);
+%! deck = vellox.deck ("figures.pptx");
+%! slide = deck.add ("Title and Picture");
+%! slide.replace ("Picture", figure_handle);
+%! assert (class (slide.find ("Picture")), "vellox.ppt.Picture");
+%! assert (class (slide.add (figure_handle)), "vellox.ppt.Picture");
+%! slide = deck.add ("Title and Content");
+%! place = slide.find ("Content");
+%! place.Width = "4in";
+%! place.Height = "2in";
+%! place.replace (figure_handle);
+%! picture = __vellox_figure__ (figure_handle, 4, 2);
+%! assert (picture.Width, "600px");
+%! close (figure_handle);
+%! deck.close ();
+
 %!test # what is shown
 %! box = vellox.ppt.TextBox ();
 %! box.Name = "Remark";

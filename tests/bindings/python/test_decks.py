@@ -1,4 +1,5 @@
 """Whole decks: the same from Python as from C++, and from what numbers are kept in."""
+import datetime
 import os
 import pathlib
 import re
@@ -9,6 +10,7 @@ import zipfile
 
 import numpy as np
 import pandas as pd
+import pytest
 
 import vellox
 import vellox.ppt as ppt
@@ -73,3 +75,67 @@ def test_decks_of_a_template_that_is_read_once(tmp_path):
         deck.add("Title and Content").replace("Title", "this week's")
         assert output.read_text() == "last week's"
     assert b"this week&apos;s" in read_parts(output)[b"ppt/slides/slide2.xml"].replace(b"'", b"&apos;")
+
+
+def test_a_template_is_inspected_and_healed(tmp_path):
+    template = tmp_path / "template.pptx"
+    ppt.Presentation(template).open()
+    report = vellox.inspect(template)
+    content = report.masters[0].layouts[1].placeholders[1]
+    assert content.kind == "ContentPlaceholder" and content.box.cx > 0 and report.as_dict()["slides"] == 0
+    assert report.masters[0].colours["accent1"] and report.table_styles[0].name
+    changes = vellox.heal(template, tmp_path / "healed.pptx")
+    assert all(change.severity == "info" for change in changes) and vellox.heal(tmp_path / "healed.pptx", template) == []
+
+
+def test_slides_are_filled_by_name_or_not_at_all(tmp_path):
+    with vellox.deck(tmp_path / "filled.pptx") as deck:
+        slide = deck.add("Title and Content", {"Title": "Week 47", "Content": ["a", ["b"]]})
+        first = deck.add("Title and Table", {"Table": [["x", 1], ["y", 2.5]]}, index=1, drop_empty=True)
+        before = deck.add("Title Only", before=slide)
+        assert [len(deck), len(list(first))] == [3, 1]
+        assert list(deck) == [first, before, slide]
+        assert slide["Title"].Text == slide["type:title"].Text == "Week 47"
+        with pytest.raises(ppt.UnknownNameError, match="Titel"):
+            slide.fill({"Title": "lost", "Titel": "x"})
+        with pytest.raises(ppt.BadTypeError):
+            deck.add("Title Only", {"Title": ppt.Table([["a"]])})
+        with pytest.raises(TypeError):
+            deck.add("Title Only", position=1)
+        with pytest.raises(TypeError, match="keyword"):
+            slide.replace("Title", text="x")
+        assert [len(deck), slide["Title"].Text] == [3, "Week 47"]
+        del slide, before, first
+        for each in deck:
+            deck.remove(each)
+        assert len(deck) == 0 and deck
+
+
+def test_tokens_take_what_python_has(tmp_path):
+    sample = tmp_path / "sample.pptx"
+    with vellox.deck(sample) as deck:
+        slide = deck.add("Title and Table", {"Title": "{week} {flow.mean:.1f} {day:%d.%m.%Y} {{x}}"})
+        slide.fill({"Table": [["Name", "Value"], ["{rows.name}", "{rows.value}"]]})
+        deck.add("Title and Content", {"Title": "T", "Content": "{points}"})
+    rows = [{"name": "a", "value": 1}, {"name": "b", "value": None}]
+    with vellox.deck(tmp_path / "filled.pptx", sample) as deck:
+        values = {"week": 47, "flow": {"mean": 2.04}, "day": datetime.date(2026, 11, 21), "rows": rows,
+                  "points": ["a", ("b",), 3]}
+        with pytest.raises(ppt.Error, match="unused"):
+            deck.fillTokens(values | {"unused": 1}, strict=True)
+        copy = deck.copy(list(deck)[0])
+        assert deck.fillTokens(values, strict=True) == 15
+        title = copy["Title"].Text
+        table = copy["Table"]
+        assert [table.entry(r, c).Text for r in (2, 3) for c in (1, 2)] == ["a", "1", "b", ""]
+        table.entry(3, 2).Text = "none"
+        copy.Notes, copy.Hidden = "Say it", True
+        deck.move(copy, 1)
+        deck.clear()
+        assert [title, copy.Notes, copy.Hidden, len(deck)] == ["47 2.0 21.11.2026 {x}", "Say it", True, 1]
+
+
+def test_lengths_are_made_of_numbers():
+    box = ppt.TextBox()
+    box.X, box.Y, box.Width, box.Height = ppt.cm(2), ppt.mm(2.5), ppt.inch(1), ppt.pt(12)
+    assert [box.X, box.Y, box.Width, box.Height, ppt.emu(360000)] == ["2cm", "2.5mm", "1in", "12pt", "360000emu"]

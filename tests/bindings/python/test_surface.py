@@ -5,6 +5,7 @@ import re
 import subprocess
 import sys
 
+import pandas as pd
 import pytest
 
 import vellox
@@ -89,6 +90,21 @@ def get_snippets(page=GUIDE):
     return re.findall(r"^```python\n(.*?)^```$", page.read_text(), re.MULTILINE | re.DOTALL)
 
 
+class Region(str):
+    """Some pages want a name, some a record."""
+    name, sales = property(str), 12
+
+
+def make_samples(path):
+    """The slides with tokens that pages speak of."""
+    with vellox.deck(path) as deck:
+        for name, title, content in (("Sample", "{region}", "{sales}"), ("Region", "{region}", "as before")):
+            deck.add("Title and Content", {"Title": title, "Content": content}).Name = name
+        deck.add("Two Content", {"Title": "{week}: {flow.mean} {flow.unit}", "Left Content": "{points}",
+                                 "Right Content": "{plot}"})
+        deck.add("Title and Table", {"Title": "Runs", "Table": [["Name", "Flow"], ["{rows.name}", "{rows.flow}"]]})
+
+
 PAGES = [page for page in [GUIDE.parents[1] / "README.md", *sorted(GUIDE.parent.glob("*.md"))]
          if "```python\n" in page.read_text()]
 
@@ -99,9 +115,13 @@ def test_the_pages_run(page, tmp_path, monkeypatch):
     monkeypatch.chdir(tmp_path)
     for data in (GUIDE.parents[1] / "examples/data").iterdir():
         (tmp_path / data.name).write_bytes(data.read_bytes())
+    (tmp_path / "plot.png").write_bytes((tmp_path / "pump-curve.png").read_bytes())
     ppt.Presentation("corporate.pptx").open()
     (tmp_path / "corporate.pptx").rename("corporate.potx")
-    scope = {"__name__": page.stem, "ppt": ppt, "vellox": vellox, "regions": ["north", "south"]}
+    make_samples("samples.pptx")
+    scope = {"__name__": page.stem, "ppt": ppt, "vellox": vellox, "regions": [Region("north"), Region("south")],
+             "runs": pd.DataFrame({"name": ["A", "B"], "flow": [47.0, 49.5]}),
+             "deck": vellox.deck("page.pptx", "samples.pptx")}
     for number, snippet in enumerate(get_snippets(page), 1):
         exec(compile(snippet, f"{page.name}, snippet {number}", "exec"), scope)  # pylint: disable=exec-used
     assert list(tmp_path.glob("*.pptx"))

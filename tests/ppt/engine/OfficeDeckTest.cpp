@@ -169,7 +169,7 @@ TEST_F(OfficeDeckTest, LinesAreParagraphsOrBreaks) {
     deck.setProfile(L"office");
     Slide slide = deck.add(L"Title and Content");
     slide.replace(L"Title", L"one\r\ntwo");
-    slide.replace(L"Content", list({text(L"a\nb"), text(L"c"), boost::make_shared<BooleanContent>(true)}));
+    slide.replace(L"Content", list({text(L"a\nb"), text(L"c"), true}));
     close();
     EXPECT_EQ(findAll(shapeXml(1, "Title"), "a:p").size(), 2u);
     EXPECT_EQ(textsOf(shapeXml(1, "Title"), "a:t"), (Texts{"one", "two"}));

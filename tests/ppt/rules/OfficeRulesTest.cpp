@@ -2,6 +2,8 @@
 
 #include "vellox/ppt/rules/OfficeRules.h"
 
+#include "vellox/ppt/rules/TableStyles.h"
+
 #include <gtest/gtest.h>
 
 using namespace vellox::ppt;
@@ -88,6 +90,53 @@ TEST(OfficeRules, NamesAreUnique) {
     const PlaceText top{L"900", L"0", L"1", L"1", true};
     EXPECT_EQ(rules.nameShapes({{L"Text"}, {L"Text", &right}, {L"Text", &left}, {L"Text", &top}}),
               (Names{L"Text (4)", L"Text (3)", L"Text (2)", L"Text"}));
+}
+
+TEST(OfficeRules, ATableHasTheNearestStyle) {
+    const std::wstring own = L"{1}", other = L"{2}", none, unknown = L"Nobody's", builtIn = L"Light Style 1",
+                       dark = L"{e8034e78-7f5d-4c2e-b375-fc64b27bc917}";
+    const std::wstring light = L"{9D7B26C5-4107-4FEC-AEDC-1716B250A1EF}", usual = kUsualTableStyleId;
+    struct Row {
+        TableStyleFacts facts;
+        std::wstring id;
+        bool isFound;
+    };
+    const Row rows[] = {
+        {{}, usual, true},
+        {{nullptr, nullptr, nullptr, &own, true}, own, true},
+        {{nullptr, nullptr, nullptr, &own, false}, usual, true}, // which nobody could draw
+        {{nullptr, nullptr, nullptr, &dark, false}, dark, true},
+        {{nullptr, nullptr, &other, &own, true}, other, true},
+        {{nullptr, nullptr, &none, &own, true}, none, true}, // it stood there without
+        {{&builtIn, nullptr, &other, &own, true}, light, true},
+        {{&builtIn, &own, nullptr, nullptr, false}, own, true}, // the template's meaning of the name
+        {{&unknown, nullptr, &other, &own, true}, other, false},
+    };
+    for (const Row& row : rows) {
+        const TableStyle style = rules.chooseTableStyle(row.facts);
+        EXPECT_EQ(style.id, row.id);
+        EXPECT_EQ(style.isFound, row.isFound);
+    }
+}
+
+TEST(OfficeRules, ColumnsShareTheWidthOfTheTable) {
+    const auto share = [](std::vector<ColumnFacts> columns, double total) {
+        return rules.shareWidth({std::move(columns), 0, total});
+    };
+    const ColumnFacts empty, narrow{{}, 0, 300000, 300000}, wide{{}, 0, 9000000, 400000};
+    using Widths = std::vector<int>;
+    EXPECT_EQ(share({}, 1000), Widths());
+    EXPECT_EQ(share({empty, empty, empty}, 1000), (Widths{333, 334, 333})); // to the last unit
+    EXPECT_EQ(share({ColumnFacts{700}, empty, empty}, 1000), (Widths{700, 150, 150}));
+    EXPECT_EQ(share({ColumnFacts{2000}, empty}, 1000), (Widths{2000, 208080})); // nothing is left
+    EXPECT_EQ(share({empty}, 0), Widths{208080});
+    EXPECT_EQ(share({{{}, 100}, {{}, 300}}, 1000), (Widths{250, 750}));
+    const Widths widths = share({narrow, wide, narrow}, 3000000);
+    EXPECT_EQ(widths[0] + widths[1] + widths[2], 3000000);
+    EXPECT_EQ(widths[0], widths[2]);
+    EXPECT_GE(widths[0], 482880); // its longest word finds room
+    EXPECT_GT(widths[1], 2 * widths[0]);
+    EXPECT_GE(share({empty, wide}, 3000000)[0], 500000); // a third of what an equal share is
 }
 
 TextLines textOf(const std::variant<std::monostate, double, long long, bool>& given,

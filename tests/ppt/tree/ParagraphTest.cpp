@@ -59,7 +59,7 @@ TEST(Text, TakesContentOfEveryKind) {
         {boost::make_shared<DataContent>(boost::make_shared<HvData>(data.get()), HvContent::Unknown),
          L"struct [1x1]", nothing},
         {test::object(Paragraph(L"p")), L"", nothing},
-        {test::list({test::text(L"a")}), L"", nothing},
+        {ppt::list({test::text(L"a")}), L"", nothing},
     };
     for (const Row& row : rows) {
         const boost::intrusive_ptr<TextImpl> run(new TextImpl(row.content));
@@ -107,7 +107,7 @@ TEST(Paragraph, IsBuiltOfRuns) {
 TEST(Paragraph, OfATruthValueKeepsItWithoutShowingIt) {
     const auto isTrue = boost::make_shared<BooleanContent>(true);
     TextBox box;
-    box.replace(test::list({isTrue, test::text(L"text")}));
+    box.replace(ppt::list({HvContentPtr(isTrue), test::text(L"text")}));
     const Table table(boost::make_shared<test::MemoryTable>(1, std::initializer_list<HvContentPtr>{isTrue}));
     const auto copy = box.clone();
     const auto cell = table.getChildren().at(0)->getChildren().at(0);

@@ -22,9 +22,7 @@ TEST(TextBox, TurnsListsIntoParagraphsWithLevels) {
         {list({text(L"a"), number(2.5), object(own)}), L"a|2.5|5:own"}, // levels stay as they were
         {list({text(L"a"), list({text(L"b"), list({text(L"c")})}), text(L"d")}), L"a|2:b|3:c|d"},
         {list({list({list({list({text(L"deep")})})})}), L"4:deep"},
-        {list({boost::make_shared<BooleanContent>(true), HvContentPtr(),
-               boost::make_shared<IntegerContent>(3)}),
-         L"||3"}, // a truth value has no text here
+        {list({true, HvContentPtr(), 3}), L"||3"}, // a truth value has no text here
     };
     for (const Row& row : rows) {
         TextBox box;

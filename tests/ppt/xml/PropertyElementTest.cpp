@@ -96,4 +96,23 @@ TEST(PropertyElementTest, FillsAnElementThatIsThere) {
               "<a:latin typeface='Arial'/></a:rPr></a>");
 }
 
+// Attributes each for itself, children by name, and one fill.
+TEST(PropertyElementTest, LiesOverAnother) {
+    const auto lay = [](const Filling& own) {
+        PropertyElement element = make(own);
+        element.layOver(make(kReference));
+        opc::MarkupBuffer out;
+        element.writeTo(out);
+        return std::string(out.get());
+    };
+    EXPECT_EQ(lay([](PropertyElement&) {}),
+              R"(<a:rPr b="1" sz="1200"><a:solidFill><a:srgbClr val="FF0000"/></a:solidFill>)"
+              R"(<a:latin typeface="Arial"/></a:rPr>)");
+    EXPECT_EQ(lay([](PropertyElement& e) {
+                  e.setAttribute(xml::kSz, u"900");
+                  e.addChild(xml::kANoFill);
+              }),
+              R"(<a:rPr b="1" sz="900"><a:latin typeface="Arial"/><a:noFill/></a:rPr>)");
+}
+
 } // namespace

@@ -4,6 +4,7 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/host/values/HvViews.h"
+#include "vellox/host/values/hvFields.h"
 
 namespace vellox::ppt::hostbind {
 
@@ -14,6 +15,38 @@ bool toLogical(const hvArray& value) {
     if (code >= HvDoubleClass && code <= HvLastIntegerClass && value.getNElements() > 0)
         return value.getDouble() != 0;
     raise(ppt_error::invalidLogicalPropertyValue());
+}
+
+namespace {
+
+// Lists are taken apart here: what is in them may be fields, which no content of a host's value is.
+Content toContent(const hvArray& value) {
+    if (findFields(value))
+        return record(toContents(value));
+    const bool isEmptyList = value.getClassCode() == HvCellClass && value.getNElements() == 0;
+    if (isEmptyList ||
+        (value.getClassCode() == HvCellClass && HvCell(&value).getContentType() == HvContent::List)) {
+        std::vector<Content> items;
+        for (std::size_t i = 0; i < value.getNElements(); ++i) {
+            const hvArray* cell = value.getCell(i);
+            items.push_back(cell ? toContent(*cell) : Content());
+        }
+        return items;
+    }
+    const HvContentPtr content = HvCell(&value).getContent();
+    if (!content && value.getNElements() > 0)
+        raise(ppt_error::invalidReplaceArg());
+    return content;
+}
+
+} // namespace
+
+Contents toContents(const hvArray& value) {
+    std::vector<Contents::Row> rows;
+    const hvFields* fields = findFields(value);
+    for (std::size_t i = 0; fields && i < fields->getNFields(); ++i)
+        rows.emplace_back(fields->getFieldName(i), toContent(fields->getField(i)));
+    return rows;
 }
 
 std::wstring describeValue(const hvArray& value) {

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <boost/make_shared.hpp>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -21,6 +22,7 @@
 #include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/object/Attribute.h"
+#include "vellox/ppt/object/Content.h"
 #include "vellox/ppt/tree/ExternalLink.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Slide.h"
@@ -37,6 +39,7 @@ template <> inline constexpr const char* kBoundName<PPTObject> = "Object";
 template <> inline constexpr const char* kBoundName<PPTNode> = "Node";
 template <> inline constexpr const char* kBoundName<Template> = "Template";
 template <> inline constexpr const char* kBoundName<Slide> = "Slide";
+template <> inline constexpr const char* kBoundName<Shape> = "Shape";
 template <> inline constexpr const char* kBoundName<TextBox> = "TextBox";
 template <> inline constexpr const char* kBoundName<Picture> = "Picture";
 template <> inline constexpr const char* kBoundName<Table> = "Table";
@@ -59,6 +62,10 @@ std::wstring describeValue(const hvArray& value);
 /// The same of an item of a list; the empty text for one without content.
 std::wstring describeValue(const HvContentPtr& content);
 
+/// The contents that a value has under names.
+/// @throws invalidReplaceArg for a field that no content can be made of
+Contents toContents(const hvArray& fields);
+
 /// @{ FromHost<T>: the word for an argument of type T, and its conversion from a value that matches the word.
 template <class C> struct FromHost {
     static constexpr const char* kWord = kBoundName<C>;
@@ -80,6 +87,14 @@ template <> struct FromHost<double> {
     static constexpr const char* kWord = "double scalar";
     static double convert(const hvArray& value) { return value.getDouble(); }
 };
+template <> struct FromHost<Contents> {
+    static constexpr const char* kWord = "fields";
+    static Contents convert(const hvArray& value) { return toContents(value); }
+};
+/// What a call may leave out.
+template <class T> struct FromHost<std::optional<T>> {
+    static constexpr const char* kWord = FromHost<T>::kWord;
+};
 template <> struct FromHost<std::vector<unsigned char>> {
     static constexpr const char* kWord = "uint8 vector";
     static std::vector<unsigned char> convert(const hvArray& value) { return value.getBytes(); }
@@ -88,6 +103,22 @@ template <> struct FromHost<std::vector<unsigned char>> {
 template <> struct FromHost<hvArray> {
     static constexpr const char* kWord = "any";
     static const hvArray& convert(const hvArray& value) { return value; }
+};
+/// @}
+
+/// @{ The argument of a parameter.
+template <class A> struct ArgumentOf {
+    static constexpr bool kIsOptional = false;
+    static decltype(auto) get(const Arguments& arguments, std::size_t i) {
+        return FromHost<A>::convert(arguments[i]);
+    }
+};
+template <class T> struct ArgumentOf<std::optional<T>> {
+    static constexpr bool kIsOptional = true;
+    static std::optional<T> get(const Arguments& arguments, std::size_t i) {
+        const hvArray* value = arguments.find(i);
+        return value ? std::optional<T>(FromHost<T>::convert(*value)) : std::nullopt;
+    }
 };
 /// @}
 
@@ -137,17 +168,33 @@ template <class T> struct ToHost<BaseAttribute<T>> {
 /// @}
 
 /// @{ Signatures.
+/// The name of a parameter.
+struct ParameterName {
+    const char* text;
+    bool isKeyword = false;
+
+    ParameterName(const char* name) : text(name) {}
+};
+
+/// That of one which is given by it.
+inline ParameterName keyword(const char* name) {
+    ParameterName made(name);
+    made.isKeyword = true;
+    return made;
+}
+
 /// The names of a function's parameters, one for each.
-template <std::size_t kCount> struct ParameterNames : std::array<const char*, kCount> {
+template <std::size_t kCount> struct ParameterNames : std::array<ParameterName, kCount> {
     template <class... Names, class = std::enable_if_t<sizeof...(Names) == kCount>>
-    ParameterNames(Names... names) : std::array<const char*, kCount>{{names...}} {}
+    ParameterNames(Names... names) : std::array<ParameterName, kCount>{{ParameterName(names)...}} {}
 };
 
 /// The parameters of a function that takes arguments of types A.
 template <class... A, std::size_t... kI>
 Signature makeSignature(const ParameterNames<sizeof...(A)>& names, std::index_sequence<kI...>) {
     static_cast<void>(names); // nothing to name for a function that takes nothing
-    return {Parameter{names[kI], SignatureWord(FromHost<A>::kWord)}...};
+    return {Parameter{names[kI].text, SignatureWord(FromHost<A>::kWord), ArgumentOf<A>::kIsOptional,
+                      names[kI].isKeyword}...};
 }
 /// @}
 
@@ -155,7 +202,7 @@ Signature makeSignature(const ParameterNames<sizeof...(A)>& names, std::index_se
 template <class C, class... A, std::size_t... kI>
 ObjectPtr construct(const Arguments& arguments, std::index_sequence<kI...>) {
     static_cast<void>(arguments); // nothing to read for a default constructor
-    return boost::make_shared<C>(FromHost<A>::convert(arguments[kI])...);
+    return boost::make_shared<C>(ArgumentOf<A>::get(arguments, kI)...);
 }
 
 /// The constructor of C that takes arguments of types A.
@@ -211,10 +258,10 @@ private:
         static_cast<void>(arguments);
         C& facade = static_cast<C&>(*self);
         if constexpr (std::is_void<R>::value) {
-            function(facade, FromHost<Plain<A>>::convert(arguments[kI])...);
+            function(facade, ArgumentOf<Plain<A>>::get(arguments, kI)...);
             return Void();
         } else {
-            return ToHost<Plain<R>>::convert(function(facade, FromHost<Plain<A>>::convert(arguments[kI])...));
+            return ToHost<Plain<R>>::convert(function(facade, ArgumentOf<Plain<A>>::get(arguments, kI)...));
         }
     }
 };

@@ -32,6 +32,8 @@ BoundClass describeBaseTextBox() {
     bound.properties = makeCharacterRows<BaseTextBox>();
     bound.properties.push_back(makeBackgroundRow<BaseTextBox>());
     bound.properties.push_back(makeVAlignRow<BaseTextBox>());
+    bound.properties.push_back(
+        readOnlyProperty<BaseTextBox, &BaseTextBox::getText>("Text", "What the shape shows, as text."));
     bound.methods = makeParagraphRows();
     append(bound.methods, makeContentRows());
     return bound;

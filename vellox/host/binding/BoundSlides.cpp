@@ -1,4 +1,6 @@
 #include "vellox/check/PackageCheck.h"
+#include "vellox/doctor/ReportJson.h"
+#include "vellox/doctor/TemplateDoctor.h"
 #include "vellox/foundation/Conversions.h"
 #include "vellox/host/binding/Adapters.h"
 #include "vellox/host/binding/BoundClasses.h"
@@ -26,6 +28,52 @@ Slide addAt(Presentation& deck, Wide layout, unsigned int position) {
 
 Slide addOfMasterAt(Presentation& deck, Wide layout, Wide master, unsigned int position) {
     return deck.add(layout, master, toIndex(deck, position));
+}
+
+template <class T> using Optional = std::optional<T>;
+
+Slide addWith(Presentation& deck, Wide layout, const Optional<Contents>& contents,
+              const Optional<std::wstring>& master, const Optional<Slide>& before,
+              const Optional<unsigned int>& index, const Optional<bool>& dropEmpty) {
+    if (before && index)
+        raise(ppt_error::invalidAddArg());
+    const unsigned int place = index ? toIndex(deck, *index) : 0;
+    Slide slide = master ? deck.add(layout, *master) : deck.add(layout);
+    try {
+        if (contents)
+            slide.fill(*contents, dropEmpty.value_or(false));
+    } catch (const std::exception&) {
+        deck.remove(slide);
+        throw;
+    }
+    if (before)
+        deck.moveBefore(slide, *before);
+    else if (index)
+        deck.move(slide, place);
+    return slide;
+}
+
+Slide copySlide(Presentation& deck, const Slide& slide, const Optional<unsigned int>& index) {
+    return index ? deck.copy(slide, toIndex(deck, *index)) : deck.copy(slide);
+}
+
+void moveSlide(Presentation& deck, const Slide& slide, unsigned int index) {
+    deck.move(slide, toIndex(deck, index));
+}
+
+void fillSlide(Slide& slide, const Contents& contents, const Optional<bool>& dropEmpty) {
+    slide.fill(contents, dropEmpty.value_or(false));
+}
+
+template <class C> unsigned int fillTokensOf(C& owner, const Contents& values, const Optional<bool>& strict) {
+    return owner.fillTokens(values, strict.value_or(false));
+}
+
+template <class C> BoundMethod makeFillTokensRow() {
+    return Method<C, unsigned int(const Contents&, const Optional<bool>&)>::template row<&fillTokensOf<C>>(
+        "fillTokens", {"values", keyword("strict")},
+        "Puts values in the place of tokens such as {name} in the template's texts. Gives how many there "
+        "were.");
 }
 
 TextCells getMasterNames(Presentation& deck) {
@@ -61,6 +109,14 @@ TextCells checkFile(Wide path) {
     return toRows(checkPackage(path));
 }
 
+std::wstring inspectFile(Wide path) {
+    return fromUtf8(toJson(inspectTemplate(path)));
+}
+
+TextCells healFile(Wide input, Wide output) {
+    return toRows(healTemplate(input, output));
+}
+
 /// Of the last handle on a presentation.
 bool isUnfinished(const PPTObject& deck) {
     const auto* impl = implOf<PresentationImpl>(deck);
@@ -91,9 +147,17 @@ BoundClass describeTemplate() {
     bound.constructors = {make<Template>(), make<Template, std::wstring>({"path"}),
                           make<Template, std::wstring, std::wstring>({"path", "profile"})};
     bound.properties = {readOnlyProperty<Template, &Template::getPath>("Path", "The file that was read.")};
-    bound.methods = {StaticMethod<TextCells(Wide)>::row<&checkFile>(
-        "checkPackage", {"path"},
-        "What a strict reader would want to repair in a file: rows as those of Presentation.getFindings().")};
+    bound.methods = {
+        StaticMethod<TextCells(Wide)>::row<&checkFile>("checkPackage", {"path"},
+                                                       "What a strict reader would want to repair in a file: "
+                                                       "rows as those of Presentation.getFindings()."),
+        StaticMethod<std::wstring(Wide)>::row<&inspectFile>(
+            "inspectTemplate", {"path"},
+            "Masters, layouts, placeholders and findings of a template, as JSON."),
+        StaticMethod<TextCells(Wide, Wide)>::row<&healFile>(
+            "healTemplate", {"input", "output"},
+            "Writes a mended copy of a template. What was changed: rows as those of checkPackage()."),
+    };
     return bound;
 }
 
@@ -144,6 +208,23 @@ BoundClass describePresentation() {
              "add", {"layout", "position"}, "Adds a slide at a position, which counts from 1."),
          Method<Deck, Slide(Wide, Wide, unsigned int)>::row<&addOfMasterAt>(
              "add", {"layout", "master", "position"}, "The same, of the layout of one slide master."),
+         Method<Deck, Slide(Wide, const Optional<Contents>&, const Optional<std::wstring>&,
+                            const Optional<Slide>&, const Optional<unsigned int>&, const Optional<bool>&)>::
+             row<&addWith>("add",
+                           {"layout", "contents", keyword("master"), keyword("before"), keyword("index"),
+                            keyword("drop_empty")},
+                           "Adds a slide and fills its shapes by their names; before a slide, or at an "
+                           "index, which counts "
+                           "from 1."),
+         Method<Deck, Slide(const Slide&, const Optional<unsigned int>&)>::row<&copySlide>(
+             "copy", {"slide", keyword("index")},
+             "Adds a copy of a slide at the end, or at an index, which counts from 1."),
+         Method<Deck, void(const Slide&, unsigned int)>::row<&moveSlide>(
+             "move", {"slide", "index"}, "Puts a slide in the place of an index, which counts from 1."),
+         Method<Deck, void(const Slide&)>::row<&Deck::remove>("remove", {"slide"}, "Takes a slide out."),
+         Method<Deck, void()>::row<&Deck::clear>("clear", {},
+                                                 "Takes out the slides that the template brought along."),
+         makeFillTokensRow<Deck>(),
          Method<Deck, TextCells()>::row<&getMasterNames>("getMasterNames", {},
                                                          "The names of the slide masters."),
          Method<Deck, TextCells(const hvArray&)>::row<&getLayoutNames>(
@@ -162,6 +243,8 @@ BoundClass describeSlide() {
         property<Slide, &Slide::getName, &Slide::setName>("Name", "What the slide is found by."),
         readOnlyProperty<Slide, &Slide::getLayoutName>("Layout", "The name of its layout."),
         readOnlyProperty<Slide, &Slide::getSlideMasterName>("SlideMaster", "The name of its slide master."),
+        property<Slide, &Slide::isHidden, &Slide::setHidden>("Hidden", "Whether it is left out of the show."),
+        property<Slide, &Slide::getNotes, &Slide::setNotes>("Notes", "What the speaker reads."),
     };
     constexpr const char* kAddObject = "Puts this very object on the slide, on top of what is there.";
     bound.methods = {
@@ -175,6 +258,14 @@ BoundClass describeSlide() {
             Method<Slide, void(Wide, const Paragraph&)>::row<&Slide::add>("add", {"name", "paragraph"}, "")),
     };
     append(bound.methods, makeReplaceByNameRows<Slide>());
+    append(bound.methods,
+           {Method<Slide, void(const Contents&, const Optional<bool>&)>::row<&fillSlide>(
+                "fill", {"contents", keyword("drop_empty")},
+                "Fills shapes by their names, all or none; placeholders that stay empty can go."),
+            makeFillTokensRow<Slide>(),
+            Method<Slide, boost::shared_ptr<Shape>(Wide)>::row<&Slide::shape>(
+                "shape", {"name"},
+                "The one shape of a name, or of \"idx:13\", \"type:title\", \"type:body#2\".")});
     return bound;
 }
 

@@ -57,6 +57,12 @@ boost::shared_ptr<TableEntry> getEntry(Table& table, unsigned int r, unsigned in
     raise(ppt_error::badColSubscript(num2str(c), num2str(table.row(r - 1)->getNChildren())));
 }
 
+// The setter of a truth value, picked from the overloads that refuse texts.
+template <auto kGet, void (Table::*kSet)(bool), auto kUnset>
+BoundProperty partRow(const char* name, const char* doc) {
+    return optionalProperty<Table, kGet, kSet, kUnset>(name, doc);
+}
+
 BoundClass describeTable() {
     BoundClass bound = describe<Table>("Table", "Shape", "Rows of entries.");
     bound.constructors = {make<Table>(),
@@ -65,7 +71,19 @@ BoundClass describeTable() {
     bound.properties = makeFontRows<Table>();
     append(bound.properties,
            {optionalProperty<Table, &Table::getStyleName, &Table::setStyleName, &Table::unsetStyleName>(
-                "StyleName", "The name of a table style of the template."),
+                "StyleName", "The name of a table style of the template, or of the office programs."),
+            partRow<&Table::getHeaderRow, &Table::setHeaderRow, &Table::unsetHeaderRow>(
+                "HeaderRow", "Whether the style shows the first row as a header."),
+            partRow<&Table::getTotalRow, &Table::setTotalRow, &Table::unsetTotalRow>(
+                "TotalRow", "Whether the style shows the last row as one of totals."),
+            partRow<&Table::getFirstColumn, &Table::setFirstColumn, &Table::unsetFirstColumn>(
+                "FirstColumn", "Whether the style shows the first column in its own way."),
+            partRow<&Table::getLastColumn, &Table::setLastColumn, &Table::unsetLastColumn>(
+                "LastColumn", "Whether the style shows the last column in its own way."),
+            partRow<&Table::getBandedRows, &Table::setBandedRows, &Table::unsetBandedRows>(
+                "BandedRows", "Whether the style shows rows in turns."),
+            partRow<&Table::getBandedColumns, &Table::setBandedColumns, &Table::unsetBandedColumns>(
+                "BandedColumns", "Whether the style shows columns in turns."),
             BoundProperty{"ColSpecs", SignatureWord("list of ColSpec"), false,
                           AdaptedClassGetter<Table, getColSpecs>::get,
                           AdaptedClassSetter<Table, setColSpecs>::set,
@@ -99,7 +117,9 @@ BoundClass describeTableEntry() {
                           make<TableEntry, Paragraph>({"paragraph"})};
     bound.properties = makeFontRows<TableEntry>();
     append(bound.properties,
-           {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>()});
+           {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>(),
+            property<TableEntry, &TableEntry::getText, &TableEntry::setText>(
+                "Text", "What the cell shows, as text. A cell of the template's keeps its look.")});
     bound.methods = {
         Method<TableEntry, Paragraph(const Paragraph&)>::row<&TableEntry::append>(
             "append", {"paragraph"}, "Appends this very paragraph, which must not stand anywhere yet."),

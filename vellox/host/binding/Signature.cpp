@@ -1,6 +1,7 @@
 #include "vellox/host/binding/Signature.h"
 
 #include "vellox/host/binding/PPTObjFromHostBase.h"
+#include "vellox/host/values/hvFields.h"
 
 #include <cmath>
 #include <limits>
@@ -21,6 +22,7 @@ constexpr struct {
     {"double scalar", Kind::Double},
     {"uint8 vector", Kind::Bytes},
     {"any", Kind::Any},
+    {"fields", Kind::Fields},
     {"void", Kind::Void},
     {"char or double scalar", Kind::Compound},
 };
@@ -70,6 +72,8 @@ bool SignatureWord::matches(const hvArray& value) const {
                (value.getDimension(0) == 1 || value.getDimension(1) == 1);
     case Kind::Object:
         return PPTObjFromHostBase(value, className_).hasImpl();
+    case Kind::Fields:
+        return findFields(value) != nullptr;
     case Kind::Any:
     case Kind::Void:
     case Kind::Compound:
@@ -102,21 +106,46 @@ bool fits(const SignatureWord& word, const hvArray& value, Fit fit) {
     return word.getKind() == Kind::Any || word.matchesConverted(value);
 }
 
-bool fits(const Signature& signature, const Arguments& arguments, Fit fit) {
-    if (signature.size() != arguments.count)
-        return false;
+bool fits(const Signature& signature, const std::vector<const hvArray*>& values, Fit fit) {
     for (std::size_t i = 0; i < signature.size(); ++i)
-        if (!fits(signature[i].word, arguments[i], fit))
+        if (values[i] && !fits(signature[i].word, *values[i], fit))
             return false;
     return true;
 }
 
 } // namespace
 
-int findOverload(const std::vector<const Signature*>& signatures, const Arguments& arguments) {
+std::optional<std::vector<const hvArray*>> orderArguments(const Signature& signature,
+                                                          const Arguments& arguments,
+                                                          const std::vector<NamedArgument>& named) {
+    std::vector<const hvArray*> ordered(signature.size());
+    for (std::size_t i = 0; i < arguments.count; ++i) {
+        if (i >= signature.size() || signature[i].isKeyword)
+            return std::nullopt;
+        ordered[i] = arguments.values[i];
+    }
+    for (const NamedArgument& argument : named) {
+        std::size_t i = 0;
+        while (i < signature.size() && (!signature[i].isKeyword || argument.name != signature[i].name))
+            ++i;
+        if (i == signature.size() || ordered[i])
+            return std::nullopt;
+        ordered[i] = argument.value;
+    }
+    for (std::size_t i = 0; i < signature.size(); ++i)
+        if (!ordered[i] && !signature[i].isOptional)
+            return std::nullopt;
+    return ordered;
+}
+
+int findOverload(const std::vector<const Signature*>& signatures, const Arguments& arguments,
+                 const std::vector<NamedArgument>& named) {
+    std::vector<std::optional<std::vector<const hvArray*>>> ordered;
+    for (const Signature* signature : signatures)
+        ordered.push_back(orderArguments(*signature, arguments, named));
     for (const Fit fit : {Fit::Exact, Fit::Converted, Fit::WithAny})
         for (std::size_t i = 0; i < signatures.size(); ++i)
-            if (fits(*signatures[i], arguments, fit))
+            if (ordered[i] && fits(*signatures[i], *ordered[i], fit))
                 return static_cast<int>(i);
     return -1;
 }

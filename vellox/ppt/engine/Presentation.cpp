@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/engine/OutputReader.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/PresentationPaths.h"

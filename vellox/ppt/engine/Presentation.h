@@ -91,12 +91,53 @@ public:
     Slide add(const std::wstring& layoutName, const std::wstring& masterName, const Slide& before);
     /// @}
 
+    /// @{ Adds a slide with all that another one has, behind the last slide or before the one at an index from 0: what
+    /// the template has on it and what came since, notes and transition among it. Pictures are shared, charts with
+    /// their workbooks are copied; links to the slide lead to the copy where they stand on that. Comments stay behind.
+    /// @throws slideNotInPresentation
+    Slide copy(const Slide& slide);
+    Slide copy(const Slide& slide, unsigned int index);
+    /// @}
+    /// Puts a slide in the place of an index from 0, or at the end if there is none.
+    /// @throws slideNotInPresentation
+    void move(const Slide& slide, unsigned int index);
+    /// Puts a slide before another one, or at the end if that isn't one of this presentation.
+    /// @throws slideNotInPresentation
+    void moveBefore(const Slide& slide, const Slide& before);
+    /// Takes a slide out. With one of the template's go its notes, its charts, its entries in sections and custom
+    /// shows, and links that lead to it. The handle stays good for reading, and the slide can't come back.
+    /// @throws slideNotInPresentation
+    void remove(const Slide& slide);
+    /// Takes out the slides that the template brought along, wherever they stand by now. Those that were added or
+    /// copied stay.
+    void clear();
+
     /// @{ As the operations of Slide, on all slides.
     void add(const std::wstring& name, const Paragraph& paragraph);
     void replace(const std::wstring& name, const std::wstring& text);
     void replace(const std::wstring& name, const Paragraph& paragraph);
     void replace(const std::wstring& name, const HvContentPtr& content);
     /// @}
+    /// Fills the tokens in the texts of the template's slides and of their copies: in boxes, placeholders, groups,
+    /// tables and notes. What a token becomes looks as the text does that it begins in.
+    ///
+    /// - "{name}": the value of the name. Of a record, "{flow.mean}".
+    /// - "{mean:.1f}": a number in a form: [,][.digits][f, e, g, d or %]; a date written as 2026-11-21, with or without
+    ///   a time, in one such as "%d.%m.%Y".
+    /// - A token that is all of a paragraph, and whose value is a list: a paragraph for each item, lists in it a level
+    ///   deeper.
+    /// - A token that is all of a shape, and whose value is a Picture or a Table: that stands where the shape did.
+    /// - Tokens in one row of a table, "{rows.name}", whose value is a list of records or a table with names in its
+    ///   first row: the row for each record.
+    /// - "{{" and "}}": braces.
+    ///
+    /// Tokens without a value stay and are findings, and so are values without a token.
+    /// @param strict makes these errors, before anything is filled
+    /// @return how many tokens were filled
+    /// @throws tokensLeft if it is strict; with the tokens and the names
+    /// @throws cannotOpenFile, partDOMBuildError if notes can't be read
+    unsigned int fillTokens(const Contents& values, bool strict = false);
+
     /// All slides and shapes of the name, a container ahead of what it holds.
     Children find(const std::wstring& name);
 
@@ -139,6 +180,9 @@ public:
     /// | emptyPlaceholder | info | a placeholder of a new slide got nothing |
     /// | textTooLong | warning | a text takes more room than its box has, by an estimate |
     /// | tableTooLong | warning | a table takes more height than there is for it, by an estimate |
+    /// | tokenWithoutValue | error | a token of a text has no value |
+    /// | valueWithoutToken | warning | no text has a token for a value |
+    /// | tokenRefusesValue | error | a value can't stand where its token does, or not in the form that is asked for |
     /// | moreFindings | info | there are more of a severity than are kept, which is 1000 |
     const std::vector<Finding> getFindings() const;
     /// @{ Whether the presentation refuses to be other than asked: the first finding that is an error is raised as

@@ -18,6 +18,7 @@
 namespace vellox::ppt {
 
 class OutputFile;
+class OutputReader;
 class PartDOMBuilder;
 class PresentationModel;
 class TemplateImpl;
@@ -76,6 +77,18 @@ public:
     void insertSlideBefore(const Child& slide, const Slide& reference);
     /// @}
 
+    /// @{ @throws slideNotInPresentation for a slide that isn't in the list
+    /// A slide like another, which stands nowhere yet.
+    boost::shared_ptr<Slide> copySlide(const Slide& slide);
+    void moveSlide(const Slide& slide, unsigned int index);
+    void removeSlide(const Slide& slide);
+    /// @}
+    /// Removes those that the template brought along.
+    void clearSlides();
+    /// Reads what the template has of the notes of a slide, once.
+    /// @throws cannotOpenFile, partDOMBuildError
+    void requireNotes(TemplateSlide& record);
+
     const Report& getReport() const { return *report_; }
     void setOutputPath(const std::wstring& path);
     void setTemplatePath(const std::wstring& path);
@@ -95,6 +108,7 @@ public:
 
 private:
     void useDefaultTemplate();
+    const class SlideImpl& requireOwn(const Slide& slide) const;
     void reportIfClosed(const Child& slide) const;
     template <class Warning> void setPath(std::wstring Report::*field, const std::wstring& path);
     template <class Warning> void warnThatItStays();
@@ -125,6 +139,8 @@ private:
     boost::shared_ptr<Report> report_;
     std::wstring tempTemplatePath_;            // empty when there is no working copy
     boost::shared_ptr<OutputFile> outputFile_; // empty in a copy, which writes nothing
+    Children removed_; // findings know slides by where they are in memory: no other may come there
+    boost::shared_ptr<OutputReader> reader_; // empty until something is read of the open presentation
     boost::shared_ptr<PartDOMBuilder> partBuilder_;
     boost::shared_ptr<PresentationModel> model_; // empty before parsing
     Presentation::NamePairs tableStyleNames_;

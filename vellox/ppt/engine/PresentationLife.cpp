@@ -10,6 +10,7 @@
 #include "vellox/opc/Exception.h"
 #include "vellox/ppt/engine/Failures.h"
 #include "vellox/ppt/engine/OutputFile.h"
+#include "vellox/ppt/engine/OutputReader.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/engine/PresentationPaths.h"
@@ -183,6 +184,7 @@ bool PresentationImpl::close() {
         return false;
     const Busy busy(this, isBusy_);
     refuseWhatIsLeft();
+    reader_.reset();
     const std::wstring path = outputFile_ ? outputFile_->getPath() : report_->outputPath;
     const auto package = boost::make_shared<OPCPackage>(path);
     package->setCompression(compression_);
@@ -215,6 +217,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     PPTWriter writer(model_, package);
     FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
+    writer.prepare(slides);
     for (const Child& slide : slides)
         writer.write(*slide);
     state_ = PresentationState::Closed;

@@ -71,6 +71,8 @@ PresentationModel::Names PresentationModel::listTableStyleNames() const {
     Names names;
     for (const auto& style : template_->tableStyles)
         names.push_back(style->styleName);
+    const Names others = rules_->listTableStyles();
+    names.insert(names.end(), others.begin(), others.end());
     return names;
 }
 

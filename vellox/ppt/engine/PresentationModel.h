@@ -48,7 +48,7 @@ public:
     Names getAllLayoutNames() const;
     /// Fills the list with (name, id) of each table style.
     void getTableStyleNames(NamePairs& list) const;
-    /// The names alone.
+    /// All names that a table's style may have.
     Names listTableStyleNames() const;
     /// The id of the first table style of that name.
     /// @return null if there is none

@@ -42,6 +42,9 @@ constexpr FindingKind kFindingKinds[] = {
     {"emptyPlaceholder", Severity::Info},
     {"textTooLong", Severity::Warning},
     {"tableTooLong", Severity::Warning},
+    {"tokenWithoutValue", Severity::Error},
+    {"valueWithoutToken", Severity::Warning},
+    {"tokenRefusesValue", Severity::Error},
     {"moreFindings", Severity::Info},
 };
 

@@ -46,14 +46,14 @@ void PPTNodeImpl::requireFree(const PPTNode& child) const {
         raise(ppt_error::failedToAppendChild());
 }
 
-PPTNodeImpl::Children::iterator PPTNodeImpl::findChild(const PPTNode& node) {
+PPTNodeImpl::Children::iterator PPTNodeImpl::findPlaceOf(const PPTNode& node) {
     return std::find_if(children_.begin(), children_.end(),
                         [&](const Child& child) { return child && *child == node; });
 }
 
 void PPTNodeImpl::insertChildBefore(const Child& child, const PPTNode& reference) {
     requireFree(*child);
-    children_.insert(findChild(reference), child);
+    children_.insert(findPlaceOf(reference), child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
@@ -79,7 +79,7 @@ void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
 void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
     // The list may hold the only references to the former child and its handle, which end when all is in order.
     const boost::intrusive_ptr<PPTNodeImpl> kept(implOf<PPTNodeImpl>(former));
-    const auto place = findChild(former);
+    const auto place = findPlaceOf(former);
     Child outgoing = child;
     if (place != children_.end())
         place->swap(outgoing);
@@ -87,6 +87,15 @@ void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
         children_.push_back(child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
     kept->setParent(nullptr);
+}
+
+void PPTNodeImpl::moveChild(const PPTNode& child, unsigned int index) {
+    const auto place = findPlaceOf(child);
+    if (place == children_.end())
+        return;
+    const Child moved = *place;
+    children_.erase(place);
+    children_.insert(index < children_.size() ? children_.begin() + index : children_.end(), moved);
 }
 
 void PPTNodeImpl::setChildren(const Children& children) {

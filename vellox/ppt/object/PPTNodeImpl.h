@@ -63,6 +63,11 @@ public:
     /// then. Whether the new child has a parent isn't asked.
     virtual void replaceChild(const PPTNode& former, const Child& child);
 
+    /// Takes out the children for which an action says so; they have no parent then.
+    template <class Wanted> Children takeOut(Wanted isWanted);
+    /// Puts a child before the one that has an index without it, or at the end if there is none.
+    void moveChild(const PPTNode& child, unsigned int index);
+
     const std::wstring& getName() const { return name_; }
     const Children& getChildren() const { return children_; }
     PPTNodeImpl* getParent() const { return parent_; }
@@ -88,7 +93,7 @@ protected:
     Children& children() { return children_; }
 
 private:
-    Children::iterator findChild(const PPTNode& node);
+    Children::iterator findPlaceOf(const PPTNode& node);
     void requireFree(const PPTNode& child) const;
     void setParent(PPTNodeImpl* parent);
 
@@ -104,6 +109,16 @@ private:
                            boost::intrusive::constant_time_size<false>>
         linked_;
 };
+
+template <class Wanted> PPTNodeImpl::Children PPTNodeImpl::takeOut(Wanted isWanted) {
+    Children taken, left;
+    for (const Child& child : children_)
+        (isWanted(*child) ? taken : left).push_back(child);
+    children_.swap(left);
+    for (const Child& child : taken)
+        implOf<PPTNodeImpl>(*child)->setParent(nullptr);
+    return taken;
+}
 
 } // namespace vellox::ppt
 

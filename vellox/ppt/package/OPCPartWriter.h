@@ -32,6 +32,8 @@ public:
     /// A new part whose bytes are stored as they are.
     /// @throws opc::Exception if the name can't be had
     opc::Part createStoredPart(const std::wstring& partName, const std::wstring& contentType);
+    /// The package that is written to.
+    const OPCPackage& getPackage() const { return *owner_; }
     /// A stream on any file; its state tells whether the file could be opened.
     boost::shared_ptr<std::istream> createFileInputStream(const std::wstring& path);
 

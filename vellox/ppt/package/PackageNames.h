@@ -15,6 +15,10 @@ inline constexpr wchar_t kHyperlink[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/hyperlink";
 inline constexpr wchar_t kImage[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/image";
+inline constexpr wchar_t kNotesMaster[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/notesMaster";
+inline constexpr wchar_t kNotesSlide[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/notesSlide";
 inline constexpr wchar_t kOfficeDocument[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
 inline constexpr wchar_t kSignatureOrigin[] =
@@ -41,6 +45,14 @@ namespace vellox::ppt::contenttype {
 
 inline constexpr wchar_t kCoreProperties[] = L"application/vnd.openxmlformats-package.core-properties+xml";
 inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
+inline constexpr wchar_t kTableStyles[] =
+    L"application/vnd.openxmlformats-officedocument.presentationml.tableStyles+xml";
+
+inline constexpr wchar_t kNotesMaster[] =
+    L"application/vnd.openxmlformats-officedocument.presentationml.notesMaster+xml";
+inline constexpr wchar_t kNotesSlide[] =
+    L"application/vnd.openxmlformats-officedocument.presentationml.notesSlide+xml";
+inline constexpr wchar_t kTheme[] = L"application/vnd.openxmlformats-officedocument.theme+xml";
 
 /// The main part of a file with a given extension.
 struct MainType {

@@ -1,5 +1,6 @@
 #include "vellox/ppt/rules/ClassicRules.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/package/PackageNames.h"
 
@@ -198,6 +199,56 @@ bool ClassicRules::showsTruth() const {
 }
 
 bool ClassicRules::alignsNumbers() const {
+    return false;
+}
+
+TableParts ClassicRules::showParts(const TableParts& set, const TableParts*) const {
+    return set;
+}
+
+Rules::Names ClassicRules::listTableStyles() const {
+    return {};
+}
+
+TableStyle ClassicRules::chooseTableStyle(const TableStyleFacts& style) const {
+    return {style.named ? *style.named : std::wstring(), !style.name || style.named};
+}
+
+bool ClassicRules::bringsStyleName() const {
+    return false;
+}
+
+bool ClassicRules::fillsRows() const {
+    return false;
+}
+
+bool ClassicRules::sizesEmptyCells() const {
+    return false;
+}
+
+bool ClassicRules::measuresColumns() const {
+    return false;
+}
+
+// Columns without a width share what the others leave of the table's.
+std::vector<int> ClassicRules::shareWidth(const GridFacts& grid) const {
+    double sum = 0;
+    std::size_t open = 0;
+    for (const ColumnFacts& column : grid.columns) {
+        sum += column.width.value_or(0);
+        open += column.width ? 0 : 1;
+    }
+    if (open == grid.columns.size())
+        return {};
+    const double each = open != 0 && grid.equalSum > sum ? (grid.equalSum - sum) / static_cast<double>(open)
+                                                         : kLeastColumnWidth;
+    std::vector<int> widths;
+    for (const ColumnFacts& column : grid.columns)
+        widths.push_back(truncateToInt(column.width ? *column.width : each));
+    return widths;
+}
+
+bool ClassicRules::keepsLook() const {
     return false;
 }
 

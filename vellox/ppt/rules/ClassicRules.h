@@ -39,6 +39,15 @@ public:
     bool splitsContents() const override;
     bool showsTruth() const override;
     bool alignsNumbers() const override;
+    TableParts showParts(const TableParts& set, const TableParts* former) const override;
+    Names listTableStyles() const override;
+    TableStyle chooseTableStyle(const TableStyleFacts& style) const override;
+    bool bringsStyleName() const override;
+    bool fillsRows() const override;
+    bool sizesEmptyCells() const override;
+    bool measuresColumns() const override;
+    std::vector<int> shareWidth(const GridFacts& grid) const override;
+    bool keepsLook() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
     bool sharesImages() const override;

@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_RULES_FACTS_H
 #define VELLOX_PPT_RULES_FACTS_H
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <set>
 #include <string>
@@ -163,6 +165,43 @@ struct Value {
 
 /// The lines of a text, without their ends.
 using TextLines = std::vector<std::wstring>;
+
+/// What a table style may show in its own way.
+enum class TablePart { HeaderRow, TotalRow, FirstColumn, LastColumn, BandedRows, BandedColumns };
+inline constexpr std::size_t kTablePartCount = 6;
+/// For each part, by its number, whether it is shown so, as far as that is said.
+using TableParts = std::array<std::optional<bool>, kTablePartCount>;
+
+/// What a table's style may come from. Texts that nobody gave are null.
+struct TableStyleFacts {
+    const std::wstring* name = nullptr;     ///< that the table was given
+    const std::wstring* named = nullptr;    ///< the id of the template's style of that name
+    const std::wstring* former = nullptr;   ///< that of the table whose place it takes, empty if it had none
+    const std::wstring* standard = nullptr; ///< the id of the template's own choice for new tables
+    bool isStandardDefined = false;         ///< whether the template has that style
+};
+
+struct TableStyle {
+    std::wstring id;     ///< empty for none
+    bool isFound = true; ///< false if the table was given a name that nobody knows
+};
+
+/// A column of a table that is written. Lengths in EMU; what isn't known is 0.
+struct ColumnFacts {
+    std::optional<int> width; ///< as somebody has set it
+    double former = 0;        ///< of the same column of the table whose place is taken
+    double longestLine = 0;   ///< about, as is the next
+    double longestWord = 0;
+};
+
+/// What a column without a width gets when the others leave nothing of the table's width.
+inline constexpr double kLeastColumnWidth = 208080.0;
+
+struct GridFacts {
+    std::vector<ColumnFacts> columns;
+    double equalSum = 0; ///< the sum of widths if all columns are as wide as one another, in whole numbers
+    double total = 0;    ///< the width that the columns share
+};
 
 /// What the format demands of an element.
 struct ElementForm {

@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/rules/Sequences.h"
+#include "vellox/ppt/rules/TableStyles.h"
 
 #include <algorithm>
 #include <array>
@@ -309,6 +310,131 @@ bool OfficeRules::showsTruth() const {
 }
 
 bool OfficeRules::alignsNumbers() const {
+    return true;
+}
+
+// What is said counts, then what stood there; a new table has a header row and banded rows.
+TableParts OfficeRules::showParts(const TableParts& set, const TableParts* former) const {
+    TableParts shown = set;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const auto part = static_cast<TablePart>(i);
+        const bool isUsual = part == TablePart::HeaderRow || part == TablePart::BandedRows;
+        if (!shown[i] && former)
+            shown[i] = (*former)[i];
+        else if (!shown[i] && isUsual)
+            shown[i] = true;
+    }
+    return shown;
+}
+
+Rules::Names OfficeRules::listTableStyles() const {
+    Names names;
+    for (const BuiltInTableStyle& style : getBuiltInTableStyles())
+        names.push_back(style.name);
+    return names;
+}
+
+TableStyle OfficeRules::chooseTableStyle(const TableStyleFacts& style) const {
+    if (style.named)
+        return {*style.named, true};
+    const BuiltInTableStyle* builtIn = style.name ? findBuiltInTableStyle(*style.name) : nullptr;
+    if (builtIn)
+        return {builtIn->id, true};
+    const bool isFound = !style.name;
+    if (style.former)
+        return {*style.former, isFound};
+    const bool isStandardGood =
+        style.standard && (style.isStandardDefined || findBuiltInTableStyleById(*style.standard));
+    return {isStandardGood ? *style.standard : kUsualTableStyleId, isFound};
+}
+
+bool OfficeRules::bringsStyleName() const {
+    return true;
+}
+
+bool OfficeRules::fillsRows() const {
+    return true;
+}
+
+bool OfficeRules::sizesEmptyCells() const {
+    return true;
+}
+
+bool OfficeRules::measuresColumns() const {
+    return true;
+}
+
+namespace {
+
+// What columns without a width want: at least their longest word and a third of an equal share, at most their
+// longest line. None wants more than all there is.
+struct Wish {
+    double least, most;
+};
+
+Wish makeWish(const ColumnFacts& column, double left, std::size_t open) {
+    constexpr double kMargins = 2 * 91440;
+    if (column.former > 0)
+        return {column.former, column.former};
+    const double third = left / static_cast<double>(open) / 3;
+    const double least = std::max(third, std::min(column.longestWord + kMargins, left / 2));
+    return {least, std::max(least, std::min(column.longestLine + kMargins, left))};
+}
+
+// Lines are broken where they have to be. What is too much or too little is shared in proportion.
+std::vector<double> share(const std::vector<Wish>& wishes, double left) {
+    double leastSum = 0, mostSum = 0;
+    for (const Wish& wish : wishes) {
+        leastSum += wish.least;
+        mostSum += wish.most;
+    }
+    std::vector<double> shares;
+    for (const Wish& wish : wishes) {
+        if (mostSum <= left)
+            shares.push_back(wish.most * left / mostSum);
+        else if (leastSum < left)
+            shares.push_back(wish.least +
+                             (wish.most - wish.least) * (left - leastSum) / (mostSum - leastSum));
+        else
+            shares.push_back(wish.least * left / leastSum);
+    }
+    return shares;
+}
+
+} // namespace
+
+// The sum is that of the table to the last unit: each column ends where those up to it end.
+std::vector<int> OfficeRules::shareWidth(const GridFacts& grid) const {
+    double left = grid.total;
+    std::size_t open = 0;
+    for (const ColumnFacts& column : grid.columns) {
+        left -= column.width.value_or(0);
+        open += column.width ? 0 : 1;
+    }
+    if (left <= 0)
+        left = kLeastColumnWidth * static_cast<double>(open);
+    std::vector<Wish> wishes;
+    for (const ColumnFacts& column : grid.columns)
+        if (!column.width)
+            wishes.push_back(makeWish(column, left, open));
+    const std::vector<double> shares = share(wishes, left);
+    std::vector<int> widths;
+    auto next = shares.begin();
+    double end = 0;
+    long long written = 0;
+    for (const ColumnFacts& column : grid.columns) {
+        if (column.width) {
+            widths.push_back(*column.width);
+            continue;
+        }
+        end += *next++;
+        widths.push_back(truncateToInt(std::round(end) - static_cast<double>(written)));
+        written += widths.back();
+    }
+    return widths;
+}
+
+bool OfficeRules::keepsLook() const {
     return true;
 }
 

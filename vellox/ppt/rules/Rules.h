@@ -79,6 +79,25 @@ public:
     virtual bool showsTruth() const = 0;
     /// Whether numbers stand at the right of the cells of a table, below its first row.
     virtual bool alignsNumbers() const = 0;
+    /// Which parts of a table its style shows in their own way.
+    /// @param former those of the table whose place it takes, or null
+    virtual TableParts showParts(const TableParts& set, const TableParts* former) const = 0;
+    /// The names of styles that a table may have beside the template's.
+    virtual Names listTableStyles() const = 0;
+    virtual TableStyle chooseTableStyle(const TableStyleFacts& style) const = 0;
+    /// Whether a table that takes a place brings the name of its style along.
+    virtual bool bringsStyleName() const = 0;
+    /// Whether rows with fewer entries than the table has columns get empty ones.
+    virtual bool fillsRows() const = 0;
+    /// Whether a cell without text is as high as one with text would be.
+    virtual bool sizesEmptyCells() const = 0;
+    /// Whether anybody asks for the lengths of texts in columns.
+    virtual bool measuresColumns() const = 0;
+    /// The widths of the columns of a table.
+    /// @return nothing if they stay as wide as one another
+    virtual std::vector<int> shareWidth(const GridFacts& grid) const = 0;
+    /// Whether what replaces texts or tables of the template looks like them.
+    virtual bool keepsLook() const = 0;
     /// What an element of the library's own making has to look like.
     /// @return null to leave it as it was made
     virtual const ElementForm* formOf(std::u16string_view element) const = 0;

@@ -23,6 +23,14 @@ std::vector<ElementForm> makeForms() {
     const Names fills = {u"a:noFill",   u"a:solidFill", u"a:gradFill",
                          u"a:blipFill", u"a:pattFill",  u"a:grpFill"};
     const Names effects = {u"a:effectLst", u"a:effectDag"};
+    const Names runChildren =
+        join({{u"a:ln"},
+              fills,
+              effects,
+              {u"a:highlight", u"a:uLnTx", u"a:uLn", u"a:uFillTx", u"a:uFill", u"a:latin", u"a:ea", u"a:cs",
+               u"a:sym", u"a:hlinkClick", u"a:hlinkMouseOver", u"a:rtl", u"a:extLst"}});
+    const std::vector<ElementForm::Range> runRanges = {
+        {u"sz", 100, 400000}, {u"kern", 0, 400000}, {u"spc", -400000, 400000}};
     return {
         {u"a:bodyPr",
          {u"a:prstTxWarp", u"a:noAutofit", u"a:normAutofit", u"a:spAutoFit", u"a:scene3d", u"a:sp3d",
@@ -33,20 +41,14 @@ std::vector<ElementForm> makeForms() {
           {u"bIns", kLeastInt, kGreatestInt},
           {u"numCol", 1, 16}},
          {}},
+        {u"a:endParaRPr", runChildren, runRanges, {}},
         {u"a:pPr",
          {u"a:lnSpc", u"a:spcBef", u"a:spcAft", u"a:buClrTx", u"a:buClr", u"a:buSzTx", u"a:buSzPct",
           u"a:buSzPts", u"a:buFontTx", u"a:buFont", u"a:buNone", u"a:buAutoNum", u"a:buChar", u"a:buBlip",
           u"a:tabLst", u"a:defRPr", u"a:extLst"},
          {{u"lvl", 0, 8}, {u"marL", 0, 51206400}, {u"marR", 0, 51206400}, {u"indent", -51206400, 51206400}},
          {}},
-        {u"a:rPr",
-         join({{u"a:ln"},
-               fills,
-               effects,
-               {u"a:highlight", u"a:uLnTx", u"a:uLn", u"a:uFillTx", u"a:uFill", u"a:latin", u"a:ea", u"a:cs",
-                u"a:sym", u"a:hlinkClick", u"a:hlinkMouseOver", u"a:rtl", u"a:extLst"}}),
-         {{u"sz", 100, 400000}, {u"kern", 0, 400000}, {u"spc", -400000, 400000}},
-         {{u"a:hlinkClick", u"r:id"}}},
+        {u"a:rPr", runChildren, runRanges, {{u"a:hlinkClick", u"r:id"}}},
         {u"a:tbl", {u"a:tblPr", u"a:tblGrid", u"a:tr"}, {}, {}},
         {u"a:tblPr", join({fills, effects, {u"a:tableStyle", u"a:tableStyleId", u"a:extLst"}}), {}, {}},
         {u"a:tcPr",

@@ -6,6 +6,7 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
+#include "vellox/ppt/template/SlideSource.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -18,11 +19,12 @@ using namespace xercesc;
 namespace {
 
 // None for a slide in pieces.
-OwnedDocument makeDocument(const TemplateSlide& slide, const Rules& rules) {
-    if (!slide.source && requirePrototype(*slide.layout, rules).pieces)
+OwnedDocument makeDocument(const TemplateSlide& slide, const Rules& rules, SlideDocument::Form form) {
+    const bool mayBePieces = form == SlideDocument::Form::Pieces;
+    if (mayBePieces && !slide.source && requirePrototype(*slide.layout, rules).pieces)
         return OwnedDocument();
-    OwnedDocument document =
-        copyDocument(slide.source ? *slide.source : requirePrototype(*slide.layout, rules).document);
+    OwnedDocument document = copyDocument(slide.source ? slide.source->getDocument()
+                                                       : requirePrototype(*slide.layout, rules).document);
     declarePrefixes(document->getDocumentElement());
     return document;
 }
@@ -39,8 +41,8 @@ unsigned int findFirstFreeId(const TemplateSlide& slide, const Rules& rules) {
 
 } // namespace
 
-SlideDocument::SlideDocument(const TemplateSlide& slide, const Rules& rules)
-    : SlideDocument(makeDocument(slide, rules), findFirstFreeId(slide, rules)) {
+SlideDocument::SlideDocument(const TemplateSlide& slide, const Rules& rules, Form form)
+    : SlideDocument(makeDocument(slide, rules, form), findFirstFreeId(slide, rules)) {
     if (document_)
         return;
     prototype_ = slide.layout->prototype;
@@ -89,6 +91,11 @@ DOMElement* SlideDocument::findElement(const std::wstring& uid) {
     }
     const auto found = elements_.find(uid);
     return found == elements_.end() ? nullptr : found->second;
+}
+
+void SlideDocument::removeElement(const std::wstring& uid) {
+    if (DOMElement* element = findElement(uid))
+        removeNode(element);
 }
 
 void SlideDocument::makeNodes(std::size_t shape) {

@@ -24,17 +24,24 @@ struct SlidePieces;
 /// only what is changed in other ways than by paragraphs becomes nodes, when somebody asks for it.
 class SlideDocument {
 public:
-    SlideDocument(const TemplateSlide& slide, const Rules& rules);
+    /// What a new slide consists of. What can be said of pieces doesn't reach the root element.
+    enum class Form { Pieces, Nodes };
+
+    SlideDocument(const TemplateSlide& slide, const Rules& rules, Form form = Form::Pieces);
     /// On a document with marks; new shapes are numbered from an id on.
     SlideDocument(OwnedDocument document, unsigned int firstFreeId);
     SlideDocument(const SlideDocument&) = delete;
     SlideDocument& operator=(const SlideDocument&) = delete;
 
     void setName(const std::wstring& name);
+    /// The root element, if all of the slide is nodes; else null.
+    xercesc::DOMElement* getRoot() const { return pieces_ ? nullptr : document_->getDocumentElement(); }
     /// A new element, attached to nothing.
     xercesc::DOMElement* createElement(const XMLCh* name);
     /// The element of a record; null if there is none.
     xercesc::DOMElement* findElement(const std::wstring& uid);
+    /// Takes the element of a record off the slide.
+    void removeElement(const std::wstring& uid);
     /// Whether the element of a record has a text body without paragraphs, and hasn't been asked for.
     bool takesText(const std::wstring& uid) const;
     /// The content of that text body. Without any it gets an empty paragraph.

@@ -9,6 +9,7 @@
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/xml/Prefixes.h"
+#include "vellox/ppt/template/SlideSource.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -282,6 +283,14 @@ void TemplateReader::loadSlides(const opc::Part& presentation) {
         template_->slides.push_back(loadSlide(presentation, std::move(slide)));
 }
 
+namespace {
+
+bool isFalse(const std::wstring& attribute) {
+    return attribute == L"0" || attribute == L"false";
+}
+
+} // namespace
+
 boost::shared_ptr<const TemplateSlide> TemplateReader::loadSlide(const opc::Part& presentation,
                                                                  TemplateSlide slide) {
     const opc::Part part = builder_.getPart(presentation.getRelationshipByID(slide.relationshipId));
@@ -291,13 +300,14 @@ boost::shared_ptr<const TemplateSlide> TemplateReader::loadSlide(const opc::Part
         slide.layout = getLayout(builder_.getPart(layout));
     slide.shapes = boost::make_shared<TemplateShapes>();
     page_.clear();
-    const auto document = boost::make_shared<OwnedDocument>(readMarked(part));
-    DOMElement* root = (*document)->getDocumentElement();
+    const auto source = boost::make_shared<SlideSource>(readMarked(part));
+    DOMElement* root = source->get()->getDocumentElement();
     slide.name = getAttribute(findChild(root, xml::kCSld), xml::kName);
+    slide.isHidden = isFalse(getAttribute(root, xml::kShow));
     for (DOMElement* element : getChildElements(findDescendant(root, {xml::kCSld, xml::kSpTree})))
         parseShape(*element, *slide.shapes, slide.layout.get());
     nameShapes();
-    slide.source = document;
+    slide.source = source;
     return boost::make_shared<const TemplateSlide>(std::move(slide));
 }
 
@@ -332,6 +342,11 @@ boost::shared_ptr<TemplateShape> TemplateReader::makeRecord(DOMElement& element,
     shape->xmlId = facts.id;
     if (shape->type != NodeType::BodyPlaceholder && facts.element == ShapeElement::Shape)
         shape->placeholderType = facts.placeholderType;
+    if (facts.isPlaceholder) {
+        shape->isPlaceholder = true;
+        shape->phType = facts.placeholderType.empty() ? L"obj" : facts.placeholderType;
+        shape->phIndex = facts.placeholderIndex.empty() ? L"0" : facts.placeholderIndex;
+    }
     setAttribute(&element, xml::kDataUid, shape->id);
     page_.push_back(shape);
     return shape;
@@ -360,11 +375,17 @@ void TemplateReader::chooseSizes(TemplateShape& shape, const ShapeFacts& facts, 
 // Table styles
 
 void TemplateReader::loadTableStyles(const std::wstring& partName) {
-    const OwnedDocument document = readDocument(builder_.getPart(partName));
-    for (const DOMElement* element : getElementsByName(document.get(), xml::kATblStyle)) {
+    const opc::Part part = builder_.getPart(partName);
+    template_->tableStylesPartName = part.getName().toString();
+    template_->tableStylesDocument = readDocument(part);
+    DOMDocument* document = template_->tableStylesDocument.get();
+    template_->defaultTableStyleId = getAttribute(document->getDocumentElement(), xml::kDef);
+    for (const DOMElement* element : getElementsByName(document, xml::kATblStyle)) {
         const auto style = boost::make_shared<TemplateTableStyle>();
         style->styleId = getAttribute(element, xml::kStyleId);
         style->styleName = getAttribute(element, xml::kStyleName);
+        template_->isDefaultTableStyleDefined =
+            template_->isDefaultTableStyleDefined || style->styleId == template_->defaultTableStyleId;
         template_->tableStyles.push_back(style);
     }
 }

@@ -23,6 +23,7 @@
 
 namespace vellox::ppt {
 
+class SlideSource;
 struct SlidePrototype;
 struct TemplateLayout;
 struct TemplateMaster;
@@ -70,10 +71,13 @@ struct TemplateShape : ShapeGeometry {
     NodeType type = NodeType::None; ///< what the element is
     std::wstring xmlId;             ///< id of p:cNvPr
     std::wstring placeholderType;   ///< type of p:ph, for picture, table and title placeholders
-    Place place;                    ///< the element's own, in a layout; empty if it gives none
-    Place successorPlace;           ///< for a picture or a table in its stead; empty if there is none
-    Place textPlace;                ///< for the lengths that a text shape leaves open; empty if there is none
-    TextSizes textSizes{};          ///< of its text, in a layout
+    bool isPlaceholder = false;
+    std::wstring phType;   ///< with the index, of any placeholder's p:ph; "obj" where it says none
+    std::wstring phIndex;  ///< "0" where it says none
+    Place place;           ///< the element's own, in a layout; empty if it gives none
+    Place successorPlace;  ///< for a picture or a table in its stead; empty if there is none
+    Place textPlace;       ///< for the lengths that a text shape leaves open; empty if there is none
+    TextSizes textSizes{}; ///< of its text, in a layout
     boost::shared_ptr<TemplateShapes> children; ///< of a group
     bool givesWayInGroup = false;               ///< whether a picture may take its place in a group
 };
@@ -121,15 +125,25 @@ struct TemplateLayout {
     boost::shared_ptr<const SlidePrototype> prototype; ///< made with the first slide, see SlidePrototype.h
 };
 
-/// One slide of a deck: a new one, which comes from its layout, or one of the template.
+/// The speaker's page of a slide, as it was read or has been changed since.
+struct TemplateNotes {
+    OwnedDocument document;
+    bool isChanged = false;
+};
+
+/// One slide of a deck: a new one, which comes from its layout, one of the template, or a copy of either.
 struct TemplateSlide {
     std::wstring id;             ///< of p:sldId; empty in a new slide
     std::wstring relationshipId; ///< empty until the slide list is written
     std::wstring name;
-    std::wstring partName; ///< empty until all slides are written
+    std::wstring partName;   ///< empty until all slides are written
+    std::wstring originName; ///< of a copy of one of the template's: the part of that one
+    bool isHidden = false;
     boost::shared_ptr<TemplateLayout> layout;
-    boost::shared_ptr<const OwnedDocument>
-        source;                               ///< as read, with data-uid attributes; empty in a new slide
+    /// With data-uid attributes, as read or with what was filled in since; empty in a new slide and its copies.
+    boost::shared_ptr<const SlideSource> source;
+    boost::shared_ptr<const TemplateNotes> notes; ///< empty until somebody asks for it, or if there is none
+    bool areNotesRead = false;
     boost::shared_ptr<TemplateShapes> shapes; ///< of a new slide: those of its layout, shared
 };
 
@@ -147,6 +161,10 @@ struct ReadTemplate {
     std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part
     std::vector<boost::shared_ptr<TemplateTableStyle>> tableStyles;
     std::vector<PackageExtra> extras; ///< those that the rules may leave out
+    std::wstring tableStylesPartName; ///< empty if there is none
+    OwnedDocument tableStylesDocument;
+    std::wstring defaultTableStyleId; ///< of new tables; empty if the template doesn't say
+    bool isDefaultTableStyleDefined = false;
 };
 
 } // namespace vellox::ppt

@@ -4,7 +4,10 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
+#include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/xml/BodyText.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <vector>
 
@@ -126,6 +129,12 @@ Paragraph BaseTextBoxImpl::replace(const std::wstring& text) {
     return paragraph;
 }
 
+std::wstring BaseTextBoxImpl::getText() const {
+    const auto source = isContentReplaced() ? nullptr : findSource(*this);
+    const xercesc::DOMElement* element = source ? source->find(getTemplateUid()) : nullptr;
+    return joinTexts(readBody(findChild(element, xml::kTxBody)), readParagraphs(*this));
+}
+
 // BaseTextBox
 
 BaseTextBox::BaseTextBox() : BaseTextBox(new BaseTextBoxImpl) {}
@@ -162,6 +171,10 @@ Paragraph BaseTextBox::replace(const Paragraph& paragraph) {
 
 void BaseTextBox::replace(const HvContentPtr& content) {
     heldImplOf<BaseTextBoxImpl>(*this)->replace(content);
+}
+
+std::wstring BaseTextBox::getText() const {
+    return pimpl()->getText();
 }
 
 boost::shared_ptr<BaseTextBox> BaseTextBox::cast(const boost::shared_ptr<PPTNode>& node) {

@@ -44,6 +44,10 @@ public:
     /// @throws invalidReplaceArg for an empty pointer or for what is no list
     void replace(const HvContentPtr& content);
 
+    /// What the shape shows: what the template has in it, as far as that stands, and what came since. "\n" ends
+    /// paragraphs and lines. Prompts of placeholders, which no slide shows, are no text.
+    std::wstring getText() const;
+
     /// The node as a BaseTextBox, or an empty pointer.
     static boost::shared_ptr<BaseTextBox> cast(const boost::shared_ptr<PPTNode>& node);
 

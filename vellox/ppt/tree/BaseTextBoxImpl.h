@@ -21,6 +21,7 @@ public:
     ~BaseTextBoxImpl() override;
 
     void replace(const HvContentPtr& content) override;
+    std::wstring getText() const;
 
     /// Puts the items of a list behind the present paragraphs. Unlike all other ways in, this one doesn't
     /// tell the paragraphs of their parent.

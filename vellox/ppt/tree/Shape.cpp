@@ -3,7 +3,11 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
+#include "vellox/ppt/tree/TableImpl.h"
+
+#include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
 
@@ -65,6 +69,21 @@ void ShapeImpl::setName(const std::wstring& name) {
 
 void ShapeImpl::replace(const HvContentPtr&) {
     raise(ppt_error::invalidReplaceArg());
+}
+
+bool ShapeImpl::giveWayTo(const HvContentPtr& content, const Place& place) {
+    auto* picture = getObjectImpl<PictureImpl>(content);
+    auto* table = getObjectImpl<TableImpl>(content);
+    if ((!picture && !table) || !templateShape_ || !findHolder(picture ? NodeType::Picture : NodeType::Table))
+        return false;
+    const auto record = boost::make_shared<TemplateShape>(*templateShape_);
+    record->successorPlace = place;
+    templateShape_ = record;
+    if (picture)
+        giveWayTo<PictureImpl>(static_cast<const Picture&>(*picture->makeInterface()), TakeName::Always);
+    else
+        giveWayTo<TableImpl>(static_cast<const Table&>(*table->makeInterface()), TakeName::Always);
+    return true;
 }
 
 // A slide; or a group for a picture, where what the template says of the shape allows it. Readers don't expect tables

@@ -32,6 +32,11 @@ public:
     void setName(const std::wstring& name) override;
     virtual void replace(const HvContentPtr& content);
 
+    /// Lets a Picture or a Table stand where this shape does, whatever that takes by itself.
+    /// @param place where that is
+    /// @return whether it does now
+    bool giveWayTo(const HvContentPtr& content, const Place& place);
+
     const ShapeGeometry& getGeometry() const { return geometry_; }
     ShapeGeometry& geometry() { return geometry_; }
     const BaseAttribute<std::wstring>& getAltText() const { return altText_; }

@@ -2,6 +2,7 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ByName.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
 namespace vellox::ppt {
@@ -20,19 +21,54 @@ SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
         if (const auto master = layout->master.lock())
             slideMasterName_ = master->name;
     }
+    isHidden_ = templateSlide_->isHidden;
     announceCreated(*this);
 }
 
-SlideImpl::SlideImpl(const SlideImpl& other)
+SlideImpl::SlideImpl(const SlideImpl& other) : SlideImpl(other, other.templateSlide_) {}
+
+SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSlide>& templateSlide)
     : NodeOf(other),
+      isHidden_(other.isHidden_),
+      dropped_(other.dropped_),
       slideMasterName_(other.slideMasterName_),
       layoutName_(other.layoutName_),
-      templateSlide_(other.templateSlide_) {
+      templateSlide_(templateSlide) {
     announceCreated(*this);
 }
 
 SlideImpl::~SlideImpl() {
     announceDestroyed(*this);
+}
+
+void SlideImpl::dropShape(const PPTNode& shape) {
+    const auto* impl = implAs<ShapeImpl>(shape);
+    const Children taken = takeOut([&](const PPTNode& child) { return child == shape; });
+    if (impl && !taken.empty() && !impl->getTemplateUid().empty())
+        dropped_.push_back(impl->getTemplateUid());
+}
+
+namespace {
+
+// A copy of a node has no name, but what is found on a slide by its name is found by that on its copy.
+void copyNames(const PPTNodeImpl& from, const PPTNodeImpl& to) {
+    const PPTNode::Children& originals = from.getChildren();
+    const PPTNode::Children& copies = to.getChildren();
+    for (std::size_t i = 0; i < originals.size() && i < copies.size(); ++i) {
+        implOf<PPTNodeImpl>(*copies[i])->PPTNodeImpl::setName(originals[i]->getName());
+        copyNames(*implOf<PPTNodeImpl>(*originals[i]), *implOf<PPTNodeImpl>(*copies[i]));
+    }
+}
+
+} // namespace
+
+PPTNodeImpl::Child SlideImpl::copyOn(const boost::shared_ptr<TemplateSlide>& record) const {
+    const Child copy = (new SlideImpl(*this, record))->makeInterface();
+    auto* impl = implOf<SlideImpl>(*copy);
+    impl->setName(getName());
+    impl->appendClones(*this);
+    copyNames(*this, *impl);
+    return copy;
 }
 
 // Slide
@@ -83,6 +119,14 @@ void Slide::replace(const std::wstring& name, const HvContentPtr& content) {
     replaceByName(*this, name, content);
 }
 
+void Slide::replace(const std::wstring& name, const Picture& picture) {
+    replaceByName(*this, name, boost::make_shared<ObjectContent>(picture));
+}
+
+void Slide::replace(const std::wstring& name, const Table& table) {
+    replaceByName(*this, name, boost::make_shared<ObjectContent>(table));
+}
+
 PPTNode::Children Slide::find(const std::wstring& name) const {
     Children found;
     findNodes(this, name, found);
@@ -99,6 +143,14 @@ const std::wstring& Slide::getSlideMasterName() const {
 
 void Slide::setName(const std::wstring& name) {
     pimpl()->setName(name);
+}
+
+bool Slide::isHidden() const {
+    return pimpl()->isHidden();
+}
+
+void Slide::setHidden(bool isHidden) {
+    pimpl()->setHidden(isHidden);
 }
 
 boost::shared_ptr<Slide> Slide::cast(const boost::shared_ptr<PPTNode>& node) {

@@ -17,6 +17,8 @@ public:
     /// A slide of a layout or of the template, still without its shapes.
     explicit SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide);
     SlideImpl(const SlideImpl& other);
+    /// The copy of a slide on a record of its own, still without shapes.
+    SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSlide>& templateSlide);
     ~SlideImpl() override;
 
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
@@ -24,8 +26,18 @@ public:
     const std::wstring& getLayoutName() const { return layoutName_; }
     const std::wstring& getSlideMasterName() const { return slideMasterName_; }
     const boost::shared_ptr<TemplateSlide>& getTemplateSlide() const { return templateSlide_; }
+    bool isHidden() const { return isHidden_; }
+    void setHidden(bool isHidden) { isHidden_ = isHidden; }
+    /// Takes a shape off the slide. One of the template's is off in the file, too.
+    void dropShape(const PPTNode& shape);
+    /// The marks of those.
+    const std::vector<std::wstring>& getDropped() const { return dropped_; }
+    /// A slide with the same shapes under the same names, on a record.
+    Child copyOn(const boost::shared_ptr<TemplateSlide>& record) const;
 
 private:
+    bool isHidden_ = false;
+    std::vector<std::wstring> dropped_;
     std::wstring slideMasterName_;
     std::wstring layoutName_;
     boost::shared_ptr<TemplateSlide> templateSlide_; // null on a bare slide

@@ -4,10 +4,14 @@
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/xml/BodyText.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 
 namespace vellox::ppt {
 
@@ -32,6 +36,8 @@ TableImpl::TableImpl(const std::wstring& name, const Record& record) : NodeOf(na
 TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl& table)
     : NodeOf(former, takeName),
       nCols_(table.nCols_),
+      broughtStyleName_(table.styleName_.isSet() ? table.styleName_ : table.broughtStyleName_),
+      parts_(table.parts_),
       colSpecs_(table.colSpecs_) {
     setStyle(table.getStyle());
     announceCreated(*this);
@@ -41,7 +47,11 @@ TableImpl::TableImpl(const TableImpl& other)
     : NodeOf(other),
       nCols_(other.nCols_),
       styleName_(other.styleName_),
+      broughtStyleName_(other.broughtStyleName_),
+      parts_(other.parts_),
       colSpecs_(other.colSpecs_) {
+    for (const auto& [place, cell] : other.templateCells_)
+        templateCells_.emplace(place, TableEntry::cast(cell->clone()));
     announceCreated(*this);
 }
 
@@ -82,6 +92,24 @@ void TableImpl::appendContentRow(const HvTable& content, unsigned int r) {
     append(row.makeInterface());
 }
 
+void TableImpl::setStyleName(const std::wstring& styleName) {
+    styleName_.set(styleName);
+    broughtStyleName_.unset();
+}
+
+void TableImpl::unsetStyleName() {
+    styleName_.unset();
+    broughtStyleName_.unset();
+}
+
+TableParts TableImpl::getParts() const {
+    TableParts parts;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        if (parts_[i].isSet())
+            parts[i] = parts_[i].get();
+    return parts;
+}
+
 void TableImpl::growTo(std::size_t entries) {
     nCols_ = std::max(nCols_, static_cast<unsigned int>(entries));
 }
@@ -96,6 +124,8 @@ boost::shared_ptr<TableRow> TableImpl::row(unsigned int i) const {
 }
 
 boost::shared_ptr<TableEntry> TableImpl::entry(unsigned int r, unsigned int c) const {
+    if (getChildren().empty())
+        return templateEntry({r, c});
     const boost::shared_ptr<TableRow> found = row(r);
     if (!found)
         return {};
@@ -103,6 +133,19 @@ boost::shared_ptr<TableEntry> TableImpl::entry(unsigned int r, unsigned int c) c
     if (entries != nCols_)
         raise(dom_error::entriesColumnsMismatch(num2str(r + 1), num2str(entries), num2str(nCols_)));
     return c < entries ? TableEntry::cast(found->getChildren()[c]) : boost::shared_ptr<TableEntry>();
+}
+
+boost::shared_ptr<TableEntry> TableImpl::templateEntry(const CellPlace& place) const {
+    const auto source = findSource(*this);
+    const xercesc::DOMElement* cell =
+        source ? findCell(source->find(getTemplateUid()), place.first, place.second) : nullptr;
+    if (!cell)
+        return {};
+    boost::shared_ptr<TableEntry>& entry = templateCells_[place];
+    if (!entry)
+        entry = boost::make_shared<TableEntry>();
+    implOf<TableEntryImpl>(*entry)->setTemplateCell(source, *cell);
+    return entry;
 }
 
 void TableImpl::checkReplaceable() const {
@@ -161,11 +204,83 @@ const BaseAttribute<std::wstring>& Table::getStyleName() const {
 }
 
 void Table::setStyleName(const std::wstring& styleName) {
-    pimpl()->styleName().set(styleName);
+    pimpl()->setStyleName(styleName);
 }
 
 void Table::unsetStyleName() {
-    pimpl()->styleName().unset();
+    pimpl()->unsetStyleName();
+}
+
+const BaseAttribute<bool>& Table::getHeaderRow() const {
+    return pimpl()->part(TablePart::HeaderRow);
+}
+
+void Table::setHeaderRow(bool isOn) {
+    pimpl()->part(TablePart::HeaderRow).set(isOn);
+}
+
+void Table::unsetHeaderRow() {
+    pimpl()->part(TablePart::HeaderRow).unset();
+}
+
+const BaseAttribute<bool>& Table::getTotalRow() const {
+    return pimpl()->part(TablePart::TotalRow);
+}
+
+void Table::setTotalRow(bool isOn) {
+    pimpl()->part(TablePart::TotalRow).set(isOn);
+}
+
+void Table::unsetTotalRow() {
+    pimpl()->part(TablePart::TotalRow).unset();
+}
+
+const BaseAttribute<bool>& Table::getFirstColumn() const {
+    return pimpl()->part(TablePart::FirstColumn);
+}
+
+void Table::setFirstColumn(bool isOn) {
+    pimpl()->part(TablePart::FirstColumn).set(isOn);
+}
+
+void Table::unsetFirstColumn() {
+    pimpl()->part(TablePart::FirstColumn).unset();
+}
+
+const BaseAttribute<bool>& Table::getLastColumn() const {
+    return pimpl()->part(TablePart::LastColumn);
+}
+
+void Table::setLastColumn(bool isOn) {
+    pimpl()->part(TablePart::LastColumn).set(isOn);
+}
+
+void Table::unsetLastColumn() {
+    pimpl()->part(TablePart::LastColumn).unset();
+}
+
+const BaseAttribute<bool>& Table::getBandedRows() const {
+    return pimpl()->part(TablePart::BandedRows);
+}
+
+void Table::setBandedRows(bool isOn) {
+    pimpl()->part(TablePart::BandedRows).set(isOn);
+}
+
+void Table::unsetBandedRows() {
+    pimpl()->part(TablePart::BandedRows).unset();
+}
+
+const BaseAttribute<bool>& Table::getBandedColumns() const {
+    return pimpl()->part(TablePart::BandedColumns);
+}
+
+void Table::setBandedColumns(bool isOn) {
+    pimpl()->part(TablePart::BandedColumns).set(isOn);
+}
+
+void Table::unsetBandedColumns() {
+    pimpl()->part(TablePart::BandedColumns).unset();
 }
 
 const Table::ColSpecs& Table::getColSpecs() const {
@@ -191,6 +306,10 @@ boost::shared_ptr<TableEntry> Table::entry(unsigned int r, unsigned int c) {
 
 Table Table::replace(const Table& table) {
     return pimpl()->replace(table);
+}
+
+boost::shared_ptr<Table> Table::cast(const boost::shared_ptr<PPTNode>& node) {
+    return boost::dynamic_pointer_cast<Table>(node);
 }
 
 } // namespace vellox::ppt

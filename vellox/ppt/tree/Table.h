@@ -47,11 +47,40 @@ public:
     /// The number of entries in the widest row so far, at least what was given to the constructor.
     unsigned int getNCols() const;
 
-    /// @{ The name of a table style of the template. Whether there is one is seen when the presentation is
-    /// closed; where there is none, an ErrorMessage says so and the table has no style.
+    /// @{ The name of a table style of the template, or, with the profile "office", of one that office programs have
+    /// built in, such as "Light Style 1 - Accent 2". Whether there is one is seen when the presentation is closed;
+    /// where there is none, an ErrorMessage says so, and the table is as without a name.
     const BaseAttribute<std::wstring>& getStyleName() const;
     void setStyleName(const std::wstring& styleName);
     void unsetStyleName();
+    /// @}
+    /// @{ Whether the style shows a part of the table in its own way: the first row as a header, the last one as that of
+    /// totals, the first and the last column, rows or columns in turns. What isn't set is off; with the profile
+    /// "office" a new table has a header row and banded rows, and one in another's place has that one's.
+    const BaseAttribute<bool>& getHeaderRow() const;
+    void setHeaderRow(bool isOn);
+    template <class T> void setHeaderRow(const T*) = delete; ///< a text is no truth value
+    void unsetHeaderRow();
+    const BaseAttribute<bool>& getTotalRow() const;
+    void setTotalRow(bool isOn);
+    template <class T> void setTotalRow(const T*) = delete;
+    void unsetTotalRow();
+    const BaseAttribute<bool>& getFirstColumn() const;
+    void setFirstColumn(bool isOn);
+    template <class T> void setFirstColumn(const T*) = delete;
+    void unsetFirstColumn();
+    const BaseAttribute<bool>& getLastColumn() const;
+    void setLastColumn(bool isOn);
+    template <class T> void setLastColumn(const T*) = delete;
+    void unsetLastColumn();
+    const BaseAttribute<bool>& getBandedRows() const;
+    void setBandedRows(bool isOn);
+    template <class T> void setBandedRows(const T*) = delete;
+    void unsetBandedRows();
+    const BaseAttribute<bool>& getBandedColumns() const;
+    void setBandedColumns(bool isOn);
+    template <class T> void setBandedColumns(const T*) = delete;
+    void unsetBandedColumns();
     /// @}
     /// @{ Widths and formats of columns, in column order. The vector is copied, the objects in it are shared.
     const ColSpecs& getColSpecs() const;
@@ -63,17 +92,23 @@ public:
     TableRow append(const TableRow& row);
     /// @return an empty pointer if there is no such row
     boost::shared_ptr<TableRow> row(unsigned int i);
+    /// An entry, or, for a table of the template whose rows are still those, what stands for the template's cell: its
+    /// text can be read and set, and formats that it gets come on top of those that the cell has.
     /// @return an empty pointer if there is no such entry
     /// @throws entriesColumnsMismatch if the row has more or fewer entries than the table has columns
     boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c);
 
     using Shape::replace;
     /// Puts a new table, made of copies of the given one's rows, in this table's place and under its name. It
-    /// has the given one's formats and column specifications, and no table style until one is set on it.
+    /// has the given one's formats, column specifications and properties of parts, and no table style until one is
+    /// set on it; with the profile "office" the given one's style, or else this one's.
     /// @return a handle on the new table, or the argument if this table doesn't stand directly on a slide,
     ///         in which case nothing changes
     /// @throws tableCannotBeReplaced if this table stands nowhere (any more)
     Table replace(const Table& table);
+
+    /// The node as a Table, or an empty pointer.
+    static boost::shared_ptr<Table> cast(const boost::shared_ptr<PPTNode>& node);
 
 protected:
     friend struct ObjectAccess;

@@ -1,7 +1,10 @@
 #include "vellox/ppt/tree/TableEntry.h"
 
 #include "vellox/ppt/messages/Announce.h"
+#include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
+#include "vellox/ppt/xml/BodyText.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
 
@@ -11,12 +14,33 @@ TableEntryImpl::TableEntryImpl() {
     announceCreated(*this);
 }
 
-TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : NodeOf(other) {
+TableEntryImpl::TableEntryImpl(const TableEntryImpl& other)
+    : NodeOf(other),
+      source_(other.source_),
+      cell_(other.cell_),
+      newText_(other.newText_) {
     announceCreated(*this);
 }
 
 TableEntryImpl::~TableEntryImpl() {
     announceDestroyed(*this);
+}
+
+void TableEntryImpl::setTemplateCell(const boost::shared_ptr<const SlideSource>& source,
+                                     const xercesc::DOMElement& cell) {
+    source_ = source;
+    cell_ = &cell;
+}
+
+std::wstring TableEntryImpl::getText() const {
+    const std::wstring text = newText_ ? *newText_ : readBody(findChild(cell_, xml::kATxBody));
+    return joinTexts(text, readParagraphs(*this));
+}
+
+void TableEntryImpl::setText(const std::wstring& text) {
+    if (source_)
+        newText_ = text;
+    setChildren(source_ ? Children() : Children{Paragraph(text).makeInterface()});
 }
 
 // TableEntry
@@ -45,6 +69,14 @@ Paragraph TableEntry::append(const std::wstring& text) {
 Paragraph TableEntry::append(const Paragraph& paragraph) {
     pimpl()->appendChild(paragraph.makeInterface());
     return paragraph;
+}
+
+std::wstring TableEntry::getText() const {
+    return pimpl()->getText();
+}
+
+void TableEntry::setText(const std::wstring& text) {
+    heldImplOf<TableEntryImpl>(*this)->setText(text);
 }
 
 boost::shared_ptr<TableEntry> TableEntry::cast(const boost::shared_ptr<PPTNode>& node) {

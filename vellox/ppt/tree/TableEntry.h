@@ -34,6 +34,12 @@ public:
     /// @throws failedToAppendChild if the paragraph already has a parent
     Paragraph append(const Paragraph& paragraph);
 
+    /// @{ What the cell shows; "\n" ends a paragraph. A cell of a template's table keeps its look when it gets another
+    /// text.
+    std::wstring getText() const;
+    void setText(const std::wstring& text);
+    /// @}
+
     /// The node as a TableEntry, or an empty pointer.
     static boost::shared_ptr<TableEntry> cast(const boost::shared_ptr<PPTNode>& node);
 

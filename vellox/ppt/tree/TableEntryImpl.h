@@ -4,8 +4,13 @@
 #ifndef VELLOX_PPT_TREE_TABLEENTRYIMPL_H
 #define VELLOX_PPT_TREE_TABLEENTRYIMPL_H
 
+#include <boost/shared_ptr.hpp>
+#include <optional>
+#include <string>
+
 #include "vellox/ppt/object/ElementImpl.h"
 #include "vellox/ppt/object/NodeOf.h"
+#include "vellox/ppt/template/SlideSource.h"
 #include "vellox/ppt/tree/TableEntry.h"
 
 namespace vellox::ppt {
@@ -17,6 +22,19 @@ public:
     ~TableEntryImpl() override;
 
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
+
+    /// Lets the entry stand for a cell that the template has in a table.
+    void setTemplateCell(const boost::shared_ptr<const SlideSource>& source, const xercesc::DOMElement& cell);
+    std::wstring getText() const;
+    void setText(const std::wstring& text);
+    /// What a cell of the template got; the children of its entry come behind that.
+    const std::optional<std::wstring>& getNewText() const { return newText_; }
+    bool isTouched() const { return newText_ || !getChildren().empty() || !getStyle().getMap().empty(); }
+
+private:
+    boost::shared_ptr<const SlideSource> source_; // empty for an entry of somebody's own
+    const xercesc::DOMElement* cell_ = nullptr;
+    std::optional<std::wstring> newText_;
 };
 
 } // namespace vellox::ppt

@@ -7,6 +7,7 @@
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
+#include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -38,7 +39,7 @@ void BaseTextBoxWriter::write() {
     applyFormats();
     arrange(bodyPr_);
     if (mayBeText && spPr_.isEmpty() && bodyPr_.isEmpty())
-        return writeParagraphs(slide->getText(getTemplateShape()->id));
+        return writeParagraphs(slide->getText(getTemplateShape()->id), nullptr, false);
     if (!shape)
         shape = findOrMakeShape();
     writeAltText(shape);
@@ -49,10 +50,14 @@ void BaseTextBoxWriter::write() {
         txBody = makeTextBody(shape);
     if (!txBody)
         return reportLostText();
-    if (textBox_.isContentReplaced())
+    TextLook former;
+    if (textBox_.isContentReplaced()) {
+        if (getRules().keepsLook())
+            former = TextLook(txBody);
         removeChildElements(txBody, xml::kAP);
+    }
     writeBodyPr(txBody);
-    writeParagraphs(slide->getContent(txBody), findChild(txBody, xml::kAP));
+    writeParagraphs(slide->getContent(txBody), &former, findChild(txBody, xml::kAP));
 }
 
 // A shape that gets nothing but paragraphs needs no nodes.
@@ -62,10 +67,13 @@ bool BaseTextBoxWriter::staysInPlace() const {
            getCurrentSlide()->takesText(record->id);
 }
 
-void BaseTextBoxWriter::writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs) const {
-    const unsigned int paragraphs = writeChildren(out, getWriter().getFrame().table);
-    if (paragraphs == 0 && !hasParagraphs)
-        out.append(kEmptyParagraph);
+void BaseTextBoxWriter::writeParagraphs(opc::MarkupBuffer& out, const TextLook* former,
+                                        bool hasParagraphs) const {
+    PPTWriter::Frame frame = makeFrame();
+    frame.markup = &out;
+    frame.texts = former;
+    if (writeChildren(frame) == 0 && !hasParagraphs)
+        writeEmptyParagraph(out, former ? former->find(0) : nullptr);
 }
 
 void BaseTextBoxWriter::reportLostText() const {

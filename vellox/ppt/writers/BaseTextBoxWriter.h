@@ -13,6 +13,7 @@
 namespace vellox::ppt {
 
 class BaseTextBoxImpl;
+class TextLook;
 
 class BaseTextBoxWriter : public ShapeWriter {
 public:
@@ -36,7 +37,7 @@ private:
     bool staysInPlace() const;
     xercesc::DOMElement* findOrMakeShape();
     xercesc::DOMElement* makeTextBody(xercesc::DOMElement* shape) const;
-    void writeParagraphs(opc::MarkupBuffer& out, bool hasParagraphs = false) const;
+    void writeParagraphs(opc::MarkupBuffer& out, const TextLook* former, bool hasParagraphs) const;
     void writeSpPr(xercesc::DOMElement* shape) const;
     void writeBodyPr(xercesc::DOMElement* txBody) const;
     void reportLostText() const;

@@ -1,6 +1,8 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/engine/PresentationModel.h"
+#include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/object/ElementImpl.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
@@ -68,15 +70,33 @@ const FormatsInForce& ElementWriter::getFormatsInForce() const {
     return *inForce_;
 }
 
-unsigned int ElementWriter::writeChildren() const {
-    return writeChildren(getMarkup(), writer_.getFrame().table);
+PPTWriter::Frame ElementWriter::makeFrame() const {
+    PPTWriter::Frame frame;
+    frame.element = &element_;
+    frame.formats = &getFormatsInForce();
+    frame.table = writer_.getFrame().table;
+    frame.markup = &getMarkup();
+    return frame;
 }
 
-unsigned int ElementWriter::writeChildren(opc::MarkupBuffer& out, TableContext* table) const {
-    const PPTWriter::FrameScope scope(writer_, {&element_, &getFormatsInForce(), table, &out});
+unsigned int ElementWriter::writeChildren(const PPTWriter::Frame& frame) const {
+    const PPTWriter::FrameScope scope(writer_, frame);
     for (const auto& child : element_.getChildren())
         child->acceptWriter(&writer_, parentNode_);
     return writer_.getFrame().paragraphs;
+}
+
+std::optional<double> ElementWriter::findFontPoints() const {
+    const Format* size = findFormat(FormatType::FontSize);
+    if (!size)
+        return {};
+    return static_cast<const BaseDimension&>(*size).getDimension().getPointNumber();
+}
+
+void ElementWriter::putFontSize(PropertyElement& properties) const {
+    if (const std::optional<double> points = findFontPoints())
+        properties.setAttribute(xml::kSz, num2str(truncateToInt(*points * 100.0)));
+    arrange(properties);
 }
 
 opc::MarkupBuffer& ElementWriter::getMarkup() const {

@@ -14,13 +14,13 @@
 #include "vellox/ppt/formats/Format.h"
 #include "vellox/ppt/formats/FormatType.h"
 #include "vellox/ppt/writers/FormatsInForce.h"
+#include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
 
 class ElementImpl;
 class PPTPartWriter;
-class PPTWriter;
 class PresentationModel;
 class SlideDocument;
 class PropertyElement;
@@ -76,13 +76,18 @@ protected:
     const FormatsInForce& getFormatsInForce() const;
     /// Where the content of shapes is written. It never becomes nodes.
     opc::MarkupBuffer& getMarkup() const;
+    /// What the writers of children have of this one: they write behind what has been written, in the table around
+    /// this element.
+    PPTWriter::Frame makeFrame() const;
     /// @{ Writes the element's children.
-    /// @param out where; behind what has been written if none is given
-    /// @param table that around them; that around this element if none is given
     /// @return how many paragraphs there are among them
-    unsigned int writeChildren() const;
-    unsigned int writeChildren(opc::MarkupBuffer& out, TableContext* table) const;
+    unsigned int writeChildren() const { return writeChildren(makeFrame()); }
+    unsigned int writeChildren(const PPTWriter::Frame& frame) const;
     /// @}
+    /// The size of text in force, in points, if there is any said.
+    std::optional<double> findFontPoints() const;
+    /// Puts that size into the properties of a run.
+    void putFontSize(PropertyElement& properties) const;
 
     /// @{ Brings an element into the form that the rules want it to have, if they say so. The second takes null.
     void arrange(PropertyElement& properties) const;

@@ -56,11 +56,40 @@ PPTPartWriter::PPTPartWriter(boost::shared_ptr<OPCPackage> package) : PartDOMWri
 
 PPTPartWriter::~PPTPartWriter() = default;
 
-std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
+std::wstring PPTPartWriter::takeSlideName() {
     std::wstring name;
     do {
         name = L"/ppt/slides/slide" + num2str(++slideCounter_) + L".xml";
     } while (hasPart(name));
+    return name;
+}
+
+std::wstring PPTPartWriter::chooseNameLike(const std::wstring& name) {
+    const std::size_t dot = std::min(name.find(L'.', name.rfind(L'/') + 1), name.size());
+    const std::size_t last = name.find_last_not_of(L"0123456789", dot - 1);
+    const std::wstring start = name.substr(0, last + 1), end = name.substr(dot);
+    unsigned int& counter = counters_[start + L"\n" + end];
+    std::wstring chosen;
+    do {
+        chosen = start + num2str(++counter) + end;
+    } while (hasPart(chosen));
+    return chosen;
+}
+
+opc::Part PPTPartWriter::copyPart(opc::Part from, const std::wstring& name, bool isStored) {
+    const std::wstring type = from.getContentType().toString();
+    opc::Part copy = isStored ? createStoredPart(name, type) : createPart(name, type);
+    opc::OutputStream& target = copy.getOutputStream();
+    opc::InputStream& source = from.getInputStream();
+    std::array<unsigned char, 64 << 10> block;
+    while (const std::size_t count = source.read(block.data(), block.size()))
+        target.write(block.data(), count);
+    target.close();
+    return copy;
+}
+
+std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
+    const std::wstring name = takeSlideName();
     opc::Part part = createPart(name, contenttype::kSlide);
     copyRelationships(getPart(slide.layout->partName), part, slide.layout->prototype->relationshipIds);
     part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),

@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_WRITERS_PPTPARTWRITER_H
 #define VELLOX_PPT_WRITERS_PPTPARTWRITER_H
 
+#include <map>
+#include <set>
 #include <string>
 
 #include "vellox/ppt/package/PartDOMWriter.h"
@@ -23,10 +25,17 @@ public:
     /// New slides are numbered from the next number on.
     void setSlideCounter(unsigned int slideCounter) { slideCounter_ = slideCounter; }
 
-    /// Makes the part of a new slide, "/ppt/slides/slide<n>.xml" with the next number whose name is free,
-    /// and its relationship to the slide's layout.
+    /// "/ppt/slides/slide<n>.xml" with the next number whose name is free.
+    std::wstring takeSlideName();
+    /// Makes the part of a new slide, and its relationship to the slide's layout.
     /// @return the name of the part
     std::wstring createSlidePart(const TemplateSlide& slide);
+    /// A part of the same type and content as another, still without relationships.
+    opc::Part copyPart(opc::Part from, const std::wstring& name, bool isStored);
+    /// A name such as another one that is free: "/ppt/charts/chart7.xml" for "/ppt/charts/chart1.xml".
+    std::wstring chooseNameLike(const std::wstring& name);
+    /// Takes parts out of the package.
+    void deleteParts(const std::set<opc::PartName>& names) { package_->deleteParts(names); }
     /// Points from a part to a target outside the package, which is made a reference if it isn't one.
     /// @return the id of the relationship; empty if the target is empty or blank, or if there is no such part
     std::wstring addHyperlink(const std::wstring& partName, const std::wstring& target);
@@ -55,6 +64,8 @@ private:
     std::wstring createImagePart(const ImageSource& image);
 
     unsigned int slideCounter_ = 0;
+    std::map<std::wstring, unsigned int>
+        counters_; // of names alike but for a number, the last that was tried
     ImageIndex images_;
 };
 

@@ -5,8 +5,13 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
+#include "vellox/ppt/writers/SlideRemoval.h"
+#include "vellox/ppt/writers/TableStylesPart.h"
 
 #include <boost/make_shared.hpp>
 
@@ -14,7 +19,9 @@ namespace vellox::ppt {
 
 PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_ptr<OPCPackage> package)
     : model_(std::move(model)),
-      partWriter_(boost::make_shared<PPTPartWriter>(std::move(package))) {
+      partWriter_(boost::make_shared<PPTPartWriter>(std::move(package))),
+      copies_(boost::make_shared<SlideCopies>(*partWriter_)),
+      notes_(boost::make_shared<NotesParts>(model_->getTemplate(), *partWriter_)) {
     partWriter_->setSlideCounter(static_cast<unsigned int>(model_->getSlides().size()));
 }
 
@@ -23,6 +30,15 @@ PPTWriter::~PPTWriter() = default;
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+void PPTWriter::prepare(const PPTNode::Children& slides) {
+    for (const auto& slide : slides) {
+        const auto* impl = implAs<SlideImpl>(*slide);
+        const boost::shared_ptr<TemplateSlide> record = impl ? impl->getTemplateSlide() : nullptr;
+        if (record && !record->originName.empty())
+            copies_->remember(record->originName);
+    }
 }
 
 void PPTWriter::write(const PPTNode& node) {
@@ -35,7 +51,15 @@ void PPTWriter::finish() {
         written.slide->partName = written.partName;
         slides.push_back(written.slide);
     }
-    updateSlideList(model_->getTemplate(), slides, *partWriter_);
+    updateSlideList(model_->getTemplate(), slides, *partWriter_, *notes_);
+    std::set<opc::PartName> removed;
+    for (const auto& slide : model_->getSlides())
+        if (!hasWritten(*slide))
+            removed.insert(opc::PartName(slide->partName));
+    for (const Written& written : slides_) // two slides of a damaged template may be one part
+        removed.erase(opc::PartName(written.partName));
+    removeSlides(removed, *partWriter_);
+    defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     finishPackage();
 }
 

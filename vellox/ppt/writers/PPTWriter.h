@@ -27,6 +27,7 @@ namespace vellox::ppt {
 
 class ExternalLinkImpl;
 class FormatsInForce;
+class NotesParts;
 class OPCPackage;
 class ParagraphImpl;
 class PictureImpl;
@@ -34,6 +35,7 @@ class PPTNode;
 class PPTNodeImpl;
 class PPTPartWriter;
 class PresentationModel;
+class SlideCopies;
 class SlideDocument;
 class SlideImpl;
 class TableEntryImpl;
@@ -42,6 +44,8 @@ class TableRowImpl;
 class TextBoxImpl;
 class TextBoxPlaceholderImpl;
 class TextImpl;
+class TextLook;
+struct ParagraphLook;
 struct TableContext;
 
 class PPTWriter {
@@ -52,6 +56,8 @@ public:
         const FormatsInForce* formats = nullptr; ///< at the element
         TableContext* table = nullptr;           ///< around the children, if there is one
         opc::MarkupBuffer* markup = nullptr;     ///< where they are written
+        const TextLook* texts = nullptr;         ///< of what paragraphs among them come in the stead of
+        const ParagraphLook* runs = nullptr;     ///< likewise, of texts among them
         unsigned int paragraphs = 0;             ///< how many of them have been paragraphs
     };
 
@@ -88,6 +94,8 @@ public:
     PPTWriter& operator=(const PPTWriter&) = delete;
     ~PPTWriter();
 
+    /// To be called before any of the slides is written.
+    void prepare(const std::vector<boost::shared_ptr<PPTNode>>& slides);
     /// Writes a slide with all that it holds.
     void write(const PPTNode& node);
     /// Ends the writing: lists the slides in the presentation part, in the order in which they were written.
@@ -108,12 +116,17 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// Has a table style among those that the deck defines, if it is one that programs have built in.
+    void useTableStyle(const std::wstring& id) { tableStyleIds_.insert(id); }
+
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
     /// Null between shapes, but the presentation while the writing is ended.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
+    SlideCopies& getCopies() { return *copies_; }
+    NotesParts& getNotes() { return *notes_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
     SlideDocument* getCurrentSlide() const { return currentSlide_; }
@@ -141,8 +154,11 @@ private:
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
+    boost::shared_ptr<SlideCopies> copies_;
+    boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
+    std::set<std::wstring> tableStyleIds_; // that tables have
     SlideDocument* currentSlide_ = nullptr;
     Frame frame_;
     opc::MarkupBuffer nowhere_;

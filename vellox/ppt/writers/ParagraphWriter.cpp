@@ -7,6 +7,7 @@
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/writers/TextWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -26,7 +27,14 @@ constexpr unsigned int kDeepestLevel = 9;
 ParagraphWriter::ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, DOMNode* parentNode)
     : ElementWriter(paragraph, writer, parentNode),
       paragraph_(paragraph),
-      pPr_(xml::kAPPr) {}
+      pPr_(xml::kAPPr),
+      look_(writer.getFrame().texts ? writer.getFrame().texts->find(getLevel()) : nullptr) {}
+
+// From 0, as the format counts them.
+unsigned int ParagraphWriter::getLevel() const {
+    const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
+    return level.isSet() && level.get() != 0 ? std::min(level.get(), kDeepestLevel) - 1 : 0;
+}
 
 void ParagraphWriter::write() {
     preparePPr();
@@ -38,19 +46,57 @@ void ParagraphWriter::write() {
     opc::MarkupBuffer& out = getMarkup();
     const std::size_t start = out.openElement("a:p");
     pPr_.writeTo(out);
-    writeChildren();
+    const std::size_t content = out.getLength();
+    writeChildren(makeRunFrame());
     if (paragraph_.getTruthValue() && paragraph_.getChildren().empty() && getRules().showsTruth())
         writeTruth();
+    writeEnd(out.getLength() > content);
     out.closeElement("a:p", start);
     getWriter().countParagraph();
+}
+
+void ParagraphWriter::applyTo(DOMElement* paragraph) {
+    applyFormats();
+    arrange(pPr_);
+    if (pPr_.isEmpty())
+        return;
+    DOMElement* properties = requireFirstChild(paragraph, xml::kAPPr);
+    pPr_.applyTo(properties);
+    arrange(properties);
+}
+
+PPTWriter::Frame ParagraphWriter::makeRunFrame() const {
+    PPTWriter::Frame frame = makeFrame();
+    frame.runs = look_;
+    return frame;
+}
+
+// What is behind all runs: how high the line is if there is none, and how what is typed there would look.
+// Programs take no notice of a run without text.
+void ParagraphWriter::writeEnd(bool hasRuns) const {
+    TableContext* table = getWriter().getFrame().table;
+    if (table && table->meter)
+        table->meter->endLine();
+    if (table && getRules().sizesEmptyCells()) {
+        const TextImpl* text = hasRuns ? findOnlyText() : nullptr;
+        if (!hasRuns || (text && text->getTextContent().empty())) {
+            PropertyElement end = look_ ? look_->makeEmptyEnd() : PropertyElement(xml::kAEndParaRPr);
+            putFontSize(end);
+            return end.writeTo(getMarkup());
+        }
+    }
+    if (look_)
+        look_->endParaRPr.writeTo(getMarkup());
 }
 
 void ParagraphWriter::preparePPr() {
     applyFormats();
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
-        pPr_.setAttribute(xml::kLvl, num2str(std::min(level.get(), kDeepestLevel) - 1));
-    if (isNumberInBody() && !findFormat(FormatType::HAlign))
+        pPr_.setAttribute(xml::kLvl, num2str(getLevel()));
+    if (look_)
+        pPr_.layOver(look_->pPr);
+    if (isNumberInBody() && !pPr_.hasAttribute(xml::kAlgn))
         pPr_.setAttribute(xml::kAlgn, xml::kRight);
     arrange(pPr_);
 }
@@ -81,15 +127,14 @@ void ParagraphWriter::writeLines(const TextImpl& text, const std::vector<std::ws
         const std::size_t start = out.openElement("a:p");
         pPr_.writeTo(out);
         writeLine(text, line);
+        writeEnd(true);
         out.closeElement("a:p", start);
         getWriter().countParagraph();
     }
 }
 
 void ParagraphWriter::writeLine(const TextImpl& text, const std::wstring& line) const {
-    const PPTWriter::Frame frame{&paragraph_, &getFormatsInForce(), getWriter().getFrame().table,
-                                 &getMarkup()};
-    const PPTWriter::FrameScope scope(getWriter(), frame);
+    const PPTWriter::FrameScope scope(getWriter(), makeRunFrame());
     TextWriter(text, getWriter(), getParentNode()).writeLine(line);
 }
 
@@ -97,6 +142,7 @@ void ParagraphWriter::writeLine(const TextImpl& text, const std::wstring& line) 
 void ParagraphWriter::writeTruth() const {
     const PPTNodeImpl::Child run =
         (new TextImpl(TextImpl::Given(*paragraph_.getTruthValue())))->makeInterface();
+    const PPTWriter::FrameScope scope(getWriter(), makeRunFrame());
     TextWriter writer(*implOf<TextImpl>(*run), getWriter(), getParentNode());
     writer.setFormatsAround(getFormatsInForce());
     writer.write();

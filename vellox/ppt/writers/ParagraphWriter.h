@@ -12,12 +12,15 @@ namespace vellox::ppt {
 
 class ParagraphImpl;
 class TextImpl;
+struct ParagraphLook;
 
 class ParagraphWriter : public ElementWriter {
 public:
     ParagraphWriter(const ParagraphImpl& paragraph, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Lays the formats of the paragraph over those of one that is there.
+    void applyTo(xercesc::DOMElement* paragraph);
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
@@ -27,6 +30,9 @@ public:
 
 private:
     void preparePPr();
+    unsigned int getLevel() const;
+    PPTWriter::Frame makeRunFrame() const;
+    void writeEnd(bool hasRuns) const;
     const TextImpl* findOnlyText() const;
     bool isWholeContent() const;
     bool isNumberInBody() const;
@@ -36,6 +42,7 @@ private:
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
+    const ParagraphLook* look_; // of the one in whose stead it comes; null if there is none
 };
 
 } // namespace vellox::ppt

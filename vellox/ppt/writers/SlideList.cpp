@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/Sections.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -35,13 +36,14 @@ DOMElement* prepareSlideList(DOMDocument& presentation) {
 } // namespace
 
 void updateSlideList(const ReadTemplate& source, const std::vector<boost::shared_ptr<TemplateSlide>>& slides,
-                     PPTPartWriter& partWriter) {
+                     PPTPartWriter& partWriter, const NotesParts& notes) {
     const OwnedDocument presentation = copyDocument(source.presentationDocument);
     declarePrefixes(presentation->getDocumentElement());
     std::vector<std::wstring> formerIds;
     for (const auto& slide : slides)
         formerIds.push_back(slide->id);
     updateSections(*presentation.get(), formerIds, kFirstSlideId);
+    notes.listMaster(*presentation.get());
     DOMElement* list = prepareSlideList(*presentation.get());
     unsigned int id = kFirstSlideId;
     for (const auto& slide : slides) {

@@ -11,13 +11,14 @@
 
 namespace vellox::ppt {
 
+class NotesParts;
 class PPTPartWriter;
 
 /// Writes the presentation part with a p:sldIdLst of these slides and no others, in this order. New slides get
 /// their relationships, which their records know from then on.
 /// @throws opc::Exception
 void updateSlideList(const ReadTemplate& source, const std::vector<boost::shared_ptr<TemplateSlide>>& slides,
-                     PPTPartWriter& partWriter);
+                     PPTPartWriter& partWriter, const NotesParts& notes);
 
 } // namespace vellox::ppt
 

@@ -8,8 +8,10 @@
 #include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideReports.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -25,10 +27,15 @@ void SlideWriter::write() {
     const boost::shared_ptr<TemplateSlide>& record = slide_.getTemplateSlide();
     if (!record || getWriter().hasWritten(*record))
         return report(ppt_finding::slideNotWritten(), slide_);
-    SlideDocument document(*record, getModel().getRules());
+    const bool turnsHidden = slide_.isHidden() != record->isHidden;
+    SlideDocument document(*record, getModel().getRules(),
+                           turnsHidden ? SlideDocument::Form::Nodes : SlideDocument::Form::Pieces);
     document.setName(slide_.getName());
-    const bool isNew = record->partName.empty();
-    const std::wstring partName = isNew ? getPartWriter().createSlidePart(*record) : record->partName;
+    if (turnsHidden)
+        document.getRoot()->setAttribute(xml::kShow, slide_.isHidden() ? xml::kFalse : xml::kTrue);
+    for (const std::wstring& uid : slide_.getDropped())
+        document.removeElement(uid);
+    const std::wstring partName = requirePart(*record, document);
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
@@ -38,6 +45,17 @@ void SlideWriter::write() {
     opc::MarkupBuffer text;
     document.writeTo(text);
     getPartWriter().writeMarkup(partName, text.get());
+    if (record->notes && record->notes->isChanged)
+        getWriter().getNotes().write(partName, *record->notes);
+}
+
+std::wstring SlideWriter::requirePart(const TemplateSlide& slide, SlideDocument& document) const {
+    if (!slide.partName.empty())
+        return slide.partName;
+    if (slide.originName.empty())
+        return getPartWriter().createSlidePart(slide);
+    makeOrdinary(document);
+    return getWriter().getCopies().createPart(slide);
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same

@@ -14,6 +14,7 @@ namespace vellox::ppt {
 
 class SlideDocument;
 class SlideImpl;
+struct TemplateSlide;
 
 class SlideWriter : public ElementWriter {
 public:
@@ -21,6 +22,8 @@ public:
     void write() override;
 
 private:
+    /// The name of the slide's part, which is made if there is none.
+    std::wstring requirePart(const TemplateSlide& slide, SlideDocument& document) const;
     void writeShapes(SlideDocument& document, const PPTNode::Children& shapes, std::set<std::wstring>& taken);
 
     const SlideImpl& slide_;

@@ -3,6 +3,7 @@
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/tree/ColSpec.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/writers/TableLook.h"
 
 #include <algorithm>
 
@@ -36,6 +37,14 @@ void TableContext::setColumnWidth(int widthEmu) {
         return;
     std::optional<int>& width = colWidths[col];
     width = std::max(width.value_or(0), widthEmu);
+}
+
+const CellLook* TableContext::getCellLook() const {
+    return look ? look->find(row, col, rowCount, hasTotalRow) : nullptr;
+}
+
+int TableContext::getRowHeight() const {
+    return look ? look->getRowHeight(row, rowCount, hasTotalRow) : 0;
 }
 
 } // namespace vellox::ppt

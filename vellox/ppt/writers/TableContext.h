@@ -8,10 +8,13 @@
 #include <vector>
 
 #include "vellox/ppt/formats/Formats.h"
+#include "vellox/ppt/writers/ColumnMeter.h"
 
 namespace vellox::ppt {
 
 class TableImpl;
+class TableLook;
+struct CellLook;
 
 /// Where the writing of a table is, and what its columns have to say. It belongs to the writer of the table; those
 /// of the rows move it on, and those of the entries widen its columns.
@@ -26,6 +29,9 @@ struct TableContext {
     const Formats& getColumnFormats() const;
     /// Widens that column. A column that the table doesn't have is passed over.
     void setColumnWidth(int widthEmu);
+    /// How the cell that the table is at is to look; null where nothing stood before.
+    const CellLook* getCellLook() const;
+    int getRowHeight() const; ///< in EMU; 0 for as high as its text
 
     unsigned int rowCount = 0;
     unsigned int colCount = 0;
@@ -33,6 +39,9 @@ struct TableContext {
     unsigned int col = 0;                      ///< of the entry within its row, from 0
     std::vector<Formats> colFormats;           ///< one for each column specification
     std::vector<std::optional<int>> colWidths; ///< colCount of them, in EMU
+    std::optional<ColumnMeter> meter;          ///< if anybody wants to know the lengths of texts
+    const TableLook* look = nullptr;           ///< of the table whose place this one takes, if it counts
+    bool hasTotalRow = false;                  ///< whether both have one
 };
 
 } // namespace vellox::ppt

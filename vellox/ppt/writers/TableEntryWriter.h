@@ -10,14 +10,19 @@
 
 namespace vellox::ppt {
 
-class TableEntryImpl;
+struct CellLook;
 struct TableContext;
 
 class TableEntryWriter : public ElementWriter {
 public:
-    TableEntryWriter(const TableEntryImpl& entry, PPTWriter& writer, xercesc::DOMNode* parentNode);
+    /// @param entry the entry, or the row for a cell that it has no entry for
+    TableEntryWriter(const ElementImpl& entry, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Writes what the entry has come to have over a cell that is there.
+    void writeOver(const TableEntryImpl& entry, xercesc::DOMElement* cell);
+    /// Writes a cell without content.
+    void writeBlank();
     void applyFormat(const Format& format) override;
     const FormatTypes& inheritedFormatTypes() const override;
 
@@ -31,7 +36,14 @@ public:
     void setColumnWidth(int widthEmu);
 
 private:
+    void applyToTexts(xercesc::DOMElement* body) const;
+    void applyToText(xercesc::DOMElement* properties) const;
+
+    template <class Content> void writeCell(Content content);
+    void writeEmpty() const;
+
     TableContext* table_;
+    const CellLook* look_; // of the cell in whose stead it comes; null if there is none
     PropertyElement tcPr_;
 };
 

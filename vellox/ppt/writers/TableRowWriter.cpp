@@ -1,8 +1,10 @@
 #include "vellox/ppt/writers/TableRowWriter.h"
 
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TableRowImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TableEntryWriter.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -16,17 +18,30 @@ void TableRowWriter::write() {
     TableContext* around = getWriter().getFrame().table;
     TableContext& table = around ? *around : none;
     opc::MarkupBuffer& out = getMarkup();
-    out.append(R"(<a:tr h="0">)"); // as high as its text
+    out.append(R"(<a:tr h=")" + std::to_string(table.getRowHeight()) + R"(">)");
     const std::size_t start = out.getLength();
     const FormatsInForce above = getFormatsAbove();
-    for (const auto& entry : row_.getChildren()) {
+    const auto writeNext = [&](const auto& writeEntry) {
         FormatsInForce formats = above;
         formats.layOver(table.getColumnFormats());
         formats.layOver(row_.getStyle());
-        const PPTWriter::FrameScope scope(getWriter(), {&row_, &formats, &table, &out});
-        entry->acceptWriter(&getWriter(), getParentNode());
+        PPTWriter::Frame frame;
+        frame.element = &row_;
+        frame.formats = &formats;
+        frame.table = &table;
+        frame.markup = &out;
+        const PPTWriter::FrameScope scope(getWriter(), frame);
+        writeEntry(formats);
         table.nextEntry();
-    }
+    };
+    for (const auto& entry : row_.getChildren())
+        writeNext([&](const FormatsInForce&) { entry->acceptWriter(&getWriter(), getParentNode()); });
+    while (table.col < table.colCount && getRules().fillsRows())
+        writeNext([&](const FormatsInForce& formats) {
+            TableEntryWriter blank(row_, getWriter(), getParentNode());
+            blank.setFormatsAround(formats);
+            blank.writeBlank();
+        });
     out.closeElement("a:tr", start);
     table.nextRow();
 }

@@ -7,12 +7,18 @@
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
 #include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TableEntryWriter.h"
+#include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"
+
+#include <algorithm>
 
 namespace vellox::ppt {
 
@@ -20,8 +26,24 @@ using namespace xercesc;
 
 namespace {
 
-// What a column without a width gets when the others leave nothing of the table's width.
-constexpr double kLeastColumnWidth = 208080.0;
+// By the numbers of the parts.
+constexpr const XMLCh* kPartNames[kTablePartCount] = {xml::kFirstRow, xml::kLastRow, xml::kFirstCol,
+                                                      xml::kLastCol,  xml::kBandRow, xml::kBandCol};
+
+TableParts readParts(const DOMElement* tbl) {
+    const DOMElement* properties = findChild(tbl, xml::kATblPr);
+    TableParts parts;
+    for (std::size_t i = 0; i < kTablePartCount; ++i) {
+        const std::wstring value = getAttribute(properties, kPartNames[i]);
+        if (!value.empty())
+            parts[i] = value == L"1" || value == L"true";
+    }
+    return parts;
+}
+
+bool isShown(const TableParts& parts, TablePart part) {
+    return parts[static_cast<std::size_t>(part)].value_or(false);
+}
 
 } // namespace
 
@@ -36,43 +58,119 @@ void TableWriter::write() {
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
+        writeTemplateCells();
         return reportNoRows();
     }
-    DOMElement* frame = makeFrame();
-    writeAltText(frame);
-    DOMElement* tbl = readGraphicFrame(frame).tbl;
-    if (table_.getStyleName().isSet() && !applyTableStyle(tbl))
-        reportMissingStyle();
-    arrange(findChild(tbl, xml::kATblPr));
-    writeChildren(getCurrentSlide()->getContent(tbl), &context);
-    updateGrid(tbl, context);
+    readFormer();
+    const GraphicFrameElements made = makeGraphicFrame();
+    writeAltText(made.frame);
+    writeProperties(made.tbl);
+    if (getRules().measuresColumns())
+        context.meter.emplace(context.colCount);
+    context.look = look_ ? &*look_ : nullptr;
+    context.hasTotalRow = isShown(parts_, TablePart::TotalRow) && isShown(formerParts_, TablePart::TotalRow);
+    PPTWriter::Frame frame = makeFrame();
+    frame.table = &context;
+    frame.markup = &getCurrentSlide()->getContent(made.tbl);
+    writeChildren(frame);
+    updateGrid(made, context);
 }
 
-DOMElement* TableWriter::makeFrame() {
+// Before it goes.
+void TableWriter::readFormer() {
+    DOMElement* former = getShapeType() == NodeType::Table ? getSlideElement() : nullptr;
+    if (!former || !getRules().keepsLook())
+        return;
+    formerTbl_ = readGraphicFrame(former).tbl;
+    if (!formerTbl_)
+        return;
+    look_.emplace(*formerTbl_);
+    formerParts_ = readParts(formerTbl_);
+}
+
+GraphicFrameElements TableWriter::makeGraphicFrame() {
     SlideDocument& slide = *getCurrentSlide();
     const ShapeGeometry& geometry = table_.getGeometry();
     DOMElement* former = getSlideElement();
     if (!former)
-        return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols()).frame;
+        return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols());
     DOMNode* parent = former->getParentNode();
     const PlaceText* place = getTemplateShape()->successorPlace.get();
-    DOMElement* frame = makeTableInPlace(slide, former, place, table_.getNCols()).frame;
+    const GraphicFrameElements made = makeTableInPlace(slide, former, place, table_.getNCols());
     if (parent)
-        parent->replaceChild(frame, former);
-    return frame;
+        parent->replaceChild(made.frame, former);
+    return made;
 }
 
-bool TableWriter::applyTableStyle(DOMElement* tbl) const {
-    const std::wstring* styleId = getModel().findTableStyleId(table_.getStyleName().get());
-    if (!styleId)
-        return false;
-    DOMElement* properties = findChild(tbl, xml::kATblPr);
-    if (!properties) {
+// Properties
+
+void TableWriter::writeProperties(DOMElement* tbl) {
+    parts_ = getRules().showParts(table_.getParts(), formerTbl_ ? &formerParts_ : nullptr);
+    const TableStyle style = chooseStyle();
+    if (!style.isFound)
+        reportMissingStyle(*getStyleName());
+    DOMElement* properties = findChild(formerTbl_, xml::kATblPr);
+    const bool isSaid =
+        std::any_of(parts_.begin(), parts_.end(), [](const auto& part) { return part.has_value(); });
+    if (!properties && !isSaid && style.id.empty())
+        return;
+    if (!properties)
         properties = createElement(xml::kATblPr);
-        tbl->insertBefore(properties, tbl->getFirstChild());
+    tbl->insertBefore(properties, tbl->getFirstChild());
+    showParts(properties);
+    if (!style.id.empty())
+        writeStyle(properties, style.id);
+    arrange(properties);
+}
+
+void TableWriter::showParts(DOMElement* properties) const {
+    for (std::size_t i = 0; i < kTablePartCount; ++i)
+        if (parts_[i])
+            properties->setAttribute(kPartNames[i], *parts_[i] ? xml::kTrue : xml::kFalse);
+}
+
+// Null if the table has none.
+const std::wstring* TableWriter::getStyleName() const {
+    if (table_.getStyleName().isSet())
+        return &table_.getStyleName().get();
+    const BaseAttribute<std::wstring>& brought = table_.getBroughtStyleName();
+    return brought.isSet() && getRules().bringsStyleName() ? &brought.get() : nullptr;
+}
+
+TableStyle TableWriter::chooseStyle() const {
+    const PresentationModel& model = getModel();
+    const ReadTemplate& source = model.getTemplate();
+    TableStyleFacts facts;
+    facts.name = getStyleName();
+    facts.named = facts.name ? model.findTableStyleId(*facts.name) : nullptr;
+    std::wstring former;
+    if (formerTbl_) {
+        const DOMElement* id = findDescendant(formerTbl_, {xml::kATblPr, xml::kATableStyleId});
+        former = id ? opc::toWideString(id->getTextContent()) : std::wstring();
+        facts.former = &former;
     }
-    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(*styleId));
-    return true;
+    facts.standard = source.defaultTableStyleId.empty() ? nullptr : &source.defaultTableStyleId;
+    facts.isStandardDefined = source.isDefaultTableStyleDefined;
+    return getRules().chooseTableStyle(facts);
+}
+
+// A style of the table's own, which few programs write, would hide the one that is asked for.
+void TableWriter::writeStyle(DOMElement* properties, const std::wstring& id) const {
+    removeChildElements(properties, xml::kATableStyle);
+    requireChild(properties, xml::kATableStyleId)->setTextContent(opc::XercesString(id));
+    getWriter().useTableStyle(id);
+}
+
+void TableWriter::writeTemplateCells() const {
+    for (const auto& [place, entry] : table_.getTemplateCells()) {
+        const auto* impl = implOf<TableEntryImpl>(*entry);
+        DOMElement* cell =
+            impl->isTouched() ? findCell(getSlideElement(), place.first, place.second) : nullptr;
+        if (cell)
+            TableEntryWriter(*impl, getWriter(), getParentNode()).writeOver(*impl, cell);
+        else if (impl->isTouched())
+            getWriter().report(ppt_finding::emptyTable());
+    }
 }
 
 // A table of the template that nobody has touched has none either.
@@ -81,38 +179,57 @@ void TableWriter::reportNoRows() const {
         getWriter().report(ppt_finding::emptyTable());
 }
 
-void TableWriter::reportMissingStyle() const {
-    const std::wstring& style = table_.getStyleName().get();
-    const NameHint hint =
-        isHeard(table_) ? makeNameHint(style, getModel().listTableStyleNames()) : NameHint();
-    getWriter().report(ppt_finding::invalidTableStyle(style, hint.getTail()));
+void TableWriter::reportMissingStyle(const std::wstring& name) const {
+    const NameHint hint = isHeard(table_) ? makeNameHint(name, getModel().listTableStyleNames()) : NameHint();
+    getWriter().report(ppt_finding::invalidTableStyle(name, hint.getTail()));
     if (!wantsErrors())
         return;
-    const ppt_warning::invalidTableStyle id(style);
+    const ppt_warning::invalidTableStyle id(name);
     MessageDispatcher::getTheDispatcher().dispatch(
         ErrorMessage(id, *const_cast<TableImpl&>(table_).makeInterface()));
 }
 
-void TableWriter::updateGrid(DOMElement* tbl, const TableContext& context) const {
-    const auto& widths = context.colWidths;
-    double sum = 0;
-    std::size_t open = 0;
-    for (const std::optional<int>& width : widths) {
-        sum += width.value_or(0);
-        open += width ? 0 : 1;
-    }
-    DOMElement* grid = findChild(tbl, xml::kATblGrid);
-    if (open == widths.size() || !grid)
-        return;
-    double total = 0;
+// Columns
+
+GridFacts TableWriter::describeGrid(const DOMElement* grid, const TableContext& context) const {
+    GridFacts facts;
     for (const DOMElement* column : getChildElements(grid))
-        total += str2double(getAttribute(column, xml::kW));
-    const double each =
-        open != 0 && total > sum ? (total - sum) / static_cast<double>(open) : kLeastColumnWidth;
-    removeChildElements(grid, xml::kAGridCol);
-    for (const std::optional<int>& width : widths)
-        setAttribute(appendElement(grid, xml::kAGridCol), xml::kW,
-                     num2str(truncateToInt(width ? *width : each)));
+        facts.equalSum += str2double(getAttribute(column, xml::kW));
+    const bool keepsWidths = look_ && look_->getColumnWidths().size() == context.colWidths.size();
+    for (std::size_t i = 0; i < context.colWidths.size(); ++i) {
+        ColumnFacts& column = facts.columns.emplace_back();
+        column.width = context.colWidths[i];
+        if (keepsWidths)
+            column.former = look_->getColumnWidths()[i];
+        if (context.meter) {
+            column.longestLine = context.meter->get()[i].longestLine;
+            column.longestWord = context.meter->get()[i].longestWord;
+        }
+    }
+    return facts;
+}
+
+void TableWriter::updateGrid(const GraphicFrameElements& frame, const TableContext& context) const {
+    DOMElement* ext = findDescendant(frame.frame, {xml::kXfrm, xml::kAExt});
+    const auto isSet = [](const std::optional<int>& width) { return width.has_value(); };
+    if (!context.meter && std::none_of(context.colWidths.begin(), context.colWidths.end(), isSet))
+        return;
+    GridFacts facts = describeGrid(frame.tblGrid, context);
+    facts.total =
+        look_ && look_->getWidth() > 0 ? look_->getWidth() : str2double(getAttribute(ext, xml::kCx));
+    const std::vector<int> widths = getRules().shareWidth(facts);
+    if (widths.empty())
+        return;
+    std::vector<DOMElement*> columns = getChildElements(frame.tblGrid);
+    while (columns.size() < widths.size())
+        columns.push_back(appendElement(frame.tblGrid, xml::kAGridCol));
+    double sum = 0;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        setAttribute(columns[i], xml::kW, num2str(widths[i]));
+        sum += widths[i];
+    }
+    if (context.meter)
+        setAttribute(ext, xml::kCx, num2str(truncateToInt(sum)));
 }
 
 } // namespace vellox::ppt

@@ -4,14 +4,18 @@
 #ifndef VELLOX_PPT_WRITERS_TABLEWRITER_H
 #define VELLOX_PPT_WRITERS_TABLEWRITER_H
 
+#include <optional>
 #include <string>
 
+#include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/writers/ShapeWriter.h"
+#include "vellox/ppt/writers/TableLook.h"
 
 namespace vellox::ppt {
 
 class TableImpl;
 struct TableContext;
+struct GraphicFrameElements;
 
 class TableWriter : public ShapeWriter {
 public:
@@ -19,13 +23,24 @@ public:
     void write() override;
 
 private:
-    xercesc::DOMElement* makeFrame();
-    bool applyTableStyle(xercesc::DOMElement* tbl) const;
+    void readFormer();
+    GraphicFrameElements makeGraphicFrame();
+    void writeProperties(xercesc::DOMElement* tbl);
+    void showParts(xercesc::DOMElement* properties) const;
+    TableStyle chooseStyle() const;
+    void writeStyle(xercesc::DOMElement* properties, const std::wstring& id) const;
+    void writeTemplateCells() const;
     void reportNoRows() const;
-    void reportMissingStyle() const;
-    void updateGrid(xercesc::DOMElement* tbl, const TableContext& context) const;
+    void reportMissingStyle(const std::wstring& name) const;
+    const std::wstring* getStyleName() const;
+    void updateGrid(const GraphicFrameElements& frame, const TableContext& context) const;
+    GridFacts describeGrid(const xercesc::DOMElement* grid, const TableContext& context) const;
 
     const TableImpl& table_;
+    xercesc::DOMElement* formerTbl_ = nullptr; // of the table whose place this one takes, if its look counts
+    std::optional<TableLook> look_;            // its look
+    TableParts formerParts_;
+    TableParts parts_; // what this one shows in its own way
 };
 
 } // namespace vellox::ppt

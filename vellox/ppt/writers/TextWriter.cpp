@@ -6,6 +6,8 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/TableContext.h"
+#include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -33,12 +35,27 @@ void TextWriter::writeLine(const std::wstring& line) {
     writeRun(line);
 }
 
+void TextWriter::applyTo(DOMElement* properties) {
+    prepare();
+    rPr_.applyTo(properties);
+    arrange(properties);
+}
+
 void TextWriter::prepare() {
     applyFormats();
+    if (const ParagraphLook* look = getWriter().getFrame().runs)
+        rPr_.layOver(look->rPr);
     arrange(rPr_);
 }
 
+void TextWriter::measure(const std::wstring& line) const {
+    TableContext* table = getWriter().getFrame().table;
+    if (table && table->meter)
+        table->meter->add(table->col, line, findFontPoints().value_or(ColumnMeter::kUsualPoints));
+}
+
 void TextWriter::writeRun(const std::wstring& line) {
+    measure(line);
     const opc::XercesString text(line);
     if (const std::size_t dropped = text.getDropped())
         getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
@@ -52,6 +69,9 @@ void TextWriter::writeRun(const std::wstring& line) {
 }
 
 void TextWriter::writeBreak() {
+    TableContext* table = getWriter().getFrame().table;
+    if (table && table->meter)
+        table->meter->endLine();
     opc::MarkupBuffer& out = getMarkup();
     const std::size_t start = out.openElement("a:br");
     rPr_.writeTo(out);

@@ -17,6 +17,8 @@ public:
     TextWriter(const TextImpl& text, PPTWriter& writer, xercesc::DOMNode* parentNode);
 
     void write() override;
+    /// Lays the formats of the run over those of a run, or of the end of a paragraph, that is there.
+    void applyTo(xercesc::DOMElement* properties);
     /// Writes the formats of the run on a text of one line.
     void writeLine(const std::wstring& line);
     void applyFormat(const Format& format) override;
@@ -32,6 +34,7 @@ public:
 
 private:
     void prepare();
+    void measure(const std::wstring& line) const;
     void writeRun(const std::wstring& line);
     void writeBreak();
 

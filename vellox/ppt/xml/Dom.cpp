@@ -123,6 +123,14 @@ DOMElement* requireChild(DOMElement* parent, const XMLCh* name) {
     return child ? child : appendElement(parent, name);
 }
 
+DOMElement* requireFirstChild(DOMElement* parent, const XMLCh* name) {
+    if (DOMElement* found = findChild(parent, name))
+        return found;
+    DOMElement* made = parent->getOwnerDocument()->createElement(name);
+    parent->insertBefore(made, parent->getFirstChild());
+    return made;
+}
+
 void ensureParagraph(DOMElement* element) {
     DOMElement* body = findChild(element, xml::kTxBody);
     if (!body)

@@ -65,6 +65,8 @@ xercesc::DOMElement* appendElement(xercesc::DOMElement* parent, const XMLCh* nam
 std::size_t appendText(xercesc::DOMElement* parent, const std::wstring& text);
 /// The first child element of a name, made and appended if there is none.
 xercesc::DOMElement* requireChild(xercesc::DOMElement* parent, const XMLCh* name);
+/// The same, made ahead of all others.
+xercesc::DOMElement* requireFirstChild(xercesc::DOMElement* parent, const XMLCh* name);
 /// Gives a shape or a cell that has a text body, but no paragraph in it, an empty paragraph: readers demand one.
 void ensureParagraph(xercesc::DOMElement* element);
 /// The same as markup.

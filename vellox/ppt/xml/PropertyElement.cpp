@@ -3,10 +3,12 @@
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/xml/ChildOrder.h"
 #include "vellox/ppt/xml/Dom.h"
+#include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
 #include <boost/functional/hash.hpp>
 #include <cwchar>
+#include <iterator>
 
 namespace vellox::ppt {
 
@@ -67,6 +69,23 @@ void PropertyElement::limit(std::u16string_view attribute, long least, long grea
     }
 }
 
+bool PropertyElement::hasAttribute(std::u16string_view name) const {
+    return std::any_of(attributes_.begin(), attributes_.end(),
+                       [&](const Attribute& attribute) { return attribute.name == name; });
+}
+
+void PropertyElement::removeAttribute(std::u16string_view name) {
+    attributes_.erase(std::remove_if(attributes_.begin(), attributes_.end(),
+                                     [&](const Attribute& attribute) { return attribute.name == name; }),
+                      attributes_.end());
+}
+
+void PropertyElement::removeChildren(std::u16string_view name) {
+    children_.erase(std::remove_if(children_.begin(), children_.end(),
+                                   [&](const PropertyElement& child) { return child.name_ == name; }),
+                    children_.end());
+}
+
 void PropertyElement::removeChildren(std::u16string_view name, std::u16string_view emptyAttribute) {
     const auto isEmpty = [&](const Attribute& each) {
         return each.name == emptyAttribute && each.value.empty();
@@ -76,6 +95,45 @@ void PropertyElement::removeChildren(std::u16string_view name, std::u16string_vi
                std::any_of(child.attributes_.begin(), child.attributes_.end(), isEmpty);
     };
     children_.erase(std::remove_if(children_.begin(), children_.end(), isCondemned), children_.end());
+}
+
+// Over others
+
+namespace {
+
+// An element has one fill, whatever it is called.
+std::u16string_view getKind(std::u16string_view name) {
+    constexpr std::u16string_view kFills[] = {xml::kANoFill,   xml::kASolidFill, xml::kAGradFill,
+                                              xml::kABlipFill, xml::kAPattFill,  xml::kAGrpFill};
+    return std::find(std::begin(kFills), std::end(kFills), name) == std::end(kFills) ? name : kFills[0];
+}
+
+} // namespace
+
+void PropertyElement::copyFrom(const DOMElement& element) {
+    const DOMNamedNodeMap& attributes = *element.getAttributes();
+    for (XMLSize_t i = 0; i < attributes.getLength(); ++i)
+        setAttribute(attributes.item(i)->getNodeName(), attributes.item(i)->getNodeValue());
+    for (const DOMElement* child : getChildElements(&element))
+        if (!hasName(*child, xml::kAExtLst))
+            addChild(child->getNodeName()).copyFrom(*child);
+}
+
+void PropertyElement::layOver(const PropertyElement& below) {
+    for (const Attribute& attribute : below.attributes_)
+        if (!hasAttribute(attribute.name))
+            setAttribute(attribute.name.data(), attribute.value.c_str());
+    std::vector<PropertyElement> merged;
+    for (const PropertyElement& child : below.children_) {
+        const bool isOverlaid =
+            std::any_of(children_.begin(), children_.end(), [&](const PropertyElement& own) {
+                return getKind(own.name_) == getKind(child.name_);
+            });
+        if (!isOverlaid)
+            merged.push_back(child);
+    }
+    std::move(children_.begin(), children_.end(), std::back_inserter(merged));
+    children_ = std::move(merged);
 }
 
 // Into markup

@@ -14,14 +14,14 @@
 
 namespace vellox::ppt {
 
-/// One of p:spPr, a:bodyPr, a:pPr, a:rPr and a:tcPr, or an element within. A value, which becomes nodes of a
-/// document once, when it is written.
+/// One of p:spPr, a:bodyPr, a:pPr, a:rPr, a:endParaRPr and a:tcPr, or an element within. A value, which becomes
+/// nodes of a document once, when it is written.
 ///
 /// Two of them are equal if they are written to the same bytes: the order of children counts, and the order in
 /// which attributes were set doesn't, since documents are written with attributes in the order of their names.
 class PropertyElement {
 public:
-    /// Names aren't copied: they are those of XmlNames.h.
+    /// Names aren't copied: they are those of XmlNames.h, or of a document that lives longer.
     explicit PropertyElement(const XMLCh* name);
 
     /// Whether nothing has been put in.
@@ -36,6 +36,12 @@ public:
     /// The same, in the place of the first child of the name if there is one.
     PropertyElement& putChild(const XMLCh* name);
 
+    /// Takes over attributes and children of an element of a document. Texts and extensions stay behind.
+    void copyFrom(const xercesc::DOMElement& element);
+    /// Takes from another what this element leaves open: attributes that it hasn't, and children of names that it
+    /// hasn't, ahead of its own. All fills count as one.
+    void layOver(const PropertyElement& below);
+
     /// Writes the element, if anything has been put in.
     void writeTo(opc::MarkupBuffer& out) const;
     /// Sorts the children by a list of names, with those that it doesn't name where kAnyOther stands in it, or else
@@ -43,6 +49,9 @@ public:
     void sortChildren(const std::vector<std::u16string_view>& names);
     /// Brings an attribute that is a whole number into a range. Does nothing if there is none.
     void limit(std::u16string_view attribute, long least, long greatest);
+    bool hasAttribute(std::u16string_view name) const;
+    void removeAttribute(std::u16string_view name);
+    void removeChildren(std::u16string_view name);
     /// Removes the children of a name that have an attribute without a text.
     void removeChildren(std::u16string_view name, std::u16string_view emptyAttribute);
     std::u16string_view getName() const { return name_; }

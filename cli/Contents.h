@@ -1,0 +1,27 @@
+/// @file
+/// Values of data files as the library's content.
+
+#ifndef CLI_CONTENTS_H
+#define CLI_CONTENTS_H
+
+#include <functional>
+
+#include "cli/Data.h"
+
+namespace vellox::cli {
+
+/// What becomes of each text on its way.
+using TextOf = std::function<std::wstring(const std::string&, const DataPlace&)>;
+
+/// The items as paragraphs, those of lists in it one level deeper.
+HvContentPtr makeList(const Data& list, const DataPlace& place, const TextOf& textOf);
+
+/// A table of a list of rows. Short ones are filled up with cells.
+ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& textOf);
+/// A table of a CSV file, in which the names are the first row. Numbers keep the digits that they have there.
+/// @throws Failure
+ppt::Table makeTable(const std::string& file);
+
+} // namespace vellox::cli
+
+#endif

@@ -1,0 +1,193 @@
+#include "cli/DeckDescription.h"
+
+#include "cli/Contents.h"
+#include "cli/DescriptionForm.h"
+#include "cli/Files.h"
+
+namespace vellox::cli {
+
+namespace {
+
+std::vector<std::string> getNames(const Record& record) {
+    std::vector<std::string> names;
+    for (const auto& entry : record)
+        names.push_back(entry.first);
+    return names;
+}
+
+/// Makes the slides of one deck.
+class DeckMaker {
+public:
+    DeckMaker(ppt::Presentation& deck, const Record* record, const DeckDescription::Report& report)
+        : deck_(deck),
+          record_(record),
+          report_(report),
+          textOf_([this](const std::string& text, const DataPlace& place) {
+              return fromUtf8(fill(text, place));
+          }) {}
+
+    void add(const Data& data, const DataPlace& place) {
+        ppt::Slide slide = makeSlide(data, place);
+        if (const Data* contents = data.find("contents"))
+            for (const Data::Member& member : contents->members)
+                put(slide, member.first, member.second,
+                    place.member("contents", *contents).member(member.first, member.second));
+    }
+
+private:
+    std::string fill(const std::string& text, const DataPlace& place) const {
+        return record_ ? fillIn(text, *record_, place) : text;
+    }
+
+    ppt::Slide makeSlide(const Data& data, const DataPlace& place) {
+        const Data& layout = *data.find("layout");
+        const Data* master = data.find("master");
+        const DataPlace at = place.member("layout", layout);
+        const std::wstring name = textOf_(layout.text, at);
+        try {
+            if (master)
+                return deck_.add(name, textOf_(master->text, place.member("master", *master)));
+            return deck_.add(name);
+        } catch (const hostfx::except::IUserException& error) {
+            throw DataFailure(at, error.what(), error.getErrorID());
+        }
+    }
+
+    void put(ppt::Slide& slide, const std::string& key, const Data& value, const DataPlace& place) {
+        const std::wstring name = textOf_(key, place);
+        try {
+            if (value.kind == Data::Kind::Nothing)
+                return; // stays empty
+            if (value.isScalar())
+                putText(slide, name, textOf_(value.text, place));
+            else if (value.kind == Data::Kind::List)
+                slide.replace(name, makeList(value, place, textOf_));
+            else
+                slide.replace(name, value.find("picture") ? makePicture(value, place)
+                                                          : makeTableContent(value, place));
+        } catch (const hostfx::except::IUserException& error) {
+            throw DataFailure(place, error.what(), error.getErrorID());
+        }
+        reportNews(place);
+    }
+
+    /// Each line is a paragraph.
+    static void putText(ppt::Slide& slide, const std::wstring& name, const std::wstring& text) {
+        std::size_t begin = 0, end = 0;
+        const std::size_t size =
+            text.find_last_not_of(L"\r\n") + 1; // block texts of YAML end with a line end
+        for (bool isFirst = true; isFirst || begin < size; isFirst = false, begin = end + 1) {
+            end = std::min(text.find(L'\n', begin), size);
+            const std::wstring line = text.substr(begin, end - begin);
+            isFirst ? slide.replace(name, line) : slide.add(name, line);
+        }
+    }
+
+    HvContentPtr makePicture(const Data& value, const DataPlace& place) const {
+        const Data& path = *value.find("picture");
+        const std::string file = findFile(path, place.member("picture", path));
+        ppt::Picture picture(fromUtf8(file));
+        setOption(value, "alt", place, [&](const std::wstring& text) { picture.setAltText(text); });
+        setOption(value, "fit", place, [&](const std::wstring& word) { picture.setFit(word); });
+        return boost::make_shared<ObjectContent>(picture);
+    }
+
+    HvContentPtr makeTableContent(const Data& value, const DataPlace& place) const {
+        const Data& rows = *value.find("table");
+        const DataPlace at = place.member("table", rows);
+        ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_) : readTable(rows, at);
+        setOption(value, "alt", place, [&](const std::wstring& text) { table.setAltText(text); });
+        setOption(value, "style", place, [&](const std::wstring& name) { table.setStyleName(name); });
+        return boost::make_shared<ObjectContent>(table);
+    }
+
+    template <class Set>
+    void setOption(const Data& value, const char* name, const DataPlace& place, const Set& set) const {
+        const Data* option = value.find(name);
+        if (!option)
+            return;
+        const DataPlace at = place.member(name, *option);
+        try {
+            set(textOf_(option->text, at));
+        } catch (const hostfx::except::IUserException& error) {
+            throw DataFailure(at, error.what(), error.getErrorID());
+        }
+    }
+
+    ppt::Table readTable(const Data& path, const DataPlace& place) const {
+        const std::string file = findFile(path, place);
+        try {
+            return makeTable(file);
+        } catch (const Failure& failure) {
+            throw DataFailure(place, failure.what());
+        }
+    }
+
+    /// A file that a deck names, from the folder of its description.
+    std::string findFile(const Data& path, const DataPlace& place) const {
+        const std::string file = resolve(fill(path.text, place), place.file);
+        try {
+            requireFile(file);
+        } catch (const Failure& failure) {
+            throw DataFailure(place, failure.what());
+        }
+        return file;
+    }
+
+    void reportNews(const DataPlace& place) {
+        const std::vector<ppt::Finding> findings = deck_.getFindings();
+        for (; told_ < findings.size(); ++told_)
+            report_(place, findings[told_]);
+    }
+
+    ppt::Presentation& deck_;
+    const Record* record_;
+    const DeckDescription::Report& report_;
+    TextOf textOf_;
+    std::size_t told_ = 0;
+};
+
+} // namespace
+
+std::string fillIn(const std::string& text, const Record& record, const DataPlace& place) {
+    std::string filled;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c != '{' && c != '}') {
+            filled += c;
+        } else if (i + 1 < text.size() && text[i + 1] == c) {
+            filled += text[i++];
+        } else {
+            const std::size_t end = c == '{' ? text.find('}', i) : text.npos;
+            if (end == text.npos)
+                throw DataFailure(place, std::string("a \"") + c +
+                                             "\" stands alone; two of them are one in the text");
+            const std::string name = text.substr(i + 1, end - i - 1);
+            const auto found = record.find(name);
+            if (found == record.end())
+                throw DataFailure(place, "there is no column \"" + name + "\"" +
+                                             describeNearest(name, getNames(record)));
+            filled += found->second;
+            i = end;
+        }
+    }
+    return filled;
+}
+
+DeckDescription::DeckDescription(Data data, const std::string& file)
+    : data_(std::move(data)),
+      root_{file, {}, 0} {
+    checkForm(data_, root_);
+}
+
+void DeckDescription::make(ppt::Presentation& deck, const Record* record, const Report& report) const {
+    const Data* slides = data_.find("slides");
+    if (!slides)
+        return;
+    DeckMaker maker(deck, record, report);
+    const DataPlace place = root_.member("slides", *slides);
+    for (std::size_t i = 0; i < slides->items.size(); ++i)
+        maker.add(slides->items[i], place.item(i, slides->items[i]));
+}
+
+} // namespace vellox::cli

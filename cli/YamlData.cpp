@@ -1,0 +1,97 @@
+#include "cli/Data.h"
+
+#include <yaml-cpp/yaml.h>
+
+#include <regex>
+#include <set>
+
+namespace vellox::cli {
+
+namespace {
+
+/// Plain words that stand for something else than themselves, as in YAML's core schema.
+Data::Kind judge(const std::string& word) {
+    static const std::regex kNumber(R"([-+]?(\.[0-9]+|[0-9]+(\.[0-9]*)?)([eE][-+]?[0-9]+)?)");
+    if (word.empty() || word == "~" || word == "null" || word == "Null" || word == "NULL")
+        return Data::Kind::Nothing;
+    if (word == "true" || word == "True" || word == "TRUE" || word == "false" || word == "False" ||
+        word == "FALSE")
+        return Data::Kind::Logical;
+    constexpr std::size_t kMaxNumber = 100;
+    return word.size() <= kMaxNumber && std::regex_match(word, kNumber) ? Data::Kind::Number
+                                                                        : Data::Kind::Text;
+}
+
+/// An alias stands for all of its anchor again, so that a short text can be a huge tree: values are counted.
+class TreeBuilder {
+public:
+    explicit TreeBuilder(const std::string& file) : file_(file) {}
+
+    Data build(const YAML::Node& node, unsigned depth) {
+        Data value;
+        value.line = getLine(node);
+        if (++count_ > kMaxDataValues)
+            fail(node, "it has too many values");
+        if (depth > kMaxDataDepth)
+            fail(node, "its values stand too deep in one another");
+        switch (node.Type()) {
+        case YAML::NodeType::Sequence:
+            value.kind = Data::Kind::List;
+            for (const YAML::Node& item : node)
+                value.items.push_back(build(item, depth + 1));
+            break;
+        case YAML::NodeType::Map:
+            buildRecord(node, value, depth);
+            break;
+        case YAML::NodeType::Scalar:
+            value.text = node.Scalar();
+            value.kind =
+                node.Tag() == "?" ? judge(value.text) : Data::Kind::Text; // "!" is in quotation marks
+            break;
+        default:
+            break;
+        }
+        return value;
+    }
+
+private:
+    void buildRecord(const YAML::Node& node, Data& value, unsigned depth) {
+        value.kind = Data::Kind::Record;
+        for (const auto& entry : node) {
+            if (!entry.first.IsScalar())
+                fail(entry.first, "a name is no text");
+            if (!names_.emplace(depth, entry.first.Scalar()).second)
+                fail(entry.first, "there are two values for \"" + entry.first.Scalar() + "\"");
+            value.members.emplace_back(entry.first.Scalar(), Data());
+        }
+        names_.erase(names_.lower_bound({depth, {}}), names_.lower_bound({depth + 1, {}}));
+        std::size_t i = 0;
+        for (const auto& entry : node)
+            value.members[i++].second = build(entry.second, depth + 1);
+    }
+
+    static unsigned getLine(const YAML::Node& node) {
+        return node.Mark().is_null() ? 0 : static_cast<unsigned>(node.Mark().line) + 1;
+    }
+
+    [[noreturn]] void fail(const YAML::Node& node, const std::string& text) const {
+        throw DataFailure({file_, {}, getLine(node)}, text);
+    }
+
+    const std::string& file_;
+    std::set<std::pair<unsigned, std::string>> names_; // of the record that is being read
+    std::size_t count_ = 0;
+};
+
+} // namespace
+
+Data parseYaml(const std::string& text, const std::string& file) {
+    try {
+        return TreeBuilder(file).build(YAML::Load(text), 0);
+    } catch (const YAML::Exception& error) {
+        const unsigned line = error.mark.is_null() ? 0 : static_cast<unsigned>(error.mark.line) + 1;
+        throw DataFailure({file, {}, line}, "it is no YAML: " + error.msg);
+    }
+}
+
+} // namespace vellox::cli

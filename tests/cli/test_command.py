@@ -1,0 +1,315 @@
+"""The command, as a person at a terminal uses it."""
+import json
+import os
+import pathlib
+import pty
+import re
+import shutil
+import signal
+import subprocess
+import time
+import zipfile
+
+import pytest
+
+COMMAND = os.environ["VELLOX_COMMAND"]
+PAGES = os.environ["VELLOX_PAGES"]
+PICTURE = pathlib.Path(__file__).parents[2] / "docs/images/hello.png"
+
+DECK = """\
+slides:
+  - layout: Title Slide
+    contents:
+      Title: Report for {name}
+      Subtitle: |
+        Week 47
+        all sites
+  - layout: Title and Content
+    contents:
+      Title: Points
+      Content: [First, [deeper, 3.10], "{{last}}"]
+  - layout: Title and Table
+    contents:
+      Title: Figures
+      Table: {table: "flow-{id}.csv"}
+tokens: {id: 1, name: World}
+"""
+
+
+@pytest.fixture
+def work(tmp_path, monkeypatch):
+    monkeypatch.chdir(tmp_path)
+    pathlib.Path("deck.yaml").write_text(DECK)
+    pathlib.Path("rows.csv").write_text("id,name\n1,Ada\n2,Bob\n3,Cy\n")
+    for number in 1, 2:
+        pathlib.Path(f"flow-{number}.csv").write_text(f'Site;Flow\n"North; old";{number}.50\nSouth;7\n')
+    return tmp_path
+
+
+def run(*arguments, status=0, **options):
+    done = subprocess.run([COMMAND, *map(str, arguments)], capture_output=True, text=True, timeout=300, **options)
+    assert done.returncode == status, done
+    assert all(line.startswith("vellox: ") for line in done.stderr.splitlines()), done.stderr
+    return done
+
+
+def fail(*arguments, status=2):
+    """The one line of an error."""
+    lines = run(*arguments, status=status).stderr.splitlines()
+    assert len(lines) == 1, lines
+    return lines[0]
+
+
+def list_files(pattern="*.pptx"):
+    return sorted(path.name for path in pathlib.Path().glob(pattern))
+
+
+def test_a_deck_from_a_description(work):
+    done = run("fill", "default", "deck.yaml", "-o", "deck.pptx")
+    assert (done.stdout, done.stderr) == ("", "")
+    run("check", "deck.pptx", "--strict")
+    text = run("text", "deck.pptx").stdout
+    assert "Title: Report for World\nSubtitle:\n    Week 47\n    all sites\n" in text
+    assert "Content:\n    First\n      deeper\n      3.10\n    {last}\n" in text
+    assert "    | Site | Flow |\n    | North; old | 1.50 |\n    | South | 7 |\n" in text
+    pathlib.Path("plots").mkdir()
+    shutil.copy(PICTURE, "plots/flow.png")
+    pathlib.Path("picture.yaml").write_text(
+        "slides:\n  - layout: Title and Content\n    contents:\n"
+        "      Content: {picture: plots/flow.png, fit: cover, alt: Flow over time}\n")
+    run("fill", "default", "picture.yaml", "-o", "picture.pptx")
+    assert f"Content: (picture, {PICTURE.stat().st_size} bytes, " in run("text", "picture.pptx").stdout
+    run("check", "picture.pptx", "--strict")
+    slides = json.loads(run("text", "deck.pptx", "--json").stdout)
+    assert [slide["layout"] for slide in slides] == ["Title Slide", "Title and Content", "Title and Table"]
+
+
+@pytest.mark.parametrize("wrong, right, words", [
+    ("layout: Title Slide", "layuot: Title Slide", ":2: slides[1].layuot: nothing is known of that name; there is \"layout\""),
+    ("layout: Title Slide", "layout: Titel Slide", ":2: slides[1].layout: "),
+    ("[First, [", "[First, {a: b}, [", ":11: slides[2].contents.Content[2]: "),
+    ("flow-{id}", "flow-{di}", ":15: slides[3].contents.Table.table: there is no column \"di\"; there is \"id\""),
+    ("flow-{id}", "none-{id}", ":15: slides[3].contents.Table.table: none-1.csv: No such file"),
+    ("Week 47", "{Week 47", ":5: slides[1].contents.Subtitle: "),
+    ("table: ", "picture: ~, fit: ", ":15: slides[3].contents.Table.picture: it is nothing, and must be a text"),
+    ("tokens: {", "tokens: {id: 2, ", "two values for \"id\""),
+    ("tokens: {", "tokens: [", "it is no YAML: "),
+])
+def test_errors_name_their_place(work, wrong, right, words):
+    pathlib.Path("deck.yaml").write_text(DECK.replace(wrong, right))
+    assert words in fail("fill", "default", "deck.yaml", "-o", "deck.pptx")
+    assert not list_files()
+
+
+def test_json_and_csv_are_as_good(work):
+    pathlib.Path("deck.json").write_text(json.dumps(
+        {"slides": [{"layout": "Title Slide", "contents": {"Title": "Grüße \U0001F600 {x}"}}]}, indent=1))
+    run("fill", "default", "deck.json", "-o", "deck.pptx")
+    assert "Title: Grüße \U0001F600 {x}\n" in run("text", "deck.pptx").stdout
+    pathlib.Path("deck.json").write_text('{\n"slides": [\n{"layout": 3}]}')
+    assert "deck.json:3: slides[1].layout: it is a number, and must be a text" in fail(
+        "fill", "default", "deck.json", "-o", "deck.pptx")
+    pathlib.Path("deck.json").write_text('{\n"slides": [\n}')
+    assert "deck.json:3: it is no JSON: " in fail("fill", "default", "deck.json", "-o", "deck.pptx")
+    pathlib.Path("deck.json").write_text("[" * 100000)
+    assert "too deep" in fail("fill", "default", "deck.json", "-o", "deck.pptx")
+    assert "rows.csv: it has 3 rows" in fail("fill", "default", "rows.csv", "-o", "deck.pptx")
+    pathlib.Path("latin.csv").write_bytes(b"id\nM\xfcller\n")
+    assert "latin.csv: it isn't in UTF-8" in fail("fill", "default", "deck.yaml", "-o", "{id}.pptx", "--each", "latin.csv")
+
+
+def test_strict_writes_no_deck_that_is_other_than_asked(work):
+    pathlib.Path("deck.yaml").write_text(DECK.replace("Title: Points", "Titel: Points"))
+    run("fill", "default", "deck.yaml", "-o", "deck.pptx", "--strict", status=2)
+    assert not list_files()
+    warning = fail("fill", "default", "deck.yaml", "-o", "deck.pptx", status=0)
+    assert "warning: deck.yaml:10: slides[2].contents.Titel: slide 2: " in warning
+    former = pathlib.Path("deck.pptx").read_bytes()
+    run("fill", "default", "deck.yaml", "-o", "deck.pptx", "--strict", status=2)
+    assert pathlib.Path("deck.pptx").read_bytes() == former
+
+
+def test_a_batch_goes_on_without_the_deck_that_fails(work):
+    done = run("fill", "default", "deck.yaml", "--each", "rows.csv", "-o", "{name}-{id}.pptx", "--jobs", "2", status=1)
+    assert sorted(done.stdout.split()) == list_files() == ["Ada-1.pptx", "Bob-2.pptx"]
+    failed, summary = done.stderr.splitlines()
+    assert failed.startswith("vellox: Cy-3.pptx: deck.yaml:15: ")
+    assert summary == "vellox: 2 of 3 decks were made; not made: Cy-3.pptx"
+    for output, words in [("deck.pptx", "rows.csv:3: the row's deck is deck.pptx"), ("{nam}.pptx", "no column")]:
+        assert words in fail("fill", "default", "deck.yaml", "--each", "rows.csv", "-o", output)
+    pathlib.Path("rows.csv").write_text("id,name\n1,../../Ada\n")
+    assert "can't be part of a file's name" in fail(
+        "fill", "default", "deck.yaml", "--each", "rows.csv", "-o", "{name}.pptx")
+    pathlib.Path("rows.csv").write_text("id,name\n1\n")
+    assert "rows.csv:2: the row has 1 cells" in fail(
+        "fill", "default", "deck.yaml", "--each", "rows.csv", "-o", "{name}.pptx")
+
+
+def start_long_batch(count=4000, **options):
+    with open("rows.csv", "w") as rows:
+        rows.write("id,number\n" + "".join(f"1,{number}\n" for number in range(count)))
+    return subprocess.Popen(
+        [COMMAND, "fill", "default", "deck.yaml", "--each", "rows.csv", "-o", "deck-{number}.pptx", "--jobs", "2"],
+        stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, start_new_session=True, **options)
+
+
+def test_ctrl_c_leaves_whole_decks(work):
+    batch = start_long_batch()
+    for _ in range(3):
+        batch.stdout.readline()
+    os.killpg(batch.pid, signal.SIGINT)
+    _, errors = batch.communicate(timeout=60)
+    assert batch.returncode == 130
+    decks = list_files()
+    assert 3 <= len(decks) < 4000
+    assert errors == f"vellox: {len(decks)} of 4000 decks were made\n"
+    run("check", *decks)
+    assert not [name for name in list_files("*") if "tmp" in name]
+
+
+def test_a_worker_that_dies_costs_one_deck(work):
+    batch = start_long_batch(400)
+    batch.stdout.readline()
+    workers = pathlib.Path(f"/proc/{batch.pid}/task/{batch.pid}/children").read_text().split()
+    os.kill(int(workers[0]), signal.SIGKILL)
+    _, errors = batch.communicate(timeout=300)
+    assert batch.returncode == 1
+    assert "its process has died: Killed" in errors
+    assert "vellox: 399 of 400 decks were made; not made: deck-" in errors
+
+
+def test_a_terminal_gets_a_bar(work):
+    pathlib.Path("flow-3.csv").write_text("a\n")
+    leader, follower = pty.openpty()
+    done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "--each", "rows.csv", "-o", "{id}.pptx"],
+                          stdout=follower, stderr=follower, timeout=60)
+    os.close(follower)
+    shown = os.read(leader, 65536).decode()
+    assert done.returncode == 0
+    assert "[##############################] 3 of 3 decks" in shown
+    assert ".pptx" not in shown and shown.endswith("\r\x1b[K")
+
+
+def test_differences(work):
+    for number in 1, 2:
+        pathlib.Path(f"{number}.yaml").write_text(DECK.replace("id: 1", f"id: {number}"))
+        run("fill", "default", f"{number}.yaml", "-o", f"{number}.pptx")
+    assert run("diff", "1.pptx", "1.pptx").stdout == ""
+    assert run("diff", "1.pptx", "2.pptx", status=1).stdout == (
+        "* slide 3\n  Table:\n    row 2, column 2: 1.50 -> 2.50\n")
+    pathlib.Path("3.yaml").write_text(DECK.replace("Week 47", "Week 48").replace(
+        "  - layout: Title and Content", "  - layout: Section Header\n  - layout: Title and Content"))
+    run("fill", "default", "3.yaml", "-o", "3.pptx")
+    assert run("diff", "1.pptx", "3.pptx", status=1).stdout == (
+        "* slide 1\n  Subtitle:\n    - Week 47\n    + Week 48\n+ slide 2\n")
+    [difference] = json.loads(run("diff", "1.pptx", "2.pptx", "--json", status=1).stdout)
+    assert difference["kind"] == "cellChanged" and difference["presentSlide"] == 3
+
+
+def test_broken_files(work):
+    run("fill", "default", "deck.yaml", "-o", "deck.pptx")
+    whole = pathlib.Path("deck.pptx").read_bytes()
+    for name, contents in {"empty": b"", "text": b"no deck", "half": whole[:len(whole) // 2]}.items():
+        pathlib.Path(f"{name}.pptx").write_bytes(contents)
+        assert f"{name}.pptx" in fail("text", f"{name}.pptx")
+        assert f"{name}.pptx" in fail("diff", "deck.pptx", f"{name}.pptx")
+        assert f"{name}.pptx: error: " in run("check", f"{name}.pptx", status=1).stdout
+        assert f"{name}.pptx" in fail("fill", f"{name}.pptx", "deck.yaml", "-o", "out.pptx")
+    # What can be read of a deck is shown, without anything that a terminal would obey.
+    with zipfile.ZipFile("deck.pptx") as source, zipfile.ZipFile("bad.pptx", "w") as target:
+        for entry in source.namelist():
+            data = source.read(entry)
+            if entry == "ppt/slides/slide1.xml":
+                data = data.replace(b"Report for World", "\u009b2J".encode())
+            target.writestr(entry, data if entry != "ppt/slides/slide2.xml" else b"<p:sld>")
+    done = run("text", "bad.pptx", status=1)
+    assert "Title: \\x9b2J\n" in done.stdout and "slide2.xml" in done.stderr and "Figures" in done.stdout
+    assert "No such file" in fail("check", "none.pptx")
+    assert json.loads(run("check", "deck.pptx", "bad.pptx", "--json", status=1).stdout)[0]["isSound"]
+    assert "[vellox:ppt_error:cannotOpenFile]" in fail("text", "half.pptx", "--verbose")
+
+
+def test_new_templates(work):
+    run("new", "mine")
+    run("check", "mine.pptx", "--strict")
+    assert "--force" in fail("new", "mine.pptx")
+    run("new", "mine.pptx", "--force")
+    assert "extension" in fail("new", "mine.potx")
+    assert "No such file" in fail("new", "none/mine.pptx")
+    assert list_files("*.tmp") == []
+
+
+def test_outputs_that_cannot_be_written(work):
+    assert "none" in fail("fill", "default", "deck.yaml", "-o", "none/deck.pptx")
+    with open("/dev/full", "w") as full:
+        done = subprocess.run([COMMAND, "--version"], stdout=full, stderr=subprocess.PIPE, text=True)
+        assert (done.returncode, done.stderr.count("\n")) == (2, 1)
+    if os.geteuid() != 0:
+        os.chmod(".", 0o500)
+        assert "deck.pptx" in fail("fill", "default", "deck.yaml", "-o", "deck.pptx")
+        os.chmod(".", 0o700)
+
+
+def test_a_pipe_that_closes_ends_it_silently(work):
+    pathlib.Path("long.yaml").write_text("slides:\n" + "".join(
+        f"  - layout: Title Slide\n    contents: {{Title: {'word ' * 200}}}\n" for _ in range(200)))
+    run("fill", "default", "long.yaml", "-o", "long.pptx")
+    reader = subprocess.Popen([COMMAND, "text", "long.pptx"], stdout=subprocess.PIPE, stderr=subprocess.PIPE, bufsize=0)
+    reader.stdout.read(10)
+    reader.stdout.close()
+    assert reader.stderr.read() == b""
+    assert reader.wait(60) == -signal.SIGPIPE
+
+
+def test_the_sessions_of_the_documents(work):
+    page = (pathlib.Path(__file__).parents[2] / "docs/command.md").read_text()
+    environment = {**os.environ, "PATH": f"{pathlib.Path(COMMAND).parent}:{os.environ['PATH']}"}
+    for session in re.findall(r"^```console\n(.*?)^```$", page, re.M | re.S):
+        for line, shown in re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", session, re.M):
+            if line.startswith("cat ") and not pathlib.Path(line[4:]).exists():
+                pathlib.Path(line[4:]).write_text(shown)
+            done = subprocess.run(["bash", "-c", line], env=environment, stdout=subprocess.PIPE,
+                                  stderr=subprocess.STDOUT, text=True)
+            assert done.stdout == shown, line
+
+
+@pytest.mark.parametrize("arguments, words", [
+    (["nothing"], "there is no command nothing"), (["--nothing"], "there is no option --nothing"), (["fill"], "--help"),
+    (["fill", "default", "-o", "x"], "fill needs data"), (["check"], "vellox check --help"),
+    (["fill", "default", "deck.yaml", "-o", "x", "--jobs", "0"], "--jobs"),
+])
+def test_wrong_arguments(work, arguments, words):
+    assert words in fail(*arguments)
+
+
+def test_completions_and_manual(work):
+    def write(kind):
+        text = subprocess.run([PAGES, kind], capture_output=True, text=True, check=True).stdout
+        pathlib.Path(kind).write_text(text)
+        return text
+
+    write("bash")
+    complete = 'source ./bash; COMP_WORDS=({}); COMP_CWORD={}; _vellox; echo "${{COMPREPLY[@]}}"'
+    for words, place, found in [("vellox c", 1, "check"), ("vellox fill --j", 2, "--jobs"), ("vellox text rows", 2, "rows.csv")]:
+        script = complete.format(words, place)
+        assert subprocess.run(["bash", "-c", "compopt() { :; };" + script], capture_output=True, text=True).stdout.split() == [found]
+    for shell in "zsh", "fish":
+        write(shell)
+        if shutil.which(shell):
+            subprocess.run([shell, "-n", shell], check=True)
+    assert ".SS \"vellox fill\"" in write("man")
+    if shutil.which("groff"):
+        done = subprocess.run(["groff", "-ww", "-man", "-z", "man"], capture_output=True, text=True)
+        assert (done.returncode, done.stderr) == (0, "")
+
+
+def test_the_schema_says_what_the_program_says(work):
+    jsonschema = pytest.importorskip("jsonschema")
+    yaml = pytest.importorskip("yaml")
+    schema = json.loads((pathlib.Path(__file__).parents[2] / "cli/deck.schema.json").read_text())
+    for wrong, right in [("", ""), ("layout: Title Slide", "layuot: Title Slide"), ("[First, [", "[First, {a: b}, ["),
+                         ("layout: Title Slide", "layout: 3"), ("table: ", "tabel: "), ("tokens: {", "tokens: {z: [1], ")]:
+        text = DECK.replace(wrong, right) if wrong else DECK
+        pathlib.Path("deck.yaml").write_text(text)
+        done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "-o", "x.pptx"], capture_output=True)
+        assert jsonschema.Draft7Validator(schema).is_valid(yaml.safe_load(text)) == (done.returncode == 0), text

@@ -1,0 +1,152 @@
+// Strict fill: shapes by name, all or none.
+
+#include "tests/support/DeckTest.h"
+#include "tests/support/TemplateBuilder.h"
+#include "vellox/foundation/NameHint.h"
+#include "vellox/ppt/tree/Cast.h"
+#include "vellox/ppt/tree/Picture.h"
+#include "vellox/ppt/tree/Table.h"
+
+using namespace vellox;
+using namespace vellox::ppt;
+using namespace vellox::test;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class FillTest : public DeckTest {
+protected:
+    Slide makeSlide() {
+        TemplateBuilder builder;
+        builder.addMaster("Theme");
+        Page& layout = builder.addLayout(
+            "Report", shape(2, "Title", "<p:ph type='title'/>") +
+                          shape(3, "Left", "<p:ph type='body' idx='1'/>") +
+                          shape(4, "Right", "<p:ph type='body' idx='2'/>") +
+                          shape(5, "Anything", "<p:ph idx='13'/>", place(1, 2, 300, 400)) +
+                          shape(6, "Figures", "<p:ph type='tbl' idx='14'/>", place(1, 2, 300, 400)) +
+                          shape(7, "Twice", "<p:ph type='body' idx='15'/>") +
+                          shape(8, "Twice", "<p:ph type='body' idx='16'/>"));
+        builder.addPart("ppt/media/image1.png", "image/png", makePng(2, 2));
+        Page& sample =
+            builder.addSlide("Sample", layout,
+                             shape(2, "Title", "<p:ph type='title'/>", "", "Kept") +
+                                 shape(3, "Left", "<p:ph type='body' idx='1'/>", "", "") +
+                                 groupShape(9, "Group",
+                                            shape(10, "Inner", "", "", "grouped") +
+                                                pictureShape(11, "Photo", "rId9", place(0, 0, 9, 9))) +
+                                 tableShape(12, "Sheet", 2, 2));
+        sample.relations = {{"rId9", "image", "../media/image1.png"}};
+        useTemplate(builder.build());
+        writeFile(folder / L"plot.png", makePng(4, 2));
+        return deck.add(L"Report");
+    }
+    std::string refusal(const Contents& contents, bool dropEmpty = false) {
+        return errorOf([&] { slide.fill(contents, dropEmpty); });
+    }
+
+    Slide slide = makeSlide();
+};
+
+TEST_F(FillTest, EachShapeTakesWhatItCanShow) {
+    slide.fill({{L"Title", L"Week 47"},
+                {L"Left", list({L"up", list({L"by 3 %", 2.5}), true})},
+                {L"idx:2", 42},
+                {L"idx:13", Picture(folder / L"plot.png")},
+                {L"type:tbl", std::vector<std::vector<std::wstring>>{{L"a", L"b"}, {L"c"}}}});
+    close();
+    EXPECT_EQ(textsOf(shapeXml(2, "Title"), "a:t"), Texts{"Week 47"});
+    EXPECT_EQ(textsOf(shapeXml(2, "Left"), "a:t"), (Texts{"up", "by 3 %", "2.5"}));
+    EXPECT_EQ(textsOf(shapeXml(2, "Right"), "a:t"), Texts{"42"});
+    EXPECT_EQ(findAll(shapeXml(2, "Anything"), "a:blip").size(), 1u);
+    EXPECT_EQ(textsOf(shapeXml(2, "Figures"), "a:t"), (Texts{"a", "b", "c"}));
+}
+
+TEST_F(FillTest, NothingIsFilledByHalf) {
+    const Picture plot(folder / L"plot.png");
+    const struct {
+        const wchar_t* name;
+        Content content;
+        const char* error;
+    } rows[] = {
+        {L"Titel", L"x", "ppt_error:unknownShape Titel"},
+        {L"idx:99", L"x", "ppt_error:unknownShape idx:99"},
+        {L"type:body#5", L"x", "ppt_error:unknownShape type:body#5"},
+        {L"Twice", L"x", "ppt_error:ambiguousShape Twice 2"},
+        {L"type:body", L"x", "ppt_error:ambiguousShape type:body 4"},
+        {L"Left", plot, "ppt_error:shapeRefusesContent Left a picture"},
+        {L"Figures", L"x", "ppt_error:shapeRefusesContent Figures a text"},
+        {L"Left", tableOf({{L"a"}}), "ppt_error:shapeRefusesContent Left a table"},
+        {L"Left", slide, "ppt_error:shapeRefusesContent Left an object of another class"},
+        {L"type:title", L"x", "ppt_error:shapeFilledTwice Title type:title"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(refusal({{L"Title", L"First"}, {row.name, row.content}}, true), row.error);
+        EXPECT_EQ(BaseTextBox::cast(slide.shape(L"Title"))->getText(), L"") << row.error;
+    }
+    EXPECT_EQ(slide.getNChildren(), 7u);
+    try {
+        slide.fill({{L"Titel", L"x"}});
+    } catch (const IHintedError& error) {
+        EXPECT_EQ(error.getHint().names.front(), L"Title");
+    }
+}
+
+TEST_F(FillTest, WhatStaysEmptyIsToldOrGoes) {
+    slide.fill({{L"Title", L"Only"}}, true);
+    Slide sample = *Slide::cast(deck.getChildren().front());
+    sample.fill({});
+    ASSERT_EQ(deck.getFindings().size(), 1u);
+    EXPECT_EQ(deck.getFindings()[0].code, "emptyPlaceholder");
+    EXPECT_EQ(deck.getFindings()[0].shape, L"Left");
+    sample.fill({}, true);
+    close();
+    EXPECT_EQ(valuesOf(slideXml(2), "p:ph", "type"), Texts{"title"});
+    EXPECT_EQ(valuesOf(slideXml(1), "p:ph", "type"), Texts{"title"});
+}
+
+TEST_F(FillTest, GroupsKeepTheirPictures) {
+    Slide sample = *Slide::cast(deck.getChildren().front());
+    EXPECT_EQ(errorOf([&] {
+                  sample.fill({{L"Photo", Picture(folder / L"plot.png")}});
+              }),
+              "ppt_error:shapeRefusesContent Photo a picture");
+    EXPECT_EQ(errorOf([&] { sample.fill({{L"Inner", L"filled"}}); }), "nothing");
+}
+
+TEST_F(FillTest, TextsOfTheTemplateAreReadAndCellsSet) {
+    Slide sample = *Slide::cast(deck.getChildren().front());
+    const auto title = BaseTextBox::cast(sample.shape(L"Title"));
+    EXPECT_EQ(title->getText(), L"Kept");
+    title->add(L"more");
+    EXPECT_EQ(title->getText(), L"Kept\nmore");
+    title->replace(L"new");
+    EXPECT_EQ(title->getText(), L"new");
+    Table sheet = as<Table>(sample.shape(L"Sheet"));
+    ASSERT_TRUE(sheet.entry(1, 1));
+    EXPECT_FALSE(sheet.entry(2, 0));
+    EXPECT_FALSE(sheet.entry(0, 2));
+    const std::wstring former = sheet.entry(0, 0)->getText();
+    sheet.entry(1, 1)->setText(L"one\ntwo");
+    sheet.entry(1, 0)->setFontColor(L"red");
+    EXPECT_EQ(sheet.entry(1, 1)->getText(), L"one\ntwo");
+    Slide copy = deck.copy(sample);
+    as<Table>(copy.shape(L"Sheet")).entry(1, 1)->setText(L"copied");
+    EXPECT_EQ(sheet.entry(1, 1)->getText(), L"one\ntwo");
+    close();
+    const Texts cells = findAll(shapeXml(1, "Sheet"), "a:tc");
+    ASSERT_EQ(cells.size(), 4u);
+    EXPECT_EQ(textsOf(cells[0], "a:t").empty() ? "" : textsOf(cells[0], "a:t")[0], toUtf8(former));
+    EXPECT_EQ(textsOf(cells[3], "a:t"), (Texts{"one", "two"}));
+    EXPECT_NE(cells[2].find("a:solidFill"), std::string::npos);
+    EXPECT_EQ(textsOf(findAll(shapeXml(3, "Sheet"), "a:tc")[3], "a:t"), Texts{"copied"});
+}
+
+TEST_F(FillTest, CastsTellWhatIsWrong) {
+    EXPECT_EQ(errorOf([&] { as<Table>(boost::shared_ptr<PPTNode>()); }), "ppt_error:emptyHandle shape");
+    EXPECT_EQ(errorOf([&] { as<Table>(slide.shape(L"Title")); }),
+              "ppt_error:wrongClass Title vellox.ppt.TextBoxPlaceholder");
+}
+
+} // namespace
