@@ -282,6 +282,8 @@ struct ToText {
 // "\r\n", "\n" and "\r" end a line, and so do the vertical tab and the line separator, which programs leave behind
 // where they had a line break.
 TextLines splitLines(const std::wstring& text) {
+    if (text.find_first_of(L"\n\r\v\x2028\x2029") == std::wstring::npos)
+        return {text};
     TextLines lines(1);
     for (std::size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
