@@ -67,7 +67,7 @@ protected:
         TemplateBuilder builder;
         builder.addMaster("Theme");
         Page& layout = builder.addLayout("Layout");
-        Page& slide = builder.addSlide("", layout, frame("Sales", "rId9") + frame("Lost", "rId99"));
+        Page& slide = builder.addSlide("", layout, frame("Sales", "rId9") + frame("Lost", "rId1"));
         slide.relations = {{"rId9", "chart", "/" + kChart}};
         builder.addPart(kChart, type, xml, {{"rId7", "package", "/" + kWorkbook}});
         builder.addPart(kWorkbook, kWorkbookType, "a workbook");
