@@ -109,8 +109,8 @@ class Slide:
         """The shapes that there are now, those at the back first; what a group holds comes with the group."""
         return iter(self.Children)
 
-    def __getitem__(self, name: str, /) -> Shape:
-        """The one shape of a name, or of "idx:13", "type:title", "type:body#2"."""
+    def __getitem__(self, name: str, /) -> Any:
+        """The one shape of a name, or of "idx:13", "type:title", "type:body#2". Of what class it is, the template says."""
         if not isinstance(name, str):
             raise TypeError(f"shapes have names, which are no {type(name).__name__}")
         return self.shape(name)
