@@ -376,12 +376,13 @@ struct Wish {
 
 Wish makeWish(const ColumnFacts& column, double left, std::size_t open) {
     constexpr double kMargins = 2 * 91440;
-    constexpr double kReserve = 1.15; // fonts differ, and headers are bold
+    // Fonts differ, and headers are bold. A word that is broken is worse than a line that is.
+    constexpr double kWordReserve = 1.35, kLineReserve = 1.15;
     if (column.former > 0)
         return {column.former, column.former};
     const double third = left / static_cast<double>(open) / 3;
-    const double least = std::max(third, std::min(column.longestWord * kReserve + kMargins, left / 2));
-    return {least, std::max(least, std::min(column.longestLine * kReserve + kMargins, left))};
+    const double least = std::max(third, std::min(column.longestWord * kWordReserve + kMargins, left / 2));
+    return {least, std::max(least, std::min(column.longestLine * kLineReserve + kMargins, left))};
 }
 
 // Lines are broken where they have to be. What is too much or too little is shared in proportion.
