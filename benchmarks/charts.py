@@ -42,7 +42,7 @@ def make_chart():
             '<c:externalData r:id="rId1"><c:autoUpdate val="0"/></c:externalData></c:chartSpace>')
 
 
-def add_charts(source, target):
+def add_charts(source, target, chart="Chart"):
     with zipfile.ZipFile(source) as deck:
         parts = {name: deck.read(name) for name in deck.namelist()}
     types = parts["[Content_Types].xml"].decode().replace(
@@ -52,7 +52,8 @@ def add_charts(source, target):
         relations = f"ppt/slides/_rels/slide{number}.xml.rels"
         link = f'<Relationship Id="rIdChart" Type="{TYPE}chart" Target="../charts/chart{number}.xml"/></Relationships>'
         parts[relations] = parts[relations].replace(b"</Relationships>", link.encode())
-        parts[name] = parts[name].replace(b"</p:spTree>", FRAME.encode() + b"</p:spTree>")
+        parts[name] = parts[name].replace(
+            b"</p:spTree>", FRAME.replace('"Chart"', f'"{chart}"').encode() + b"</p:spTree>")
         parts[f"ppt/charts/chart{number}.xml"] = make_chart().encode()
         parts[f"ppt/charts/_rels/chart{number}.xml.rels"] = (
             '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>'

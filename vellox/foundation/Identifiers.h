@@ -449,6 +449,14 @@ struct VELLOX_API cannotChangeOutputPath : MsgID {
 struct VELLOX_API cannotChangeTemplatePath : MsgID {
     cannotChangeTemplatePath() : MsgID(kCatalog, "cannotChangeTemplatePath", 0) {}
 };
+/// The template has macros, and a file with the extension of the output can't have any.
+struct VELLOX_API macrosLeftOut : MsgID {
+    macrosLeftOut() : MsgID(kCatalog, "macrosLeftOut", 0) {}
+};
+/// The template is signed, and what was signed isn't the deck.
+struct VELLOX_API signaturesRemoved : MsgID {
+    signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
+};
 /// The profile of an open presentation is to change.
 struct VELLOX_API cannotChangeProfile : MsgID {
     cannotChangeProfile() : MsgID(kCatalog, "cannotChangeProfile", 0) {}

@@ -46,7 +46,7 @@ def read_column(column: Any) -> Any:
         return _read_categories(column.dtype.categories, codes)
     if getattr(column.dtype, "kind", "") in _TIMES:
         return column.astype(str).tolist()
-    return column.to_numpy()
+    return column.to_numpy() if hasattr(column, "to_numpy") else column
 
 
 def _read_columns(frame: Any, count: int) -> list[list[Any]]:

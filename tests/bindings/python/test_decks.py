@@ -91,8 +91,7 @@ def test_charts_get_data(tmp_path):
     with vellox.deck(path, template) as deck:
         given = [(frame.index, frame), (frame.reset_index(),),
                  (["Spring", "Summer"], {"North": [1.5, None], "South": np.array([2, 3])})]
-        deck.open()
-        for slide, data in zip(deck.Children, given):
+        for slide, data in zip(deck, given):
             assert slide.getChartNames() == ["Chart"]
             slide.chart("Chart").setData(*data)
         with pytest.raises(LookupError, match='no chart "Other"'):

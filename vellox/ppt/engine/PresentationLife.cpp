@@ -223,6 +223,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     writer.writeCharts();
     state_ = PresentationState::Closed;
     attempt.keep();
+    writer.setReporter(this);
     writer.finish();
 }
 

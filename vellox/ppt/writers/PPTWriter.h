@@ -122,7 +122,7 @@ public:
 
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
-    /// Null between shapes.
+    /// Null between shapes, but the presentation while the writing is ended.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     ChartParts& getChartParts();
@@ -148,6 +148,8 @@ public:
     opc::MarkupBuffer& getMarkup() { return frame_.markup ? *frame_.markup : nowhere_; }
 
 private:
+    void finishPackage();
+
     struct Written {
         boost::shared_ptr<TemplateSlide> slide;
         std::wstring partName;
