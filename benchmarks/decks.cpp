@@ -88,6 +88,22 @@ void makeTableDeck(const std::wstring& output, unsigned slides) {
     deck.close();
 }
 
+void makeChartDeck(const std::wstring& output, const std::wstring& templatePath) {
+    constexpr unsigned kSeries = 3, kMonths = 12;
+    Presentation deck(output, templatePath);
+    deck.open();
+    std::vector<std::wstring> months;
+    for (unsigned i = 1; i <= kMonths; ++i)
+        months.push_back(L"Month " + std::to_wstring(i));
+    for (const auto& node : deck.getChildren()) {
+        Chart::Series series;
+        for (unsigned i = 0; i < kSeries; ++i)
+            series.emplace_back(L"Series " + std::to_wstring(i + 1), std::vector<double>(kMonths, i + 0.5));
+        Slide::cast(node)->chart(L"Chart").setData(months, series);
+    }
+    deck.close();
+}
+
 void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images) {
     Presentation deck(output);
     for (unsigned i = 0; i < slides; ++i)

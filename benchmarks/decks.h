@@ -17,6 +17,8 @@ void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPe
 void makeTableDeck(const std::wstring& output, unsigned slides);
 /// A picture on each slide: one image after the other, and again from the first.
 void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images);
+/// Data for the chart on each slide of a template that charts.py has made.
+void makeChartDeck(const std::wstring& output, const std::wstring& templatePath);
 /// @{ Five slides as makeTextDeck() makes them, and a picture on the last: on the path of the template, which is read
 /// for the deck, and a number of such decks on a template that is read once, each over the last.
 void makeSmallDeck(const std::wstring& output, const std::wstring& image);

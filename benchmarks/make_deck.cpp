@@ -2,6 +2,7 @@
 //
 //     make_deck text|styled|table <slides> <output.pptx>
 //     make_deck picture <slides> <output.pptx> <folder>    a different picture on each slide
+//     make_deck chart <slides> <output.pptx> <folder>      data for the charts of the folder's charts.pptx
 //     make_deck small <decks> <output.pptx> <folder>       one deck after the other, over the last
 //     make_deck small-path <decks> <output.pptx> <folder>  the same, reading the template for each
 //     make_deck images <count> <folder>                    the pictures for these
@@ -38,6 +39,8 @@ bool run(const std::string& kind, unsigned count, const std::wstring& output, co
         makeTableDeck(output, count);
     else if (kind == "picture")
         makePictureDeck(output, count, nameImages(folder, count));
+    else if (kind == "chart")
+        makeChartDeck(output, folder + L"/charts.pptx");
     else if (kind == "master")
         writeHeavyMaster(output, count);
     else if (kind == "small")
@@ -62,10 +65,10 @@ int main(int argc, char** argv) {
     }
     if (argc < 4 || !run(argv[1], static_cast<unsigned>(std::stoul(argv[2])), vellox::fromUtf8(argv[3]),
                          vellox::fromUtf8(argc > 4 ? argv[4] : ""))) {
-        std::cerr
-            << "usage: make_deck text|styled|table|picture|small|small-path|images|master <count> <output> "
-               "[<folder>]\n"
-               "       make_deck open <template> <output>\n";
+        std::cerr << "usage: make_deck text|styled|table|picture|chart|small|small-path|images|master "
+                     "<count> <output> "
+                     "[<folder>]\n"
+                     "       make_deck open <template> <output>\n";
         return 2;
     }
     return 0;

@@ -12,6 +12,8 @@ import sys
 import tempfile
 import time
 
+from charts import add_charts
+
 SOURCES = os.path.dirname(os.path.abspath(__file__))
 
 # Name, kind and count of make_deck, what to divide by for one deck, and whether other languages make it too.
@@ -20,6 +22,7 @@ WORKLOADS = [
     ("W1  5,000 slides", "text", 5000, 1, False),
     ("W2  200 slides with a table of 20 by 8", "table", 200, 1, False),
     ("W3  200 slides, each with a picture of 300 kB", "picture", 200, 1, False),
+    ("W6  200 slides, each with a chart of three series of twelve values", "chart", 200, 1, False),
     ("W4  one deck of five slides", "text", 5, 1, False),
     ("W5  such a deck with a picture, of 50 in a process", "small", 50, 50, True),
     ("W5  the same, reading the template for each", "small-path", 50, 50, True),
@@ -47,6 +50,8 @@ class Bench:
         self.has_octave = os.path.exists(octave)
         os.environ.update(PYTHONPATH=os.path.join(build, "python"), PYTHONDONTWRITEBYTECODE="1", OCTAVE_PATH=octave)
         run([os.path.join(self.programs, "make_deck"), "images", "200", folder])
+        run(self.deck("text", 200))
+        add_charts(self.path("deck.pptx"), self.path("charts.pptx"))
 
     def path(self, name):
         return os.path.join(self.folder, name)

@@ -73,7 +73,7 @@ void PyValue::read() {
     if (reading_.depth > kDeepestList)
         throw PythonError(PyExc_ValueError, "lists are nested too deeply");
     static_cast<void>(readPlain() || readImage() || readList() || readBuffer(object_) || readFrame() ||
-                      readArray() || readFields() || readNumberLike() || readPath() ||
+                      readArray() || readFields() || readDictionary() || readNumberLike() || readPath() ||
                       readText()); // else it stays unknown
 }
 
@@ -198,6 +198,16 @@ bool PyValue::readFrame() {
     if (!has(object_, "columns") || !has(object_, "to_numpy"))
         return false;
     const PyRef rows = checked(PySequence_Tuple(readForeign(kFrames, "read_frame", object_).get()));
+    readRow(rows);
+    readTableRows(rows);
+    return true;
+}
+
+/// Columns by their names. One that is an item of something is shown as what it is.
+bool PyValue::readDictionary() {
+    if (!PyDict_Check(object_) || reading_.depth > 0)
+        return false;
+    const PyRef rows = checked(PySequence_Tuple(readForeign(kFrames, "read_dictionary", object_).get()));
     readRow(rows);
     readTableRows(rows);
     return true;

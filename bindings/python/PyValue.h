@@ -39,6 +39,7 @@ struct Reading {
 /// | buffers, such as arrays of NumPy        | logical, the integer class, single or double  |
 /// | arrays of anything else                 | cells of the array's shape                    |
 /// | what has `columns` and `to_numpy`       | cells: the names of the columns, then the rows|
+/// | a dictionary that stands in no list     | the same, its values being the columns        |
 /// | what has `__array__` and `to_numpy`     | as an array, or cells of one row              |
 /// | dictionaries, where fields are wanted   | fields                                        |
 /// | what has a `__str__` of its own         | char                                          |
@@ -83,6 +84,7 @@ private:
     bool readList();
     bool readBuffer(PyObject* object);
     bool readFrame();
+    bool readDictionary();
     bool readArray();
     bool readFields();
     bool readNumberLike();

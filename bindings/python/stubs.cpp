@@ -51,7 +51,7 @@ class _Shown(Protocol):
 _Image = bytes | bytearray | memoryview | SupportsRead[bytes] | _Figure | _Saved | _Shown
 _Text = str | os.PathLike[str] | datetime.date | datetime.time | datetime.timedelta
 _Number = SupportsFloat | SupportsIndex
-_Items = list[Any] | tuple[Any, ...] | float | memoryview | _Array | _Frame | None
+_Items = list[Any] | tuple[Any, ...] | dict[Any, Any] | float | memoryview | _Array | _Frame | None
 _Content = _Items | Object
 
 _Held = TypeVar("_Held", covariant=True)
@@ -97,6 +97,7 @@ constexpr const char* kChildren[][2] = {
 constexpr const char* kResults[][2] = {
     {"Presentation.find", "list[Slide | Shape]"},
     {"Slide.find", "list[Shape]"},
+    {"Slide.getChartNames", "list[str]"},
     {"Presentation.getMasterNames", "list[str]"},
     {"Presentation.getLayoutNames", "list[str]"},
     {"Presentation.getTableStyleNames", "list[tuple[str, str]]"},

@@ -82,20 +82,19 @@ inline constexpr DoctorCode kGivenIndex{"givenIndex", Severity::Info,
                                         L"the placeholder has the index %1% now"};
 inline constexpr DoctorCode kUsualType{"usualType", Severity::Info,
                                        L"the type \"obj\" isn't written out any more, which means the same"};
+inline constexpr DoctorCode kMacrosLeftOut{
+    "macrosLeftOut", Severity::Warning, L"the macros are left out, since the output's kind of file has none"};
+inline constexpr DoctorCode kSignaturesRemoved{"signaturesRemoved", Severity::Warning,
+                                               L"the signature of what was changed is taken off"};
 
-inline constexpr const DoctorCode* kCodes[] = {&kStrictForm,          &kMacros,
-                                               &kUnusualPrefixes,     &kSampleSlides,
-                                               &kDuplicateMasterName, &kDuplicateLayoutName,
-                                               &kDuplicateName,       &kEmptyName,
-                                               &kPaddedName,          &kMultilineName,
-                                               &kHiddenFromClassic,   &kUnfilledByClassic,
-                                               &kHiddenMaster,        &kNoPlace,
-                                               &kInheritedPlace,      &kEqualPlaceholders,
-                                               &kFixedDate,           &kMissingFont,
-                                               &kHugeMedia,           &kNoLayouts,
-                                               &kRenamedMaster,       &kRenamedLayout,
-                                               &kRenamedPlaceholder,  &kGivenPlace,
-                                               &kGivenIndex,          &kUsualType};
+inline constexpr const DoctorCode* kCodes[] = {
+    &kMacrosLeftOut,      &kSignaturesRemoved, &kStrictForm,          &kMacros,
+    &kUnusualPrefixes,    &kSampleSlides,      &kDuplicateMasterName, &kDuplicateLayoutName,
+    &kDuplicateName,      &kEmptyName,         &kPaddedName,          &kMultilineName,
+    &kHiddenFromClassic,  &kUnfilledByClassic, &kHiddenMaster,        &kNoPlace,
+    &kInheritedPlace,     &kEqualPlaceholders, &kFixedDate,           &kMissingFont,
+    &kHugeMedia,          &kNoLayouts,         &kRenamedMaster,       &kRenamedLayout,
+    &kRenamedPlaceholder, &kGivenPlace,        &kGivenIndex,          &kUsualType};
 
 } // namespace doctor
 

@@ -40,7 +40,7 @@ std::vector<Finding> TemplateHealer::heal() {
             own.push_back(&*next++);
         healMaster(master, own);
     }
-    PPTPartWriter(package_).alignMainType(survey_.getMainPart());
+    alignPackage();
     return std::move(changes_);
 }
 
@@ -61,6 +61,23 @@ void TemplateHealer::healMaster(const MasterReport& master, const std::vector<Pa
         if (patient.isChanged)
             writer_.writeDocument(patient.layout.report.part, patient.layout.document.get());
     }
+}
+
+// The kind of file goes by the output's name, as with decks. A signature of what isn't there any more is none.
+void TemplateHealer::alignPackage() {
+    const OfficeRules rules;
+    const opc::Part mainPart = builder_.getPart(survey_.getMainPart());
+    PPTPartWriter parts(package_);
+    const auto leaveOut = [&](Extra what, const DoctorCode& code) {
+        for (const PackageExtra& extra : builder_.findExtra(mainPart, what)) {
+            parts.removeExtra(extra);
+            changes_.push_back(makeDoctorFinding(code, survey_.getMainPart(), {}, {}));
+        }
+    };
+    if (rules.leavesOut(Extra::Macros, parts.alignMainType(survey_.getMainPart(), rules)))
+        leaveOut(Extra::Macros, doctor::kMacrosLeftOut);
+    if (!changes_.empty())
+        leaveOut(Extra::Signatures, doctor::kSignaturesRemoved);
 }
 
 void TemplateHealer::note(Patient& patient, const DoctorCode& code, const std::wstring& shape,

@@ -33,6 +33,7 @@ private:
         bool isChanged = false;
     };
 
+    void alignPackage();
     void renameMasters();
     void healMaster(const MasterReport& master, const std::vector<Patient*>& patients);
     void renameLayout(Patient& patient, const std::wstring& name);

@@ -147,6 +147,44 @@ struct VELLOX_API missingPictureFile : MsgID {
 struct VELLOX_API unknownImageBytes : MsgID {
     explicit unknownImageBytes(const std::wstring& count) : MsgID(kCatalog, "unknownImageBytes", {count}) {}
 };
+/// A slide has no chart of this name.
+struct VELLOX_API noSuchChart : MsgID {
+    noSuchChart(const std::wstring& chart, const std::wstring& charts)
+        : MsgID(kCatalog, "noSuchChart", {chart, charts}) {}
+};
+/// A chart is given what is no list of categories, or no table of series.
+struct VELLOX_API invalidChartData : MsgID {
+    invalidChartData() : MsgID(kCatalog, "invalidChartData", 0) {}
+};
+/// A chart is given no categories, or no series.
+struct VELLOX_API chartDataEmpty : MsgID {
+    chartDataEmpty() : MsgID(kCatalog, "chartDataEmpty", 0) {}
+};
+/// A series of a chart has more or fewer values than there are categories.
+struct VELLOX_API chartDataRagged : MsgID {
+    chartDataRagged(const std::wstring& series, const std::wstring& values, const std::wstring& categories)
+        : MsgID(kCatalog, "chartDataRagged", {series, values, categories}) {}
+};
+/// A chart is given more categories or series than a workbook holds.
+struct VELLOX_API chartDataTooLarge : MsgID {
+    chartDataTooLarge(const std::wstring& categories, const std::wstring& series)
+        : MsgID(kCatalog, "chartDataTooLarge", {categories, series}) {}
+};
+/// A value of a chart is no number, or an infinite one; values count from 1.
+struct VELLOX_API chartValueNoNumber : MsgID {
+    chartValueNoNumber(const std::wstring& series, const std::wstring& position, const std::wstring& value)
+        : MsgID(kCatalog, "chartValueNoNumber", {series, position, value}) {}
+};
+/// A chart of the template can't be given data.
+struct VELLOX_API unsupportedChart : MsgID {
+    unsupportedChart(const std::wstring& slide, const std::wstring& chart, const std::wstring& kind)
+        : MsgID(kCatalog, "unsupportedChart", {slide, chart, kind}) {}
+};
+/// The workbook of a chart can't be made.
+struct VELLOX_API chartWorkbookFailed : MsgID {
+    chartWorkbookFailed(const std::wstring& chart, const std::wstring& reason)
+        : MsgID(kCatalog, "chartWorkbookFailed", {chart, reason}) {}
+};
 /// A table that stands nowhere is to be replaced.
 struct VELLOX_API tableCannotBeReplaced : MsgID {
     tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}
@@ -410,6 +448,14 @@ struct VELLOX_API cannotChangeOutputPath : MsgID {
 /// The template path of an open presentation is to change.
 struct VELLOX_API cannotChangeTemplatePath : MsgID {
     cannotChangeTemplatePath() : MsgID(kCatalog, "cannotChangeTemplatePath", 0) {}
+};
+/// The template has macros, and a file with the extension of the output can't have any.
+struct VELLOX_API macrosLeftOut : MsgID {
+    macrosLeftOut() : MsgID(kCatalog, "macrosLeftOut", 0) {}
+};
+/// The template is signed, and what was signed isn't the deck.
+struct VELLOX_API signaturesRemoved : MsgID {
+    signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
 };
 /// The profile of an open presentation is to change.
 struct VELLOX_API cannotChangeProfile : MsgID {

@@ -54,6 +54,10 @@ void RelationshipSource::deleteRelationship(const std::wstring& id) {
     getTable().remove(id);
 }
 
+void RelationshipSource::deleteRelationships(const std::wstring& type) {
+    getTable().removeOfType(type);
+}
+
 // Part
 
 Part::Part(boost::shared_ptr<PackageContents> contents, boost::shared_ptr<PhysicalPart> physical)

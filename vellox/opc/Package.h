@@ -41,6 +41,8 @@ public:
     Relationship createExternalRelationship(const std::wstring& type, const std::wstring& target,
                                             const std::wstring& id);
     void deleteRelationship(const std::wstring& id);
+    /// All of a type.
+    void deleteRelationships(const std::wstring& type);
 
 protected:
     virtual RelationshipTable& getTable() const = 0;

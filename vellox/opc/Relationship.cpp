@@ -91,8 +91,15 @@ const Relationship& RelationshipTable::addExternal(const std::wstring& type, con
 }
 
 void RelationshipTable::remove(const std::wstring& id) {
-    const auto end = std::remove_if(rows_.begin(), rows_.end(),
-                                    [&](const Relationship& row) { return row.getID() == id; });
+    removeIf([&](const Relationship& row) { return row.getID() == id; });
+}
+
+void RelationshipTable::removeOfType(const std::wstring& type) {
+    removeIf([&](const Relationship& row) { return row.getType() == type; });
+}
+
+template <class Condition> void RelationshipTable::removeIf(Condition isCondemned) {
+    const auto end = std::remove_if(rows_.begin(), rows_.end(), isCondemned);
     isChanged_ = isChanged_ || end != rows_.end();
     rows_.erase(end, rows_.end());
     rowByID_.clear();

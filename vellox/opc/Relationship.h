@@ -65,10 +65,12 @@ public:
     const Relationship& addExternal(const std::wstring& type, const std::wstring& target,
                                     const std::wstring& id);
     void remove(const std::wstring& id);
+    void removeOfType(const std::wstring& type);
 
     bool isChanged() const { return isChanged_; }
 
 private:
+    template <class Condition> void removeIf(Condition isCondemned);
     void index(std::size_t row);
     std::wstring chooseID(const std::wstring& wanted);
     const Relationship& add(Relationship row);

@@ -25,6 +25,20 @@ def read_frame(frame: Any) -> list[list[Any]]:
     return rows + [list(row) for row in zip(*columns)] if columns else []
 
 
+def read_dictionary(columns: dict[Any, Any]) -> list[list[Any]]:
+    """The names of columns, then their rows; columns of different lengths are an error."""
+    lists = [_read_values(column) for column in columns.values()]
+    if len({len(column) for column in lists}) > 1:
+        raise ValueError(f"columns have different lengths: {[len(column) for column in lists]}")
+    return [[str(name) for name in columns], *(list(row) for row in zip(*lists))] if lists else []
+
+
+def _read_values(column: Any) -> list[Any]:
+    if hasattr(column, "dtype"):
+        return _to_list(read_column(column) if hasattr(column, "to_numpy") else column)
+    return list(column)
+
+
 def read_column(column: Any) -> Any:
     """The values of a series, an index or an array: a list, or an array of NumPy."""
     codes = getattr(getattr(column, "cat", column), "codes", None)
@@ -32,7 +46,7 @@ def read_column(column: Any) -> Any:
         return _read_categories(column.dtype.categories, codes)
     if getattr(column.dtype, "kind", "") in _TIMES:
         return column.astype(str).tolist()
-    return column.to_numpy()
+    return column.to_numpy() if hasattr(column, "to_numpy") else column
 
 
 def _read_columns(frame: Any, count: int) -> list[list[Any]]:

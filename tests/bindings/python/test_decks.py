@@ -77,6 +77,34 @@ def test_decks_of_a_template_that_is_read_once(tmp_path):
     assert b"this week&apos;s" in read_parts(output)[b"ppt/slides/slide2.xml"].replace(b"'", b"&apos;")
 
 
+def test_charts_get_data(tmp_path):
+    sys.path.insert(0, str(EXAMPLES.parent / "benchmarks"))
+    from charts import add_charts
+    sys.path.pop(0)
+    plain, template, path = tmp_path / "plain.pptx", tmp_path / "template.pptx", tmp_path / "deck.pptx"
+    with vellox.deck(plain) as deck:
+        deck.add("Blank")
+        deck.add("Blank")
+        deck.add("Blank")
+    add_charts(plain, template)
+    frame = pd.DataFrame({"North": [1.5, np.nan], "South": [2, 3]}, index=["Spring", "Summer"])
+    with vellox.deck(path, template) as deck:
+        given = [(frame.index, frame), (frame.reset_index(),),
+                 (["Spring", "Summer"], {"North": [1.5, None], "South": np.array([2, 3])})]
+        for slide, data in zip(deck, given):
+            assert slide.getChartNames() == ["Chart"]
+            slide.chart("Chart").setData(*data)
+        with pytest.raises(LookupError, match='no chart "Other"'):
+            slide.chart("Other")
+        with pytest.raises(ValueError, match="different lengths"):
+            slide.chart("Chart").setData(["a"], {"A": [1], "B": [1, 2]})
+        with pytest.raises(ValueError, match="is no number: much"):
+            slide.chart("Chart").setData(["a"], {"A": ["much"]})
+    with zipfile.ZipFile(path) as package:
+        charts = [package.read(f"ppt/charts/chart{i}.xml").decode() for i in (1, 2, 3)]
+    assert re.findall("<c:v>([^<]*)</c:v>", charts[0]) == ["North", "Spring", "Summer", "1.5",
+                                                           "South", "Spring", "Summer", "2", "3"]
+    assert charts[1] == charts[0] and charts[2] == charts[0]
 def test_a_template_is_inspected_and_healed(tmp_path):
     template = tmp_path / "template.pptx"
     ppt.Presentation(template).open()

@@ -58,53 +58,6 @@ TEST_F(OfficeDeckTest, FilesHaveTheNamesThatTheSystemTakes) {
     }
 }
 
-TEST_F(OfficeDeckTest, TheFormerFileStaysUntilTheDeckIsWhole) {
-    writeFile(output, "last week's");
-    writeParts(folder / L"t.pptx", getTemplateParts());
-    const Texts before = folder.list();
-    const auto expectUntouched = [&] {
-        EXPECT_EQ(readFile(output), "last week's");
-        EXPECT_EQ(folder.list(), before);
-    };
-    {
-        Presentation forgotten = Presentation::forOffice(output, folder / L"t.pptx");
-        forgotten.add(L"Title Only").replace(L"Title", L"forgotten");
-        expectUntouched();
-    }
-    expectUntouched();
-    Presentation failing = Presentation::forOffice(output, folder / L"t.pptx");
-    failing.add(L"Blank").add(Picture(folder / L"none.png"));
-    EXPECT_EQ(errorOf([&] { failing.close(); }).substr(0, 28), "ppt_error:missingPictureFile");
-    expectUntouched();
-    const boost::shared_ptr<PPTObject> copy = failing.clone();
-    EXPECT_TRUE(static_cast<Presentation&>(*copy).close()); // a copy writes nothing
-    expectUntouched();
-
-    // Over their own template, and the last of two wins.
-    deck = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
-    deck.add(L"Title Only").replace(L"Title", L"one");
-    Presentation other = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
-    other.add(L"Title Only").replace(L"Title", L"two");
-    EXPECT_TRUE(deck.close());
-    EXPECT_TRUE(other.close() && !other.close());
-    EXPECT_TRUE(findFaults(folder / L"t.pptx").empty());
-    EXPECT_EQ(runsOf(readParts(folder / L"t.pptx").at("ppt/slides/slide1.xml")), "two");
-    EXPECT_EQ(folder.list(), before);
-}
-
-TEST_F(OfficeDeckTest, OutputsThatCantBeAreToldAtOnce) {
-    std::filesystem::create_directory(folder.getPath() / "d.pptx");
-    EXPECT_EQ(errorOf([&] { Presentation::forOffice(folder / L"d.pptx").open(); }).substr(0, 24),
-              "ppt_error:cannotOpenFile");
-    // What is wrong with a template is no reason not to try again.
-    writeFile(folder / L"t.pptx", "no archive");
-    deck = Presentation::forOffice(output, folder / L"t.pptx");
-    EXPECT_EQ(errorOf([&] { deck.open(); }).substr(0, 24), "ppt_error:cannotOpenFile");
-    writeParts(folder / L"t.pptx", getTemplateParts());
-    deck.add(L"Blank");
-    close();
-}
-
 TEST_F(OfficeDeckTest, DesignedLayoutsGiveTheirPlaceholders) {
     builder.addMaster("Theme");
     Page& layout = builder.addLayout(

@@ -117,7 +117,8 @@ TEST(ClassicRules, PackagesAndIds) {
     EXPECT_EQ(rules.refuse({false, contenttype::kMainTypes[0].contentType}), Refusal::NoMainPart);
     EXPECT_EQ(rules.refuse({true, L"application/xml"}), Refusal::OtherMainType);
     for (const contenttype::MainType& row : contenttype::kMainTypes)
-        EXPECT_EQ(rules.refuse({true, row.contentType}), Refusal::None);
+        EXPECT_EQ(rules.refuse({true, row.contentType}),
+                  row.hasMacros ? Refusal::OtherMainType : Refusal::None);
     EXPECT_EQ(rules.firstFreeId({true, 40}), 41u);
     EXPECT_EQ(rules.firstFreeId({false, 40}), 1u);
 }

@@ -39,6 +39,7 @@ template <> inline constexpr const char* kBoundName<PPTObject> = "Object";
 template <> inline constexpr const char* kBoundName<PPTNode> = "Node";
 template <> inline constexpr const char* kBoundName<Template> = "Template";
 template <> inline constexpr const char* kBoundName<Slide> = "Slide";
+template <> inline constexpr const char* kBoundName<Chart> = "Chart";
 template <> inline constexpr const char* kBoundName<Shape> = "Shape";
 template <> inline constexpr const char* kBoundName<TextBox> = "TextBox";
 template <> inline constexpr const char* kBoundName<Picture> = "Picture";

@@ -55,7 +55,7 @@ const std::vector<BoundClass>& getBoundClasses() {
         auto& all = *new std::vector<BoundClass>; // never ended: a host may die late
         for (const auto describeFamily :
              {describeNodes, describeFormats, describeText, describeShapes, describePlaceholders,
-              describeTables, describeSlides, describeMessages})
+              describeTables, describeCharts, describeSlides, describeMessages})
             append(all, describeFamily());
         return all;
     }

@@ -17,6 +17,7 @@ std::vector<BoundClass> describeText();
 std::vector<BoundClass> describeShapes();
 std::vector<BoundClass> describePlaceholders();
 std::vector<BoundClass> describeTables();
+std::vector<BoundClass> describeCharts();
 std::vector<BoundClass> describeSlides();
 std::vector<BoundClass> describeMessages();
 /// @}

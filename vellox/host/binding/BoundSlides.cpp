@@ -30,6 +30,10 @@ Slide addOfMasterAt(Presentation& deck, Wide layout, Wide master, unsigned int p
     return deck.add(layout, master, toIndex(deck, position));
 }
 
+TextCells getChartNames(Slide& slide) {
+    return {1, slide.getChartNames()};
+}
+
 template <class T> using Optional = std::optional<T>;
 
 Slide addWith(Presentation& deck, Wide layout, const Optional<Contents>& contents,
@@ -251,6 +255,9 @@ BoundClass describeSlide() {
         Method<Slide, Picture(const Picture&)>::row<&Slide::add>("add", {"picture"}, kAddObject),
         Method<Slide, Table(const Table&)>::row<&Slide::add>("add", {"table"}, kAddObject),
         Method<Slide, TextBox(const TextBox&)>::row<&Slide::add>("add", {"textBox"}, kAddObject),
+        Method<Slide, Chart(Wide)>::row<&Slide::chart>("chart", {"name"},
+                                                       "A chart of the template by its name."),
+        Method<Slide, TextCells()>::row<&getChartNames>("getChartNames", {}, "The names of those charts."),
         Method<Slide, PPTNode::Children(Wide)>::row<&Slide::find>("find", {"name"}, "All shapes of a name."),
         Method<Slide, void(Wide, Wide)>::row<&Slide::add>(
             "add", {"name", "text"}, "Adds a new paragraph to the text boxes and placeholders of a name."),

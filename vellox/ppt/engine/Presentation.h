@@ -174,6 +174,8 @@ public:
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
     /// | charactersDropped | warning | a text or a name holds characters that no file can |
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
+    /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
+    /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
     /// | cannotChangeProfile | warning | the profile of an open presentation was to change |
     /// | emptyPlaceholder | info | a placeholder of a new slide got nothing |
     /// | textTooLong | warning | a text takes more room than its box has, by an estimate |

@@ -220,8 +220,10 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     writer.prepare(slides);
     for (const Child& slide : slides)
         writer.write(*slide);
+    writer.writeCharts();
     state_ = PresentationState::Closed;
     attempt.keep();
+    writer.setReporter(this);
     writer.finish();
 }
 

@@ -48,11 +48,17 @@ TemplateImpl::Contents TemplateImpl::read(const Rules& rules) const {
     package.openRead(boost::make_shared<boost::interprocess::ibufferstream>(bytes_->data(), bytes_->size()));
     PartDOMBuilder builder(package);
     TemplateReader reader(builder, rules);
-    if (reader.load() != Refusal::None)
-        raise(ppt_error::invalidTemplate(path_));
+    const auto refuse = [&](Refusal cause, const std::wstring& detail) {
+        const std::wstring words = rules.explain(cause, detail);
+        raise(ppt_error::invalidTemplate(words.empty() ? path_ : words + L": " + path_));
+    };
+    const Refusal cause = reader.load();
+    if (cause != Refusal::None)
+        refuse(cause, reader.getFacts().mainType);
     for (const auto& slide : reader.getTemplate()->slides)
         if (!TemplateParser::hasMaster(*slide))
-            raise(ppt_error::invalidTemplate(path_));
+            refuse(slide->layout ? Refusal::LayoutWithoutMaster : Refusal::SlideWithoutLayout,
+                   slide->partName);
     return reader.getTemplate();
 }
 

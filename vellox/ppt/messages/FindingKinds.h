@@ -36,6 +36,8 @@ constexpr FindingKind kFindingKinds[] = {
     {"charactersDropped", Severity::Warning},
     {"cannotChangeOutputPath", Severity::Warning},
     {"cannotChangeTemplatePath", Severity::Warning},
+    {"macrosLeftOut", Severity::Warning},
+    {"signaturesRemoved", Severity::Warning},
     {"cannotChangeProfile", Severity::Warning},
     {"emptyPlaceholder", Severity::Info},
     {"textTooLong", Severity::Warning},

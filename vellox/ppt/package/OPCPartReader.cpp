@@ -64,4 +64,8 @@ std::vector<opc::Relationship> OPCPartReader::getRelationships(const opc::Part& 
     return found;
 }
 
+std::vector<PackageExtra> OPCPartReader::findExtra(const opc::Part& mainPart, Extra what) const {
+    return ppt::findExtra(*package_, mainPart, what);
+}
+
 } // namespace vellox::ppt

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "vellox/opc/Package.h"
+#include "vellox/ppt/package/PackageExtras.h"
 
 namespace vellox::ppt {
 
@@ -37,6 +38,9 @@ public:
     std::wstring getRelationshipTarget(const opc::Part& part, const std::wstring& type) const;
     /// All relationships of a type, in the order of the package.
     std::vector<opc::Relationship> getRelationships(const opc::Part& part, const std::wstring& type) const;
+    /// An extra of the package with this main part, as ppt::findExtra().
+    /// @throws opc::Exception
+    std::vector<PackageExtra> findExtra(const opc::Part& mainPart, Extra what) const;
 
 protected:
     boost::shared_ptr<opc::Package> package_;

@@ -7,6 +7,10 @@
 
 namespace vellox::ppt::relationship {
 
+inline constexpr wchar_t kCoreProperties[] =
+    L"http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties";
+inline constexpr wchar_t kExtendedProperties[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/extended-properties";
 inline constexpr wchar_t kHyperlink[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/hyperlink";
 inline constexpr wchar_t kImage[] =
@@ -17,21 +21,33 @@ inline constexpr wchar_t kNotesSlide[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/notesSlide";
 inline constexpr wchar_t kOfficeDocument[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
+inline constexpr wchar_t kPackage[] =
+    L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/package";
+inline constexpr wchar_t kSignatureOrigin[] =
+    L"http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/origin";
 inline constexpr wchar_t kSlide[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slide";
 inline constexpr wchar_t kSlideLayout[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slideLayout";
 inline constexpr wchar_t kSlideMaster[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/slideMaster";
+inline constexpr wchar_t kStrictOfficeDocument[] =
+    L"http://purl.oclc.org/ooxml/officeDocument/relationships/officeDocument";
 inline constexpr wchar_t kTableStyles[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/tableStyles";
 inline constexpr wchar_t kTheme[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/theme";
+inline constexpr wchar_t kThumbnail[] =
+    L"http://schemas.openxmlformats.org/package/2006/relationships/metadata/thumbnail";
+inline constexpr wchar_t kVbaProject[] = L"http://schemas.microsoft.com/office/2006/relationships/vbaProject";
 
 } // namespace vellox::ppt::relationship
 
 namespace vellox::ppt::contenttype {
 
+inline constexpr wchar_t kChart[] = L"application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+inline constexpr wchar_t kWorkbook[] = L"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
+inline constexpr wchar_t kCoreProperties[] = L"application/vnd.openxmlformats-package.core-properties+xml";
 inline constexpr wchar_t kSlide[] = L"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
 inline constexpr wchar_t kTableStyles[] =
     L"application/vnd.openxmlformats-officedocument.presentationml.tableStyles+xml";
@@ -46,6 +62,7 @@ inline constexpr wchar_t kTheme[] = L"application/vnd.openxmlformats-officedocum
 struct MainType {
     const wchar_t* extension;
     const wchar_t* contentType;
+    bool hasMacros = false;
 };
 
 /// Readers refuse a file whose main part is of another of these types than its extension says.
@@ -53,6 +70,9 @@ inline constexpr MainType kMainTypes[] = {
     {L"pptx", L"application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml"},
     {L"potx", L"application/vnd.openxmlformats-officedocument.presentationml.template.main+xml"},
     {L"ppsx", L"application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml"},
+    {L"pptm", L"application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml", true},
+    {L"potm", L"application/vnd.ms-powerpoint.template.macroEnabled.main+xml", true},
+    {L"ppsm", L"application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml", true},
 };
 
 /// Images that aren't among the common files of `FileUtils::getContentType`, by extension in lower case:

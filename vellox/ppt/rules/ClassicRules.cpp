@@ -23,10 +23,29 @@ Appearance ClassicRules::appearsWhen() const {
 Refusal ClassicRules::refuse(const PackageFacts& package) const {
     if (!package.hasMainPart)
         return Refusal::NoMainPart;
-    const bool isKnown =
-        std::any_of(std::begin(contenttype::kMainTypes), std::end(contenttype::kMainTypes),
-                    [&](const contenttype::MainType& row) { return package.mainType == row.contentType; });
-    return isKnown ? Refusal::None : Refusal::OtherMainType;
+    for (const contenttype::MainType& row : contenttype::kMainTypes)
+        if (!row.hasMacros && package.mainType == row.contentType)
+            return Refusal::None;
+    return Refusal::OtherMainType;
+}
+
+std::wstring ClassicRules::explain(Refusal, const std::wstring&) const {
+    return {};
+}
+
+bool ClassicRules::takesAnyPrefix() const {
+    return false;
+}
+
+std::wstring ClassicRules::chooseMainType(const std::wstring& present, const std::wstring& extension) const {
+    for (const contenttype::MainType& row : contenttype::kMainTypes)
+        if (!row.hasMacros && extension == row.extension)
+            return row.contentType;
+    return present;
+}
+
+bool ClassicRules::leavesOut(Extra, const std::wstring&) const {
+    return false;
 }
 
 bool ClassicRules::namesNearest() const {

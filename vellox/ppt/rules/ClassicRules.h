@@ -13,6 +13,10 @@ public:
     FileNameFault judgeFileName(const std::wstring& name) const override;
     Appearance appearsWhen() const override;
     Refusal refuse(const PackageFacts& package) const override;
+    std::wstring explain(Refusal cause, const std::wstring& detail) const override;
+    bool takesAnyPrefix() const override;
+    std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const override;
+    bool leavesOut(Extra what, const std::wstring& mainType) const override;
     bool namesNearest() const override;
     bool sendsFindings() const override;
     Names nameMasters(const Names& themes) const override;

@@ -23,14 +23,21 @@ namespace vellox::ppt {
 struct PackageFacts {
     bool hasMainPart = false;
     std::wstring mainType; ///< content type of the main part
+    bool isStrict = false; ///< its main part is named as the strict form has it
 };
 
 /// Why a package is no template.
 enum class Refusal {
-    None,         ///< it is one
-    NoMainPart,   ///< nothing leads to a main part, or there is none where it leads
-    OtherMainType ///< its main part is something else
+    None,          ///< it is one
+    NoMainPart,    ///< nothing leads to a main part, or there is none where it leads
+    OtherMainType, ///< its main part is something else
+    StrictForm,    ///< it is in the form of the format whose names are all different
+    SlideWithoutLayout,
+    LayoutWithoutMaster
 };
+
+/// What a package may have beside its presentation.
+enum class Extra { Macros, Signatures, Thumbnail };
 
 /// When the file of a deck comes to its place.
 enum class Appearance {

@@ -1,6 +1,7 @@
 #include "vellox/ppt/rules/OfficeRules.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/rules/Sequences.h"
 #include "vellox/ppt/rules/TableStyles.h"
 
@@ -67,6 +68,64 @@ bool OfficeRules::sendsFindings() const {
 // A deck that is never finished costs nobody the one before it.
 Appearance OfficeRules::appearsWhen() const {
     return Appearance::AtClose;
+}
+
+namespace {
+
+const contenttype::MainType* findMainType(const std::wstring& contentType) {
+    for (const contenttype::MainType& row : contenttype::kMainTypes)
+        if (contentType == row.contentType)
+            return &row;
+    return nullptr;
+}
+
+} // namespace
+
+Refusal OfficeRules::refuse(const PackageFacts& package) const {
+    if (package.isStrict)
+        return Refusal::StrictForm;
+    if (!package.hasMainPart)
+        return Refusal::NoMainPart;
+    return findMainType(package.mainType) ? Refusal::None : Refusal::OtherMainType;
+}
+
+std::wstring OfficeRules::explain(Refusal cause, const std::wstring& detail) const {
+    switch (cause) {
+    case Refusal::NoMainPart:
+        return L"it has no main part";
+    case Refusal::OtherMainType:
+        if (detail.find(L"wordprocessingml") != std::wstring::npos)
+            return L"it is a text document";
+        if (detail.find(L"spreadsheetml") != std::wstring::npos)
+            return L"it is a workbook";
+        return L"its main part is no presentation, but has the type \"" + detail + L"\"";
+    case Refusal::StrictForm:
+        return L"it is in the strict form of Office Open XML, and has to be saved in the transitional one";
+    case Refusal::SlideWithoutLayout:
+        return L"its slide " + detail + L" has no layout";
+    case Refusal::LayoutWithoutMaster:
+        return L"the layout of its slide " + detail + L" has no slide master";
+    case Refusal::None:
+        break;
+    }
+    return {};
+}
+
+bool OfficeRules::takesAnyPrefix() const {
+    return true;
+}
+
+std::wstring OfficeRules::chooseMainType(const std::wstring& present, const std::wstring& extension) const {
+    for (const contenttype::MainType& row : contenttype::kMainTypes)
+        if (extension == row.extension)
+            return row.contentType;
+    return present;
+}
+
+// What was signed is the template, and its thumbnail shows that too.
+bool OfficeRules::leavesOut(Extra what, const std::wstring& mainType) const {
+    const contenttype::MainType* row = findMainType(mainType);
+    return what != Extra::Macros || !row || !row->hasMacros;
 }
 
 Rules::Names OfficeRules::nameMasters(const Names& themes) const {

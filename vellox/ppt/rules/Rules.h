@@ -23,6 +23,17 @@ public:
     virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
     virtual Refusal refuse(const PackageFacts& package) const = 0;
+    /// What is told of a refusal ahead of the path; it may be nothing.
+    /// @param detail what it is about: the type of the main part, or the name of a slide's part
+    virtual std::wstring explain(Refusal cause, const std::wstring& detail) const = 0;
+    /// Whether names count by their namespaces, however their prefixes are spelled.
+    virtual bool takesAnyPrefix() const = 0;
+    /// The content type of a deck's main part.
+    /// @param present that of the template
+    /// @param extension of the output, in lower case
+    virtual std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const = 0;
+    /// Whether something that the template's package has stays behind, for a deck with a main part of this type.
+    virtual bool leavesOut(Extra what, const std::wstring& mainType) const = 0;
     /// Whether the errors of unknown names tell in their text which are near.
     virtual bool namesNearest() const = 0;
     /// Whether what a presentation finds is also sent as a warning.

@@ -9,6 +9,7 @@
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 #include "vellox/ppt/template/SlideSource.h"
+#include "vellox/ppt/xml/Prefixes.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -33,22 +34,24 @@ TemplateReader::TemplateReader(PartDOMBuilder& builder, const Rules& rules)
       template_(boost::make_shared<ReadTemplate>()) {}
 
 Refusal TemplateReader::load() {
-    PackageFacts facts;
     template_->presentationPartName = builder_.getRelationshipTarget(relationship::kOfficeDocument);
-    facts.hasMainPart =
+    facts_.isStrict = template_->presentationPartName.empty() &&
+                      !builder_.getRelationshipTarget(relationship::kStrictOfficeDocument).empty();
+    facts_.hasMainPart =
         !template_->presentationPartName.empty() && builder_.hasPart(template_->presentationPartName);
-    if (!facts.hasMainPart)
-        return rules_.refuse(facts);
+    if (!facts_.hasMainPart)
+        return rules_.refuse(facts_);
     const opc::Part presentation = builder_.getPart(template_->presentationPartName);
-    facts.mainType = presentation.getContentType().toString();
-    const Refusal refusal = rules_.refuse(facts);
+    facts_.mainType = presentation.getContentType().toString();
+    const Refusal refusal = rules_.refuse(facts_);
     if (refusal == Refusal::None) {
-        template_->presentationDocument.reset(builder_.getDocument(presentation));
+        template_->presentationDocument = readDocument(presentation);
         const DOMElement* root = template_->presentationDocument->getDocumentElement();
         template_->slideHeight = getAttribute(findChild(root, xml::kSldSz), xml::kCy);
         loadMasters(presentation);
         loadSlides(presentation);
         settleFields();
+        loadExtras(presentation);
     }
     const std::wstring tableStyles = builder_.getRelationshipTarget(presentation, relationship::kTableStyles);
     if (!tableStyles.empty())
@@ -56,6 +59,21 @@ Refusal TemplateReader::load() {
     if (refusal == Refusal::None)
         result_ = template_;
     return refusal;
+}
+
+// What the main type will be isn't known yet: all that may be left out of some deck is found.
+void TemplateReader::loadExtras(const opc::Part& presentation) {
+    for (const Extra what : {Extra::Macros, Extra::Signatures, Extra::Thumbnail})
+        if (rules_.leavesOut(what, {}))
+            for (PackageExtra& extra : builder_.findExtra(presentation, what))
+                template_->extras.push_back(std::move(extra));
+}
+
+OwnedDocument TemplateReader::readDocument(const opc::Part& part) {
+    OwnedDocument document(builder_.getDocument(part));
+    if (rules_.takesAnyPrefix())
+        useUsualPrefixes(*document.get());
+    return document;
 }
 
 // Masters, themes, layouts
@@ -78,7 +96,7 @@ void TemplateReader::loadMaster(const opc::Part& presentation,
     const opc::Part part = builder_.getPart(presentation.getRelationshipByID(master->relationshipId));
     master->partName = part.getName().toString();
     template_->mastersByPartName.emplace(master->partName, master);
-    const OwnedDocument document(builder_.getDocument(part));
+    const OwnedDocument document = readDocument(part);
     for (const DOMElement* properties : getElementsByName(document.get(), xml::kCNvPr)) {
         const std::wstring id = getAttribute(properties, xml::kId);
         const auto* shape = dynamic_cast<DOMElement*>(properties->getParentNode()->getParentNode());
@@ -102,7 +120,7 @@ void TemplateReader::loadTheme(const opc::Part& masterPart, TemplateMaster& mast
     const std::wstring target = builder_.getRelationshipTarget(masterPart, relationship::kTheme);
     if (target.empty())
         return;
-    const OwnedDocument document(builder_.getDocument(builder_.getPart(target)));
+    const OwnedDocument document = readDocument(builder_.getPart(target));
     const std::vector<DOMElement*> themes = getElementsByName(document.get(), xml::kATheme);
     master.theme = boost::make_shared<TemplateTheme>();
     master.theme->partName = target;
@@ -169,7 +187,7 @@ void TemplateReader::loadLayouts(const opc::Part& masterPart, DOMDocument* docum
 // The document of a layout or slide, to be marked with data-uid. Marks that it has already, from wherever, are
 // nobody's: they would lead to the wrong elements, and into the file.
 OwnedDocument TemplateReader::readMarked(const opc::Part& part) {
-    OwnedDocument document(builder_.getDocument(part));
+    OwnedDocument document = readDocument(part);
     for (DOMElement* element : getAllElements(document.get()))
         if (element->hasAttribute(xml::kDataUid))
             element->removeAttribute(xml::kDataUid);
@@ -359,7 +377,7 @@ void TemplateReader::chooseSizes(TemplateShape& shape, const ShapeFacts& facts, 
 void TemplateReader::loadTableStyles(const std::wstring& partName) {
     const opc::Part part = builder_.getPart(partName);
     template_->tableStylesPartName = part.getName().toString();
-    template_->tableStylesDocument.reset(builder_.getDocument(part));
+    template_->tableStylesDocument = readDocument(part);
     DOMDocument* document = template_->tableStylesDocument.get();
     template_->defaultTableStyleId = getAttribute(document->getDocumentElement(), xml::kDef);
     for (const DOMElement* element : getElementsByName(document, xml::kATblStyle)) {

@@ -27,10 +27,13 @@ public:
     /// @return Refusal::None if there is a template now
     /// @throws partDOMBuildError, opc::Exception
     Refusal load();
+    /// What is to be told of the refusal, from what was read so far.
+    const PackageFacts& getFacts() const { return facts_; }
     /// Empty before that.
     const boost::shared_ptr<const ReadTemplate>& getTemplate() const { return result_; }
 
 private:
+    void loadExtras(const opc::Part& presentation);
     void loadMasters(const opc::Part& presentation);
     void loadMaster(const opc::Part& presentation, const boost::shared_ptr<TemplateMaster>& master);
     void loadTheme(const opc::Part& masterPart, TemplateMaster& master);
@@ -39,6 +42,7 @@ private:
     void loadSlides(const opc::Part& presentation);
     boost::shared_ptr<const TemplateSlide> loadSlide(const opc::Part& presentation, TemplateSlide slide);
     void loadTableStyles(const std::wstring& partName);
+    OwnedDocument readDocument(const opc::Part& part);
     OwnedDocument readMarked(const opc::Part& part);
     boost::shared_ptr<TemplateMaster> findMaster(const std::wstring& target) const;
     boost::shared_ptr<TemplateLayout> getLayout(const opc::Part& part);
@@ -62,6 +66,7 @@ private:
 
     PartDOMBuilder& builder_;
     const Rules& rules_;
+    PackageFacts facts_;
     boost::shared_ptr<ReadTemplate> template_;
     boost::shared_ptr<const ReadTemplate> result_;
     TemplateShapes page_; ///< all records of the layout or slide that is being read

@@ -16,6 +16,7 @@
 #include "vellox/foundation/Dimension.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/NodeType.h"
+#include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/template/TextSizes.h"
 #include "vellox/ppt/xml/Dom.h"
@@ -159,6 +160,7 @@ struct ReadTemplate {
     std::map<std::wstring, boost::shared_ptr<TemplateLayout>> layoutsByPartName;
     std::vector<boost::shared_ptr<const TemplateSlide>> slides; ///< in the order of the presentation part
     std::vector<boost::shared_ptr<TemplateTableStyle>> tableStyles;
+    std::vector<PackageExtra> extras; ///< those that the rules may leave out
     std::wstring tableStylesPartName; ///< empty if there is none
     OwnedDocument tableStylesDocument;
     std::wstring defaultTableStyleId; ///< of new tables; empty if the template doesn't say

@@ -1,7 +1,10 @@
 #include "vellox/ppt/tree/Slide.h"
 
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ByName.h"
+#include "vellox/ppt/tree/ChartImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -29,6 +32,7 @@ SlideImpl::SlideImpl(const SlideImpl& other) : SlideImpl(other, other.templateSl
 
 SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSlide>& templateSlide)
     : NodeOf(other),
+      charts_(other.charts_),
       isHidden_(other.isHidden_),
       dropped_(other.dropped_),
       slideMasterName_(other.slideMasterName_),
@@ -39,6 +43,20 @@ SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSli
 
 SlideImpl::~SlideImpl() {
     announceDestroyed(*this);
+}
+
+ChartRecord& SlideImpl::requireChart(const std::wstring& name) {
+    const auto found = charts_.find(name);
+    if (found != charts_.end())
+        return found->second;
+    std::wstring names;
+    for (const ChartRecord& chart :
+         templateSlide_ ? findCharts(*templateSlide_) : std::vector<ChartRecord>()) {
+        if (chart.name == name)
+            return charts_[name] = chart;
+        names += (names.empty() ? L"\"" : L", \"") + chart.name + L"\"";
+    }
+    raise(ppt_error::noSuchChart(name, names.empty() ? L"-" : names));
 }
 
 void SlideImpl::dropShape(const PPTNode& shape) {
@@ -131,6 +149,19 @@ PPTNode::Children Slide::find(const std::wstring& name) const {
     Children found;
     findNodes(this, name, found);
     return found;
+}
+
+Chart Slide::chart(const std::wstring& name) {
+    pimpl()->requireChart(name);
+    return *ObjectAccess::makeFacade<Chart>(new ChartImpl(boost::intrusive_ptr<SlideImpl>(pimpl()), name));
+}
+
+const std::vector<std::wstring> Slide::getChartNames() const {
+    std::vector<std::wstring> names;
+    if (const auto& slide = pimpl()->getTemplateSlide())
+        for (const ChartRecord& chart : findCharts(*slide))
+            names.push_back(chart.name);
+    return names;
 }
 
 const std::wstring& Slide::getLayoutName() const {

@@ -5,10 +5,12 @@
 #define VELLOX_PPT_TREE_SLIDE_H
 
 #include <string>
+#include <vector>
 
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/object/Content.h"
 #include "vellox/ppt/object/Element.h"
+#include "vellox/ppt/tree/Chart.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
@@ -77,6 +79,12 @@ public:
 
     /// All shapes of the name, a group ahead of what it holds.
     Children find(const std::wstring& name) const;
+
+    /// A chart of the template by its name; the first, if there are several. Slides of layouts have none of their own.
+    /// @throws noSuchChart with the names that there are
+    Chart chart(const std::wstring& name);
+    /// The names of those charts, those in groups too.
+    const std::vector<std::wstring> getChartNames() const;
 
     const std::wstring& getLayoutName() const;
     const std::wstring& getSlideMasterName() const;

@@ -4,9 +4,11 @@
 #ifndef VELLOX_PPT_TREE_SLIDEIMPL_H
 #define VELLOX_PPT_TREE_SLIDEIMPL_H
 
+#include <map>
+
 #include "vellox/ppt/object/ElementImpl.h"
 #include "vellox/ppt/object/NodeOf.h"
-#include "vellox/ppt/template/TemplateRecords.h"
+#include "vellox/ppt/template/ChartRecords.h"
 #include "vellox/ppt/tree/Slide.h"
 
 namespace vellox::ppt {
@@ -35,7 +37,14 @@ public:
     /// A slide with the same shapes under the same names, on a record.
     Child copyOn(const boost::shared_ptr<TemplateSlide>& record) const;
 
+    /// A chart of the template on this slide.
+    /// @throws noSuchChart
+    ChartRecord& requireChart(const std::wstring& name);
+    /// Those that have been asked for.
+    const std::map<std::wstring, ChartRecord>& getCharts() const { return charts_; }
+
 private:
+    std::map<std::wstring, ChartRecord> charts_;
     bool isHidden_ = false;
     std::vector<std::wstring> dropped_;
     std::wstring slideMasterName_;

@@ -2,7 +2,9 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
+#include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 
 #include <algorithm>
@@ -157,19 +159,18 @@ std::wstring PPTPartWriter::addRelationship(const std::wstring& partName, const 
     return getPart(partName).createInternalRelationship(type, opc::PartName(target).toURI(), {}).getID();
 }
 
-void PPTPartWriter::alignMainType(const std::wstring& mainPartName) {
+std::wstring PPTPartWriter::alignMainType(const std::wstring& mainPartName, const Rules& rules) {
     const std::wstring extension = toLowerString(FileUtils::getFileNameExtension(path_));
     opc::Part mainPart = getPart(mainPartName);
     const std::wstring present = mainPart.getContentType().toString();
-    const wchar_t* wanted = nullptr;
-    bool isKnown = false;
-    for (const contenttype::MainType& row : contenttype::kMainTypes) {
-        isKnown = isKnown || present == row.contentType;
-        if (extension == row.extension)
-            wanted = row.contentType;
-    }
-    if (isKnown && wanted && present != wanted)
+    const std::wstring wanted = rules.chooseMainType(present, extension);
+    if (present != wanted)
         mainPart.setContentType(opc::ContentType(wanted));
+    return wanted;
+}
+
+void PPTPartWriter::removeExtra(const PackageExtra& extra) {
+    ppt::removeExtra(*package_, extra);
 }
 
 } // namespace vellox::ppt

@@ -13,6 +13,8 @@
 
 namespace vellox::ppt {
 
+class Rules;
+struct PackageExtra;
 struct TemplateSlide;
 
 class PPTPartWriter : public PartDOMWriter {
@@ -49,9 +51,12 @@ public:
     /// @return the id of the relationship
     std::wstring addRelationship(const std::wstring& partName, const std::wstring& type,
                                  const std::wstring& target);
-    /// Lets the type of the main part follow the extension of the output file. Other main types, such as
-    /// those of files with macros, stay.
-    void alignMainType(const std::wstring& mainPartName);
+    /// Lets the type of the main part follow the extension of the output file, as the rules have it.
+    /// @return the type from now on
+    std::wstring alignMainType(const std::wstring& mainPartName, const Rules& rules);
+    /// Takes out what the template's package had.
+    /// @throws opc::Exception
+    void removeExtra(const PackageExtra& extra);
 
 private:
     std::wstring chooseMediaName(const std::wstring& imagePath) const;

@@ -1,9 +1,12 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
@@ -28,6 +31,17 @@ PPTWriter::~PPTWriter() = default;
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+ChartParts& PPTWriter::getChartParts() {
+    if (!chartParts_)
+        chartParts_ = boost::make_shared<ChartParts>(*partWriter_);
+    return *chartParts_;
+}
+
+void PPTWriter::writeCharts() {
+    if (chartParts_)
+        chartParts_->write();
 }
 
 void PPTWriter::prepare(const PPTNode::Children& slides) {
@@ -58,7 +72,22 @@ void PPTWriter::finish() {
         removed.erase(opc::PartName(written.partName));
     removeSlides(removed, *partWriter_);
     defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
-    partWriter_->alignMainType(model_->getTemplate().presentationPartName);
+    finishPackage();
+}
+
+void PPTWriter::finishPackage() {
+    const ReadTemplate& source = model_->getTemplate();
+    const Rules& rules = model_->getRules();
+    const std::wstring mainType = partWriter_->alignMainType(source.presentationPartName, rules);
+    for (const PackageExtra& extra : source.extras) {
+        if (!rules.leavesOut(extra.what, mainType))
+            continue;
+        partWriter_->removeExtra(extra);
+        if (extra.what == Extra::Macros)
+            report(ppt_finding::macrosLeftOut());
+        else if (extra.what == Extra::Signatures)
+            report(ppt_finding::signaturesRemoved());
+    }
 }
 
 PPTWriter::Visit::Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide,

@@ -25,6 +25,7 @@ class MsgID;
 
 namespace vellox::ppt {
 
+class ChartParts;
 class ExternalLinkImpl;
 class FormatsInForce;
 class NotesParts;
@@ -121,9 +122,12 @@ public:
 
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
-    /// Null between shapes.
+    /// Null between shapes, but the presentation while the writing is ended.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
+    ChartParts& getChartParts();
+    /// Gives charts their data, once all slides are written: a copy of a slide has its charts as the original had them.
+    void writeCharts();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     SlideCopies& getCopies() { return *copies_; }
     NotesParts& getNotes() { return *notes_; }
@@ -144,6 +148,8 @@ public:
     opc::MarkupBuffer& getMarkup() { return frame_.markup ? *frame_.markup : nowhere_; }
 
 private:
+    void finishPackage();
+
     struct Written {
         boost::shared_ptr<TemplateSlide> slide;
         std::wstring partName;
@@ -152,6 +158,7 @@ private:
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     boost::shared_ptr<PPTPartWriter> partWriter_;
+    boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
     boost::shared_ptr<SlideCopies> copies_;
     boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;

@@ -8,6 +8,7 @@
 #include "vellox/ppt/tree/GroupImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
@@ -45,6 +46,9 @@ void SlideWriter::write() {
     opc::MarkupBuffer text;
     document.writeTo(text);
     getPartWriter().writeMarkup(partName, text.get());
+    for (const auto& [name, chart] : slide_.getCharts())
+        if (chart.data)
+            getWriter().getChartParts().add(partName, getWriter().getCurrentSlideNumber(), chart);
     if (record->notes && record->notes->isChanged)
         getWriter().getNotes().write(partName, *record->notes);
 }

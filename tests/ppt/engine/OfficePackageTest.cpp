@@ -1,0 +1,217 @@
+// Packages of the office profile: what may be a template, what comes along, and when the file appears.
+
+#include "vellox/check/PackageCheck.h"
+
+#include "tests/support/DeckTest.h"
+#include "tests/support/TemplateBuilder.h"
+#include "vellox/ppt/tree/Picture.h"
+
+using namespace vellox;
+using namespace vellox::ppt;
+using namespace vellox::test;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class OfficePackageTest : public DeckTest {
+protected:
+    TemplateBuilder builder;
+};
+
+// The parts of a template with macros, a signature and a thumbnail that a slide shows too.
+Parts withExtras(Parts parts) {
+    const auto add = [&](const std::string& table, const std::string& type, const std::string& target) {
+        std::string& rows = parts[table];
+        if (rows.empty())
+            rows = "<Relationships xmlns='http://schemas.openxmlformats.org/package/2006/relationships'>"
+                   "</Relationships>";
+        rows.insert(rows.rfind("</"), "<Relationship Id='x" + std::to_string(rows.size()) + "' Type='" +
+                                          type + "' Target='/" + target + "'/>");
+        parts[target] = target;
+    };
+    const std::string microsoft = "http://schemas.microsoft.com/office/2006/relationships/";
+    const std::string package = "http://schemas.openxmlformats.org/package/2006/relationships/";
+    add("ppt/_rels/presentation.xml.rels", microsoft + "vbaProject", "ppt/vbaProject.bin");
+    add("ppt/_rels/vbaProject.bin.rels", microsoft + "vbaProjectSignature", "ppt/vbaProjectSignature.bin");
+    add("_rels/.rels", package + "digital-signature/origin", "_xmlsignatures/origin.sigs");
+    add("_xmlsignatures/_rels/origin.sigs.rels", package + "digital-signature/signature",
+        "_xmlsignatures/sig1.xml");
+    add("_rels/.rels", package + "metadata/thumbnail", "docProps/thumbnail.jpeg");
+    add("_rels/.rels", package + "metadata/thumbnail", "ppt/media/shared.jpeg");
+    add("ppt/slideLayouts/_rels/slideLayout1.xml.rels",
+        "http://schemas.openxmlformats.org/officeDocument/2006/relationships/image", "ppt/media/shared.jpeg");
+    std::string& types = parts["[Content_Types].xml"];
+    types.insert(types.find("<Override"),
+                 "<Default Extension='bin' ContentType='application/vnd.ms-office.vbaProject'/>"
+                 "<Default Extension='sigs' ContentType='application/x-sigs'/>"
+                 "<Override PartName='/_xmlsignatures/sig1.xml' ContentType='application/x-sig+xml'/>");
+    const std::string plain = "vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
+    const std::size_t main = types.find(plain);
+    types.replace(main, plain.size(), "vnd.ms-powerpoint.presentation.macroEnabled.main+xml");
+    if (types.find("Extension='jpeg'") == std::string::npos && types.find("\"jpeg\"") == std::string::npos)
+        types.insert(types.find("<Override"), "<Default Extension='jpeg' ContentType='image/jpeg'/>");
+    return parts;
+}
+
+// Every name of a document that has one of the usual prefixes gets another, and one of these something else to mean.
+std::string withOtherPrefixes(std::string xml) {
+    const auto replaceAll = [&](const std::string& from, const std::string& to) {
+        for (std::size_t at = xml.find(from); at != std::string::npos; at = xml.find(from, at + to.size()))
+            xml.replace(at, from.size(), to);
+    };
+    for (const auto& [from, to] : {std::pair("p:", ""), std::pair("a:", "draw:"), std::pair("r:", "a:")})
+        for (const std::string before : {"<", "</", " "})
+            replaceAll(before + from, before + to);
+    replaceAll("xmlns:p=", "xmlns=");
+    replaceAll("xmlns:r=", "xmlns:X=");
+    replaceAll("xmlns:a=", "xmlns:draw=");
+    replaceAll("xmlns:X=", "xmlns:a=");
+    const std::size_t root = xml.find(" xmlns=");
+    xml.insert(root,
+               " xmlns:p='urn:other' xmlns:mc='http://schemas.openxmlformats.org/markup-compatibility/2006'"
+               " mc:Ignorable='p' p:note='1'");
+    return xml;
+}
+
+TEST_F(OfficePackageTest, TheFormerFileStaysUntilTheDeckIsWhole) {
+    writeFile(output, "last week's");
+    writeParts(folder / L"t.pptx", getTemplateParts());
+    const Texts before = folder.list();
+    const auto expectUntouched = [&] {
+        EXPECT_EQ(readFile(output), "last week's");
+        EXPECT_EQ(folder.list(), before);
+    };
+    {
+        Presentation forgotten = Presentation::forOffice(output, folder / L"t.pptx");
+        forgotten.add(L"Title Only").replace(L"Title", L"forgotten");
+        expectUntouched();
+    }
+    expectUntouched();
+    Presentation failing = Presentation::forOffice(output, folder / L"t.pptx");
+    failing.add(L"Blank").add(Picture(folder / L"none.png"));
+    EXPECT_EQ(errorOf([&] { failing.close(); }).substr(0, 28), "ppt_error:missingPictureFile");
+    expectUntouched();
+    const boost::shared_ptr<PPTObject> copy = failing.clone();
+    EXPECT_TRUE(static_cast<Presentation&>(*copy).close()); // a copy writes nothing
+    expectUntouched();
+
+    // Over their own template, and the last of two wins.
+    deck = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
+    deck.add(L"Title Only").replace(L"Title", L"one");
+    Presentation other = Presentation::forOffice(folder / L"t.pptx", folder / L"t.pptx");
+    other.add(L"Title Only").replace(L"Title", L"two");
+    EXPECT_TRUE(deck.close());
+    EXPECT_TRUE(other.close() && !other.close());
+    EXPECT_TRUE(findFaults(folder / L"t.pptx").empty());
+    EXPECT_EQ(runsOf(readParts(folder / L"t.pptx").at("ppt/slides/slide1.xml")), "two");
+    EXPECT_EQ(folder.list(), before);
+}
+
+TEST_F(OfficePackageTest, OutputsThatCantBeAreToldAtOnce) {
+    std::filesystem::create_directory(folder.getPath() / "d.pptx");
+    EXPECT_EQ(errorOf([&] { Presentation::forOffice(folder / L"d.pptx").open(); }).substr(0, 24),
+              "ppt_error:cannotOpenFile");
+    // What is wrong with a template is no reason not to try again.
+    writeFile(folder / L"t.pptx", "no archive");
+    deck = Presentation::forOffice(output, folder / L"t.pptx");
+    EXPECT_EQ(errorOf([&] { deck.open(); }).substr(0, 24), "ppt_error:cannotOpenFile");
+    writeParts(folder / L"t.pptx", getTemplateParts());
+    deck.add(L"Blank");
+    close();
+}
+
+TEST_F(OfficePackageTest, MacrosGoWhereTheyMayAndSignaturesNowhere) {
+    writeParts(folder / L"t.pptm", withExtras(getTemplateParts()));
+    const auto make = [&](const wchar_t* name) {
+        deck = Presentation::forOffice(folder / name, folder / L"t.pptm");
+        deck.add(L"Blank");
+        EXPECT_TRUE(deck.close());
+        EXPECT_TRUE(findFaults(folder / name).empty());
+        const Parts parts = readParts(folder / name);
+        for (const char* gone : {"_xmlsignatures/origin.sigs", "_xmlsignatures/sig1.xml",
+                                 "_xmlsignatures/_rels/origin.sigs.rels", "docProps/thumbnail.jpeg"})
+            EXPECT_EQ(parts.count(gone), 0u) << gone;
+        EXPECT_EQ(parts.at("[Content_Types].xml").find("sig1"), std::string::npos);
+        EXPECT_EQ(parts.at("_rels/.rels").find("thumbnail"), std::string::npos);
+        EXPECT_EQ(parts.count("ppt/media/shared.jpeg"), 1u); // a layout shows it
+        return parts;
+    };
+    const auto codes = [&] {
+        Texts found;
+        for (const Finding& finding : deck.getFindings())
+            found.push_back(finding.code);
+        return found;
+    };
+    Parts parts = make(L"plain.pptx");
+    EXPECT_EQ(codes(), (Texts{"macrosLeftOut", "signaturesRemoved"}));
+    EXPECT_EQ(parts.count("ppt/vbaProject.bin") + parts.count("ppt/vbaProjectSignature.bin"), 0u);
+    EXPECT_EQ(parts.at("ppt/_rels/presentation.xml.rels").find("vba"), std::string::npos);
+    EXPECT_EQ(parts.at("[Content_Types].xml").find("macroEnabled"), std::string::npos);
+    parts = make(L"show.ppsm");
+    EXPECT_EQ(codes(), Texts{"signaturesRemoved"});
+    EXPECT_EQ(parts.count("ppt/vbaProject.bin") + parts.count("ppt/vbaProjectSignature.bin"), 2u);
+    EXPECT_NE(parts.at("[Content_Types].xml").find("slideshow.macroEnabled"), std::string::npos);
+}
+
+TEST_F(OfficePackageTest, RefusedTemplatesAreToldWhy) {
+    const auto expectReason = [&](const Parts& parts, const std::string& reason) {
+        writeParts(folder / L"t.pptx", parts);
+        const std::string path = ": " + toUtf8(folder / L"t.pptx");
+        EXPECT_EQ(errorOf([&] { Presentation::forOffice(output, folder / L"t.pptx").open(); }),
+                  "ppt_error:invalidTemplate " + reason + path);
+        EXPECT_EQ(errorOf([&] { Presentation(output, folder / L"t.pptx").open(); }),
+                  "ppt_error:invalidTemplate " + path.substr(2));
+    };
+    const auto withMainType = [](const std::string& type) {
+        return withChange(getTemplateParts(), "[Content_Types].xml", "presentationml.presentation.main",
+                          type);
+    };
+    expectReason(withMainType("wordprocessingml.document.main"), "it is a text document");
+    expectReason(withMainType("spreadsheetml.sheet.main"), "it is a workbook");
+    const std::string relationships = "schemas.openxmlformats.org/officeDocument/2006/relationships";
+    expectReason(withChange(getTemplateParts(), "_rels/.rels", relationships + "/officeDocument",
+                            "purl.oclc.org/ooxml/officeDocument/relationships/officeDocument"),
+                 "it is in the strict form of Office Open XML, and has to be saved in the transitional one");
+    expectReason(withChange(getTemplateParts(), "_rels/.rels", "/officeDocument\"", "/other\""),
+                 "it has no main part");
+    builder.addMaster("Theme");
+    Page& layout = builder.addLayout("Own");
+    builder.addSlide("Slide", layout);
+    expectReason(withChange(builder.build(), "ppt/slides/_rels/slide1.xml.rels", "slideLayout'", "other'"),
+                 "its slide /ppt/slides/slide1.xml has no layout");
+    expectReason(
+        withChange(builder.build(), "ppt/slideLayouts/_rels/slideLayout1.xml.rels", "slideMaster'", "other'"),
+        "the layout of its slide /ppt/slides/slide1.xml has no slide master");
+}
+
+TEST_F(OfficePackageTest, NamesCountByTheirNamespaces) {
+    builder.addMaster("Theme", shape(2, "Master title", "<p:ph type='title'/>", place(1, 2, 3, 4)));
+    Page& layout = builder.addLayout("Own", shape(2, "Title", "<p:ph type='title'/>") +
+                                                shape(3, "Picture", "<p:ph type='pic' idx='4'/>"));
+    builder.addSlide("Slide", layout, shape(2, "Old title", "<p:ph type='title'/>"));
+    Parts parts = builder.build();
+    for (auto& [name, bytes] : parts)
+        if (name.find("rels") == std::string::npos && name.find("ppt/") == 0)
+            bytes = withOtherPrefixes(bytes);
+    useTemplate(parts);
+    deck.setProfile(L"office");
+    EXPECT_EQ(deck.getMasterNames(), std::vector<std::wstring>{L"Theme"});
+    deck.replace(L"Old title", L"changed");
+    writeFile(folder / L"p.png", makePng(3, 4));
+    Slide slide = deck.add(L"Own");
+    slide.replace(L"Title", L"Words");
+    slide.replace(L"Picture", object(Picture(folder / L"p.png")));
+    close();
+    EXPECT_EQ(runsOf(slideXml(1)), "changed");
+    EXPECT_EQ(runsOf(slideXml(2)), "Words");
+    EXPECT_EQ(findAll(slideXml(2), "p:pic").size(), 1u);
+    EXPECT_EQ(valuesOf(slideXml(1), "p:sld", "xmlns:p1"), Texts{"urn:other"});
+    EXPECT_EQ(valuesOf(slideXml(1), "p:sld", "mc:Ignorable"), Texts{"p1"});
+    EXPECT_EQ(valuesOf(slideXml(1), "p:sld", "p1:note"), Texts{"1"});
+    for (const Finding& finding : checkPackage(output))
+        EXPECT_EQ(finding.code, "missingProperties")
+            << finding.code << " " << toUtf8(finding.part) << " " << toUtf8(finding.text);
+}
+
+} // namespace
