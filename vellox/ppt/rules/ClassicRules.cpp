@@ -44,6 +44,10 @@ std::wstring ClassicRules::chooseMainType(const std::wstring& present, const std
     return present;
 }
 
+bool ClassicRules::renewsProperties() const {
+    return false;
+}
+
 bool ClassicRules::leavesOut(Extra, const std::wstring&) const {
     return false;
 }

@@ -8,8 +8,8 @@
 #include "vellox/ppt/template/Kin.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlidePrototype.h"
-#include "vellox/ppt/xml/Prefixes.h"
 #include "vellox/ppt/template/SlideSource.h"
+#include "vellox/ppt/xml/Prefixes.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
