@@ -35,7 +35,9 @@ Commands makeCommands();
 
 std::unique_ptr<Command> makeCheckCommand();
 std::unique_ptr<Command> makeDiffCommand();
+std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeFillCommand();
+std::unique_ptr<Command> makeInspectCommand();
 std::unique_ptr<Command> makeNewCommand();
 std::unique_ptr<Command> makeTextCommand();
 

@@ -6,7 +6,7 @@ namespace vellox::cli {
 
 const StatusRow kStatuses[] = {
     {kDone, "all went well"},
-    {kFound, "a deck has errors, two decks differ, or a deck of several couldn't be made"},
+    {kFound, "a deck or template has errors, two decks differ, or a deck of several couldn't be made"},
     {kFailed, "nothing came of it: a wrong option, a file that can't be read or written"},
     {kInterrupted, "Ctrl-C ended a batch; the decks that were made are whole"},
 };
@@ -15,6 +15,8 @@ const std::size_t kStatusCount = std::size(kStatuses);
 Commands makeCommands() {
     Commands commands;
     commands.push_back(makeFillCommand());
+    commands.push_back(makeInspectCommand());
+    commands.push_back(makeDoctorCommand());
     commands.push_back(makeCheckCommand());
     commands.push_back(makeTextCommand());
     commands.push_back(makeDiffCommand());

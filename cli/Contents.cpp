@@ -62,6 +62,35 @@ HvContentPtr makeList(const Data& list, const DataPlace& place, const TextOf& te
     return boost::make_shared<ListContent>(items);
 }
 
+ppt::Content makeValue(const Data& value) {
+    if (value.kind == Data::Kind::Nothing)
+        return {};
+    if (value.isScalar())
+        return fromUtf8(value.text);
+    if (value.kind == Data::Kind::List) {
+        const auto items = boost::make_shared<Items>();
+        for (const Data& item : value.items)
+            items->append(makeValue(item));
+        return boost::make_shared<ListContent>(items);
+    }
+    std::vector<ppt::Contents::Row> fields;
+    for (const Data::Member& member : value.members)
+        fields.emplace_back(fromUtf8(member.first), makeValue(member.second));
+    return boost::make_shared<ppt::RecordContent>(ppt::Contents(std::move(fields)));
+}
+
+ppt::Content makeRecords(const std::string& file) {
+    const CsvFile csv = readCsvFile(file);
+    const auto items = boost::make_shared<Items>();
+    for (const CsvRow& row : csv.rows) {
+        std::vector<ppt::Contents::Row> fields;
+        for (std::size_t i = 0; i < csv.names.size(); ++i)
+            fields.emplace_back(fromUtf8(csv.names[i]), fromUtf8(row.cells[i]));
+        items->append(boost::make_shared<ppt::RecordContent>(ppt::Contents(std::move(fields))));
+    }
+    return boost::make_shared<ListContent>(items);
+}
+
 ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& textOf) {
     const auto cells = boost::make_shared<Cells>();
     for (std::size_t r = 0; r < rows.items.size(); ++r) {

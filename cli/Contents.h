@@ -16,6 +16,13 @@ using TextOf = std::function<std::wstring(const std::string&, const DataPlace&)>
 /// The items as paragraphs, those of lists in it one level deeper.
 HvContentPtr makeList(const Data& list, const DataPlace& place, const TextOf& textOf);
 
+/// The value of a token: a text, a list, a record, or a list of these. Texts stay as they are; numbers have the digits
+/// that they have in the file.
+ppt::Content makeValue(const Data& value);
+/// The rows of a CSV file as records, for tokens such as "{rows.name}".
+/// @throws Failure
+ppt::Content makeRecords(const std::string& file);
+
 /// A table of a list of rows. Short ones are filled up with cells.
 ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& textOf);
 /// A table of a CSV file, in which the names are the first row. Numbers keep the digits that they have there.

@@ -26,6 +26,25 @@ public:
               return fromUtf8(fill(text, place));
           }) {}
 
+    /// Values for the tokens of the template's own slides: those of the description, and those of the record, which go
+    /// first. A value for which there is no token may be for the description alone.
+    void fillTokens(const Data* tokens, const DataPlace& place) {
+        std::vector<ppt::Contents::Row> rows;
+        for (const auto& entry : *record_)
+            rows.emplace_back(fromUtf8(entry.first), fromUtf8(entry.second));
+        if (tokens)
+            for (const Data::Member& member : tokens->members)
+                if (record_->count(member.first) == 0)
+                    rows.emplace_back(fromUtf8(member.first),
+                                      makeToken(member.second, place.member(member.first, member.second)));
+        try {
+            deck_.fillTokens(rows);
+        } catch (const hostfx::except::IUserException& error) {
+            throw DataFailure(place, error.what(), error.getErrorID());
+        }
+        reportNews(place, "valueWithoutToken");
+    }
+
     void add(const Data& data, const DataPlace& place) {
         ppt::Slide slide = makeSlide(data, place);
         if (const Data* contents = data.find("contents"))
@@ -51,6 +70,18 @@ private:
         } catch (const hostfx::except::IUserException& error) {
             throw DataFailure(at, error.what(), error.getErrorID());
         }
+    }
+
+    ppt::Content makeToken(const Data& value, const DataPlace& place) const {
+        if (value.find("picture"))
+            return makePicture(value, place);
+        if (value.find("table"))
+            return makeTableContent(value, place);
+        const Data* rows = value.find("rows");
+        if (!rows || rows->kind != Data::Kind::Text)
+            return makeValue(value);
+        const DataPlace at = place.member("rows", *rows);
+        return readFile<ppt::Content>(*rows, at, makeRecords);
     }
 
     void put(ppt::Slide& slide, const std::string& key, const Data& value, const DataPlace& place) {
@@ -95,7 +126,8 @@ private:
     HvContentPtr makeTableContent(const Data& value, const DataPlace& place) const {
         const Data& rows = *value.find("table");
         const DataPlace at = place.member("table", rows);
-        ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_) : readTable(rows, at);
+        ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_)
+                                                         : readFile<ppt::Table>(rows, at, makeTable);
         setOption(value, "alt", place, [&](const std::wstring& text) { table.setAltText(text); });
         setOption(value, "style", place, [&](const std::wstring& name) { table.setStyleName(name); });
         return boost::make_shared<ObjectContent>(table);
@@ -114,10 +146,11 @@ private:
         }
     }
 
-    ppt::Table readTable(const Data& path, const DataPlace& place) const {
+    template <class Value>
+    Value readFile(const Data& path, const DataPlace& place, Value (*read)(const std::string&)) const {
         const std::string file = findFile(path, place);
         try {
-            return makeTable(file);
+            return read(file);
         } catch (const Failure& failure) {
             throw DataFailure(place, failure.what());
         }
@@ -134,10 +167,11 @@ private:
         return file;
     }
 
-    void reportNews(const DataPlace& place) {
+    void reportNews(const DataPlace& place, const char* except = "") {
         const std::vector<ppt::Finding> findings = deck_.getFindings();
         for (; told_ < findings.size(); ++told_)
-            report_(place, findings[told_]);
+            if (findings[told_].code != except)
+                report_(place, findings[told_]);
     }
 
     ppt::Presentation& deck_;
@@ -182,9 +216,12 @@ DeckDescription::DeckDescription(Data data, const std::string& file)
 
 void DeckDescription::make(ppt::Presentation& deck, const Record* record, const Report& report) const {
     const Data* slides = data_.find("slides");
+    const Data* tokens = data_.find("tokens");
+    DeckMaker maker(deck, record, report);
+    if (record)
+        maker.fillTokens(tokens, tokens ? root_.member("tokens", *tokens) : root_);
     if (!slides)
         return;
-    DeckMaker maker(deck, record, report);
     const DataPlace place = root_.member("slides", *slides);
     for (std::size_t i = 0; i < slides->items.size(); ++i)
         maker.add(slides->items[i], place.item(i, slides->items[i]));

@@ -84,12 +84,26 @@ void checkSlide(const Data& slide, const DataPlace& place) {
     }
 }
 
+/// Values of any form, but for objects and files.
+void checkToken(const Data& value, const DataPlace& place) {
+    if (value.find("picture") || value.find("table"))
+        checkObject(value, place);
+    else if (const Data* rows = value.find("rows"); rows && rows->isScalar()) {
+        checkRecord(value, {"rows"}, place);
+        require(*rows, Data::Kind::Text, place.member("rows", *rows));
+    }
+}
+
 } // namespace
 
 void checkForm(const Data& description, const DataPlace& place) {
     checkRecord(description, {"slides", "tokens"}, place);
-    if (const Data* tokens = description.find("tokens"))
-        require(*tokens, Data::Kind::Record, place.member("tokens", *tokens));
+    if (const Data* tokens = description.find("tokens")) {
+        const DataPlace at = place.member("tokens", *tokens);
+        require(*tokens, Data::Kind::Record, at);
+        for (const Data::Member& member : tokens->members)
+            checkToken(member.second, at.member(member.first, member.second));
+    }
     const Data* slides = description.find("slides");
     if (!slides)
         return;

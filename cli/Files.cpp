@@ -39,6 +39,67 @@ std::string readTextFile(const std::string& path) {
     return bytes;
 }
 
+std::string findTemplate(const std::string& name) {
+    std::error_code ignored;
+    if (name == "default" && !fs::exists(name, ignored))
+        return toUtf8(ppt::Template().getPath());
+    requireFile(name);
+    return name;
+}
+
+namespace {
+
+/// A file that becomes another one once it is complete.
+class Draft {
+public:
+    explicit Draft(std::string target)
+        : target_(std::move(target)),
+          path_(target_ + "." + std::to_string(::getpid()) + ".tmp") {}
+    Draft(const Draft&) = delete;
+    Draft& operator=(const Draft&) = delete;
+    ~Draft() {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+    }
+
+    const std::string& getPath() const { return path_; }
+    void finish() const {
+        std::error_code failure;
+        fs::rename(path_, target_, failure);
+        check(failure);
+    }
+    void check(const std::error_code& failure) const {
+        if (failure)
+            throw Failure(target_ + ": " + failure.message());
+    }
+
+private:
+    std::string target_, path_;
+};
+
+} // namespace
+
+void writeWhole(const std::string& path, const std::string& bytes) {
+    const Draft draft(path);
+    errno = 0;
+    std::ofstream file(draft.getPath(), std::ios::binary);
+    file << bytes;
+    file.close();
+    if (!file)
+        draft.check(std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
+    draft.finish();
+}
+
+void copyWhole(const std::string& from, const std::string& to) {
+    const Draft draft(to);
+    std::error_code failure;
+    fs::copy_file(from, draft.getPath(), failure);
+    draft.check(failure);
+    fs::permissions(draft.getPath(), fs::perms::owner_write, fs::perm_options::add, failure);
+    draft.check(failure);
+    draft.finish();
+}
+
 std::string resolve(const std::string& path, const std::string& fromFile) {
     return (fs::path(fromFile).parent_path() / path).string();
 }

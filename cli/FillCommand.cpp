@@ -5,8 +5,6 @@
 #include "cli/Files.h"
 #include "cli/Progress.h"
 
-#include <filesystem>
-
 namespace vellox::cli {
 
 namespace {
@@ -66,29 +64,25 @@ public:
             throw Failure("fill needs data: a description, or --each with rows");
         const Data data = data_.empty() ? Data{Data::Kind::Record, {}, {}, {}, 0} : readDataFile(data_);
         const DeckDescription description(data, data_);
-        const std::vector<Task> tasks = listTasks(readTokens(data));
-        const ppt::Template source = openTemplate();
+        const std::vector<Task> tasks = listTasks(readTokens(data), data.find("tokens") != nullptr);
+        const ppt::Template source = ppt::Template::forOffice(fromUtf8(findTemplate(template_)));
         return makeDecks(tasks, description, source, console);
     }
 
 private:
-    /// The values that all decks have.
-    Record readTokens(const Data& data) const {
+    /// The texts that all decks have.
+    static Record readTokens(const Data& data) {
         Record record;
         if (const Data* tokens = data.find("tokens"))
-            for (const Data::Member& member : tokens->members) {
-                if (!member.second.isScalar())
-                    throw DataFailure(DataPlace{data_, "tokens", 0}.member(member.first, member.second),
-                                      std::string("it is ") + toString(member.second.kind) +
-                                          ", and must be a text, a number or a truth value");
-                record[member.first] = member.second.text;
-            }
+            for (const Data::Member& member : tokens->members)
+                if (member.second.isScalar())
+                    record[member.first] = member.second.text;
         return record;
     }
 
-    std::vector<Task> listTasks(const Record& tokens) const {
+    std::vector<Task> listTasks(const Record& tokens, bool hasTokens) const {
         if (each_.empty())
-            return {{output_, tokens, !tokens.empty()}};
+            return {{output_, tokens, hasTokens}};
         const CsvFile csv = readCsvFile(each_);
         std::vector<Task> tasks;
         std::map<std::string, unsigned> lines; // of the rows that have an output
@@ -122,14 +116,6 @@ private:
                 throw DataFailure(place,
                                   entry.first + ": \"" + entry.second + "\" can't be part of a file's name");
         return output;
-    }
-
-    ppt::Template openTemplate() const {
-        std::error_code ignored;
-        if (template_ == "default" && !std::filesystem::exists(template_, ignored))
-            return ppt::Template::forOffice(ppt::Template().getPath());
-        requireFile(template_);
-        return ppt::Template::forOffice(fromUtf8(template_));
     }
 
     int makeDecks(const std::vector<Task>& tasks, const DeckDescription& description,

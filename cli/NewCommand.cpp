@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <filesystem>
 
 #include "cli/Command.h"
@@ -10,22 +8,6 @@ namespace vellox::cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Writes a whole file or none: beside its place, and renamed once it is complete.
-void copyWhole(const fs::path& from, const fs::path& to) {
-    const fs::path draft = to.string() + "." + std::to_string(::getpid()) + ".tmp";
-    std::error_code failure;
-    fs::copy_file(from, draft, failure);
-    if (!failure)
-        fs::permissions(draft, fs::perms::owner_write, fs::perm_options::add, failure);
-    if (!failure)
-        fs::rename(draft, to, failure);
-    if (!failure)
-        return;
-    std::error_code ignored;
-    fs::remove(draft, ignored);
-    throw Failure(to.string() + ": " + failure.message());
-}
 
 class NewCommand : public Command {
 public:
@@ -49,11 +31,10 @@ public:
             file += ".pptx";
         if (file.extension() != ".pptx")
             throw Failure(file_ + ": the template is a .pptx and can't have another extension");
-        const std::string source = toUtf8(ppt::Template().getPath());
         std::error_code ignored;
         if (!isForced_ && fs::exists(fs::symlink_status(file, ignored)))
             throw Failure(file.string() + ": there is a file of that name; --force replaces it");
-        copyWhole(source, file);
+        copyWhole(toUtf8(ppt::Template().getPath()), file.string());
         return kDone;
     }
 

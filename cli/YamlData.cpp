@@ -2,24 +2,44 @@
 
 #include <yaml-cpp/yaml.h>
 
-#include <regex>
 #include <set>
+#include <string_view>
 
 namespace vellox::cli {
 
 namespace {
 
+/// A number as YAML's core schema has it, without those that are written in other systems or by name.
+bool isNumber(const std::string& word) {
+    std::size_t at = 0;
+    const auto skip = [&](std::string_view characters, std::size_t most) {
+        const std::size_t begin = at;
+        while (at < word.size() && at - begin < most && characters.find(word[at]) != characters.npos)
+            ++at;
+        return at - begin;
+    };
+    constexpr char kDigits[] = "0123456789", kSigns[] = "+-";
+    skip(kSigns, 1);
+    const std::size_t whole = skip(kDigits, word.npos);
+    const std::size_t fraction = skip(".", 1) > 0 ? skip(kDigits, word.npos) : 0;
+    if (whole + fraction == 0)
+        return false;
+    if (skip("eE", 1) > 0) {
+        skip(kSigns, 1);
+        if (skip(kDigits, word.npos) == 0)
+            return false;
+    }
+    return at == word.size();
+}
+
 /// Plain words that stand for something else than themselves, as in YAML's core schema.
 Data::Kind judge(const std::string& word) {
-    static const std::regex kNumber(R"([-+]?(\.[0-9]+|[0-9]+(\.[0-9]*)?)([eE][-+]?[0-9]+)?)");
     if (word.empty() || word == "~" || word == "null" || word == "Null" || word == "NULL")
         return Data::Kind::Nothing;
     if (word == "true" || word == "True" || word == "TRUE" || word == "false" || word == "False" ||
         word == "FALSE")
         return Data::Kind::Logical;
-    constexpr std::size_t kMaxNumber = 100;
-    return word.size() <= kMaxNumber && std::regex_match(word, kNumber) ? Data::Kind::Number
-                                                                        : Data::Kind::Text;
+    return isNumber(word) ? Data::Kind::Number : Data::Kind::Text;
 }
 
 /// An alias stands for all of its anchor again, so that a short text can be a huge tree: values are counted.

@@ -1,6 +1,6 @@
 # All of these are packages of Debian 12; scripts/install-packages names them.
 
-find_package(Boost 1.74 REQUIRED COMPONENTS regex locale)
+find_package(Boost 1.74 REQUIRED)
 find_package(XercesC 3.2 REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip>=1.7)
@@ -11,12 +11,13 @@ pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
 pkg_check_modules(fontconfig IMPORTED_TARGET fontconfig>=2.13)
 find_program(MSGFMT msgfmt REQUIRED)
 
-# The command needs three more; a build without them goes on without it.
+# The command needs four more; a build without them goes on without it.
 if(VELLOX_CLI)
+    find_package(Boost 1.74 QUIET OPTIONAL_COMPONENTS regex)
     find_package(CLI11 2.1 QUIET)
     find_package(nlohmann_json 3.11 QUIET)
     find_package(yaml-cpp 0.7 QUIET)
-    if(NOT (CLI11_FOUND AND nlohmann_json_FOUND AND yaml-cpp_FOUND))
+    if(NOT (Boost_REGEX_FOUND AND CLI11_FOUND AND nlohmann_json_FOUND AND yaml-cpp_FOUND))
         message(STATUS "The command vellox is left out: scripts/install-packages cli brings what it needs")
         set(VELLOX_CLI OFF)
     endif()

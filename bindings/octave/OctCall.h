@@ -23,9 +23,14 @@ struct Expected {
 /// Views of arguments.
 class OctCall {
 public:
-    OctCall(const octave_value_list& values, const Reading& reading = {});
+    /// @param keywords the names of parameters that are given as a name and a value, behind all others
+    explicit OctCall(const octave_value_list& values, const Reading& reading = {},
+                     const std::vector<std::string>& keywords = {});
 
-    hostbind::Arguments getArguments() const { return {pointers_.data(), pointers_.size()}; }
+    /// All of them as a signature that fits has them.
+    std::vector<const hvArray*> orderFor(const hostbind::Signature& signature) const {
+        return *hostbind::orderArguments(signature, getArguments(), named_);
+    }
 
     /// The position of the signature that fits.
     /// @throws octave::execution_exception with a text that lists what would fit
@@ -33,9 +38,15 @@ public:
                        const std::function<Expected()>& describe) const;
 
 private:
+    hostbind::Arguments getArguments() const { return {pointers_.data(), pointers_.size()}; }
+
     std::deque<OctValue> values_;
     std::vector<const hvArray*> pointers_;
+    std::vector<hostbind::NamedArgument> named_;
 };
+
+/// How many values stand ahead of those that are given by name.
+octave_idx_type countUnnamed(const octave_value_list& values, const std::vector<std::string>& keywords);
 
 } // namespace vellox::ppt::oct
 

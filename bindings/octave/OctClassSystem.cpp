@@ -24,6 +24,27 @@ OctClass::OctClass(const BoundClass& boundClass) : bound(boundClass), methods(bo
         constructors.push_back(&constructor.signature);
 }
 
+namespace {
+
+int findFields(const Signature& signature) {
+    for (std::size_t i = 0; i < signature.size(); ++i)
+        if (signature[i].word.getKind() == SignatureWord::Kind::Fields)
+            return static_cast<int>(i);
+    return -1;
+}
+
+void addSignature(Overloads& overloads, const Signature& signature) {
+    const int place = findFields(signature);
+    overloads.fieldsAt = overloads.signatures.empty() || overloads.fieldsAt == place ? place : -1;
+    overloads.takesFields = overloads.takesFields || place >= 0;
+    overloads.signatures.push_back(&signature);
+    for (const Parameter& parameter : signature)
+        if (parameter.isKeyword)
+            overloads.keywords.push_back(parameter.name);
+}
+
+} // namespace
+
 const Overloads& OctClass::getOverloads(std::size_t row) {
     if (row >= methods.size())
         raiseError("vellox:internal", "no such method: the class files are of another version of vellox");
@@ -31,7 +52,7 @@ const Overloads& OctClass::getOverloads(std::size_t row) {
     if (overloads.methods.empty()) {
         overloads.methods = bound.getOverloads(bound.methods[row].name);
         for (const BoundMethod* method : overloads.methods)
-            overloads.signatures.push_back(&method->signature);
+            addSignature(overloads, method->signature);
     }
     return overloads;
 }

@@ -17,6 +17,9 @@ namespace vellox::ppt::oct {
 struct Overloads {
     std::vector<const hostbind::BoundMethod*> methods;
     std::vector<const hostbind::Signature*> signatures;
+    std::vector<std::string> keywords; ///< the names of parameters that are given by name
+    bool takesFields = false;          ///< in one of the overloads
+    int fieldsAt = -1;                 ///< where all of them take fields
 };
 
 /// A bound class, as the numbers in its class file speak of it.

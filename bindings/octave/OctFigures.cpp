@@ -5,19 +5,39 @@
 
 namespace vellox::ppt::oct {
 
+namespace {
+
+/// @param name of the shape that a figure is for; empty for the object itself
+octave_value draw(const octave_value& value, const PPTObject& self, const std::string& name) {
+    octave::interpreter& interpreter = getInterpreter();
+    const bool isFigure = value.is_real_scalar() && value.is_double_type() &&
+                          interpreter.feval("isfigure", ovl(value), 1)(0).bool_value();
+    if (!isFigure)
+        return value;
+    const hostbind::Room room = hostbind::getRoom(self, fromUtf8(name));
+    return interpreter.feval("__vellox_figure__", ovl(value, room.width, room.height), 1)(0);
+}
+
+octave_value drawFields(const octave_value& value, const PPTObject& self) {
+    octave_scalar_map fields = value.scalar_map_value();
+    const string_vector names = fields.fieldnames();
+    for (octave_idx_type i = 0; i < names.numel(); ++i)
+        fields.setfield(names(i), draw(fields.getfield(names(i)), self, names(i)));
+    return octave_value(fields);
+}
+
+} // namespace
+
 octave_value_list drawFigures(const PPTObject& self, const std::string& method, octave_value_list values) {
     const octave_idx_type count = values.length();
-    const bool takesPicture = (method == "replace" && count > 0) ||
-                              (method == "add" && count == 1 && dynamic_cast<const Slide*>(&self));
-    if (!takesPicture || !values(count - 1).is_real_scalar() || !values(count - 1).is_double_type())
-        return values;
-    octave::interpreter& interpreter = getInterpreter();
-    octave_value& last = values(count - 1);
-    if (!interpreter.feval("isfigure", ovl(last), 1)(0).bool_value())
-        return values;
-    const std::wstring name = count > 1 && values(0).is_string() ? fromUtf8(values(0).string_value()) : L"";
-    const hostbind::Room room = method == "add" ? hostbind::Room() : hostbind::getRoom(self, name);
-    last = interpreter.feval("__vellox_figure__", ovl(last, room.width, room.height), 1)(0);
+    const bool isSlide = dynamic_cast<const Slide*>(&self);
+    if (method == "replace" && count > 0)
+        values(count - 1) =
+            draw(values(count - 1), self, count > 1 && values(0).is_string() ? values(0).string_value() : "");
+    else if (method == "add" && count == 1 && isSlide)
+        values(0) = draw(values(0), self, "");
+    else if (method == "fill" && isSlide && count > 0 && values(0).isstruct() && values(0).numel() == 1)
+        values(0) = drawFields(values(0), self);
     return values;
 }
 

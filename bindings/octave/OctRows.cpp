@@ -50,18 +50,41 @@ void writeProperty(const BoundClass& owner, const BoundProperty& property, const
     call.finish();
 }
 
+namespace {
+
+/// Names and values one after another, where a struct of them is wanted, as one.
+octave_value_list foldFields(const Overloads& overloads, const octave_value_list& given) {
+    const octave_idx_type nUnnamed = countUnnamed(given, overloads.keywords);
+    const octave_idx_type start = overloads.fieldsAt;
+    const bool arePairs =
+        start >= 0 && nUnnamed > start + 1 && (nUnnamed - start) % 2 == 0 && given(start).is_string();
+    if (!arePairs)
+        return given;
+    octave_scalar_map fields;
+    for (octave_idx_type i = start; i < nUnnamed; i += 2)
+        fields.setfield(given(i).xstring_value("the name of a field is a text"), given(i + 1));
+    octave_value_list folded = given.slice(0, start);
+    folded.append(octave_value(fields));
+    return folded.append(given.slice(nUnnamed, given.length() - nUnnamed));
+}
+
+} // namespace
+
 octave_value callMethod(const BoundClass& owner, const Overloads& overloads, const octave_value& self,
                         const octave_value_list& given) {
     const BoundMethod& first = *overloads.methods.front();
     const ObjectPtr facade = first.isStatic ? ObjectPtr() : requireFacade(self, owner, Use::Any);
-    const OctCall arguments(facade ? drawFigures(*facade, first.name, given) : given);
+    const octave_value_list values =
+        facade ? drawFigures(*facade, first.name, foldFields(overloads, given)) : given;
+    const OctCall arguments(values, Reading{Digits::OfItems, overloads.takesFields}, overloads.keywords);
     const std::size_t chosen = arguments.select(overloads.signatures, [&] {
         return Expected{std::string(owner.name) + "." + first.name, describeOverloads(overloads.methods)};
     });
     const BoundMethod& method = *overloads.methods[chosen];
+    const std::vector<const hvArray*> ordered = arguments.orderFor(method.signature);
     HostCall call;
     const octave_value result =
-        toOctave(method.invoke(facade.get(), arguments.getArguments()), method.result.getClassName());
+        toOctave(method.invoke(facade.get(), {ordered.data(), ordered.size()}), method.result.getClassName());
     call.finish();
     return result;
 }

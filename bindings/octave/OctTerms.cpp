@@ -18,7 +18,10 @@ std::string removePackage(std::string text) {
 std::string formatParameters(const Signature& signature) {
     std::string text;
     for (const Parameter& parameter : signature)
-        text += (text.empty() ? "" : ", ") + std::string(parameter.name) + ": " + getTypeName(parameter.word);
+        text += (text.empty() ? "" : ", ") + std::string(parameter.isOptional ? "[" : "") +
+                (parameter.isKeyword ? "\"" + std::string(parameter.name) + "\", "
+                                     : parameter.name + std::string(": ")) +
+                getTypeName(parameter.word) + (parameter.isOptional ? "]" : "");
     return " (" + text + ")";
 }
 

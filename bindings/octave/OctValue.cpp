@@ -79,15 +79,10 @@ void OctValue::read() {
         code_ = HvObjectClass;
     } else if (value_.class_name() == "containers.Map") {
         octave::interpreter& interpreter = getInterpreter();
-        readColumns(interpreter.feval("keys", ovl(value_), 1)(0).cell_value(),
-                    interpreter.feval("values", ovl(value_), 1)(0).cell_value());
-    } else if (value_.isstruct() && value_.numel() == 1) {
-        const octave_scalar_map map = value_.scalar_map_value();
-        Cell columns(1, map.nfields());
-        const Cell names(map.fieldnames());
-        for (octave_idx_type i = 0; i < map.nfields(); ++i)
-            columns(i) = map.getfield(names(i).string_value());
-        readColumns(names, columns);
+        readNamed(interpreter.feval("keys", ovl(value_), 1)(0).cell_value(),
+                  interpreter.feval("values", ovl(value_), 1)(0).cell_value());
+    } else if (value_.isstruct()) {
+        readStructs();
     } // else it stays unknown
 }
 
@@ -181,16 +176,46 @@ std::vector<octave_value> readColumn(octave_value column) {
 
 } // namespace
 
+void OctValue::readStructs() {
+    if (value_.numel() != 1) {
+        const octave_map all = value_.map_value();
+        Cell each(1, reading_.fields ? all.numel() : 0);
+        for (octave_idx_type i = 0; i < each.numel(); ++i)
+            each(i) = all.checkelem(i);
+        if (reading_.fields)
+            readCells(each);
+        return;
+    }
+    const octave_scalar_map map = value_.scalar_map_value();
+    const Cell names(map.fieldnames());
+    Cell values(1, names.numel());
+    for (octave_idx_type i = 0; i < names.numel(); ++i)
+        values(i) = map.getfield(names(i).string_value());
+    readNamed(names, values);
+}
+
+/// Columns of two or more entries are a table, but for what is an argument by itself and can be fields.
+void OctValue::readNamed(const Cell& names, const Cell& values) {
+    const bool isTable = (!reading_.fields || reading_.depth > 0) && readColumns(names, values);
+    constexpr octave_idx_type kLeastRows = 3; // with the names
+    if (!reading_.fields || (isTable && items_.rows() >= kLeastRows))
+        return;
+    code_ = 0;
+    dimensions_ = value_.dims();
+    names_ = names;
+    items_ = values;
+}
+
 /// Takes equally long columns for a table with a header. Anything else stays unknown.
-void OctValue::readColumns(const Cell& names, const Cell& columns) {
+bool OctValue::readColumns(const Cell& names, const Cell& columns) {
     std::vector<std::vector<octave_value>> entries;
     for (octave_idx_type c = 0; c < columns.numel(); ++c) {
         entries.push_back(readColumn(columns(c)));
         if (entries.back().empty() || entries.back().size() != entries.front().size())
-            return;
+            return false;
     }
     if (entries.empty())
-        return;
+        return false;
     const auto nRows = static_cast<octave_idx_type>(entries.front().size());
     Cell table(nRows + 1, columns.numel());
     for (octave_idx_type c = 0; c < columns.numel(); ++c) {
@@ -199,6 +224,7 @@ void OctValue::readColumns(const Cell& names, const Cell& columns) {
             table(r + 1, c) = entries[static_cast<std::size_t>(c)][static_cast<std::size_t>(r)];
     }
     readCells(table);
+    return true;
 }
 
 // Reading
@@ -237,19 +263,28 @@ const bool* OctValue::getLogicals() const {
 }
 
 const double* OctValue::getDoubles() const {
-    return numbers_.numel() > 0 ? numbers_.data() : nullptr;
+    if (numbers_.numel() > 0)
+        return numbers_.data();
+    const bool isOne = code_ >= HvDoubleClass && code_ <= HvLastIntegerClass && dimensions_.numel() == 1;
+    return isOne ? &number_ : nullptr;
 }
 
 const hvArray* OctValue::getCell(std::size_t i) const {
-    const auto count = static_cast<std::size_t>(items_.numel());
-    if (code_ != HvCellClass || i >= count)
-        return nullptr;
-    cells_.resize(count);
+    return code_ == HvCellClass && i < static_cast<std::size_t>(items_.numel()) ? &getItem(i) : nullptr;
+}
+
+const OctValue& OctValue::getItem(std::size_t i) const {
+    cells_.resize(static_cast<std::size_t>(items_.numel()));
     std::unique_ptr<OctValue>& cell = cells_[i];
     if (!cell)
         cell = std::make_unique<OctValue>(items_(static_cast<octave_idx_type>(i)),
-                                          Reading{reading_.digits, reading_.depth + 1});
-    return cell.get();
+                                          Reading{reading_.digits, reading_.fields, reading_.depth + 1});
+    return *cell;
+}
+
+std::wstring OctValue::getFieldName(std::size_t i) const {
+    const octave_value name = names_(static_cast<octave_idx_type>(i));
+    return name.is_string() ? fromUtf8(name.string_value()) : std::to_wstring(name.double_value());
 }
 
 boost::shared_ptr<objreg::HostInterface> OctValue::getObject(std::size_t i) const {

@@ -10,13 +10,16 @@
 #include "bindings/octave/Octave.h"
 #include "vellox/host/binding/Digits.h"
 #include "vellox/host/values/hvArray.h"
+#include "vellox/host/values/hvFields.h"
 
 namespace vellox::ppt::oct {
 
 /// What the reading of a value depends on besides the value.
 struct Reading {
     hostbind::Digits digits = hostbind::Digits::OfItems;
-    unsigned int depth = 0; ///< how many cell arrays this value stands in
+    bool fields =
+        false; ///< a struct or a containers.Map has fields, unless it is a table within other values
+    unsigned int depth = 0; ///< how many cell arrays or fields this value stands in
 };
 
 /// A view of a value, which it shares; made for the time of a call. Elements are converted once, when they are first
@@ -32,9 +35,11 @@ struct Reading {
 /// | char, rows one below the other                    | char                                       |
 /// | cell arrays                                       | cells                                      |
 /// | a struct or a containers.Map of columns           | cells: the names, then the rows            |
+/// | the same, where fields are wanted                 | none, with fields                          |
+/// | an array of structs, where fields are wanted      | cells, of one row                          |
 /// | objects of the library, and arrays of them        | objects                                    |
 /// | function handles, anything else                   | none                                       |
-class OctValue : public hvArray {
+class OctValue : public hvArray, public hvFields {
 public:
     /// @throws octave::execution_exception for complex numbers, for cell arrays that are nested too deeply, and for
     /// matrices that are too large to be read
@@ -57,12 +62,20 @@ public:
     const hvArray* getCell(std::size_t i) const override;
     boost::shared_ptr<objreg::HostInterface> getObject(std::size_t i) const override;
 
+    bool hasFields() const override { return names_.numel() > 0; }
+    std::size_t getNFields() const override { return static_cast<std::size_t>(names_.numel()); }
+    std::wstring getFieldName(std::size_t i) const override;
+    const hvArray& getField(std::size_t i) const override { return getItem(i); }
+
 private:
     void read();
     void readNumbers();
     void readArray();
     void readCells(const Cell& cells);
-    void readColumns(const Cell& names, const Cell& columns);
+    void readStructs();
+    void readNamed(const Cell& names, const Cell& values);
+    bool readColumns(const Cell& names, const Cell& columns);
+    const OctValue& getItem(std::size_t i) const;
     void setText(const std::string& text);
 
     octave_value value_;
@@ -73,6 +86,7 @@ private:
     boolNDArray logicals_;
     NDArray numbers_;
     Cell items_;
+    Cell names_; // of fields
     mutable std::vector<std::unique_ptr<OctValue>> cells_;
 };
 

@@ -51,8 +51,10 @@ Values make(const Values& values) {
     const std::size_t chosen = arguments.select(made.constructors, [&] {
         return Expected{made.bound.getFullName(), formatConstructors(made.bound)};
     });
+    const BoundConstructor& constructor = made.bound.constructors[chosen];
+    const std::vector<const hvArray*> ordered = arguments.orderFor(constructor.signature);
     HostCall call;
-    const ObjectPtr object = made.bound.constructors[chosen].make(arguments.getArguments());
+    const ObjectPtr object = constructor.make({ordered.data(), ordered.size()});
     OctSlot& slot = OctSlot::put(values(1).classdef_object_value()->get_object());
     slot.hold(made.bound, object);
     shortenWay(made.bound);

@@ -7,7 +7,7 @@ import re
 import shutil
 import signal
 import subprocess
-import time
+import xml.dom.minidom
 import zipfile
 
 import pytest
@@ -116,6 +116,26 @@ def test_json_and_csv_are_as_good(work):
     assert "rows.csv: it has 3 rows" in fail("fill", "default", "rows.csv", "-o", "deck.pptx")
     pathlib.Path("latin.csv").write_bytes(b"id\nM\xfcller\n")
     assert "latin.csv: it isn't in UTF-8" in fail("fill", "default", "deck.yaml", "-o", "{id}.pptx", "--each", "latin.csv")
+
+
+def test_tokens_of_the_templates_slides(work):
+    pathlib.Path("slides.yaml").write_text(
+        "slides:\n  - layout: Title and Content\n    contents:\n      Title: 'Dear {name}, {flow:.1f}, {day:%d.%m.%Y}'\n"
+        "      Content: '{points}'\n  - layout: Title and Table\n    contents:\n      Title: '{sum.mean}'\n"
+        "      Table: {table: [[Site, Flow], ['{rows.Site}', '{rows.Flow:.2f}']]}\n")
+    run("fill", "default", "slides.yaml", "-o", "template.pptx")
+    pathlib.Path("tokens.yaml").write_text(
+        "tokens:\n  name: Ada\n  flow: 3.14159\n  day: 2026-11-21\n  points: [a, [b], c]\n  sum: {mean: 2.50}\n"
+        "  rows: {rows: flow-1.csv}\n")
+    assert run("fill", "template.pptx", "tokens.yaml", "-o", "deck.pptx").stderr == ""
+    text = run("text", "deck.pptx").stdout
+    assert "Title: Dear Ada, 3.1, 21.11.2026\nContent:\n    a\n      b\n    c\n" in text
+    assert "Title: 2.50\n" in text and "    | North; old | 1.50 |\n    | South | 7.00 |\n" in text
+    pathlib.Path("names.csv").write_text("name,flow\nBob,7.5\n")
+    assert "warning: " in run("fill", "template.pptx", "names.csv", "-o", "bob.pptx").stderr
+    assert "Title: Dear Bob, 7.5, {day:%d.%m.%Y}\n" in run("text", "bob.pptx").stdout
+    run("fill", "template.pptx", "names.csv", "-o", "strict.pptx", "--strict", status=2)
+    assert "strict.pptx" not in list_files()
 
 
 def test_strict_writes_no_deck_that_is_other_than_asked(work):
@@ -229,6 +249,33 @@ def test_broken_files(work):
     assert "[vellox:ppt_error:cannotOpenFile]" in fail("text", "half.pptx", "--verbose")
 
 
+def test_templates_are_inspected_and_healed(work):
+    run("new", "mine.pptx")
+    shown = run("inspect", "mine.pptx", "--html", "mine.html").stdout + run("inspect", "mine.pptx").stdout
+    assert shown.startswith("Master ") and "\n  1. Title Slide\n       Title: " in shown
+    assert json.loads(run("inspect", "default", "--json").stdout)["masters"][0]["layouts"][0]["placeholders"]
+    page = xml.dom.minidom.parseString(re.sub(r"<!DOCTYPE html>|<meta [^>]*>", "", pathlib.Path("mine.html").read_text()))
+    assert len([svg for svg in page.getElementsByTagName("svg") if svg.getAttribute("viewBox")]) == 11
+    assert "http" not in pathlib.Path("mine.html").read_text()
+    with zipfile.ZipFile("mine.pptx") as source, zipfile.ZipFile("bad.pptx", "w") as target:
+        for entry in source.namelist():
+            data = source.read(entry)
+            if entry == "ppt/slideLayouts/slideLayout2.xml":
+                data = data.replace(b'name="Title and Content"', b'name="&lt;b&gt;Twice"').replace(
+                    b'name="Content"', b'name="Title"')
+            target.writestr(entry, data)
+    found = run("doctor", "bad.pptx", "--strict", status=1).stdout
+    assert "bad.pptx: warning: " in found and "or use --heal (duplicateName)" in found
+    run("inspect", "bad.pptx", "--html", "bad.html")
+    assert "<b>" not in pathlib.Path("bad.html").read_text()
+    assert "healed.pptx: mended: " in run("doctor", "bad.pptx", "--heal", "healed.pptx").stdout
+    assert "duplicateName" not in run("doctor", "healed.pptx").stdout
+    run("check", "healed.pptx")
+    assert "No such file" in fail("doctor", "none.pptx")
+    assert "one template" in fail("doctor", "mine.pptx", "bad.pptx", "--heal", "x.pptx")
+    assert "none/x.html" in fail("inspect", "mine.pptx", "--html", "none/x.html")
+
+
 def test_new_templates(work):
     run("new", "mine")
     run("check", "mine.pptx", "--strict")
@@ -308,7 +355,8 @@ def test_the_schema_says_what_the_program_says(work):
     yaml = pytest.importorskip("yaml")
     schema = json.loads((pathlib.Path(__file__).parents[2] / "cli/deck.schema.json").read_text())
     for wrong, right in [("", ""), ("layout: Title Slide", "layuot: Title Slide"), ("[First, [", "[First, {a: b}, ["),
-                         ("layout: Title Slide", "layout: 3"), ("table: ", "tabel: "), ("tokens: {", "tokens: {z: [1], ")]:
+                         ("layout: Title Slide", "layout: 3"), ("table: ", "tabel: "), ("tokens: {", "tokens: {z: [1, {a: b}], "),
+                         ("tokens: {", "tokens: {z: {picture: 3}, ")]:
         text = DECK.replace(wrong, right) if wrong else DECK
         pathlib.Path("deck.yaml").write_text(text)
         done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "-o", "x.pptx"], capture_output=True)

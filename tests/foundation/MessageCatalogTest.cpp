@@ -32,8 +32,9 @@ TEST(MessageCatalog, FallsBackToTheIdentifier) {
 }
 
 // A message catalog with one text.
-std::string makeCatalog(const std::string& id, const std::string& text) {
-    const std::string strings[] = {"", id, "Content-Type: text/plain; charset=UTF-8\n", text};
+std::string makeCatalog(const std::string& id, const std::string& text,
+                        const std::string& charset = "UTF-8") {
+    const std::string strings[] = {"", id, "Content-Type: text/plain; charset=" + charset + "\n", text};
     std::vector<std::uint32_t> head = {0x950412de, 0, 2, 28, 44, 0, 0};
     std::string pool;
     for (const std::string& each : strings) {
@@ -54,6 +55,10 @@ TEST(MessageCatalog, TakesTextsAsTheyAre) {
     test::writeFile(texts + L"/c.mo", makeCatalog("id", "100% of %1%, 5 %% and %2%%3%"));
     host::setHostServices(&host);
     EXPECT_EQ(getText(MsgID("c", "id", {L"%2%", L"b"})), L"100% of %2%, 5 % and b%3%");
+    test::writeFile(texts + L"/latin.mo", makeCatalog("id", "\xfc %1%", "ISO-8859-1"));
+    EXPECT_EQ(getText(MsgID("latin", "id", {L"\u0416"})), L"\u00fc \u0416");
+    test::writeFile(texts + L"/strange.mo", makeCatalog("id", "a", "no-such-encoding"));
+    EXPECT_EQ(getText(MsgID("strange", "id", {L"b"})), L"strange:id b"); // as if it weren't there
     host::setHostServices(nullptr);
 }
 

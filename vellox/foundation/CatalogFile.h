@@ -1,21 +1,21 @@
 /// @file
-/// The bytes of one compiled message catalog. What reads them trusts them, so that they are looked through first.
+/// The bytes of one compiled message catalog (GNU gettext).
 
 #ifndef VELLOX_FOUNDATION_CATALOGFILE_H
 #define VELLOX_FOUNDATION_CATALOGFILE_H
 
-#include <boost/locale/message.hpp>
-#include <locale>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace vellox {
 
-/// What a locale made of a catalog holds.
-using CatalogTexts = boost::locale::message_format<wchar_t>;
+/// The texts of a catalog, by what they are asked by.
+using CatalogTexts = std::unordered_map<std::string, std::wstring>;
 
-/// A locale that holds nothing but the texts of a GNU message catalog; without any if there are no bytes.
+/// None if there are no bytes.
 /// @throws std::runtime_error if it isn't a catalog, or a damaged one
-std::locale readCatalogFile(const std::vector<char>& bytes);
+CatalogTexts readCatalogFile(const std::vector<char>& bytes);
 
 } // namespace vellox
 

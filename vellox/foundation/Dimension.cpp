@@ -145,7 +145,10 @@ void Dimension::parse() {
         units_ = px;
     }
     const std::wstring number(pieces.number.empty() ? L"0" : pieces.number);
-    rawValue_ = number + dim2str(units_);
+    const std::wstring& units = dim2str(units_);
+    if (rawValue_.size() != number.size() + units.size() ||
+        rawValue_.compare(number.size(), units.npos, units) != 0)
+        rawValue_ = number + units;
     numericValue_ = str2double(number);
 }
 

@@ -10,8 +10,8 @@
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 
-#include <boost/regex.hpp>
 #include <map>
+#include <string_view>
 
 namespace vellox {
 
@@ -216,16 +216,32 @@ std::wstring FileUtils::getContentType(const std::wstring& path) {
     return found == getContentTypes().end() ? std::wstring() : found->second;
 }
 
+namespace {
+
+bool beginsLine(std::wstring_view text, std::size_t at) {
+    constexpr std::wstring_view kLineEnds = L"\n\r\f\x85\x2028\x2029";
+    return at == 0 || kLineEnds.find(text[at - 1]) != kLineEnds.npos;
+}
+
+// Of a stem in lower case.
+bool isDeviceName(std::wstring_view stem, std::size_t at) {
+    const std::wstring_view name = stem.substr(at, 3);
+    if (name == L"com" || name == L"lpt")
+        return at + 3 < stem.size() && stem[at + 3] >= L'1' && stem[at + 3] <= L'9';
+    return name == L"con" || name == L"aux" || name == L"prn" || (name == L"nul" && beginsLine(stem, at));
+}
+
+} // namespace
+
 FileNameFault FileUtils::judgeFileName(const std::wstring& name) {
     // The rule of device names: "nul" is refused at the beginning of a stem, the others anywhere in it. Scripts choose
     // their names by it.
-    static const boost::wregex& reserved = *new const boost::wregex(
-        L"^(nul)|(con)|(aux)|(prn)|(com[1-9])|(lpt[1-9])", boost::regex::perl | boost::regex::icase);
-    static const boost::wregex& forbidden = *new const boost::wregex(L".*[:<>\"/\\|?*].*");
-    const std::wstring stem = getFileNameStem(name);
-    if (boost::regex_search(stem, reserved))
-        return FileNameFault::ReservedName;
-    return boost::regex_search(stem, forbidden) ? FileNameFault::ReservedCharacter : FileNameFault::None;
+    const std::wstring stem = toLowerString(getFileNameStem(name));
+    for (std::size_t at = 0; at < stem.size(); ++at)
+        if (isDeviceName(stem, at))
+            return FileNameFault::ReservedName;
+    return stem.find_first_of(L":<>\"/|?*") == stem.npos ? FileNameFault::None
+                                                         : FileNameFault::ReservedCharacter;
 }
 
 void FileUtils::refuseFileName(FileNameFault fault, const std::wstring& name) {

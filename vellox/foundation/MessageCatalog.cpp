@@ -4,11 +4,11 @@
 #include "vellox/host/services/HostServices.h"
 #include "vellox/host/services/Utf8.h"
 
-#include <boost/regex.hpp>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 
 namespace vellox {
@@ -38,41 +38,47 @@ std::string getLanguage(const std::locale& locale) {
 }
 
 // None if the file is missing, or damaged: a message without its text is better than none at all.
-std::locale loadTexts(const std::string& root, const std::string& language, const std::string& catalog) {
+CatalogTexts loadTexts(const std::string& root, const std::string& language, const std::string& catalog) {
     const std::string path =
         root + "/resources/messages/" + language + "/LC_MESSAGES/" + toFileName(catalog) + ".mo";
     std::ifstream file(path, std::ios::binary);
     try {
         return readCatalogFile({std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
     } catch (const std::runtime_error&) {
-        return std::locale::classic();
+        return {};
     }
 }
 
-const wchar_t* findText(const std::string& language, const MsgID& message) {
+const std::wstring* findText(const std::string& language, const MsgID& message) {
     // Read once for each language and catalog, and never ended: objects that die in the last moments of the
     // process still have something to say.
-    static auto& cache = *new std::map<std::vector<std::string>, std::locale>;
+    static auto& cache = *new std::map<std::vector<std::string>, CatalogTexts>;
     const std::vector<std::string> key{host::getHostServices().getHostRoot(), language, message.catalog};
     auto texts = cache.find(key);
     if (texts == cache.end())
         texts = cache.emplace(key, loadTexts(key[0], key[1], key[2])).first;
-    if (!std::has_facet<CatalogTexts>(texts->second))
-        return nullptr;
-    return std::use_facet<CatalogTexts>(texts->second).get(0, nullptr, fromUtf8(message.id).c_str());
+    const auto text = texts->second.find(message.id);
+    return text == texts->second.end() ? nullptr : &text->second;
 }
 
 // The text with its blanks, %1% and so on, filled in. Any other percent sign stands for itself, and a blank without an
 // argument stays as it is: a slip in a translation must not hide the error.
 std::wstring fillIn(const std::wstring& text, const std::vector<std::wstring>& args) {
-    static const boost::wregex& blank = *new const boost::wregex(L"%(%|([1-9])%)");
-    const auto fill = [&](const boost::wsmatch& found) {
-        if (!found[2].matched)
-            return std::wstring(L"%");
-        const auto n = static_cast<std::size_t>(*found[2].first - L'1');
-        return n < args.size() ? args[n] : found.str();
-    };
-    return boost::regex_replace(text, blank, fill);
+    std::wstring filled;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::wstring_view rest = std::wstring_view(text).substr(i);
+        const bool isBlank =
+            rest.size() > 2 && rest[0] == L'%' && rest[1] >= L'1' && rest[1] <= L'9' && rest[2] == L'%';
+        if (isBlank) {
+            const auto n = static_cast<std::size_t>(rest[1] - L'1');
+            filled += n < args.size() ? std::wstring_view(args[n]) : rest.substr(0, 3);
+            i += 2;
+        } else {
+            filled += rest[0];
+            i += rest.substr(0, 2) == L"%%" ? 1 : 0;
+        }
+    }
+    return filled;
 }
 
 std::wstring spellOut(const MsgID& message) {
@@ -86,10 +92,10 @@ std::wstring spellOut(const MsgID& message) {
 
 std::wstring MessageCatalog::get_message(const MsgID& message, const std::locale& locale) {
     const std::string language = getLanguage(locale);
-    const wchar_t* text = findText(language, message);
+    const std::wstring* text = findText(language, message);
     if (!text && language != kSourceLanguage)
         text = findText(kSourceLanguage, message);
-    return text ? fillIn(text, message.args) : spellOut(message);
+    return text ? fillIn(*text, message.args) : spellOut(message);
 }
 
 } // namespace vellox

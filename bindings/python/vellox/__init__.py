@@ -4,13 +4,14 @@ from __future__ import annotations
 import os
 from typing import TYPE_CHECKING
 
+from ._batch import Record, Result, batch
 from ._doctor import TemplateReport, read_report
 from ._findings import Finding, read_findings
 
 if TYPE_CHECKING:
     from .ppt import Presentation, Template
 
-__all__ = ["Finding", "TemplateReport", "check", "deck", "heal", "inspect"]
+__all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect"]
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,

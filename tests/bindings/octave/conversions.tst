@@ -110,6 +110,30 @@
 %! assert (vellox.ppt.Table (int16 (4)).NCols, uint32 (4));
 %! assert (identifier_of (@() vellox.ppt.Paragraph ("a", 2.5)), "Octave:invalid-fun-call");
 
+%!test # fields, and arguments by name
+%! deck = vellox.deck ("filled.pptx");
+%! slide = deck.add ("Title and Content");
+%! slide.fill ("Title", "by pairs", "Content", {"a", {"b"}});
+%! assert (show_text (slide.find ("Title").Children), "by pairs");
+%! assert (numel (slide.find ("Content").Children), 2);
+%! slide.fill (containers.Map ("Title", "by a map"));
+%! assert (show_text (slide.find ("Title").Children), "by a map");
+%! contents.Title = "by a struct";
+%! contents.Table.a = [1 2];
+%! contents.Table.b = {"x", "y"};
+%! slide = deck.add ("Title and Table", contents);
+%! table = slide.find ("Table");
+%! assert (class (table), "vellox.ppt.Table");
+%! assert (numel (table.Children), 3);
+%! assert (show_text (table.entry (3, 2).Children), "y");
+%! slide = deck.add ("Title and Content");
+%! slide.fill ("Title", "only", "drop_empty", true);
+%! assert (isempty (slide.find ("Content")));
+%! assert (! isempty (identifier_of (@() slide.fill ("No such shape", "x"))));
+%! assert (identifier_of (@() slide.fill ("Title")), "Octave:invalid-fun-call");
+%! assert (identifier_of (@() slide.fill ("Title", "x", "drop_empty")), "Octave:invalid-fun-call");
+%! deck.close ();
+
 %!test # names as they come back
 %! deck = vellox.deck ("names.pptx");
 %! deck.open ();

@@ -17,6 +17,8 @@ double toInches(const BaseAttribute<Dimension>& own, const std::wstring& inherit
 }
 
 PPTNode::Children findShapes(const PPTObject& owner, const std::wstring& name) {
+    if (name.empty())
+        return {};
     if (const auto* slide = dynamic_cast<const Slide*>(&owner))
         return Slide(*slide).find(name);
     if (const auto* deck = dynamic_cast<const Presentation*>(&owner))

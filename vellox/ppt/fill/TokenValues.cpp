@@ -1,11 +1,15 @@
 #include "vellox/ppt/fill/TokenValues.h"
 
+#include "vellox/host/services/Utf8.h"
 #include "vellox/host/values/HvViews.h"
 #include "vellox/ppt/fill/NumberForm.h"
 #include "vellox/ppt/rules/OfficeRules.h"
 #include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+
+#include <charconv>
+#include <cmath>
 
 namespace vellox::ppt {
 
@@ -116,6 +120,23 @@ std::optional<std::wstring> showObject(const HvContentPtr& content) {
     return paragraph ? std::optional(readRuns(*implOf<PPTNodeImpl>(*paragraph))) : std::nullopt;
 }
 
+/// The number that a text is from its beginning to its end.
+std::optional<double> readNumber(const std::wstring& text) {
+    const std::string bytes = toUtf8(text);
+    double number = 0;
+    const auto end = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
+    const bool isWhole = end.ec == std::errc() && end.ptr == bytes.data() + bytes.size();
+    return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+/// Tables in files have numbers as texts, and these may have the form of a number, too.
+std::optional<std::wstring> showText(const std::wstring& text, const std::wstring& form) {
+    if (form.empty())
+        return text;
+    const std::optional<double> number = readNumber(text);
+    return number ? formatNumber(*number, form) : formatDate(text, form);
+}
+
 } // namespace
 
 std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstring& form) {
@@ -130,8 +151,7 @@ std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstri
     case HvContent::Boolean:
         return form.empty() ? std::optional(showShortest(BooleanContent::getValue(content))) : std::nullopt;
     case HvContent::String:
-        return form.empty() ? std::optional(StringContent::getValue(content))
-                            : formatDate(StringContent::getValue(content), form);
+        return showText(StringContent::getValue(content), form);
     case HvContent::Object:
         return form.empty() ? showObject(content) : std::nullopt;
     case HvContent::List:

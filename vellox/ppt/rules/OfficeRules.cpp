@@ -286,6 +286,8 @@ struct ToText {
 // "\r\n", "\n" and "\r" end a line, and so do the vertical tab and the line separator, which programs leave behind
 // where they had a line break.
 TextLines splitLines(const std::wstring& text) {
+    if (text.find_first_of(L"\n\r\v\x2028\x2029") == std::wstring::npos)
+        return {text};
     TextLines lines(1);
     for (std::size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
@@ -378,11 +380,12 @@ struct Wish {
 
 Wish makeWish(const ColumnFacts& column, double left, std::size_t open) {
     constexpr double kMargins = 2 * 91440;
+    constexpr double kReserve = 1.15; // fonts differ, and headers are bold
     if (column.former > 0)
         return {column.former, column.former};
     const double third = left / static_cast<double>(open) / 3;
-    const double least = std::max(third, std::min(column.longestWord + kMargins, left / 2));
-    return {least, std::max(least, std::min(column.longestLine + kMargins, left))};
+    const double least = std::max(third, std::min(column.longestWord * kReserve + kMargins, left / 2));
+    return {least, std::max(least, std::min(column.longestLine * kReserve + kMargins, left))};
 }
 
 // Lines are broken where they have to be. What is too much or too little is shared in proportion.

@@ -1,8 +1,36 @@
 #include "vellox/ppt/writers/ColumnMeter.h"
 
+#include <array>
+#include <string_view>
+
 namespace vellox::ppt {
 
 namespace {
+
+// In hundredths of the size.
+constexpr unsigned char kUsualWidth = 56, kFullWidth = 100;
+
+// About what usual fonts without serifs have.
+constexpr std::array<unsigned char, 128> makeWidths() {
+    struct Group {
+        std::string_view letters;
+        unsigned char width;
+    };
+    constexpr Group kGroups[] = {
+        {" !'.,:;|ijl", 28}, {"()[]-/\\`ftrI\"*", 36},
+        {"ckJsvxyz^", 50},   {"ABCDEFGHKLNOPQRSTUVXYZ&wZ+<=>~", 70},
+        {"mMW%@", 90},
+    };
+    std::array<unsigned char, 128> widths{};
+    for (unsigned char& width : widths)
+        width = kUsualWidth;
+    for (const Group& group : kGroups)
+        for (const char c : group.letters)
+            widths[static_cast<unsigned char>(c)] = group.width;
+    return widths;
+}
+
+constexpr std::array<unsigned char, 128> kWidths = makeWidths();
 
 // Letters of the scripts of East Asia, which are as wide as high: those from Hangul Jamo on in the first plane that
 // are, and the planes of ideographs.
@@ -20,25 +48,25 @@ void ColumnMeter::add(std::size_t column, const std::wstring& text, double point
     constexpr double kEmuPerPoint = 12700;
     if (column >= columns_.size())
         return;
-    const double half = points * kEmuPerPoint / 2;
-    double word = word_, longest = columns_[column].longestWord;
-    std::size_t wide = 0;
+    Column& measured = columns_[column];
+    const double unit = points * kEmuPerPoint / kFullWidth;
+    double longest = measured.longestWord;
     for (const wchar_t c : text) {
-        if (c == L' ' || c == L'\t') {
-            longest = std::max(longest, word);
-            word = 0;
-        } else if (isWide(c)) { // lines may be broken at any of them
-            ++wide;
-            longest = std::max(longest, word);
-            word = 2 * half;
-        } else {
-            word += half;
+        const bool isPlain = c >= 0 && static_cast<std::size_t>(c) < kWidths.size();
+        const bool isFull = !isPlain && isWide(c);
+        const double width = unit * (isPlain  ? kWidths[static_cast<std::size_t>(c)]
+                                     : isFull ? kFullWidth
+                                              : kUsualWidth);
+        line_ += width;
+        if (isFull || c == L' ' || c == L'\t') { // a line may be broken there
+            longest = std::max(longest, word_);
+            word_ = 0;
         }
+        if (c != L' ' && c != L'\t')
+            word_ += width;
     }
-    word_ = word;
-    line_ += half * static_cast<double>(text.size() + wide);
-    columns_[column].longestWord = std::max(longest, word);
-    columns_[column].longestLine = std::max(columns_[column].longestLine, line_);
+    measured.longestWord = std::max(longest, word_);
+    measured.longestLine = std::max(measured.longestLine, line_);
 }
 
 } // namespace vellox::ppt

@@ -11,8 +11,8 @@
 
 namespace vellox::ppt {
 
-/// Told of texts as they are written, run by run and line by line. No font is asked: a letter is half as wide as the
-/// font is high, one of East Asia as wide.
+/// Told of texts as they are written, run by run and line by line. No font is asked: letters are as wide as in usual
+/// fonts, those of East Asia as the font is high.
 class ColumnMeter {
 public:
     /// The size of text in tables for which nothing is said.

@@ -116,6 +116,8 @@ const Rules& ElementWriter::getRules() const {
 }
 
 void ElementWriter::arrange(PropertyElement& properties) const {
+    if (properties.isEmpty())
+        return;
     const ElementForm* form = getRules().formOf(properties.getName());
     if (!form)
         return;

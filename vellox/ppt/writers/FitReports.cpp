@@ -36,7 +36,12 @@ double findSize(const ElementImpl& element, double inherited) {
     return points > 0 ? points : inherited;
 }
 
-// The height of a paragraph, in EMU, where lines are so wide.
+struct Need {
+    double lines = 0;
+    double height = 0; // in EMU
+};
+
+// What a paragraph takes, where lines are so wide.
 class ParagraphMeasure {
 public:
     ParagraphMeasure(double size, double width) : width_(width), size_(size) {}
@@ -50,9 +55,9 @@ public:
                 line_ += size * kEmuPerPoint * (c < kFirstWide ? kCharacterWidth : kWideCharacterWidth);
         }
     }
-    double finish() {
+    Need finish() {
         endLine();
-        return lines_ * size_ * kEmuPerPoint * kLineHeight;
+        return {lines_, lines_ * size_ * kEmuPerPoint * kLineHeight};
     }
 
 private:
@@ -65,7 +70,7 @@ private:
     double line_ = 0, lines_ = 0;
 };
 
-double measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
+Need measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
     ParagraphMeasure measure(size, width);
     for (const auto& child : paragraph.getChildren())
         if (const auto* text = implAs<TextImpl>(*child))
@@ -75,8 +80,8 @@ double measureParagraph(const ParagraphImpl& paragraph, double size, double widt
 
 // @param sizes of the template, by level; null where it has none
 // @param size in force; 0 if nobody has set one
-double measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double size, double width) {
-    double height = 0;
+Need measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double size, double width) {
+    Need whole;
     for (const auto& child : box.getChildren()) {
         const auto* paragraph = implAs<ParagraphImpl>(*child);
         if (!paragraph)
@@ -84,9 +89,11 @@ double measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double 
         const unsigned int level = paragraph->getLevel().isSet() ? paragraph->getLevel().get() : 1;
         const double given = sizes && level >= 1 && level <= sizes->size() ? (*sizes)[level - 1] / 100.0 : 0;
         const double own = findSize(*paragraph, size > 0 ? size : given);
-        height += measureParagraph(*paragraph, own > 0 ? own : kDefaultSize, width);
+        const Need need = measureParagraph(*paragraph, own > 0 ? own : kDefaultSize, width);
+        whole.lines += need.lines;
+        whole.height += need.height;
     }
-    return height;
+    return whole;
 }
 
 // Formats of slide and shape, as those of what stands between.
@@ -126,10 +133,11 @@ void reportFit(const ShapeImpl& textBox) {
     if (cx <= 0 || cy <= 0)
         return;
     const auto& record = textBox.getTemplateShape();
-    const double height =
+    const Need need =
         measureParagraphs(textBox, record ? &record->textSizes : nullptr, findSizeAbove(textBox), cx);
-    if (height > cy * kTolerance)
-        report(ppt_finding::textTooLong(toPercent(height / cy)), textBox);
+    // A single line that is too high for its box isn't too long: the template wants it so.
+    if (need.lines > 1 && need.height > cy * kTolerance)
+        report(ppt_finding::textTooLong(toPercent(need.height / cy)), textBox);
 }
 
 void reportFit(const TableImpl& table, double slideHeight) {
@@ -150,7 +158,8 @@ void reportFit(const TableImpl& table, double slideHeight) {
         for (const auto& cell : row ? row->getChildren() : PPTNode::Children()) {
             const ElementImpl* entry = implOf<PPTNodeImpl>(*cell)->asElement();
             const double own = entry ? findSize(*entry, findSize(*row, size)) : size;
-            highest = std::max(highest, measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column));
+            highest = std::max(highest,
+                               measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column).height);
         }
         height += highest + 2 * kMarginY;
     }

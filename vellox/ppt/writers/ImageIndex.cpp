@@ -30,7 +30,7 @@ bool haveSameBytes(const ImageSource& a, const ImageSource& b) {
 
 // An image is copied when the package is saved, and that would be too late to find out that it can't be had in whole:
 // the presentation is closed by then.
-bool ImageIndex::read(const ImageSource& image, Reading& reading) {
+bool ImageIndex::read(const ImageSource& image, bool wantsHash, Reading& reading) {
     reading.image = image;
     if (!image.getBytes())
         reading.file = fsys::identify(fsys::Path(image.getPath()));
@@ -42,7 +42,8 @@ bool ImageIndex::read(const ImageSource& image, Reading& reading) {
         stream->read(block.data(), block.size());
         const auto count = static_cast<std::size_t>(stream->gcount());
         reading.size += count;
-        boost::hash_combine(reading.hash, std::hash<std::string_view>()({block.data(), count}));
+        if (wantsHash)
+            boost::hash_combine(reading.hash, std::hash<std::string_view>()({block.data(), count}));
     }
     return stream->eof() && !stream->bad();
 }

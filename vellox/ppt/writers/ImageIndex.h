@@ -26,8 +26,9 @@ public:
         std::size_t hash = 0;
     };
 
+    /// @param wantsHash whether anybody is to look for one of the same bytes, which isn't free
     /// @return false if it can't be read to its end, or is no regular file
-    static bool read(const ImageSource& image, Reading& reading);
+    static bool read(const ImageSource& image, bool wantsHash, Reading& reading);
     /// The part of an image that was put in, seen by where it is alone: it needn't be read.
     std::wstring findSource(const ImageSource& image) const;
     /// The part of an image of the same bytes and the same kind; empty if there is none.

@@ -128,7 +128,7 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const ImageSo
 std::wstring PPTPartWriter::requireImagePart(const ImageSource& image, bool isShared) {
     std::wstring present = isShared ? images_.findSource(image) : std::wstring();
     ImageIndex::Reading reading;
-    if (!present.empty() || !ImageIndex::read(image, reading))
+    if (!present.empty() || !ImageIndex::read(image, isShared, reading))
         return present;
     if (isShared)
         present = images_.findEqual(reading);

@@ -45,6 +45,8 @@ PropertyElement& PropertyElement::putChild(const XMLCh* name) {
 }
 
 void PropertyElement::sortChildren(const std::vector<std::u16string_view>& names) {
+    if (children_.size() < 2)
+        return;
     const std::vector<std::size_t> ranks =
         rankNames(names, children_.size(), [&](std::size_t i) { return children_[i].name_; });
     if (std::is_sorted(ranks.begin(), ranks.end()))
@@ -57,15 +59,16 @@ void PropertyElement::sortChildren(const std::vector<std::u16string_view>& names
 }
 
 void PropertyElement::limit(std::u16string_view attribute, long least, long greatest) {
-    for (Attribute& present : attributes_) {
-        if (present.name != attribute)
-            continue;
-        const long number =
-            std::wcstol(std::wstring(present.value.begin(), present.value.end()).c_str(), nullptr, 10);
-        if (number < least || number > greatest) {
-            const std::wstring text = std::to_wstring(std::clamp(number, least, greatest));
-            present.value.assign(text.begin(), text.end());
-        }
+    const auto present =
+        std::lower_bound(attributes_.begin(), attributes_.end(), attribute,
+                         [](const Attribute& each, std::u16string_view name) { return each.name < name; });
+    if (present == attributes_.end() || present->name != attribute)
+        return;
+    const long number =
+        std::wcstol(std::wstring(present->value.begin(), present->value.end()).c_str(), nullptr, 10);
+    if (number < least || number > greatest) {
+        const std::wstring text = std::to_wstring(std::clamp(number, least, greatest));
+        present->value.assign(text.begin(), text.end());
     }
 }
 

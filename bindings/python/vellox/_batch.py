@@ -1,0 +1,240 @@
+"""Many decks of one template, in several processes."""
+from __future__ import annotations
+
+import multiprocessing
+import os
+import signal
+import sys
+from collections.abc import Callable, Iterable, Mapping
+from dataclasses import dataclass, field
+from multiprocessing.connection import Connection, wait
+from typing import TYPE_CHECKING, Any
+
+from ._findings import Finding
+
+if TYPE_CHECKING:
+    from .ppt import Presentation
+
+Record = Mapping[str, Any]
+Make = Callable[["Presentation", Record], object]
+
+
+@dataclass
+class Result:
+    """What came of one record: a deck, or an error."""
+
+    record: Record
+    output: str
+    #: why there is no deck, in words; None if there is one
+    error: str | None = None
+    #: that error's identifier, such as "vellox:ppt_error:invalidLayoutName", if it has one
+    identifier: str | None = None
+    #: what was asked for and isn't in the deck, or is other than asked
+    findings: list[Finding] = field(default_factory=list)
+
+
+def batch(template: str | os.PathLike[str] | None, records: Iterable[Record], output: str | Callable[[Record], str],
+          make: Make, *, jobs: int | None = None, strict: bool = False, progress: bool | None = None,
+          told: Callable[[Result], object] | None = None) -> list[Result]:
+    """Makes a deck of every record, several at a time, each in a process of its own that reads the template once.
+
+        def make(deck, customer):
+            deck.add("Title Slide").replace("Title", f"Dear {customer['name']}")
+
+        results = vellox.batch("letter.potx", customers, "letter-{id}.pptx", make)
+
+    Records are mappings, or the rows of a data frame. Where to write a deck is a text with names of the record in braces,
+    or a function of it. A deck that fails doesn't stop the others: its result has an error. told() hears of each
+    result as it comes; what is returned has the order of the records. Progress is shown by tqdm where that is installed and
+    somebody looks, unless it is said otherwise. Ctrl-C lets the decks end that have been begun: none is left half.
+
+    Raises ValueError if two records have one output, or a value can't be part of a file's name.
+    """
+    rows = _read_records(records)
+    outputs = [output(row) if callable(output) else _fill_in(output, row) for row in rows]
+    if len(set(outputs)) < len(outputs):
+        twice = next(name for name in outputs if outputs.count(name) > 1)
+        raise ValueError(f"several records have the output {twice!r}")
+    results: list[Result | None] = [None] * len(rows)
+    source = None if template is None else os.fspath(template)
+    with _Pool(min(jobs or len(os.sched_getaffinity(0)), len(rows)), (source, make, strict)) as pool, \
+            _Progress(len(rows), progress) as bar:
+        for number, result in pool.run(list(zip(rows, outputs))):
+            results[number] = result
+            bar.update()
+            if told:
+                told(result)
+    return [result for result in results if result]
+
+
+def _read_records(records: Any) -> list[Record]:
+    if hasattr(records, "to_dict") and hasattr(records, "columns"):
+        rows: list[Record] = records.to_dict("records")
+        return rows
+    return list(records)
+
+
+def _fill_in(output: str, record: Record) -> str:
+    for name, value in record.items():
+        if f"{{{name}" in output and any(c in str(value) for c in "/\\\0"):
+            raise ValueError(f"{name}: {value!r} can't be part of a file's name")
+    return output.format_map(record)
+
+
+class _Progress:
+    """A bar of tqdm, or nothing."""
+
+    def __init__(self, count: int, wanted: bool | None) -> None:
+        self.bar: Any = None
+        if wanted or (wanted is None and sys.stderr is not None and sys.stderr.isatty()):
+            try:
+                from tqdm import tqdm
+            except ImportError:
+                return
+            self.bar = tqdm(total=count, unit="deck")
+
+    def __enter__(self) -> _Progress:
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        if self.bar is not None:
+            self.bar.close()
+
+    def update(self) -> None:
+        if self.bar is not None:
+            self.bar.update()
+
+
+# What a worker does
+
+def make_deck(source: Any, make: Make, strict: bool, record: Record, output: str) -> Result:
+    """Makes one deck of a ppt.Template that was read before, and tells what came of it. Nothing is raised."""
+    from . import deck
+
+    result = Result(record, output)
+    try:
+        with deck(output, source, strict=strict) as presentation:
+            make(presentation, record)
+        result.findings = list(presentation.Findings)
+    except Exception as error:  # the user's function may raise anything
+        result.error = f"{type(error).__name__}: {error}"
+        result.identifier = getattr(error, "identifier", None)
+    return result
+
+
+def _serve(connection: Connection, template: str | None, make: Make, strict: bool) -> None:
+    signal.signal(signal.SIGINT, signal.SIG_IGN)  # the terminal tells all; whoever has begun ends its deck
+    from . import ppt
+
+    source: Any = None
+    parent = os.getppid()
+    while True:
+        while not connection.poll(5):
+            if os.getppid() != parent:  # others hold the far end, too, so that it doesn't tell
+                return
+        task = connection.recv()
+        if task is None:
+            return
+        record, output = task
+        try:
+            source = source or _read_template(ppt, template)
+        except Exception as error:
+            result = Result(record, output, f"{type(error).__name__}: {error}", getattr(error, "identifier", None))
+        else:
+            result = make_deck(source, make, strict, record, output)
+        result.record = {}  # the other side has it
+        connection.send(result)
+
+
+def _read_template(ppt: Any, template: str | None) -> Any:
+    return ppt.Template(template if template is not None else ppt.Template().Path, "office")
+
+
+class _Worker:
+    def __init__(self, context: Any, arguments: tuple[Any, ...]) -> None:
+        self.connection, far = context.Pipe()
+        self.process = context.Process(target=_serve, args=(far, *arguments), daemon=True)
+        self.process.start()
+        far.close()
+        self.number: int | None = None
+
+    def end(self) -> None:
+        try:
+            self.connection.send(None)
+        except OSError:
+            pass  # it has died
+        self.connection.close()
+        self.process.join()
+
+
+class _Pool:
+    """Workers, and the decks that they are at."""
+
+    def __init__(self, jobs: int, arguments: tuple[Any, ...]) -> None:
+        self.jobs = jobs
+        self.arguments = arguments
+        self.context = multiprocessing.get_context("forkserver" if _is_threaded() else "fork")
+        self.workers: list[_Worker] = []
+
+    def __enter__(self) -> _Pool:
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        for worker in self.workers:
+            worker.end()
+
+    def run(self, tasks: list[tuple[Record, str]]) -> Iterable[tuple[int, Result]]:
+        """Number and result of each task, as they come."""
+        waiting = iter(range(len(tasks)))
+        for _ in range(self.jobs):
+            self._start(waiting, tasks)
+        interruption: KeyboardInterrupt | None = None
+        while busy := {worker.connection: worker for worker in self.workers if worker.number is not None}:
+            try:
+                ready = wait(list(busy))
+            except KeyboardInterrupt as error:
+                if interruption:
+                    raise
+                interruption, waiting = error, iter(())
+                continue
+            for connection in ready:
+                worker = busy[connection]
+                number = worker.number
+                assert number is not None
+                try:
+                    result: Result = worker.connection.recv()
+                    result.record = tasks[number][0]
+                    self._give(worker, waiting, tasks)
+                except (EOFError, ConnectionError):
+                    result = self._bury(worker, tasks[number])
+                    self._start(waiting, tasks)
+                yield number, result
+        if interruption:
+            raise interruption
+
+    def _start(self, waiting: Any, tasks: list[tuple[Record, str]]) -> None:
+        number = next(waiting, None)
+        if number is None:
+            return
+        worker = _Worker(self.context, self.arguments)
+        self.workers.append(worker)
+        worker.number = number
+        worker.connection.send(tasks[number])
+
+    def _give(self, worker: _Worker, waiting: Any, tasks: list[tuple[Record, str]]) -> None:
+        worker.number = next(waiting, None)
+        if worker.number is not None:
+            worker.connection.send(tasks[worker.number])
+
+    def _bury(self, worker: _Worker, task: tuple[Record, str]) -> Result:
+        self.workers.remove(worker)
+        worker.end()
+        code = worker.process.exitcode
+        reason = signal.strsignal(-code) if code is not None and code < 0 else f"status {code}"
+        return Result(*task, f"its process has died: {reason}")
+
+
+def _is_threaded() -> bool:
+    import threading
+
+    return threading.active_count() > 1

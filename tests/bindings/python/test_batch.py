@@ -1,0 +1,77 @@
+"""Many decks in several processes."""
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import time
+
+import pytest
+
+import vellox
+
+RECORDS = [{"id": number, "name": f"Name {number}"} for number in range(8)]
+
+
+def make(deck, record):
+    if record["name"] == "bad":
+        deck.add("No such layout")
+    if record["name"] == "dead":
+        os.kill(os.getpid(), signal.SIGKILL)
+    deck.add("Title Slide").replace("Title", f"Dear {record['name']}")
+
+
+@pytest.fixture(autouse=True)
+def folder(tmp_path, monkeypatch):
+    monkeypatch.chdir(tmp_path)
+    return tmp_path
+
+
+def test_every_record_has_a_deck(folder):
+    told = []
+    results = vellox.batch(None, RECORDS, "deck-{id}.pptx", make, jobs=3, told=told.append)
+    assert [result.record for result in results] == RECORDS
+    assert sorted(result.output for result in told) == sorted(path.name for path in folder.iterdir())
+    for result in results:
+        assert (result.error, vellox.check(result.output)) == (None, [])
+    assert vellox.batch(None, [], "deck.pptx", make) == []
+
+
+def test_failures_cost_one_deck(folder):
+    records = [dict(record) for record in RECORDS]
+    records[2]["name"], records[5]["name"] = "bad", "dead"
+    results = vellox.batch(None, records, "deck-{id}.pptx", make, jobs=2)
+    assert [number for number, result in enumerate(results) if result.error] == [2, 5]
+    assert results[2].identifier == "vellox:ppt_error:invalidLayoutName"
+    assert results[5].error == "its process has died: Killed"
+    assert len(list(folder.glob("*.pptx"))) == 6
+    [result] = vellox.batch("none.potx", RECORDS[:1], "x.pptx", make)
+    assert "none.potx" in result.error
+    [result] = vellox.batch(None, RECORDS[:1], "x.pptx", lambda deck, _: deck.add("Title Slide").replace("Titel", "x"))
+    assert [finding.code for finding in result.findings if finding.severity == "error"] == ["unknownName"]
+
+
+def test_outputs_are_names_of_their_own(folder):
+    with pytest.raises(ValueError, match="several records"):
+        vellox.batch(None, RECORDS, "deck.pptx", make)
+    with pytest.raises(ValueError, match="can't be part"):
+        vellox.batch(None, [{"id": "../x"}], "{id}.pptx", make)
+    pandas = pytest.importorskip("pandas")
+    results = vellox.batch(None, pandas.DataFrame(RECORDS), lambda record: f"{record['name']}.pptx", make)
+    assert results[3].output == "Name 3.pptx"
+
+
+def test_ctrl_c_leaves_whole_decks(folder):
+    pathlib.Path("many.py").write_text(
+        "import vellox\n"
+        "def make(deck, record):\n    deck.add('Title Slide').replace('Title', str(record))\n"
+        "vellox.batch(None, [{'id': i} for i in range(5000)], '{id}.pptx', make, jobs=2)\n")
+    process = subprocess.Popen([sys.executable, "many.py"], stderr=subprocess.PIPE, text=True, start_new_session=True)
+    while process.poll() is None and not list(folder.glob("*.pptx")):
+        time.sleep(0.01)
+    os.killpg(process.pid, signal.SIGINT)
+    _, errors = process.communicate(timeout=60)
+    decks = list(folder.glob("*.pptx"))
+    assert "KeyboardInterrupt" in errors and 0 < len(decks) < 5000
+    assert all(vellox.check(deck) == [] for deck in decks)
+    assert sorted(folder.iterdir()) == sorted([*decks, folder / "many.py"])
