@@ -40,7 +40,7 @@ std::vector<Finding> TemplateHealer::heal() {
             own.push_back(&*next++);
         healMaster(master, own);
     }
-    PPTPartWriter(package_).alignMainType(survey_.getMainPart());
+    PPTPartWriter(package_).alignMainType(survey_.getMainPart(), ClassicRules());
     return std::move(changes_);
 }
 
