@@ -178,22 +178,32 @@ TEST_F(OfficeDeckTest, LinesAreParagraphsOrBreaks) {
     EXPECT_EQ(textsOf(shapeXml(1, "Content"), "a:t"), (Texts{"a", "b", "c", "true"}));
 }
 
-TEST_F(OfficeDeckTest, NumbersOfATableStandAtTheRight) {
+TEST_F(OfficeDeckTest, NumbersOfATableAndWhatIsAboveThemStandAtTheRight) {
     deck.setProfile(L"office");
+    const auto text = [](const wchar_t* words) { return TableEntry(words); };
+    const auto number = [](double value) { return TableEntry(Paragraph(value)); };
+    const std::vector<std::vector<TableEntry>> rows = {
+        {text(L"station"), text(L"flow"), text(L"mixed"), text(L"told"), text(L"none")},
+        {text(L"north"), number(0.1), number(0.2), number(0.3), TableEntry()},
+        {text(L"south"), TableEntry(), text(L"n/a"), number(0.4)}};
     Table table;
-    for (int i = 0; i < 2; ++i) {
+    for (const std::vector<TableEntry>& entries : rows) {
         TableRow row;
-        row.append(TableEntry(L"name"));
-        TableEntry entry;
-        entry.append(Paragraph(0.1));
-        row.append(entry);
+        for (const TableEntry& entry : entries)
+            row.append(entry);
         table.append(row);
     }
+    for (int i = 0; i < 3; ++i)
+        TableEntry::cast(table.row(static_cast<unsigned int>(i))->getChildren()[3])->setHAlign(L"center");
     deck.add(L"Blank").add(table);
     close();
-    const std::string tbl = findOne(slideXml(1), "a:tbl");
-    EXPECT_EQ(textsOf(tbl, "a:t"), (Texts{"name", "0.1", "name", "0.1"}));
-    EXPECT_EQ(valuesOf(tbl, "a:pPr", "algn"), Texts{"r"});
+    const std::vector<std::string> written = findAll(findOne(slideXml(1), "a:tbl"), "a:tr");
+    const auto alignments = [&](std::size_t row) { return valuesOf(written[row], "a:pPr", "algn"); };
+    EXPECT_EQ(alignments(0), (Texts{"r", "ctr"}));
+    EXPECT_EQ(valuesOf(findAll(written[0], "a:tc")[1], "a:pPr", "algn"), Texts{"r"});
+    EXPECT_EQ(alignments(1), (Texts{"r", "r", "ctr"}));
+    EXPECT_EQ(textsOf(written[1], "a:t"), (Texts{"north", "0.1", "0.2", "0.3"}));
+    EXPECT_EQ(alignments(2), Texts{"ctr"});
 }
 
 TEST_F(OfficeDeckTest, PicturesKeepProportionsAndMustBeThere) {

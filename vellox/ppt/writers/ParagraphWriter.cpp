@@ -38,7 +38,7 @@ unsigned int ParagraphWriter::getLevel() const {
 
 void ParagraphWriter::write() {
     preparePPr();
-    if (const TextImpl* text = isWholeContent() ? findOnlyText() : nullptr) {
+    if (const TextImpl* text = isWholeContent() ? findOnlyText(paragraph_) : nullptr) {
         const TextLines lines = getRules().textOf({text->getTextContent(), text->getGiven()});
         if (lines.size() > 1)
             return writeLines(*text, lines);
@@ -78,7 +78,7 @@ void ParagraphWriter::writeEnd(bool hasRuns) const {
     if (table && table->meter)
         table->meter->endLine();
     if (table && getRules().sizesEmptyCells()) {
-        const TextImpl* text = hasRuns ? findOnlyText() : nullptr;
+        const TextImpl* text = hasRuns ? findOnlyText(paragraph_) : nullptr;
         if (!hasRuns || (text && text->getTextContent().empty())) {
             PropertyElement end = look_ ? look_->makeEmptyEnd() : PropertyElement(xml::kAEndParaRPr);
             putFontSize(end);
@@ -96,15 +96,9 @@ void ParagraphWriter::preparePPr() {
         pPr_.setAttribute(xml::kLvl, num2str(getLevel()));
     if (look_)
         pPr_.layOver(look_->pPr);
-    if (isNumberInBody() && !pPr_.hasAttribute(xml::kAlgn))
+    if (isAmongNumbers() && !pPr_.hasAttribute(xml::kAlgn))
         pPr_.setAttribute(xml::kAlgn, xml::kRight);
     arrange(pPr_);
-}
-
-const TextImpl* ParagraphWriter::findOnlyText() const {
-    const auto& children = paragraph_.getChildren();
-    const auto* text = children.size() == 1 ? implAs<TextImpl>(*children.front()) : nullptr;
-    return text && text->getNodeType() == NodeType::Text ? text : nullptr;
 }
 
 // Of a text box or a cell with nothing but this paragraph.
@@ -113,12 +107,9 @@ bool ParagraphWriter::isWholeContent() const {
     return getRules().splitsContents() && parent && parent->getChildren().size() == 1;
 }
 
-bool ParagraphWriter::isNumberInBody() const {
+bool ParagraphWriter::isAmongNumbers() const {
     const TableContext* table = getWriter().getFrame().table;
-    if (!table || table->row == 0 || !getRules().alignsNumbers())
-        return false;
-    const TextImpl* text = findOnlyText();
-    return text && text->isNumContent() && !std::holds_alternative<bool>(text->getGiven());
+    return table && getRules().alignsNumbers() && table->isAmongNumbers(paragraph_);
 }
 
 void ParagraphWriter::writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const {

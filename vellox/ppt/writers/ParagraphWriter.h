@@ -33,9 +33,8 @@ private:
     unsigned int getLevel() const;
     PPTWriter::Frame makeRunFrame() const;
     void writeEnd(bool hasRuns) const;
-    const TextImpl* findOnlyText() const;
     bool isWholeContent() const;
-    bool isNumberInBody() const;
+    bool isAmongNumbers() const;
     void writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const;
     void writeLine(const TextImpl& text, const std::wstring& line) const;
     void writeTruth() const;

@@ -2,12 +2,61 @@
 
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/tree/ColSpec.h"
+#include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/TableLook.h"
 
 #include <algorithm>
 
 namespace vellox::ppt {
+
+namespace {
+
+bool isNumber(const ParagraphImpl& paragraph) {
+    const TextImpl* text = findOnlyText(paragraph);
+    return text && text->isNumContent() && !std::holds_alternative<bool>(text->getGiven());
+}
+
+enum class CellKind { Empty, Number, Other };
+
+CellKind kindOf(const PPTNode& entry) {
+    const auto& paragraphs = implOf<PPTNodeImpl>(entry)->getChildren();
+    if (paragraphs.empty())
+        return CellKind::Empty;
+    const auto* paragraph = paragraphs.size() == 1 ? implAs<ParagraphImpl>(*paragraphs.front()) : nullptr;
+    if (!paragraph)
+        return CellKind::Other;
+    const TextImpl* text = findOnlyText(*paragraph);
+    const bool isEmpty = text ? text->getTextContent().empty()
+                              : paragraph->getChildren().empty() && !paragraph->getTruthValue();
+    if (isEmpty)
+        return CellKind::Empty;
+    return isNumber(*paragraph) ? CellKind::Number : CellKind::Other;
+}
+
+} // namespace
+
+const TextImpl* findOnlyText(const ParagraphImpl& paragraph) {
+    const auto& children = paragraph.getChildren();
+    const auto* text = children.size() == 1 ? implAs<TextImpl>(*children.front()) : nullptr;
+    return text && text->getNodeType() == NodeType::Text ? text : nullptr;
+}
+
+std::vector<bool> findNumberColumns(const TableImpl& table) {
+    std::vector<bool> hasNumber(table.getNCols()), hasOther(table.getNCols());
+    for (std::size_t r = 1; r < table.getChildren().size(); ++r) {
+        const auto& entries = implOf<PPTNodeImpl>(*table.getChildren()[r])->getChildren();
+        for (std::size_t c = 0; c < std::min(entries.size(), hasNumber.size()); ++c) {
+            const CellKind kind = kindOf(*entries[c]);
+            hasNumber[c] = hasNumber[c] || kind == CellKind::Number;
+            hasOther[c] = hasOther[c] || kind == CellKind::Other;
+        }
+    }
+    for (std::size_t c = 0; c < hasNumber.size(); ++c)
+        hasNumber[c] = hasNumber[c] && !hasOther[c];
+    return hasNumber;
+}
 
 TableContext::TableContext(const TableImpl& table)
     : rowCount(static_cast<unsigned int>(table.getChildren().size())),
@@ -45,6 +94,12 @@ const CellLook* TableContext::getCellLook() const {
 
 int TableContext::getRowHeight() const {
     return look ? look->getRowHeight(row, rowCount, hasTotalRow) : 0;
+}
+
+bool TableContext::isAmongNumbers(const ParagraphImpl& paragraph) const {
+    if (row == 0)
+        return col < numberColumns.size() && numberColumns[col];
+    return isNumber(paragraph);
 }
 
 } // namespace vellox::ppt

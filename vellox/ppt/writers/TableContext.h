@@ -12,8 +12,10 @@
 
 namespace vellox::ppt {
 
+class ParagraphImpl;
 class TableImpl;
 class TableLook;
+class TextImpl;
 struct CellLook;
 
 /// Where the writing of a table is, and what its columns have to say. It belongs to the writer of the table; those
@@ -32,6 +34,9 @@ struct TableContext {
     /// How the cell that the table is at is to look; null where nothing stood before.
     const CellLook* getCellLook() const;
     int getRowHeight() const; ///< in EMU; 0 for as high as its text
+    /// Whether a paragraph of the cell that the table is at stands where numbers do: a number below the first row, or
+    /// what the first row has above nothing but numbers.
+    bool isAmongNumbers(const ParagraphImpl& paragraph) const;
 
     unsigned int rowCount = 0;
     unsigned int colCount = 0;
@@ -39,10 +44,17 @@ struct TableContext {
     unsigned int col = 0;                      ///< of the entry within its row, from 0
     std::vector<Formats> colFormats;           ///< one for each column specification
     std::vector<std::optional<int>> colWidths; ///< colCount of them, in EMU
+    std::vector<bool> numberColumns;           ///< those of numbers, if anybody wants to know
     std::optional<ColumnMeter> meter;          ///< if anybody wants to know the lengths of texts
     const TableLook* look = nullptr;           ///< of the table whose place this one takes, if it counts
     bool hasTotalRow = false;                  ///< whether both have one
 };
+
+/// The run of a paragraph that has one and nothing else, which must be no link; else null.
+const TextImpl* findOnlyText(const ParagraphImpl& paragraph);
+
+/// For each column whether there is a number below its first row, and nothing else but empty cells.
+std::vector<bool> findNumberColumns(const TableImpl& table);
 
 } // namespace vellox::ppt
 

@@ -67,6 +67,8 @@ void TableWriter::write() {
     writeProperties(made.tbl);
     if (getRules().measuresColumns())
         context.meter.emplace(context.colCount);
+    if (getRules().alignsNumbers())
+        context.numberColumns = findNumberColumns(table_);
     context.look = look_ ? &*look_ : nullptr;
     context.hasTotalRow = isShown(parts_, TablePart::TotalRow) && isShown(formerParts_, TablePart::TotalRow);
     PPTWriter::Frame frame = makeFrame();
