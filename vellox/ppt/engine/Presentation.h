@@ -210,6 +210,18 @@ public:
     void setCompression(const std::wstring& compression);
     /// @}
 
+    /// @{ What the file says of itself, to be set before close(): what isn't set is as in the template, but that with
+    /// the profile "office" nobody is its author. An empty text leaves the property out.
+    const std::wstring getTitle() const;
+    void setTitle(const std::wstring& title);
+    const std::wstring getAuthor() const;
+    void setAuthor(const std::wstring& author);
+    const std::wstring getSubject() const;
+    void setSubject(const std::wstring& subject);
+    const std::wstring getKeywords() const;
+    void setKeywords(const std::wstring& keywords);
+    /// @}
+
     /// @{ By which rules slides are made of the template: "classic", as vellox always has, or "office", as the
     /// office programs do. docs/profiles.md has what sets them apart. Once the presentation is open this changes
     /// nothing, and warns.

@@ -16,6 +16,7 @@ public:
     std::wstring explain(Refusal cause, const std::wstring& detail) const override;
     bool takesAnyPrefix() const override;
     std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const override;
+    bool renewsProperties() const override;
     bool leavesOut(Extra what, const std::wstring& mainType) const override;
     bool namesNearest() const override;
     bool sendsFindings() const override;

@@ -122,6 +122,10 @@ std::wstring OfficeRules::chooseMainType(const std::wstring& present, const std:
     return present;
 }
 
+bool OfficeRules::renewsProperties() const {
+    return true;
+}
+
 // What was signed is the template, and its thumbnail shows that too.
 bool OfficeRules::leavesOut(Extra what, const std::wstring& mainType) const {
     const contenttype::MainType* row = findMainType(mainType);

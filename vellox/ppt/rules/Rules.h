@@ -32,6 +32,8 @@ public:
     /// @param present that of the template
     /// @param extension of the output, in lower case
     virtual std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const = 0;
+    /// Whether the package's properties tell of the deck alone: made now, by nobody but who is named.
+    virtual bool renewsProperties() const = 0;
     /// Whether something that the template's package has stays behind, for a deck with a main part of this type.
     virtual bool leavesOut(Extra what, const std::wstring& mainType) const = 0;
     /// Whether the errors of unknown names tell in their text which are near.
