@@ -173,6 +173,7 @@ public:
     /// | noShapeProperties | error | a fill was given to a shape without properties |
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
     /// | charactersDropped | warning | a text or a name holds characters that no file can |
+    /// | valueLimited | warning | a size or the like is beyond what the format allows, and was brought to its limit |
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
     /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
     /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |

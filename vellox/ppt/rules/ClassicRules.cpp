@@ -186,6 +186,10 @@ unsigned int ClassicRules::firstFreeId(const IdFacts& ids) const {
     return ids.isNew ? ids.greatest + 1 : 1;
 }
 
+bool ClassicRules::renumbersRepeats() const {
+    return false;
+}
+
 // A tree is written
 
 bool ClassicRules::reachesIntoGroups() const {

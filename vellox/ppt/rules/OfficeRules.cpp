@@ -250,6 +250,10 @@ unsigned int OfficeRules::firstFreeId(const IdFacts& ids) const {
     return std::max(ids.greatest, ids.present) + 1;
 }
 
+bool OfficeRules::renumbersRepeats() const {
+    return true;
+}
+
 // A tree is written
 
 bool OfficeRules::reachesIntoGroups() const {

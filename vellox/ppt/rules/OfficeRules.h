@@ -35,6 +35,7 @@ public:
     bool showsField(const ShapeFacts& field, const DeckFacts& deck) const override;
     std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const override;
     unsigned int firstFreeId(const IdFacts& ids) const override;
+    bool renumbersRepeats() const override;
     bool reachesIntoGroups() const override;
     bool givesTextBodies() const override;
     TextLines textOf(const Value& value) const override;

@@ -68,6 +68,8 @@ public:
     virtual std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const = 0;
     /// From where the ids of new shapes on a slide are counted.
     virtual unsigned int firstFreeId(const IdFacts& ids) const = 0;
+    /// Whether shapes of the template that repeat an id on their slide get others.
+    virtual bool renumbersRepeats() const = 0;
 
     /// Whether what was done to shapes in groups is written.
     virtual bool reachesIntoGroups() const = 0;
