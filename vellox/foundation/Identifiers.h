@@ -441,6 +441,11 @@ struct VELLOX_API emptyLinkTarget : MsgID {
 struct VELLOX_API charactersDropped : MsgID {
     explicit charactersDropped(const std::wstring& count) : MsgID(kCatalog, "charactersDropped", {count}) {}
 };
+/// A length, a level or the like is beyond what the format allows, and was brought to its limit.
+struct VELLOX_API valueLimited : MsgID {
+    valueLimited(const std::wstring& name, const std::wstring& value, const std::wstring& limit)
+        : MsgID(kCatalog, "valueLimited", {name, value, limit}) {}
+};
 /// The output path of an open presentation is to change.
 struct VELLOX_API cannotChangeOutputPath : MsgID {
     cannotChangeOutputPath() : MsgID(kCatalog, "cannotChangeOutputPath", 0) {}

@@ -9,6 +9,8 @@
 #include "vellox/ppt/tree/Text.h"
 #include "vellox/ppt/tree/TextBox.h"
 
+#include <algorithm>
+
 using namespace vellox;
 using namespace vellox::ppt;
 using namespace vellox::test;
@@ -145,6 +147,27 @@ TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
     EXPECT_EQ(ids.back(), "78");
 }
 
+TEST_F(OfficeDeckTest, RepeatedIdsAreSetRight) {
+    builder.addMaster("Theme");
+    const std::string twins =
+        shape(4, "A", "<p:ph type='body' idx='1'/>") + shape(4, "B", "<p:ph type='body' idx='2'/>");
+    Page& layout = builder.addLayout("Own", twins);
+    builder.addSlide(
+        "Old", layout,
+        twins +
+            "<mc:AlternateContent xmlns:mc='http://schemas.openxmlformats.org/markup-compatibility/2006'>"
+            "<mc:Fallback>" +
+            shape(4, "Fallback") + "</mc:Fallback></mc:AlternateContent>");
+    useBuilder();
+    deck.replace(L"B", L"words");
+    TextBox free(L"Free");
+    free.add(L"x");
+    deck.add(L"Own").add(free);
+    close();
+    EXPECT_EQ(valuesOf(slideXml(1), "p:cNvPr", "id"), (Texts{"1", "4", "5", "4"}));
+    EXPECT_EQ(valuesOf(slideXml(2), "p:cNvPr", "id"), (Texts{"1", "4", "5", "6"}));
+}
+
 TEST_F(OfficeDeckTest, ChildrenComeInTheOrderOfTheSchema) {
     deck.setProfile(L"office");
     Slide slide = deck.add(L"Title and Content");
@@ -163,6 +186,10 @@ TEST_F(OfficeDeckTest, ChildrenComeInTheOrderOfTheSchema) {
     EXPECT_LT(runs[0].find("<a:solidFill"), runs[0].find("<a:latin"));
     EXPECT_LT(runs[0].find("<a:latin"), runs[0].find("<a:hlinkClick"));
     EXPECT_EQ(valuesOf(content, "a:rPr", "sz"), Texts{"400000"});
+    Texts codes;
+    for (const Finding& finding : deck.getFindings())
+        codes.push_back(finding.code);
+    EXPECT_EQ(std::count(codes.begin(), codes.end(), "valueLimited"), 1);
 }
 
 TEST_F(OfficeDeckTest, LinesAreParagraphsOrBreaks) {

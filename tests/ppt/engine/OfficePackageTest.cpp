@@ -154,6 +154,53 @@ TEST_F(OfficePackageTest, MacrosGoWhereTheyMayAndSignaturesNowhere) {
     EXPECT_NE(parts.at("[Content_Types].xml").find("slideshow.macroEnabled"), std::string::npos);
 }
 
+TEST_F(OfficePackageTest, PropertiesTellOfTheDeck) {
+    const std::string core =
+        "<c:coreProperties xmlns:c='http://schemas.openxmlformats.org/package/2006/metadata/core-properties' "
+        "xmlns:d='http://purl.org/dc/elements/1.1/' xmlns:t='http://purl.org/dc/terms/' "
+        "xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'><d:title>Corporate</d:title>"
+        "<d:creator>Somebody</d:creator><c:lastModifiedBy>Other</c:lastModifiedBy><c:category>Kept</"
+        "c:category>"
+        "<t:created xsi:type='t:W3CDTF'>1999-01-01T00:00:00Z</t:created></c:coreProperties>";
+    const std::string app =
+        "<Properties xmlns='http://schemas.openxmlformats.org/officeDocument/2006/extended-properties'>"
+        "<Words>77</Words><Application>Program</Application><Slides>9</Slides></Properties>";
+    Parts source = getTemplateParts();
+    source.at("docProps/core.xml") = core;
+    source.at("docProps/app.xml") = app;
+    const auto make = [&](const wchar_t* profile, const wchar_t* author) {
+        useTemplate(source);
+        deck.setProfile(profile);
+        deck.add(L"Blank");
+        if (author) {
+            deck.setAuthor(author);
+            deck.setTitle(L"Weekly & more");
+        }
+        return close();
+    };
+    const auto coreText = [](const Parts& parts, const char* element) {
+        const std::vector<std::string> found = textsOf(parts.at("docProps/core.xml"), element);
+        return found.size() == 1 ? found[0] : std::string("-");
+    };
+    EXPECT_EQ(make(L"classic", nullptr).at("docProps/core.xml"), core);
+    Parts parts = make(L"classic", L"Me");
+    EXPECT_EQ(coreText(parts, "dc:title") + coreText(parts, "dc:creator"), "Weekly & moreMe");
+    EXPECT_EQ(coreText(parts, "dcterms:created"), "1999-01-01T00:00:00Z");
+    EXPECT_EQ(parts.at("docProps/app.xml"), app);
+    parts = make(L"office", nullptr);
+    EXPECT_EQ(coreText(parts, "dc:title") + coreText(parts, "cp:category"), "CorporateKept");
+    EXPECT_EQ(coreText(parts, "dc:creator") + coreText(parts, "cp:lastModifiedBy"), "--");
+    EXPECT_EQ(coreText(parts, "dcterms:created"), coreText(parts, "dcterms:modified"));
+    EXPECT_GT(coreText(parts, "dcterms:created"), "2020");
+    EXPECT_EQ(textsOf(parts.at("docProps/app.xml"), "Slides"), Texts{"1"});
+    EXPECT_TRUE(findAll(parts.at("docProps/app.xml"), "Words").empty());
+    // Without any, or with what can't be read, it has new ones.
+    source.at("docProps/core.xml") = "no XML";
+    EXPECT_EQ(coreText(make(L"office", L"Me"), "cp:lastModifiedBy"), "Me");
+    source.erase("docProps/core.xml");
+    EXPECT_EQ(coreText(make(L"office", L"Me"), "dc:creator"), "Me");
+}
+
 TEST_F(OfficePackageTest, RefusedTemplatesAreToldWhy) {
     const auto expectReason = [&](const Parts& parts, const std::string& reason) {
         writeParts(folder / L"t.pptx", parts);

@@ -181,6 +181,12 @@ BoundClass describePresentation() {
             "OutputPath", "The file to be made; can't be changed once the presentation is open."),
         property<Deck, &Deck::getCompression, &Deck::setCompression>(
             "Compression", "How small the file is made: \"fast\", \"normal\" or \"small\"."),
+        property<Deck, &Deck::getTitle, &Deck::setTitle>("Title", "What the file says that its title is."),
+        property<Deck, &Deck::getAuthor, &Deck::setAuthor>("Author", "Who the file says has made it."),
+        property<Deck, &Deck::getSubject, &Deck::setSubject>("Subject",
+                                                             "What the file says that it is about."),
+        property<Deck, &Deck::getKeywords, &Deck::setKeywords>("Keywords",
+                                                               "What the file is to be found by."),
         property<Deck, &Deck::getProfile, &Deck::setProfile>(
             "Profile", "By which rules slides are made of the template: \"classic\" or \"office\"; can't be "
                        "changed once the presentation is open."),

@@ -61,6 +61,7 @@ PresentationImpl::PresentationImpl(const PresentationImpl& other)
       profile_(other.profile_),
       state_(other.state_),
       compression_(other.compression_),
+      properties_(other.properties_),
       isStrict_(other.isStrict_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
@@ -366,6 +367,38 @@ void Presentation::setCompression(const std::wstring& compression) {
     const std::wstring& word = getCompressionWords().require(compression).label;
     const auto found = std::find(kCompressions.begin(), kCompressions.end(), word);
     pimpl()->setCompression(static_cast<opc::Compression>(found - kCompressions.begin()));
+}
+
+const std::wstring Presentation::getTitle() const {
+    return pimpl()->getProperties().title.value_or(L"");
+}
+
+void Presentation::setTitle(const std::wstring& title) {
+    pimpl()->getProperties().title = title;
+}
+
+const std::wstring Presentation::getAuthor() const {
+    return pimpl()->getProperties().author.value_or(L"");
+}
+
+void Presentation::setAuthor(const std::wstring& author) {
+    pimpl()->getProperties().author = author;
+}
+
+const std::wstring Presentation::getSubject() const {
+    return pimpl()->getProperties().subject.value_or(L"");
+}
+
+void Presentation::setSubject(const std::wstring& subject) {
+    pimpl()->getProperties().subject = subject;
+}
+
+const std::wstring Presentation::getKeywords() const {
+    return pimpl()->getProperties().keywords.value_or(L"");
+}
+
+void Presentation::setKeywords(const std::wstring& keywords) {
+    pimpl()->getProperties().keywords = keywords;
 }
 
 const std::wstring Presentation::getProfile() const {

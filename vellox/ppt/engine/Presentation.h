@@ -173,6 +173,7 @@ public:
     /// | noShapeProperties | error | a fill was given to a shape without properties |
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
     /// | charactersDropped | warning | a text or a name holds characters that no file can |
+    /// | valueLimited | warning | a size or the like is beyond what the format allows, and was brought to its limit |
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
     /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
     /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
@@ -208,6 +209,18 @@ public:
     /// @throws invalidPropertyValue for other words
     const std::wstring getCompression() const;
     void setCompression(const std::wstring& compression);
+    /// @}
+
+    /// @{ What the file says of itself, to be set before close(): what isn't set is as in the template, but that with
+    /// the profile "office" nobody is its author. An empty text leaves the property out.
+    const std::wstring getTitle() const;
+    void setTitle(const std::wstring& title);
+    const std::wstring getAuthor() const;
+    void setAuthor(const std::wstring& author);
+    const std::wstring getSubject() const;
+    void setSubject(const std::wstring& subject);
+    const std::wstring getKeywords() const;
+    void setKeywords(const std::wstring& keywords);
     /// @}
 
     /// @{ By which rules slides are made of the template: "classic", as vellox always has, or "office", as the

@@ -14,6 +14,7 @@
 #include "vellox/ppt/messages/FindingList.h"
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
+#include "vellox/ppt/writers/DocumentProperties.h"
 
 namespace vellox::ppt {
 
@@ -94,6 +95,8 @@ public:
     void setTemplatePath(const std::wstring& path);
     opc::Compression getCompression() const { return compression_; }
     void setCompression(opc::Compression compression) { compression_ = compression; }
+    const DocumentProperties& getProperties() const { return properties_; }
+    DocumentProperties& getProperties() { return properties_; }
     const std::wstring& getProfile() const { return profile_.name; }
     void setProfile(const std::wstring& name);
     const Presentation::Names& getMasterNames();
@@ -134,6 +137,7 @@ private:
     Profile profile_;
     PresentationState state_ = PresentationState::Created;
     opc::Compression compression_ = opc::Compression::Normal;
+    DocumentProperties properties_;
     bool isStrict_ = false;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;

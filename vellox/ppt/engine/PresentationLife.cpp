@@ -224,7 +224,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     state_ = PresentationState::Closed;
     attempt.keep();
     writer.setReporter(this);
-    writer.finish();
+    writer.finish(properties_);
 }
 
 } // namespace vellox::ppt

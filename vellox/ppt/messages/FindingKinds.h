@@ -34,6 +34,7 @@ constexpr FindingKind kFindingKinds[] = {
     {"noShapeProperties", Severity::Error},
     {"emptyLinkTarget", Severity::Error},
     {"charactersDropped", Severity::Warning},
+    {"valueLimited", Severity::Warning},
     {"cannotChangeOutputPath", Severity::Warning},
     {"cannotChangeTemplatePath", Severity::Warning},
     {"macrosLeftOut", Severity::Warning},

@@ -37,11 +37,21 @@ bool ClassicRules::takesAnyPrefix() const {
     return false;
 }
 
+// Other main types, such as those of files with macros, stay.
 std::wstring ClassicRules::chooseMainType(const std::wstring& present, const std::wstring& extension) const {
-    for (const contenttype::MainType& row : contenttype::kMainTypes)
+    bool isKnown = false;
+    std::wstring wanted;
+    for (const contenttype::MainType& row : contenttype::kMainTypes) {
         if (!row.hasMacros && extension == row.extension)
-            return row.contentType;
-    return present;
+            wanted = row.contentType;
+        if (!row.hasMacros && present == row.contentType)
+            isKnown = true;
+    }
+    return isKnown && !wanted.empty() ? wanted : present;
+}
+
+bool ClassicRules::renewsProperties() const {
+    return false;
 }
 
 bool ClassicRules::leavesOut(Extra, const std::wstring&) const {
@@ -174,6 +184,10 @@ std::vector<bool> ClassicRules::keepPlaces(const std::vector<ShapeFacts>& layout
 // On a slide of the template they are counted from the start, whatever ids it has.
 unsigned int ClassicRules::firstFreeId(const IdFacts& ids) const {
     return ids.isNew ? ids.greatest + 1 : 1;
+}
+
+bool ClassicRules::renumbersRepeats() const {
+    return false;
 }
 
 // A tree is written

@@ -122,6 +122,10 @@ std::wstring OfficeRules::chooseMainType(const std::wstring& present, const std:
     return present;
 }
 
+bool OfficeRules::renewsProperties() const {
+    return true;
+}
+
 // What was signed is the template, and its thumbnail shows that too.
 bool OfficeRules::leavesOut(Extra what, const std::wstring& mainType) const {
     const contenttype::MainType* row = findMainType(mainType);
@@ -244,6 +248,10 @@ std::vector<bool> OfficeRules::keepPlaces(const std::vector<ShapeFacts>& layout)
 
 unsigned int OfficeRules::firstFreeId(const IdFacts& ids) const {
     return std::max(ids.greatest, ids.present) + 1;
+}
+
+bool OfficeRules::renumbersRepeats() const {
+    return true;
 }
 
 // A tree is written

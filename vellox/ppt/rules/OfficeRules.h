@@ -19,6 +19,7 @@ public:
     std::wstring explain(Refusal cause, const std::wstring& detail) const override;
     bool takesAnyPrefix() const override;
     std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const override;
+    bool renewsProperties() const override;
     bool leavesOut(Extra what, const std::wstring& mainType) const override;
     Names nameMasters(const Names& themes) const override;
     Names nameLayouts(const Names& layouts) const override;
@@ -34,6 +35,7 @@ public:
     bool showsField(const ShapeFacts& field, const DeckFacts& deck) const override;
     std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const override;
     unsigned int firstFreeId(const IdFacts& ids) const override;
+    bool renumbersRepeats() const override;
     bool reachesIntoGroups() const override;
     bool givesTextBodies() const override;
     TextLines textOf(const Value& value) const override;

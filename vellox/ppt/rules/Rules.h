@@ -32,6 +32,8 @@ public:
     /// @param present that of the template
     /// @param extension of the output, in lower case
     virtual std::wstring chooseMainType(const std::wstring& present, const std::wstring& extension) const = 0;
+    /// Whether the package's properties tell of the deck alone: made now, by nobody but who is named.
+    virtual bool renewsProperties() const = 0;
     /// Whether something that the template's package has stays behind, for a deck with a main part of this type.
     virtual bool leavesOut(Extra what, const std::wstring& mainType) const = 0;
     /// Whether the errors of unknown names tell in their text which are near.
@@ -66,6 +68,8 @@ public:
     virtual std::vector<bool> keepPlaces(const std::vector<ShapeFacts>& layout) const = 0;
     /// From where the ids of new shapes on a slide are counted.
     virtual unsigned int firstFreeId(const IdFacts& ids) const = 0;
+    /// Whether shapes of the template that repeat an id on their slide get others.
+    virtual bool renumbersRepeats() const = 0;
 
     /// Whether what was done to shapes in groups is written.
     virtual bool reachesIntoGroups() const = 0;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <boost/make_shared.hpp>
+#include <set>
 
 namespace vellox::ppt {
 
@@ -49,6 +50,13 @@ void readField(const DOMElement& shape, ShapeFacts& facts) {
 
 bool isFieldType(const std::wstring& placeholderType) {
     return placeholderType == L"dt" || placeholderType == L"ftr" || placeholderType == L"sldNum";
+}
+
+bool isInFallback(const DOMElement& element) {
+    for (const DOMNode* node = element.getParentNode(); node; node = node->getParentNode())
+        if (XMLString::equals(node->getNodeName(), u"mc:Fallback"))
+            return true;
+    return false;
 }
 
 } // namespace
@@ -112,6 +120,14 @@ unsigned int findGreatestId(DOMDocument* document) {
     for (const DOMElement* properties : getElementsByName(document, xml::kCNvPr))
         greatest = std::max(greatest, str2uint(getAttribute(properties, xml::kId)));
     return greatest;
+}
+
+unsigned int renumberRepeatedIds(DOMDocument* document, unsigned int next) {
+    std::set<std::wstring> taken;
+    for (DOMElement* properties : getElementsByName(document, xml::kCNvPr))
+        if (!isInFallback(*properties) && !taken.insert(getAttribute(properties, xml::kId)).second)
+            setAttribute(properties, xml::kId, num2str(next++));
+    return next;
 }
 
 } // namespace vellox::ppt

@@ -43,6 +43,8 @@ unsigned int findFirstFreeId(const TemplateSlide& slide, const Rules& rules) {
 
 SlideDocument::SlideDocument(const TemplateSlide& slide, const Rules& rules, Form form)
     : SlideDocument(makeDocument(slide, rules, form), findFirstFreeId(slide, rules)) {
+    if (document_ && slide.source && rules.renumbersRepeats())
+        nextShapeId_ = renumberRepeatedIds(document_.get(), nextShapeId_);
     if (document_)
         return;
     prototype_ = slide.layout->prototype;

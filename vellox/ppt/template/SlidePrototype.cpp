@@ -206,6 +206,8 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     stripSlideData(*document.get(), rules);
     removeUndeclared(*document.get());
     prototype->lastShapeId = completeIdentities(*document.get(), layout);
+    if (rules.renumbersRepeats())
+        renumberRepeatedIds(document.get(), std::max(findGreatestId(document.get()), layout.maxShapeId) + 1);
     prototype->greatestId = findGreatestId(document.get());
     prototype->relationshipIds = collectRelationshipIds(*document.get());
     // Once more, which leaves behind what was stripped: a document never gives memory back.

@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/object/ElementImpl.h"
@@ -125,7 +126,10 @@ void ElementWriter::arrange(PropertyElement& properties) const {
         properties.removeChildren(needed.child, needed.attribute);
     properties.sortChildren(form->children);
     for (const ElementForm::Range& range : form->ranges)
-        properties.limit(range.attribute, range.least, range.greatest);
+        if (const auto change = properties.limit(range.attribute, range.least, range.greatest))
+            writer_.report(
+                ppt_finding::valueLimited(std::wstring(range.attribute.begin(), range.attribute.end()),
+                                          std::to_wstring(change->first), std::to_wstring(change->second)));
 }
 
 void ElementWriter::arrange(DOMElement* element) const {

@@ -2,8 +2,11 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/FileUtils.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/ppt/package/OPCPackage.h"
 #include "vellox/ppt/package/PackageExtras.h"
 #include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/package/PartDOMBuilder.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
 
@@ -167,6 +170,30 @@ std::wstring PPTPartWriter::alignMainType(const std::wstring& mainPartName, cons
     if (present != wanted)
         mainPart.setContentType(opc::ContentType(wanted));
     return wanted;
+}
+
+std::wstring PPTPartWriter::findPackagePart(const std::wstring& type) const {
+    const std::wstring name = OPCPartReader(*owner_).getRelationshipTarget(type);
+    return !name.empty() && OPCPartReader(*owner_).hasPart(name) ? name : std::wstring();
+}
+
+OwnedDocument PPTPartWriter::readIfWellFormed(const std::wstring& partName) {
+    OwnedDocument document;
+    try {
+        document.reset(PartDOMBuilder(*owner_).getDocument(partName));
+    } catch (const hostfx::except::IMsgIDException&) { // nobody misses what a damaged template says of itself
+    }
+    return document;
+}
+
+void PPTPartWriter::writePackageDocument(const std::wstring& stem, const std::wstring& relationshipType,
+                                         const std::wstring& contentType, xercesc::DOMDocument* document) {
+    package_->deleteRelationships(relationshipType); // which led nowhere
+    std::wstring name = stem + L".xml";
+    for (unsigned int i = 1; hasPart(name); ++i)
+        name = stem + num2str(i) + L".xml";
+    writeNewDocument(name, contentType, document);
+    package_->createInternalRelationship(relationshipType, opc::PartName(name).toURI(), {});
 }
 
 void PPTPartWriter::removeExtra(const PackageExtra& extra) {

@@ -10,6 +10,7 @@
 
 #include "vellox/ppt/package/PartDOMWriter.h"
 #include "vellox/ppt/writers/ImageIndex.h"
+#include "vellox/ppt/xml/Dom.h"
 
 namespace vellox::ppt {
 
@@ -54,6 +55,17 @@ public:
     /// Lets the type of the main part follow the extension of the output file, as the rules have it.
     /// @return the type from now on
     std::wstring alignMainType(const std::wstring& mainPartName, const Rules& rules);
+    /// The part that the package's first relationship of a type leads to.
+    /// @return empty if there is none
+    std::wstring findPackagePart(const std::wstring& type) const;
+    /// The document of a part of minor importance.
+    /// @return empty for no part, and for one that can't be read
+    OwnedDocument readIfWellFormed(const std::wstring& partName);
+    /// Makes a part for a document that a relationship of the package leads to.
+    /// @param stem of its name, without the extension
+    /// @throws opc::Exception
+    void writePackageDocument(const std::wstring& stem, const std::wstring& relationshipType,
+                              const std::wstring& contentType, xercesc::DOMDocument* document);
     /// Takes out what the template's package had.
     /// @throws opc::Exception
     void removeExtra(const PackageExtra& extra);

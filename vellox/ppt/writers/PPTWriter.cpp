@@ -7,6 +7,7 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/ChartParts.h"
+#include "vellox/ppt/writers/DocumentProperties.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
@@ -57,7 +58,7 @@ void PPTWriter::write(const PPTNode& node) {
     node.acceptWriter(this, nullptr);
 }
 
-void PPTWriter::finish() {
+void PPTWriter::finish(const DocumentProperties& properties) {
     std::vector<boost::shared_ptr<TemplateSlide>> slides;
     for (const Written& written : slides_) {
         written.slide->partName = written.partName;
@@ -73,6 +74,15 @@ void PPTWriter::finish() {
     removeSlides(removed, *partWriter_);
     defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     finishPackage();
+    writeProperties(properties);
+}
+
+void PPTWriter::writeProperties(const DocumentProperties& properties) {
+    const bool areRenewed = model_->getRules().renewsProperties();
+    if (areRenewed || properties.isSet())
+        writeCoreProperties(properties, areRenewed, *partWriter_);
+    if (areRenewed)
+        renewExtendedProperties(slides_.size(), *partWriter_);
 }
 
 void PPTWriter::finishPackage() {

@@ -47,6 +47,7 @@ class TextBoxPlaceholderImpl;
 class TextImpl;
 class TextLook;
 struct ParagraphLook;
+struct DocumentProperties;
 struct TableContext;
 
 class PPTWriter {
@@ -103,7 +104,7 @@ public:
     /// Only now do the records of new slides learn the names of their parts: had the writing failed, it could
     /// have been done again.
     /// @throws opc::Exception
-    void finish();
+    void finish(const DocumentProperties& properties);
     /// @{ Writes one node below a DOM node.
     void writeSlide(const SlideImpl& slide, xercesc::DOMNode* parent);
     void writeParagraph(const ParagraphImpl& paragraph, xercesc::DOMNode* parent);
@@ -149,6 +150,7 @@ public:
 
 private:
     void finishPackage();
+    void writeProperties(const DocumentProperties& properties);
 
     struct Written {
         boost::shared_ptr<TemplateSlide> slide;

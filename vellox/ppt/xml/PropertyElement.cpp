@@ -58,18 +58,21 @@ void PropertyElement::sortChildren(const std::vector<std::u16string_view>& names
     children_ = std::move(sorted);
 }
 
-void PropertyElement::limit(std::u16string_view attribute, long least, long greatest) {
+std::optional<std::pair<long, long>> PropertyElement::limit(std::u16string_view attribute, long least,
+                                                            long greatest) {
     const auto present =
         std::lower_bound(attributes_.begin(), attributes_.end(), attribute,
                          [](const Attribute& each, std::u16string_view name) { return each.name < name; });
     if (present == attributes_.end() || present->name != attribute)
-        return;
+        return {};
     const long number =
         std::wcstol(std::wstring(present->value.begin(), present->value.end()).c_str(), nullptr, 10);
-    if (number < least || number > greatest) {
-        const std::wstring text = std::to_wstring(std::clamp(number, least, greatest));
-        present->value.assign(text.begin(), text.end());
-    }
+    const long limited = std::clamp(number, least, greatest);
+    if (limited == number)
+        return {};
+    const std::wstring text = std::to_wstring(limited);
+    present->value.assign(text.begin(), text.end());
+    return {{number, limited}};
 }
 
 bool PropertyElement::hasAttribute(std::u16string_view name) const {

@@ -5,8 +5,10 @@
 #define VELLOX_PPT_XML_PROPERTYELEMENT_H
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 #include <xercesc/dom/DOMElement.hpp>
 
@@ -48,7 +50,8 @@ public:
     /// behind the one ahead of them. Children of one name stay in their order.
     void sortChildren(const std::vector<std::u16string_view>& names);
     /// Brings an attribute that is a whole number into a range. Does nothing if there is none.
-    void limit(std::u16string_view attribute, long least, long greatest);
+    /// @return what it was and what it is, if that is another
+    std::optional<std::pair<long, long>> limit(std::u16string_view attribute, long least, long greatest);
     bool hasAttribute(std::u16string_view name) const;
     void removeAttribute(std::u16string_view name);
     void removeChildren(std::u16string_view name);
