@@ -74,9 +74,12 @@ TemplateReport inspectTemplate(const std::wstring& path) {
     return report;
 }
 
-// The copy is changed in the temporary folder, and comes to its place whole.
+// The copy is changed in the temporary folder, and comes to its place whole. What is no package is found out before, so
+// that the error names the template and not the copy.
 std::vector<Finding> healTemplate(const std::wstring& inputPath, const std::wstring& outputPath) {
     std::vector<Finding> changes;
+    translate<opc::Exception, ppt_error::cannotOpenFile>(inputPath,
+                                                         [&] { OPCPackage(inputPath).openRead(false); });
     const TempFile copy(FileUtils::getFileNameExtension(outputPath));
     translate<fsys::FsysExceptionBase, ppt_error::cannotOpenFile>(inputPath, [&] {
         fsys::copyFile(fsys::Path(inputPath), fsys::Path(copy.getPath()));
