@@ -31,6 +31,8 @@ class CMakeBuild(build_ext):
             "VELLOX_PYTHON_DIR": ".",
             "VELLOX_TESTS": "OFF",
             "VELLOX_EXAMPLES": "OFF",
+            "VELLOX_CLI": "OFF",
+            "VELLOX_OCTAVE": "OFF",
         }
         definitions = [f"-D{name}={value}" for name, value in options.items()]
         self.call("cmake", "-S", TOP, "-B", build, "-G", "Ninja", *definitions)
