@@ -1,17 +1,26 @@
 """PowerPoint decks by program. The classes are in vellox.ppt; begin with deck()."""
 from __future__ import annotations
 
+import importlib
 import os
-from typing import TYPE_CHECKING
-
-from ._batch import Record, Result, batch
-from ._doctor import TemplateReport, read_report
-from ._findings import Finding, read_findings
+from typing import TYPE_CHECKING, Any
 
 if TYPE_CHECKING:
+    from ._batch import Record, Result, batch
+    from ._doctor import TemplateReport
+    from ._findings import Finding
     from .ppt import Presentation, Template
 
 __all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect"]
+
+# What few programs need is imported when it is asked for: most decks are made sooner than all of it is read.
+_HOMES = {"Record": "_batch", "Result": "_batch", "batch": "_batch", "TemplateReport": "_doctor", "Finding": "_findings"}
+
+
+def __getattr__(name: str) -> Any:
+    if name not in _HOMES:
+        raise AttributeError(f"module {__name__!r} has no attribute {name!r}")
+    return getattr(importlib.import_module("." + _HOMES[name], __name__), name)
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,
@@ -41,6 +50,7 @@ def check(path: str | os.PathLike[str]) -> list[Finding]:
     Nothing is changed, and nothing raised for a bad file: one without a finding of severity "error" is sound.
     """
     from . import ppt
+    from ._findings import read_findings
 
     return read_findings(ppt.Template.checkPackage(os.fspath(path)))
 
@@ -51,6 +61,7 @@ def inspect(path: str | os.PathLike[str]) -> TemplateReport:
     Nothing is changed, and no slide made.
     """
     from . import ppt
+    from ._doctor import read_report
 
     return read_report(ppt.Template.inspectTemplate(os.fspath(path)))
 
@@ -61,5 +72,6 @@ def heal(path: str | os.PathLike[str], output: str | os.PathLike[str]) -> list[F
     What was changed is returned. The output may be the template itself: it is replaced once the copy is complete.
     """
     from . import ppt
+    from ._findings import read_findings
 
     return read_findings(ppt.Template.healTemplate(os.fspath(path), os.fspath(output)))
