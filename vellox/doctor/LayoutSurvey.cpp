@@ -2,6 +2,7 @@
 
 #include "vellox/doctor/DoctorCodes.h"
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Lines.h"
 #include "vellox/ppt/object/NodeKinds.h"
 #include "vellox/ppt/rules/ClassicRules.h"
 #include "vellox/ppt/rules/OfficeRules.h"
@@ -109,10 +110,6 @@ namespace {
 
 bool isBlank(wchar_t c) {
     return std::iswspace(static_cast<std::wint_t>(c)) != 0 || c == L'\xA0';
-}
-
-bool endsLine(wchar_t c) {
-    return c == L'\n' || c == L'\r' || c == L'\v' || c == L'\x2028' || c == L'\x2029';
 }
 
 } // namespace

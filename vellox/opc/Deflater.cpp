@@ -1,6 +1,7 @@
 #include "vellox/opc/Deflater.h"
 
 #include "vellox/opc/Exception.h"
+#include "vellox/opc/ZipReadSource.h"
 
 #include <algorithm>
 #include <array>
@@ -27,52 +28,26 @@ const Levels& getLevels(Compression compression) {
 constexpr std::size_t kSmallContent = 1 << 10;
 constexpr std::size_t kMostSmall = 64;
 
-/// What libzip asks of a source.
-class DeflatedBytes {
+class DeflatedBytes : public ZipReadSource {
 public:
-    explicit DeflatedBytes(boost::shared_ptr<const Deflated> content) : content_(std::move(content)) {
-        zip_error_init(&error_);
-    }
-    DeflatedBytes(const DeflatedBytes&) = delete;
-    DeflatedBytes& operator=(const DeflatedBytes&) = delete;
-    ~DeflatedBytes() { zip_error_fini(&error_); }
-
-    zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
-        switch (command) {
-        case ZIP_SOURCE_SUPPORTS:
-            return ZIP_SOURCE_SUPPORTS_READABLE;
-        case ZIP_SOURCE_ERROR:
-            return zip_error_to_data(&error_, data, length);
-        case ZIP_SOURCE_FREE:
-            delete this;
-            return 0;
-        case ZIP_SOURCE_STAT:
-            return stat(*static_cast<zip_stat_t*>(data));
-        case ZIP_SOURCE_OPEN:
-            position_ = 0;
-            return 0;
-        case ZIP_SOURCE_READ:
-            return read(static_cast<char*>(data), length);
-        case ZIP_SOURCE_CLOSE:
-            return 0;
-        default:
-            zip_error_set(&error_, ZIP_ER_OPNOTSUPP, 0);
-            return -1;
-        }
-    }
+    explicit DeflatedBytes(boost::shared_ptr<const Deflated> content) : content_(std::move(content)) {}
 
 private:
-    zip_int64_t stat(zip_stat_t& facts) const {
-        zip_stat_init(&facts);
+    zip_int64_t stat(zip_stat_t& facts) override {
         facts.size = content_->fullSize;
         facts.comp_method = ZIP_CM_DEFLATE;
         facts.comp_size = content_->bytes.size();
         facts.crc = content_->checksum;
         facts.valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC;
-        return sizeof facts;
+        return 0;
     }
 
-    zip_int64_t read(char* target, zip_uint64_t count) {
+    zip_int64_t open() override {
+        position_ = 0;
+        return 0;
+    }
+
+    zip_int64_t read(char* target, zip_uint64_t count) override {
         const std::size_t taken = std::min<std::size_t>(count, content_->bytes.size() - position_);
         std::copy_n(content_->bytes.data() + position_, taken, target);
         position_ += taken;
@@ -81,12 +56,7 @@ private:
 
     boost::shared_ptr<const Deflated> content_;
     std::size_t position_ = 0;
-    zip_error_t error_{};
 };
-
-zip_int64_t answer(void* source, void* data, zip_uint64_t length, zip_source_cmd_t command) {
-    return static_cast<DeflatedBytes*>(source)->answer(data, length, command);
-}
 
 } // namespace
 
@@ -134,11 +104,7 @@ boost::shared_ptr<const Deflated> Deflater::makeDeflated(const std::string& cont
 }
 
 zip_source_t* Deflater::makeSource(zip_t* archive, boost::shared_ptr<const Deflated> content) {
-    auto source = std::make_unique<DeflatedBytes>(std::move(content));
-    zip_source_t* made = zip_source_function(archive, answer, source.get());
-    if (made)
-        static_cast<void>(source.release()); // libzip ends it with ZIP_SOURCE_FREE
-    return made;
+    return ZipReadSource::give(archive, std::make_unique<DeflatedBytes>(std::move(content)));
 }
 
 zip_uint32_t Deflater::getZlibLevel() const {

@@ -1,5 +1,7 @@
 #include "vellox/opc/ZipFileSource.h"
 
+#include "vellox/opc/ZipReadSource.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -12,35 +14,9 @@ namespace opc {
 
 namespace {
 
-class FileSource {
+class FileSource : public ZipReadSource {
 public:
-    explicit FileSource(std::string path) : path_(std::move(path)) { zip_error_init(&error_); }
-    FileSource(const FileSource&) = delete;
-    FileSource& operator=(const FileSource&) = delete;
-    ~FileSource() { zip_error_fini(&error_); }
-
-    zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
-        switch (command) {
-        case ZIP_SOURCE_SUPPORTS:
-            return ZIP_SOURCE_SUPPORTS_READABLE;
-        case ZIP_SOURCE_ERROR:
-            return zip_error_to_data(&error_, data, length);
-        case ZIP_SOURCE_FREE:
-            delete this;
-            return 0;
-        case ZIP_SOURCE_STAT:
-            return stat(*static_cast<zip_stat_t*>(data));
-        case ZIP_SOURCE_OPEN:
-            return open();
-        case ZIP_SOURCE_READ:
-            return read(static_cast<char*>(data), length);
-        case ZIP_SOURCE_CLOSE:
-            open_.reset();
-            return 0;
-        default:
-            return fail(ZIP_ER_OPNOTSUPP, 0);
-        }
-    }
+    explicit FileSource(std::string path) : path_(std::move(path)) {}
 
 private:
     struct Open {
@@ -49,20 +25,14 @@ private:
         std::size_t position = 0, size = 0;
     };
 
-    zip_int64_t fail(int zipCode, int systemCode) {
-        zip_error_set(&error_, zipCode, systemCode);
-        return -1;
-    }
-
-    zip_int64_t stat(zip_stat_t& facts) {
+    zip_int64_t stat(zip_stat_t& facts) override {
         std::error_code failure;
-        zip_stat_init(&facts);
         facts.size = std::filesystem::file_size(path_, failure);
         facts.valid = ZIP_STAT_SIZE;
-        return failure ? fail(ZIP_ER_OPEN, failure.value()) : static_cast<zip_int64_t>(sizeof facts);
+        return failure ? fail(ZIP_ER_OPEN, failure.value()) : 0;
     }
 
-    zip_int64_t open() {
+    zip_int64_t open() override {
         open_.reset(new (std::nothrow) Open); // an exception mustn't pass through libzip
         if (!open_)
             return fail(ZIP_ER_MEMORY, 0);
@@ -71,7 +41,7 @@ private:
         return open_->file ? 0 : fail(ZIP_ER_OPEN, errno ? errno : EIO);
     }
 
-    zip_int64_t read(char* target, zip_uint64_t count) {
+    zip_int64_t read(char* target, zip_uint64_t count) override {
         if (open_->position == open_->size && !refill())
             return -1;
         const std::size_t taken = std::min<std::size_t>(count, open_->size - open_->position);
@@ -79,6 +49,8 @@ private:
         open_->position += taken;
         return static_cast<zip_int64_t>(taken);
     }
+
+    void close() override { open_.reset(); }
 
     // Streams don't promise to keep the system's code.
     bool refill() {
@@ -91,21 +63,12 @@ private:
 
     std::string path_;
     std::unique_ptr<Open> open_;
-    zip_error_t error_{};
 };
-
-zip_int64_t answer(void* source, void* data, zip_uint64_t length, zip_source_cmd_t command) {
-    return static_cast<FileSource*>(source)->answer(data, length, command);
-}
 
 } // namespace
 
 zip_source_t* makeFileSource(zip_t* archive, const std::string& path) {
-    auto source = std::make_unique<FileSource>(path);
-    zip_source_t* made = zip_source_function(archive, answer, source.get());
-    if (made)
-        static_cast<void>(source.release()); // libzip ends it with ZIP_SOURCE_FREE
-    return made;
+    return ZipReadSource::give(archive, std::make_unique<FileSource>(path));
 }
 
 } // namespace opc

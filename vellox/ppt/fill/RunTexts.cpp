@@ -1,5 +1,6 @@
 #include "vellox/ppt/fill/RunTexts.h"
 
+#include "vellox/foundation/Lines.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"

@@ -1,6 +1,7 @@
 #include "vellox/ppt/rules/OfficeRules.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Lines.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/rules/Sequences.h"
 #include "vellox/ppt/rules/TableStyles.h"
@@ -286,24 +287,6 @@ struct ToText {
     std::wstring operator()(long long number) const { return std::to_wstring(number); }
     std::wstring operator()(bool value) const { return value ? L"true" : L"false"; }
 };
-
-// "\r\n", "\n" and "\r" end a line, and so do the vertical tab and the line separator, which programs leave behind
-// where they had a line break.
-TextLines splitLines(const std::wstring& text) {
-    if (text.find_first_of(L"\n\r\v\x2028\x2029") == std::wstring::npos)
-        return {text};
-    TextLines lines(1);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const wchar_t c = text[i];
-        if (c == L'\n' && i > 0 && text[i - 1] == L'\r')
-            continue;
-        if (c == L'\n' || c == L'\r' || c == L'\v' || c == L'\x2028' || c == L'\x2029')
-            lines.emplace_back();
-        else
-            lines.back() += c;
-    }
-    return lines;
-}
 
 } // namespace
 

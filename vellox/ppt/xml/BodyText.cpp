@@ -1,5 +1,6 @@
 #include "vellox/ppt/xml/BodyText.h"
 
+#include "vellox/foundation/Lines.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -44,20 +45,6 @@ DOMElement* findNth(const DOMElement* parent, const XMLCh* name, unsigned int n)
 DOMElement* findCell(const DOMElement* frame, unsigned int row, unsigned int column) {
     const DOMElement* table = findDescendant(frame, {xml::kAGraphic, xml::kAGraphicData, xml::kATbl});
     return findNth(findNth(table, u"a:tr", row), u"a:tc", column);
-}
-
-std::vector<std::wstring> splitLines(const std::wstring& text) {
-    std::vector<std::wstring> lines(1);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const wchar_t c = text[i];
-        if (c == L'\n' && i > 0 && text[i - 1] == L'\r')
-            continue;
-        if (c == L'\n' || c == L'\r' || c == L'\v' || c == L'\x2028' || c == L'\x2029')
-            lines.emplace_back();
-        else
-            lines.back() += c;
-    }
-    return lines;
 }
 
 namespace {

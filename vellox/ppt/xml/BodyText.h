@@ -24,9 +24,6 @@ std::size_t replaceBody(xercesc::DOMElement& body, const std::wstring& text);
 /// A cell of the table in a p:graphicFrame, both from 0; null if there is none.
 xercesc::DOMElement* findCell(const xercesc::DOMElement* frame, unsigned int row, unsigned int column);
 
-/// The lines of a text, without their ends: "\n", "\r\n", "\r", the vertical tab, the line and the paragraph separator.
-std::vector<std::wstring> splitLines(const std::wstring& text);
-
 } // namespace vellox::ppt
 
 #endif
