@@ -64,8 +64,9 @@ Content describe(const Runs& runs) {
         best = std::max(best, run.getEfficiency());
     }
     const std::wstring percent = std::to_wstring(best * 100).substr(0, 4);
-    return list({std::to_wstring(runs.size()) + L" runs, " + std::to_wstring(failed.size()) + L" beyond the limits",
-                 failed, L"Highest efficiency " + percent + L" %"});
+    return list(
+        {std::to_wstring(runs.size()) + L" runs, " + std::to_wstring(failed.size()) + L" beyond the limits",
+         failed, L"Highest efficiency " + percent + L" %"});
 }
 
 /// The run of the highest efficiency of each impeller.
@@ -143,7 +144,8 @@ void setCharts(Presentation& deck, const Runs& runs) {
 
 int main(int argc, char** argv) {
     const std::wstring output = vellox::fromUtf8(argc > 1 ? argv[1] : "weekly-report.pptx");
-    auto deck = argc > 2 ? Presentation::forOffice(output, vellox::fromUtf8(argv[2])) : Presentation::forOffice(output);
+    auto deck = argc > 2 ? Presentation::forOffice(output, vellox::fromUtf8(argv[2]))
+                         : Presentation::forOffice(output);
     const Runs runs = readWeek(EXAMPLE_DATA L"runs.csv");
     deck.open();
     if (deck.find(L"Bench").empty())
