@@ -150,15 +150,15 @@ TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
     deck.replace(L"Inner", L"new");
     deck.replace(L"Bare", L"words");
     const auto scaled = Shape::cast(deck.find(L"Scaled").front());
-    scaled->setX(L"1400emu");
-    scaled->setWidth(L"600emu");
+    scaled->setX(L"1400emus");
+    scaled->setWidth(L"600emus");
     writeFile(folder / L"a.png", makePng(100, 100));
     deck.replace(L"Photo", object(Picture(folder / L"a.png")));
     TextBox free(L"Free");
     free.add(L"x");
     Slide::cast(deck.getChildren().front())->add(free);
     close();
-    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "words", "x"}));
+    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "prompt", "words", "x"}));
     EXPECT_EQ(placeOf(shapeXml(1, "Scaled")), "205 20 300 40"); // the slide's lengths, in the group's
     EXPECT_EQ(canonical(shapeXml(1, "Bare")).find("<p:extLst/></p:sp>"), shapeXml(1, "Bare").size() - 18);
     EXPECT_EQ(placeOf(findAll(findAll(slideXml(1), "p:grpSp").at(0), "p:pic").at(0)), "50 560 1000 1000");

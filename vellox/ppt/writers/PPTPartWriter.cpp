@@ -90,8 +90,7 @@ opc::Part PPTPartWriter::copyPart(opc::Part from, const std::wstring& name, bool
     return copy;
 }
 
-std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
-    const std::wstring name = takeSlideName();
+std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide, const std::wstring& name) {
     opc::Part part = createPart(name, contenttype::kSlide);
     const std::vector<std::wstring>& ids = slide.layout->prototype->relationshipIds;
     if (!ids.empty())
