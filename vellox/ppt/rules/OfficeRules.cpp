@@ -429,6 +429,10 @@ std::vector<int> OfficeRules::shareWidth(const GridFacts& grid) const {
     return widths;
 }
 
+bool OfficeRules::measuresTexts() const {
+    return true;
+}
+
 bool OfficeRules::keepsLook() const {
     return true;
 }
@@ -438,6 +442,10 @@ const ElementForm* OfficeRules::formOf(std::u16string_view element) const {
 }
 
 bool OfficeRules::sharesImages() const {
+    return true;
+}
+
+bool OfficeRules::drawsSvg() const {
     return true;
 }
 

@@ -107,10 +107,16 @@ void PropertyElement::removeChildren(std::u16string_view name, std::u16string_vi
 
 namespace {
 
-// An element has one fill, whatever it is called.
+// An element has one fill, one bullet, one font of it, whatever they are called.
 std::u16string_view getKind(std::u16string_view name) {
     constexpr std::u16string_view kFills[] = {xml::kANoFill,   xml::kASolidFill, xml::kAGradFill,
                                               xml::kABlipFill, xml::kAPattFill,  xml::kAGrpFill};
+    constexpr std::u16string_view kBulletHead = u"a:bu";
+    if (name.substr(0, kBulletHead.size()) == kBulletHead) {
+        if (std::find(std::begin(xml::kBullets), std::end(xml::kBullets), name) != std::end(xml::kBullets))
+            return xml::kBullets[0];
+        return name == xml::kABuFontTx ? xml::kABuFont : name;
+    }
     return std::find(std::begin(kFills), std::end(kFills), name) == std::end(kFills) ? name : kFills[0];
 }
 

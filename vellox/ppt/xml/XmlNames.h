@@ -71,6 +71,17 @@ inline constexpr XMLCh kAGraphicFrameLocks[] = u"a:graphicFrameLocks";
 inline constexpr XMLCh kAGridCol[] = u"a:gridCol";
 inline constexpr XMLCh kAHlinkClick[] = u"a:hlinkClick";
 inline constexpr XMLCh kAHlinkMouseOver[] = u"a:hlinkMouseOver";
+inline constexpr XMLCh kABuFont[] = u"a:buFont";
+inline constexpr XMLCh kABuFontTx[] = u"a:buFontTx";
+inline constexpr XMLCh kABuNone[] = u"a:buNone";
+inline constexpr XMLCh kABuAutoNum[] = u"a:buAutoNum";
+inline constexpr XMLCh kABuChar[] = u"a:buChar";
+/// Of which a paragraph has one.
+inline constexpr const XMLCh* kBullets[] = {kABuNone, kABuAutoNum, kABuChar, u"a:buBlip"};
+/// Of which a text body has one.
+inline constexpr XMLCh kANoAutofit[] = u"a:noAutofit";
+inline constexpr XMLCh kANormAutofit[] = u"a:normAutofit";
+inline constexpr XMLCh kASpAutoFit[] = u"a:spAutoFit";
 inline constexpr XMLCh kALatin[] = u"a:latin";
 inline constexpr XMLCh kALstStyle[] = u"a:lstStyle";
 inline constexpr XMLCh kAOff[] = u"a:off";
@@ -137,6 +148,7 @@ inline constexpr XMLCh kIndent[] = u"indent";
 inline constexpr XMLCh kL[] = u"l";
 inline constexpr XMLCh kLastCol[] = u"lastCol";
 inline constexpr XMLCh kLastRow[] = u"lastRow";
+inline constexpr XMLCh kLang[] = u"lang";
 inline constexpr XMLCh kLvl[] = u"lvl";
 inline constexpr XMLCh kMarL[] = u"marL";
 inline constexpr XMLCh kName[] = u"name";
