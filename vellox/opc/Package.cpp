@@ -51,7 +51,11 @@ Relationship RelationshipSource::createExternalRelationship(const std::wstring& 
 }
 
 void RelationshipSource::deleteRelationship(const std::wstring& id) {
-    getTable().remove(id);
+    getTable().remove({id});
+}
+
+void RelationshipSource::deleteRelationships(const std::set<std::wstring>& ids) {
+    getTable().remove(ids);
 }
 
 void RelationshipSource::deleteRelationships(const std::wstring& type) {

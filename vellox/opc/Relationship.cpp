@@ -90,8 +90,8 @@ const Relationship& RelationshipTable::addExternal(const std::wstring& type, con
     return add(Relationship(chooseID(id), type, reference, URI(reference), true));
 }
 
-void RelationshipTable::remove(const std::wstring& id) {
-    removeIf([&](const Relationship& row) { return row.getID() == id; });
+void RelationshipTable::remove(const std::set<std::wstring>& ids) {
+    removeIf([&](const Relationship& row) { return ids.count(row.getID()) > 0; });
 }
 
 void RelationshipTable::removeOfType(const std::wstring& type) {

@@ -266,6 +266,10 @@ bool ClassicRules::measuresTexts() const {
     return false;
 }
 
+bool ClassicRules::keepsDescription() const {
+    return true;
+}
+
 bool ClassicRules::keepsLook() const {
     return false;
 }

@@ -52,6 +52,7 @@ public:
     std::vector<int> shareWidth(const GridFacts& grid) const override;
     bool measuresTexts() const override;
     bool keepsLook() const override;
+    bool keepsDescription() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
     bool sharesImages() const override;

@@ -197,12 +197,9 @@ void BaseTextBoxWriter::writeSpPr(DOMElement* shape) const {
 void BaseTextBoxWriter::writeBodyPr(DOMElement* txBody) const {
     if (bodyPr_.isEmpty())
         return;
-    if (DOMElement* properties = findChild(txBody, xml::kABodyPr)) {
-        if (textBox_.getAutofit().isSet())
-            for (const XMLCh* other : {xml::kANoAutofit, xml::kANormAutofit, xml::kASpAutoFit})
-                removeChildElements(properties, other);
+    if (DOMElement* properties = findChild(txBody, xml::kABodyPr))
         bodyPr_.applyTo(properties);
-    } else
+    else
         bodyPr_.appendTo(txBody);
     arrange(txBody);
     arrange(findChild(txBody, xml::kABodyPr));

@@ -16,7 +16,6 @@
 #include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/writers/TextWriter.h"
-#include "vellox/ppt/xml/ChildOrder.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -70,13 +69,8 @@ void ParagraphWriter::applyTo(DOMElement* paragraph) {
     if (pPr_.isEmpty())
         return;
     DOMElement* properties = requireFirstChild(paragraph, xml::kAPPr);
-    if (bullet_)
-        for (const XMLCh* other : xml::kBullets)
-            removeChildElements(properties, other);
     pPr_.applyTo(properties);
-    if (!isArranged_)
-        sortChildren(properties, findElementForm(xml::kAPPr)->children);
-    arrange(properties);
+    arrangeAnyway(properties);
 }
 
 PPTWriter::Frame ParagraphWriter::makeRunFrame() const {

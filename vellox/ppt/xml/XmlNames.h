@@ -76,9 +76,7 @@ inline constexpr XMLCh kABuFontTx[] = u"a:buFontTx";
 inline constexpr XMLCh kABuNone[] = u"a:buNone";
 inline constexpr XMLCh kABuAutoNum[] = u"a:buAutoNum";
 inline constexpr XMLCh kABuChar[] = u"a:buChar";
-/// Of which a paragraph has one.
-inline constexpr const XMLCh* kBullets[] = {kABuNone, kABuAutoNum, kABuChar, u"a:buBlip"};
-/// Of which a text body has one.
+inline constexpr XMLCh kABuBlip[] = u"a:buBlip";
 inline constexpr XMLCh kANoAutofit[] = u"a:noAutofit";
 inline constexpr XMLCh kANormAutofit[] = u"a:normAutofit";
 inline constexpr XMLCh kASpAutoFit[] = u"a:spAutoFit";
