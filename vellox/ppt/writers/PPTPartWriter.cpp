@@ -127,16 +127,16 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const ImageSo
 
 std::wstring PPTPartWriter::requireImagePart(const ImageSource& image, bool isShared) {
     std::wstring present = isShared ? images_.findSource(image) : std::wstring();
-    ImageIndex::Reading reading;
-    if (!present.empty() || !ImageIndex::read(image, isShared, reading))
+    ImageIndex::Look look;
+    if (!present.empty() || !ImageIndex::look(image, look))
         return present;
     if (isShared)
-        present = images_.findEqual(reading);
+        present = images_.findEqual(look);
     if (!present.empty())
         return present;
     const std::wstring name = createImagePart(image);
     if (isShared)
-        images_.add(reading, name);
+        images_.add(look, name);
     return name;
 }
 
