@@ -37,7 +37,9 @@ def main():
         slide = deck.add("Title Only", {"Title": "Three ways to fit"})
         for number, autofit in enumerate(["none", "shrink", "resize"]):
             add_box(slide, autofit, number)
-        deck.add("Title and Picture", {"Title": "The plant", "Picture": ppt.Picture(str(PLANT))})
+        plant = ppt.Picture(str(PLANT))
+        plant.Fit = "enlarge"
+        deck.add("Title and Picture", {"Title": "The plant", "Picture": plant})
     print(output)
 
 

@@ -123,7 +123,7 @@ TEST_F(ParagraphFormatsTest, LengthsComeInTheSequenceOfTheSchema) {
               "<a:spcBef><a:spcPct val='50000'/></a:spcBef><a:spcAft><a:spcPts val='600'/></a:spcAft>"
               "<a:buFontTx/><a:buChar char='-'/></a:pPr>");
     EXPECT_EQ(found.at(1),
-              "<a:pPr algn='ctr' indent='-359998' marL='0' rtl='1'><a:spcBef><a:spcPts val='158400'/>"
+              "<a:pPr algn='ctr' indent='-359999' marL='0' rtl='1'><a:spcBef><a:spcPts val='158400'/>"
               "</a:spcBef></a:pPr>");
     EXPECT_EQ(valuesOf(shapeXml(1, "Box"), "a:rPr", "lang"), Texts{"ar-SA"});
     EXPECT_EQ(count("valueLimited"), 3u);

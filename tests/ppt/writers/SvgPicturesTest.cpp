@@ -57,10 +57,11 @@ TEST(SvgText, SizesAreThoseOfTheImageItself) {
     for (const Row& row : rows) {
         const auto size = readSvgSize(row.tag);
         ASSERT_EQ(size.has_value(), row.width > 0) << row.tag;
-        if (size)
+        if (size) {
             EXPECT_EQ(std::make_pair(std::round(size->width), std::round(size->height)),
                       std::make_pair(row.width, row.height))
                 << row.tag;
+        }
     }
 }
 
@@ -80,7 +81,9 @@ protected:
 TEST_F(SvgPicturesTest, BothPicturesAreStoredOnce) {
     const std::wstring path = write(L"plant.svg", "<!DOCTYPE svg>" + kSvg);
     Slide slide = deck.add(L"Title and Picture");
-    slide.replace(L"Picture", Picture(path));
+    Picture fitted(path);
+    fitted.setFit(L"enlarge");
+    slide.replace(L"Picture", fitted);
     Picture free(path);
     free.setName(L"Free");
     slide.add(free);
@@ -104,8 +107,9 @@ TEST_F(SvgPicturesTest, BothPicturesAreStoredOnce) {
     for (const std::string& row : findAll(rels, "Relationship")) {
         const bool isSvg = row.find(".svg'") != std::string::npos;
         if (row.find("'" + svg + "'") != std::string::npos ||
-            row.find("'" + drawn + "'") != std::string::npos)
+            row.find("'" + drawn + "'") != std::string::npos) {
             EXPECT_EQ(isSvg, row.find("'" + svg + "'") != std::string::npos) << row;
+        }
     }
 }
 
