@@ -1,5 +1,6 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include "vellox/foundation/FontMetrics.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -8,11 +9,13 @@
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/DocumentProperties.h"
+#include "vellox/ppt/writers/InheritedTexts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
 #include "vellox/ppt/writers/SlideRemoval.h"
+#include "vellox/ppt/writers/SvgPictures.h"
 #include "vellox/ppt/writers/TableStylesPart.h"
 
 #include <boost/make_shared.hpp>
@@ -34,15 +37,42 @@ void PPTWriter::report(const MsgID& finding) const {
         ppt::report(finding, *reporter_);
 }
 
+InheritedTexts& PPTWriter::getInheritedTexts() {
+    if (!texts_)
+        texts_ = boost::make_shared<InheritedTexts>(*partWriter_, *model_);
+    return *texts_;
+}
+
+SvgPictures& PPTWriter::getSvgPictures() {
+    if (!svgPictures_)
+        svgPictures_ = boost::make_shared<SvgPictures>(*partWriter_);
+    return *svgPictures_;
+}
+
+FontBook& PPTWriter::getFonts() {
+    if (!fonts_)
+        fonts_ = boost::make_shared<FontBook>();
+    return *fonts_;
+}
+
+bool PPTWriter::isOnNewSlide() const {
+    return currentSlide_ && !slides_.back().slide->source;
+}
+
+const TemplateLayout* PPTWriter::getCurrentLayout() const {
+    return currentSlide_ ? slides_.back().slide->layout.get() : nullptr;
+}
+
 ChartParts& PPTWriter::getChartParts() {
     if (!chartParts_)
         chartParts_ = boost::make_shared<ChartParts>(*partWriter_);
     return *chartParts_;
 }
 
-void PPTWriter::writeCharts() {
+void PPTWriter::writeAttachments() {
     if (chartParts_)
         chartParts_->write();
+    notes_->write();
 }
 
 void PPTWriter::prepare(const PPTNode::Children& slides) {

@@ -7,6 +7,7 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
+#include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
@@ -27,7 +28,7 @@ bool isChanged(const ShapeImpl& shape) {
 }
 
 void reportGrouped(const PPTNodeImpl& group) {
-    for (const auto& child : group.getChildren()) {
+    for (const auto& child : PPTNode::Children(group.getChildren())) { // a listener may change them
         const auto* shape = implAs<ShapeImpl>(*child);
         if (child->getNodeType() == NodeType::Group)
             reportGrouped(*shape);
@@ -36,8 +37,14 @@ void reportGrouped(const PPTNodeImpl& group) {
     }
 }
 
+// Text and box are made to fit, which is seen to where they are written.
+bool fits(const ShapeImpl& shape) {
+    const auto* textBox = dynamic_cast<const BaseTextBoxImpl*>(&shape);
+    return textBox && textBox->getAutofit().isSet() && textBox->getAutofit().get() != autofit::kNone;
+}
+
 // What stands on a slide of the template has contents that nobody here knows.
-void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
+void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, bool isMeasured, double slideHeight) {
     if (shape.getTemplateShape() && !isOnNewSlide)
         return;
     const NodeType type = shape.getNodeType();
@@ -46,26 +53,26 @@ void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
     const bool isPlaceholder = isKindOf(type, NodeType::TextBoxPlaceholder);
     if (isPlaceholder && shape.getChildren().empty() && !shape.isContentReplaced())
         report(ppt_finding::emptyPlaceholder(), shape);
-    else if (isPlaceholder || type == NodeType::TextBox)
+    else if ((isPlaceholder || type == NodeType::TextBox) && !(isMeasured && fits(shape)))
         reportFit(shape);
 }
 
 } // namespace
 
-void reportOnSlide(const SlideImpl& slide, const PresentationModel& model) {
+void reportOnSlide(const SlideImpl& slide, const PPTNode::Children& shapes, const PresentationModel& model) {
     const boost::shared_ptr<TemplateLayout>& layout = slide.getTemplateSlide()->layout;
     if (layout && layout->prototype && !layout->prototype->isWhole)
         report(ppt_finding::layoutCopiedInPart(layout->name), slide);
     const bool isNew = !slide.getTemplateSlide()->source;
     const double height = str2double(model.getTemplate().slideHeight);
     reportName(slide);
-    for (const auto& child : slide.getChildren()) {
+    for (const auto& child : shapes) {
         const auto* shape = implOf<PPTNodeImpl>(*child);
         reportName(*shape);
         if (shape->getNodeType() == NodeType::Group && !model.getRules().reachesIntoGroups())
             reportGrouped(*shape);
         if (const auto* placed = implAs<ShapeImpl>(*child))
-            reportRoom(*placed, isNew, height);
+            reportRoom(*placed, isNew, model.getRules().measuresTexts(), height);
     }
 }
 
