@@ -462,6 +462,20 @@ struct VELLOX_API macrosLeftOut : MsgID {
 struct VELLOX_API signaturesRemoved : MsgID {
     signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
 };
+/// The name of the output is one that Windows keeps for a device.
+struct VELLOX_API deviceFileName : MsgID {
+    explicit deviceFileName(const std::wstring& name) : MsgID(kCatalog, "deviceFileName", {name}) {}
+};
+/// A part that was written isn't as the format has it: a fault of the library, or one that the template had.
+struct VELLOX_API unsoundPart : MsgID {
+    unsoundPart(const std::wstring& part, const std::wstring& fault)
+        : MsgID(kCatalog, "unsoundPart", {part, fault}) {}
+};
+/// A part that was written has something that programs read in different ways.
+struct VELLOX_API doubtfulPart : MsgID {
+    doubtfulPart(const std::wstring& part, const std::wstring& fault)
+        : MsgID(kCatalog, "doubtfulPart", {part, fault}) {}
+};
 /// The profile of an open presentation is to change.
 struct VELLOX_API cannotChangeProfile : MsgID {
     cannotChangeProfile() : MsgID(kCatalog, "cannotChangeProfile", 0) {}

@@ -139,7 +139,7 @@ TEST_F(FindingsTest, TextsThatAreNotWritten) {
     close();
     EXPECT_EQ(told(), (Lines{L"noShapeProperties 1 Bare", L"noTextBody 1 Bare", L"charactersDropped 1 Box",
                              L"emptyLinkTarget 1 Box"}));
-    EXPECT_EQ(deck.getFindings()[2].text, L"2 characters that a file can't hold were left out");
+    EXPECT_EQ(deck.getFindings()[2].text, L"characters that a file can't hold were left out: 2");
 }
 
 TEST_F(FindingsTest, WhatComesTooLate) {

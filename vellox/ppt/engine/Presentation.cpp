@@ -143,6 +143,8 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
         layout = masterName ? model_->findLayout(layoutName, *masterName) : model_->findLayout(layoutName);
     if (!layout)
         refuseLayout(layoutName, masterName);
+    if (layout->master.expired())
+        report(ppt_finding::unsoundPart(layout->partName, L"it leads to no slide master"), *this);
     const boost::shared_ptr<TemplateSlide> record = model_->createSlide(layout);
     auto* slide = new SlideImpl(record);
     const Child handle = slide->makeInterface();

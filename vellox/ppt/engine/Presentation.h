@@ -177,6 +177,9 @@ public:
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
     /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
     /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
+    /// | deviceFileName | warning | the output is called as a device of Windows |
+    /// | unsoundPart | error | a part that was written, or a layout of a new slide, isn't as the format has it |
+    /// | doubtfulPart | warning | a part that was written has something that programs read in different ways |
     /// | cannotChangeProfile | warning | the profile of an open presentation was to change |
     /// | emptyPlaceholder | info | a placeholder of a new slide got nothing |
     /// | textTooLong | warning | a text takes more room than its box has, by an estimate |

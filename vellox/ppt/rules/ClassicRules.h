@@ -52,6 +52,7 @@ public:
     bool keepsLook() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
+    bool checksDocuments() const override;
     bool sharesImages() const override;
     bool readsTraits() const override;
     PictureFacts sizeFree(const PictureFacts& picture) const override;

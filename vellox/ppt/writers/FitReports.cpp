@@ -7,6 +7,7 @@
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/writers/LetterWidths.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,16 +19,13 @@ namespace {
 
 constexpr double kEmuPerPoint = 12700;
 constexpr double kDefaultSize = 18; // in points, as that of the other sizes here
-constexpr double kCharacterWidth = 0.5, kWideCharacterWidth = 1, kLineHeight = 1.2; // of the size
-constexpr double kMarginX = 91440, kMarginY = 45720;                                // in EMU, on either side
+constexpr double kLineHeight = 1.2;                  // of the size
+constexpr double kMarginX = 91440, kMarginY = 45720; // in EMU, on either side
 constexpr double kTolerance = 1.15;
 
 struct Room {
     double cx, cy;
 };
-
-// From here on characters are as wide as they are high.
-constexpr wchar_t kFirstWide = L'\x2E80';
 
 double findSize(const ElementImpl& element, double inherited) {
     const auto format = element.getStyle().getFormat(FormatType::FontSize);
@@ -52,7 +50,7 @@ public:
             if (c == L'\n')
                 endLine();
             else
-                line_ += size * kEmuPerPoint * (c < kFirstWide ? kCharacterWidth : kWideCharacterWidth);
+                line_ += size * kEmuPerPoint * getLetterWidth(c);
         }
     }
     Need finish() {

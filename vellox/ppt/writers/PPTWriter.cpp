@@ -10,6 +10,7 @@
 #include "vellox/ppt/writers/DocumentProperties.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/PartReports.h"
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
 #include "vellox/ppt/writers/SlideRemoval.h"
@@ -32,6 +33,13 @@ PPTWriter::~PPTWriter() = default;
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+void PPTWriter::setCheck(const boost::shared_ptr<check::MarkupCheck>& check) {
+    partWriter_->setWatcher([this, check](const opc::Part& part, std::string_view markup) {
+        if (reporter_)
+            reportOnPart(part, markup, *check, *reporter_);
+    });
 }
 
 ChartParts& PPTWriter::getChartParts() {

@@ -23,6 +23,10 @@ namespace vellox {
 class MsgID;
 }
 
+namespace vellox::check {
+class MarkupCheck;
+}
+
 namespace vellox::ppt {
 
 class ChartParts;
@@ -123,7 +127,9 @@ public:
 
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
-    /// Null between shapes, but the presentation while the writing is ended.
+    /// Has all that is written checked. What is found is reported about whatever is being written.
+    void setCheck(const boost::shared_ptr<check::MarkupCheck>& check);
+    /// Null between slides, but the presentation while the writing is ended.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     ChartParts& getChartParts();

@@ -43,6 +43,7 @@ void SlideWriter::write() {
     reportOnSlide(slide_, getModel());
     writeShapes(document, shapes, taken);
     arrange(document.getShapeTree());
+    getWriter().setReporter(&slide_);
     opc::MarkupBuffer text;
     document.writeTo(text);
     getPartWriter().writeMarkup(partName, text.get());
@@ -51,6 +52,7 @@ void SlideWriter::write() {
             getWriter().getChartParts().add(partName, getWriter().getCurrentSlideNumber(), chart);
     if (record->notes && record->notes->isChanged)
         getWriter().getNotes().write(partName, *record->notes);
+    getWriter().setReporter(nullptr);
 }
 
 std::wstring SlideWriter::requirePart(const TemplateSlide& slide, SlideDocument& document) const {
