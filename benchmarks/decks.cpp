@@ -100,7 +100,8 @@ void makeTableDeck(const std::wstring& output, unsigned slides, const std::wstri
     deck.close();
 }
 
-void makeChartDeck(const std::wstring& output, const std::wstring& templatePath, const std::wstring& profile) {
+void makeChartDeck(const std::wstring& output, const std::wstring& templatePath,
+                   const std::wstring& profile) {
     constexpr unsigned kSeries = 3, kMonths = 12;
     Presentation deck(output, templatePath);
     deck.setProfile(profile);
@@ -178,8 +179,8 @@ void openDeck(const std::wstring& output, const std::wstring& templatePath) {
 
 void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
     const std::string target = toUtf8(path);
-    std::filesystem::copy_file(
-        toUtf8(getDefaultTemplate()), target, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(toUtf8(getDefaultTemplate()), target,
+                               std::filesystem::copy_options::overwrite_existing);
     zip_t* archive = zip_open(target.c_str(), 0, nullptr);
     const zip_int64_t master = zip_name_locate(archive, "ppt/slideMasters/slideMaster1.xml", 0);
     const auto index = static_cast<zip_uint64_t>(master);

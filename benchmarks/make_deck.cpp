@@ -71,10 +71,11 @@ int main(int argc, char** argv) {
     }
     if (argc < 4 || !run(argv[1], static_cast<unsigned>(std::stoul(argv[2])), vellox::fromUtf8(argv[3]),
                          vellox::fromUtf8(argc > 4 ? argv[4] : ""))) {
-        std::cerr << "usage: make_deck [office-]text|styled|table|picture|chart|small|small-path|images|master "
-                     "<count> <output> "
-                     "[<folder>]\n"
-                     "       make_deck open <template> <output>\n";
+        std::cerr
+            << "usage: make_deck [office-]text|styled|table|picture|chart|small|small-path|images|master "
+               "<count> <output> "
+               "[<folder>]\n"
+               "       make_deck open <template> <output>\n";
         return 2;
     }
     return 0;

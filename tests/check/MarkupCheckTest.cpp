@@ -82,7 +82,8 @@ TEST_F(MarkupCheck, SaysWhatTheCheckOfNodesSays) {
             const Parts spoilt = test::mutate(sound, mutation, seed);
             for (const auto& [name, bytes] : spoilt) {
                 const auto former = sound.find(name);
-                const bool isDocument = name.compare(0, 4, "ppt/") == 0 && name.find(".xml") == name.size() - 4;
+                const bool isDocument =
+                    name.compare(0, 4, "ppt/") == 0 && name.find(".xml") == name.size() - 4;
                 if (!isDocument || (former != sound.end() && former->second == bytes))
                     continue;
                 const check::RelationshipKinds kinds = readKinds(spoilt, name);
@@ -98,10 +99,11 @@ TEST_F(MarkupCheck, SaysWhatTheCheckOfNodesSays) {
 }
 
 TEST_F(MarkupCheck, KnowsItsWayThroughWhatIsSound) {
-    const std::string head = "<?xml version=\"1.0\"?>\n<p:sld xmlns:p=\"http://schemas.openxmlformats.org/"
-                             "presentationml/2006/main\" xmlns:a=\"http://schemas.openxmlformats.org/drawingml/"
-                             "2006/main\"><p:cSld><p:spTree><p:nvGrpSpPr><p:cNvPr id=\"1\" name=\"\"/>"
-                             "<p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr/>";
+    const std::string head =
+        "<?xml version=\"1.0\"?>\n<p:sld xmlns:p=\"http://schemas.openxmlformats.org/"
+        "presentationml/2006/main\" xmlns:a=\"http://schemas.openxmlformats.org/drawingml/"
+        "2006/main\"><p:cSld><p:spTree><p:nvGrpSpPr><p:cNvPr id=\"1\" name=\"\"/>"
+        "<p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr/>";
     const auto shape = [](const std::string& id, const std::string& inProperties, const std::string& text) {
         return "<p:sp><p:nvSpPr><p:cNvPr id=\"" + id + "\" name=\"&lt;1 > 0\">" + inProperties +
                "</p:cNvPr><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr/><p:txBody><a:bodyPr/><a:p>" + text +

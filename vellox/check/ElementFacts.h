@@ -36,7 +36,7 @@ Watch findWatch(Namespace space, std::u16string_view name);
 
 /// The kinds of relationships that references may name.
 struct TargetKinds {
-    const wchar_t* kind = nullptr; ///< null for any
+    const wchar_t* kind = nullptr;  ///< null for any
     const wchar_t* other = nullptr; ///< allowed too, or null
 
     bool take(const std::wstring& found) const { return !kind || found == kind || (other && found == other); }

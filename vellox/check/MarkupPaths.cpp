@@ -7,7 +7,7 @@ namespace vellox::check {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
-constexpr std::size_t kMaxSteps = 32; // of one spot: names and places are other ones in each slide
+constexpr std::size_t kMaxSteps = 32;      // of one spot: names and places are other ones in each slide
 constexpr unsigned kMaxContexts = 500;     // each declaration that comes first time is compared with all
 constexpr ContentModel::State kPassed = 0; // in an element that holds a value: that stands there
 
@@ -97,7 +97,8 @@ bool MarkupPaths::read(std::string_view markup, Tag& tag) {
         const std::size_t end = markup.find('"', equals + 2);
         if (end == markup.npos)
             return false;
-        tag.attributes.push_back({markup.substr(at, equals - at), markup.substr(equals + 2, end - equals - 2)});
+        tag.attributes.push_back(
+            {markup.substr(at, equals - at), markup.substr(equals + 2, end - equals - 2)});
         if (tag.attributes.back().value.find('<') != std::string_view::npos)
             return false;
         at = end + 1;
@@ -134,7 +135,8 @@ const MarkupPaths::Step* MarkupPaths::learn(Spot& spot, Tag& tag) {
 // The names of the element and its attributes.
 bool MarkupPaths::enter(Tag& tag, unsigned& context, Key& key) {
     context = declare(context, tag);
-    if (context == kMaxContexts || !findKey(context, tag.name, contexts_[context].find("")->second, key) || key == alternate_)
+    if (context == kMaxContexts || !findKey(context, tag.name, contexts_[context].find("")->second, key) ||
+        key == alternate_)
         return false;
     const auto first = std::remove_if(tag.attributes.begin(), tag.attributes.end(),
                                       [](const Attribute& row) { return isDeclaration(row.name); });

@@ -4,8 +4,7 @@
 
 namespace vellox::ppt {
 
-PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> package)
-    : OPCPartWriter(std::move(package)) {}
+PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> package) : OPCPartWriter(std::move(package)) {}
 
 PartDOMWriter::~PartDOMWriter() = default;
 

@@ -18,7 +18,7 @@ namespace vellox::ppt {
 namespace {
 
 constexpr double kEmuPerPoint = 12700;
-constexpr double kDefaultSize = 18; // in points, as that of the other sizes here
+constexpr double kDefaultSize = 18;                  // in points, as that of the other sizes here
 constexpr double kLineHeight = 1.2;                  // of the size
 constexpr double kMarginX = 91440, kMarginY = 45720; // in EMU, on either side
 constexpr double kTolerance = 1.15;

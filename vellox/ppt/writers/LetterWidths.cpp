@@ -45,7 +45,9 @@ bool isWideLetter(wchar_t c) {
 
 double getLetterWidth(wchar_t c) {
     const bool isPlain = c >= 0 && static_cast<std::size_t>(c) < kWidths.size();
-    const int width = isPlain ? kWidths[static_cast<std::size_t>(c)] : isWideLetter(c) ? kFullWidth : kUsualWidth;
+    const int width = isPlain           ? kWidths[static_cast<std::size_t>(c)]
+                      : isWideLetter(c) ? kFullWidth
+                                        : kUsualWidth;
     return width / 100.0;
 }
 
