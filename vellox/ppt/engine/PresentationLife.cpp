@@ -143,7 +143,7 @@ void PresentationImpl::takeSlide(const boost::shared_ptr<TemplateSlide>& slide) 
 
 void PresentationImpl::rejectTemplate() {
     state_ = PresentationState::TemplateInvalid;
-    raise(ppt_error::invalidTemplate(partBuilder_->getPath()));
+    raise(ppt_error::invalidTemplate(partBuilder_ ? partBuilder_->getPath() : report_->templatePath));
 }
 
 void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
@@ -227,7 +227,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     for (const Child& slide : slides)
         writer.write(*slide);
     writer.setReporter(this);
-    writer.writeCharts();
+    writer.writeAttachments();
     state_ = PresentationState::Closed;
     attempt.keep();
     writer.finish(properties_);

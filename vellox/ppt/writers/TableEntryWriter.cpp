@@ -77,7 +77,7 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
             cell->insertBefore(properties, body->getNextSibling());
         }
         tcPr_.applyTo(properties);
-        arrange(properties);
+        arrangeAnyway(properties);
     }
     const std::size_t dropped = entry.getNewText() ? replaceBody(*body, *entry.getNewText()) : 0;
     if (dropped > 0)
