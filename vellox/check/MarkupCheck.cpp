@@ -51,11 +51,13 @@ bool MarkupCheck::isPlainlySound(std::string_view markup, const GetKinds& getKin
 bool MarkupCheck::walk(std::string_view markup) {
     MarkupPaths::Spot* spot = &paths_->getStart();
     while (true) {
-        const std::size_t text = std::min(markup.find('<'), markup.size());
-        spot = text == 0 ? spot : paths_->passText(*spot, markup.substr(0, text));
-        markup.remove_prefix(text);
+        if (!markup.empty() && markup.front() != '<') {
+            const std::size_t text = std::min(markup.find('<'), markup.size());
+            spot = paths_->passText(*spot, markup.substr(0, text));
+            markup.remove_prefix(text);
+        }
         if (!spot || markup.empty())
-            return spot && open_.empty();
+            return spot && open_.empty() && spot != &paths_->getStart();
         if (markup.substr(0, 2) == "</") {
             if (!mayLeave(*spot) || markup.compare(0, spot->end.size(), spot->end) != 0)
                 return false;
@@ -67,7 +69,8 @@ bool MarkupCheck::walk(std::string_view markup) {
         const MarkupPaths::Step* step = paths_->follow(*spot, markup);
         if (!step)
             return false;
-        see(*step);
+        if (!step->isPlain)
+            see(*step);
         markup.remove_prefix(step->tag.size());
         if (step->within)
             open_.push_back(step->after);

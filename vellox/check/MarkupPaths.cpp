@@ -252,6 +252,8 @@ bool MarkupPaths::seeFacts(const Tag& tag, Key key, Step& step) const {
         step.references.push_back(
             {widen(row.value), findTargetKinds(getNamespace(key), local, widenAscii(find("action")))});
     }
+    const bool isOfTable = key == column_ || key == row_ || key == cell_;
+    step.isPlain = step.watch == Watch::Nothing && step.references.empty() && !isOfTable;
     return true;
 }
 

@@ -40,6 +40,7 @@ public:
         Watch watch = Watch::Nothing;
         std::string id = {}; ///< of the shape, or of the one that is pointed to
         std::vector<Reference> references = {};
+        bool isPlain = false; ///< there is nothing to watch, and it is no piece of a table
     };
 
     struct Spot {

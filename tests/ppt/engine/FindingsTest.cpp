@@ -194,7 +194,7 @@ TEST_F(FindingsTest, WhatFindsNoRoom) {
     EXPECT_EQ(told(), (Lines{L"textTooLong 1 Small", L"tableTooLong 1 Table"}));
     const Finding left = deck.getFindings().at(2);
     EXPECT_EQ(left.code + " " + toUtf8(left.shape), "emptyPlaceholder Unused");
-    EXPECT_EQ(deck.getFindings()[0].text, L"the text takes about 570 % of the room that its box has");
+    EXPECT_EQ(deck.getFindings()[0].text, L"the text takes about 820 % of the room that its box has");
 }
 
 // By the name of the error, the first finding that is one is raised, and nothing has happened then.

@@ -158,7 +158,7 @@ TEST_F(OfficePackageTest, MacrosGoWhereTheyMayAndSignaturesNowhere) {
 TEST_F(OfficePackageTest, WhatIsUnsoundIsTold) {
     builder.addMaster("Master");
     Page& layout = builder.addLayout("Own", shape(2, "Words", "<p:ph type='body'/>"));
-    builder.addSlide("Made", layout, shape(7, "Odd", "", "<a:prstGeom prst='rect'/><a:xfrm/>"));
+    builder.addSlide("Made", layout, shape(7, "Odd", "<p:odd/>"));
     const auto tell = [&](const Parts& parts, const wchar_t* profile) {
         useTemplate(parts);
         deck.setProfile(profile);
@@ -176,7 +176,7 @@ TEST_F(OfficePackageTest, WhatIsUnsoundIsTold) {
     ASSERT_EQ(told.size(), 1u);
     EXPECT_EQ(told[0],
               "1 /ppt/slides/slide1.xml isn't as programs expect it, and some may want to repair the file: "
-              "Odd: a:xfrm comes too late in p:spPr, or once too often");
+              "Odd: p:odd isn't allowed in p:nvPr");
     // What new slides have of a layout, and other parts that are written.
     const char kLayout[] = "ppt/slideLayouts/slideLayout1.xml";
     EXPECT_EQ(
