@@ -49,7 +49,14 @@ def template(tmp_path):
             element.text = text
         return ElementTree.tostring(root, encoding="utf-8", xml_declaration=True)
 
-    rewrite(plain, path, {"docProps/core.xml": age})
+    def count(data):
+        root = ElementTree.fromstring(data)
+        for element in root.findall(APP + "Slides"):
+            root.remove(element)
+        ElementTree.SubElement(root, APP + "Slides").text = "9"
+        return ElementTree.tostring(root, encoding="utf-8", xml_declaration=True)
+
+    rewrite(plain, path, {"docProps/core.xml": age, "docProps/app.xml": count})
     return path
 
 

@@ -264,8 +264,9 @@ TEST_F(OfficePackageTest, PropertiesTellOfTheDeck) {
     EXPECT_TRUE(findAll(parts.at("docProps/app.xml"), "Words").empty());
     // There may be one such part, however it is named.
     const std::string usual = "package/2006/relationships/metadata/core-properties";
-    const Parts former = std::exchange(
-        source, withChange(source, "_rels/.rels", usual, "officedocument/2006/relationships/metadata/core-properties"));
+    const Parts former =
+        std::exchange(source, withChange(source, "_rels/.rels", usual,
+                                         "officedocument/2006/relationships/metadata/core-properties"));
     parts = make(L"office", L"Me");
     EXPECT_EQ(coreText(parts, "dc:creator"), "Me");
     EXPECT_EQ(parts.at("_rels/.rels").find(usual), std::string::npos);
