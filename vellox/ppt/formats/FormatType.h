@@ -22,11 +22,19 @@ enum class FormatType : int {
     Subscript = 10,
     Superscript = 11,
     Underline = 12,
-    VAlign = 13
+    VAlign = 13,
+    Bullet = 14,
+    SpaceBefore = 15,
+    SpaceAfter = 16,
+    LineSpacing = 17,
+    LeftIndent = 18,
+    FirstLineIndent = 19,
+    RightToLeft = 20,
+    Language = 21
 };
 
 /// One more than the number of the last.
-inline constexpr unsigned int kFormatTypeCount = 14;
+inline constexpr unsigned int kFormatTypeCount = 22;
 
 } // namespace vellox::ppt
 
