@@ -22,11 +22,14 @@ enum class FormatType : int {
     Subscript = 10,
     Superscript = 11,
     Underline = 12,
-    VAlign = 13
+    VAlign = 13,
+    CellBorders = 14,
+    CellMargins = 15,
+    ValueFormat = 16
 };
 
 /// One more than the number of the last.
-inline constexpr unsigned int kFormatTypeCount = 14;
+inline constexpr unsigned int kFormatTypeCount = 17;
 
 } // namespace vellox::ppt
 

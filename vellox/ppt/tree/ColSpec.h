@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/formats/CellProperties.h"
 #include "vellox/ppt/object/Element.h"
 
 namespace vellox::ppt {
@@ -16,10 +16,7 @@ class ColSpecImpl;
 /// The width and the formats of one column. A format of a row goes before that of a column. A handle: copies
 /// share one specification.
 class VELLOX_API ColSpec : public Element,
-                           public CharacterProperties<ColSpec>,
-                           public BackgroundColorProperty<ColSpec>,
-                           public HAlignProperty<ColSpec>,
-                           public VAlignProperty<ColSpec>,
+                           public CellProperties<ColSpec>,
                            public WidthProperty<ColSpec> {
 public:
     ColSpec();

@@ -6,10 +6,12 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TableRowImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 namespace vellox::ppt {
@@ -140,31 +142,45 @@ void reportFit(const ShapeImpl& textBox) {
         report(ppt_finding::textTooLong(toPercent(need.height / cy)), textBox);
 }
 
-void reportFit(const TableImpl& table, double slideHeight) {
-    const PlaceText* place = findPlace(table);
-    const double cx = findLength(table.getGeometry().cx, place, &PlaceText::cx);
-    const double y = findLength(table.getGeometry().y, place, &PlaceText::y);
-    double room = findLength(table.getGeometry().cy, place, &PlaceText::cy);
-    if (room <= 0)
-        room = slideHeight - y;
-    const double column = table.getNCols() > 0 ? cx / table.getNCols() - 2 * kMarginX : 0;
-    if (room <= 0 || column <= 0)
-        return;
+TableRoom findTableRoom(const ShapeImpl& shape, double slideHeight) {
+    const PlaceText* place = findPlace(shape);
+    TableRoom room;
+    room.width = findLength(shape.getGeometry().cx, place, &PlaceText::cx);
+    room.height = findLength(shape.getGeometry().cy, place, &PlaceText::cy);
+    if (room.height <= 0)
+        room.height = std::max(0.0, slideHeight - findLength(shape.getGeometry().y, place, &PlaceText::y));
+    return room;
+}
+
+std::vector<double> estimateRowHeights(const TableImpl& table, double width) {
+    const double column = table.getNCols() > 0 ? width / table.getNCols() - 2 * kMarginX : 0;
     const double size = findSizeAbove(table);
-    double height = 0;
+    const double least = table.getRowHeight().isSet() ? table.getRowHeight().get().getEMUNumber() : 0;
+    std::vector<double> heights;
     for (const auto& child : table.getChildren()) {
-        const ElementImpl* row = implOf<PPTNodeImpl>(*child)->asElement();
+        const auto* row = implAs<TableRowImpl>(*child);
         double highest = kDefaultSize * kEmuPerPoint * kLineHeight;
-        for (const auto& cell : row ? row->getChildren() : PPTNode::Children()) {
+        for (const auto& cell : row && column > 0 ? row->getChildren() : PPTNode::Children()) {
             const ElementImpl* entry = implOf<PPTNodeImpl>(*cell)->asElement();
             const double own = entry ? findSize(*entry, findSize(*row, size)) : size;
             highest = std::max(highest,
                                measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column).height);
         }
-        height += highest + 2 * kMarginY;
+        const bool isTold = row && row->getHeight().isSet();
+        heights.push_back(
+            std::max(highest + 2 * kMarginY, isTold ? row->getHeight().get().getEMUNumber() : least));
     }
-    if (height > room * kTolerance)
-        report(ppt_finding::tableTooLong(toPercent(height / room)), table);
+    return heights;
+}
+
+void reportFit(const TableImpl& table, double slideHeight) {
+    const TableRoom room = findTableRoom(table, slideHeight);
+    if (room.height <= 0 || table.getNCols() == 0 || room.width / table.getNCols() <= 2 * kMarginX)
+        return;
+    const std::vector<double> heights = estimateRowHeights(table, room.width);
+    const double height = std::accumulate(heights.begin(), heights.end(), 0.0);
+    if (height > room.height * kTolerance)
+        report(ppt_finding::tableTooLong(toPercent(height / room.height)), table);
 }
 
 } // namespace vellox::ppt

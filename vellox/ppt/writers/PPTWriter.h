@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "vellox/opc/MarkupBuffer.h"
+#include "vellox/ppt/formats/NumberForm.h"
 #include "vellox/ppt/object/DomForward.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
@@ -47,6 +48,7 @@ class TextBoxPlaceholderImpl;
 class TextImpl;
 class TextLook;
 struct ParagraphLook;
+struct DeckValues;
 struct DocumentProperties;
 struct TableContext;
 
@@ -118,6 +120,11 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// @{ How values are shown in all of the deck. What is given has to live as long as the writer.
+    void setDeckValues(const DeckValues& values);
+    const DeckValues* getDeckValues() const { return deckValues_; }
+    const NumberMarks& getNumberMarks() const { return marks_; }
+    /// @}
     /// Has a table style among those that the deck defines, if it is one that programs have built in.
     void useTableStyle(const std::wstring& id) { tableStyleIds_.insert(id); }
 
@@ -159,6 +166,8 @@ private:
 
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
+    const DeckValues* deckValues_ = nullptr; // null if nothing is set
+    NumberMarks marks_;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
     boost::shared_ptr<SlideCopies> copies_;
