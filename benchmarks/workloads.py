@@ -12,9 +12,9 @@ import sys
 import tempfile
 import time
 
-from charts import add_charts
-
 SOURCES = os.path.dirname(os.path.abspath(__file__))
+sys.path.append(os.path.join(os.path.dirname(SOURCES), "examples", "templates"))
+from charts import add_charts
 
 # Name, kind and count of make_deck, what to divide by for one deck, and whether other languages make it too.
 WORKLOADS = [

@@ -34,6 +34,22 @@ def test_the_demo_is_the_same_from_python(tmp_path, monkeypatch):
     assert [name for name in made if made[name] != expected[name]] == []
 
 
+def test_the_weekly_report_is_made_on_any_template(tmp_path, monkeypatch):
+    """By layouts and by samples: nothing is left unfilled, and a strict reader has nothing to repair."""
+    monkeypatch.syspath_prepend(str(EXAMPLES / "templates"))
+    monkeypatch.setattr(sys, "argv", ["make_templates.py", str(tmp_path)])
+    runpy.run_path(str(EXAMPLES / "templates/make_templates.py"), run_name="__main__")
+    report = runpy.run_path(str(EXAMPLES / "weekly_report.py"))
+    for name, slides in (("dark", 6), ("art", 6), ("samples", 7)):
+        template, output = tmp_path / f"{name}.pptx", tmp_path / f"report-{name}.pptx"
+        monkeypatch.setattr(sys, "argv", ["weekly_report.py", str(template), str(output)])
+        report["main"]()
+        assert vellox.inspect(output).slides == slides
+        assert [finding.text for path in (template, output) for finding in vellox.check(path)] == []
+        text = b"".join(value for part, value in read_parts(output).items() if part.startswith(b"ppt/slides/slide"))
+        assert b"Bench 3" in text and b"{" not in text.replace(b'id="{', b"").replace(b"Id>{", b"")
+
+
 def get_rows(xml):
     return [re.findall("<a:t>([^<]*)</a:t>", row) for row in re.findall("<a:tr .*?</a:tr>", xml, re.DOTALL)]
 

@@ -121,7 +121,7 @@ def test_the_pages_run(page, tmp_path, monkeypatch):
     ppt.Presentation("corporate.pptx").open()
     (tmp_path / "corporate.pptx").rename("corporate.potx")
     make_samples("samples.pptx")
-    sys.path.insert(0, str(GUIDE.parents[1] / "benchmarks"))
+    sys.path.insert(0, str(GUIDE.parents[1] / "examples/templates"))
     importlib.import_module("charts").add_charts("samples.pptx", "charts.pptx", "Sales")
     sys.path.pop(0)
     scope = {"__name__": page.stem, "ppt": ppt, "vellox": vellox, "regions": [Region("north"), Region("south")],

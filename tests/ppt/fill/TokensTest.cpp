@@ -138,6 +138,8 @@ TEST_F(FillTokensTest, APictureOrATableStandsWhereItsTokenDid) {
                      {L"sheet", HvContentPtr(boost::make_shared<TableContent>(boost::make_shared<MemoryTable>(
                                     1u, std::initializer_list<HvContentPtr>{text(L"a"), text(L"b")})))}});
     EXPECT_EQ(codes(), (Texts{"tokenRefusesValue Text", "tokenRefusesValue Inner"}));
+    EXPECT_EQ(errorOf([&] { deck.fillTokens({}, true); }),
+              "ppt_error:tokensLeft {sheet}, {plot}"); // of the last two
     close();
     EXPECT_EQ(valuesOf(shapeXml(1, "Plot"), "a:ext", "cx"), Texts{"300"});
     EXPECT_EQ(textsOf(shapeXml(1, "Sheet"), "a:t"), (Texts{"a", "b"}));

@@ -30,7 +30,8 @@ public:
             return;
         collect(slide);
         if (record_->source)
-            body_ = fill(record_->source->getDocument(), values);
+            body_ = fill(record_->source->getDocument(), values,
+                         [this](const std::wstring& uid) { return isShown(uid); });
         if (deck)
             deck->requireNotes(*record_);
         if (record_->notes)
@@ -61,10 +62,11 @@ public:
     }
 
 private:
-    std::unique_ptr<TokenDocument> fill(const OwnedDocument& document, TokenValues& values) {
+    std::unique_ptr<TokenDocument> fill(const OwnedDocument& document, TokenValues& values,
+                                        const TokenDocument::IsShown& isShown = nullptr) {
         if (!TokenDocument::mayHaveTokens(document.get()))
             return nullptr;
-        auto filled = std::make_unique<TokenDocument>(document, values);
+        auto filled = std::make_unique<TokenDocument>(document, values, isShown);
         filled->fill();
         reports_.insert(reports_.end(), filled->getReports().begin(), filled->getReports().end());
         return filled;
@@ -85,13 +87,19 @@ private:
         return found == shapes_.end() ? nullptr : found->second.get();
     }
 
-    // Where something else has come by now, there is no shape to give way.
+    // Shapes that are gone, and what other contents have replaced, don't come into the deck.
+    bool isShown(const std::wstring& uid) const {
+        const ShapeImpl* shape = findShape(uid);
+        return shape && !shape->isContentReplaced();
+    }
+
+    // Only texts give way.
     void checkSuccessors() {
         if (!body_)
             return;
         for (const TokenDocument::Successor& successor : body_->getSuccessors()) {
             const ShapeImpl* shape = findShape(successor.uid);
-            if (!shape || !shape->isA(NodeType::BaseTextBox) || shape->isContentReplaced())
+            if (!shape || !shape->isA(NodeType::BaseTextBox))
                 continue;
             const bool isInGroup = shape->getParent() != slide_.get();
             const bool isPicture = getObjectImpl<PictureImpl>(successor.content) != nullptr;

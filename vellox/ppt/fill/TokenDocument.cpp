@@ -66,9 +66,10 @@ bool TokenDocument::mayHaveTokens(DOMDocument* document) {
     return false;
 }
 
-TokenDocument::TokenDocument(const OwnedDocument& document, TokenValues& values)
+TokenDocument::TokenDocument(const OwnedDocument& document, TokenValues& values, IsShown isShown)
     : document_(copyDocument(document)),
-      values_(values) {}
+      values_(values),
+      isShown_(std::move(isShown)) {}
 
 void TokenDocument::fill() {
     if (DOMElement* root = document_->getDocumentElement())
@@ -81,8 +82,12 @@ void TokenDocument::report(Fault fault, const Token& token) {
 
 void TokenDocument::visit(DOMElement& element, const TokenScope* scope) {
     const std::wstring outer = uid_;
-    if (element.hasAttribute(xml::kDataUid))
-        uid_ = getAttribute(&element, xml::kDataUid);
+    if (element.hasAttribute(xml::kDataUid)) {
+        const std::wstring uid = getAttribute(&element, xml::kDataUid);
+        if (isShown_ && !isShown_(uid))
+            return;
+        uid_ = uid;
+    }
     if (hasName(element, xml::kAP)) {
         if (scope || !repeat(element))
             fillParagraph(element, scope);

@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_FILL_TOKENDOCUMENT_H
 #define VELLOX_PPT_FILL_TOKENDOCUMENT_H
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,7 +32,10 @@ public:
     /// Whether a document can have tokens at all. Most can't, and needn't be copied.
     static bool mayHaveTokens(xercesc::DOMDocument* document);
 
-    TokenDocument(const OwnedDocument& document, TokenValues& values);
+    /// Tells of a shape, by its uid, whether what the document has of it comes into the deck.
+    using IsShown = std::function<bool(const std::wstring&)>;
+
+    TokenDocument(const OwnedDocument& document, TokenValues& values, IsShown isShown = nullptr);
     /// Fills a copy of the document.
     void fill();
 
@@ -54,6 +58,7 @@ private:
 
     OwnedDocument document_;
     TokenValues& values_;
+    IsShown isShown_;
     std::wstring uid_; // of the shape that is being visited
     unsigned int count_ = 0;
     std::size_t dropped_ = 0;

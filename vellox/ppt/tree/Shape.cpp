@@ -41,7 +41,8 @@ ShapeImpl::ShapeImpl(const ShapeImpl& other)
 }
 
 ShapeImpl::ShapeImpl(const ShapeImpl& former, TakeName takeName)
-    : templateUid_(former.templateUid_),
+    : contentReplaced_(true),
+      templateUid_(former.templateUid_),
       templateShape_(former.templateShape_),
       geometry_(former.geometry_),
       altText_(former.altText_) {

@@ -56,7 +56,7 @@ private:
     void reportThatItStays() const;
     void extendId();
 
-    bool contentReplaced_ = false; // the paragraphs that the template's shape brought along go
+    bool contentReplaced_ = false; // what the template's shape brought along goes
     std::wstring templateUid_;     // empty for a shape made by a caller
     Record templateShape_;         // null for a shape made by a caller
     ShapeGeometry geometry_;

@@ -1,6 +1,6 @@
-"""Puts a chart with a workbook on each slide of a deck, so that the deck is a template to fill.
+"""Puts a chart with a workbook on each slide of a deck, or on some of them, so that the deck is a template to fill.
 
-    charts.py <deck.pptx> <template.pptx>
+    charts.py <deck.pptx> <template.pptx> [name of the charts]
 """
 import re
 import sys
@@ -42,13 +42,15 @@ def make_chart():
             '<c:externalData r:id="rId1"><c:autoUpdate val="0"/></c:externalData></c:chartSpace>')
 
 
-def add_charts(source, target, chart="Chart"):
+def add_charts(source, target, chart="Chart", slides=None):
     with zipfile.ZipFile(source) as deck:
         parts = {name: deck.read(name) for name in deck.namelist()}
     types = parts["[Content_Types].xml"].decode().replace(
         "<Override", f'<Default Extension="xlsx" ContentType="{WORKBOOK}"/><Override', 1)
     for name in [name for name in parts if re.fullmatch(r"ppt/slides/slide\d+\.xml", name)]:
         number = re.search(r"\d+", name).group()
+        if slides and int(number) not in slides:
+            continue
         relations = f"ppt/slides/_rels/slide{number}.xml.rels"
         link = f'<Relationship Id="rIdChart" Type="{TYPE}chart" Target="../charts/chart{number}.xml"/></Relationships>'
         parts[relations] = parts[relations].replace(b"</Relationships>", link.encode())
