@@ -118,13 +118,19 @@ std::optional<CellRange> TableContext::findMerged() const {
     return range.isOneCell() ? std::optional<CellRange>() : range;
 }
 
+// Of an entry without paragraphs, it is one with the text for that.
+bool TableContext::isLeftOut(const ParagraphImpl& paragraph) const {
+    const TextImpl* text = findOnlyText(paragraph);
+    if (!text)
+        return paragraph.getChildren().empty();
+    return isMissing(text->getTextContent()) || text->getTextContent() == *values.missing;
+}
+
 bool TableContext::isAmongNumbers(const ParagraphImpl& paragraph) const {
     const bool isOverNumbers = col < numberColumns.size() && numberColumns[col] && !isWide;
     if (row == 0 || isInHeader())
         return isOverNumbers;
-    const TextImpl* text = findOnlyText(paragraph);
-    const bool isLeftOut = text ? isMissing(text->getTextContent()) : paragraph.getChildren().empty();
-    return isNumber(paragraph) || (values.missing && isLeftOut && isOverNumbers);
+    return isNumber(paragraph) || (values.missing && isOverNumbers && isLeftOut(paragraph));
 }
 
 } // namespace vellox::ppt

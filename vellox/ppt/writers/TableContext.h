@@ -47,6 +47,9 @@ struct TableContext {
     /// the header has above nothing but numbers, and so what stands for a missing one.
     bool isAmongNumbers(const ParagraphImpl& paragraph) const;
 
+    /// Whether a paragraph stands for a missing value, if there is a text for these.
+    bool isLeftOut(const ParagraphImpl& paragraph) const;
+
     unsigned int rowCount = 0;
     unsigned int colCount = 0;
     unsigned int row = 0;                      ///< from 0
