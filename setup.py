@@ -32,6 +32,7 @@ class CMakeBuild(build_ext):
             "VELLOX_TESTS": "OFF",
             "VELLOX_EXAMPLES": "OFF",
             "VELLOX_CLI": "OFF",
+            "VELLOX_TOOLS": "OFF",
             "VELLOX_OCTAVE": "OFF",
         }
         definitions = [f"-D{name}={value}" for name, value in options.items()]

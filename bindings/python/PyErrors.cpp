@@ -130,6 +130,8 @@ constexpr struct {
     {"tableCannotBeReplaced", Kind::State},
     {"placeholderWasReplacedByObject", Kind::State},
     {"missingPictureFile", Kind::File},
+    {"invalidSvg", Kind::Value},
+    {"svgNeedsRenderer", Kind::State},
     {"slideNotInPresentation", Kind::State},
     {"unknownShape", Kind::Name},
     {"ambiguousShape", Kind::Name},

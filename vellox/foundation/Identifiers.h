@@ -143,6 +143,17 @@ struct VELLOX_API missingPictureFile : MsgID {
     missingPictureFile(const std::wstring& slide, const std::wstring& shape, const std::wstring& file)
         : MsgID(kCatalog, "missingPictureFile", {slide, shape, file}) {}
 };
+/// A picture is an SVG that can't be drawn; the reason comes last.
+struct VELLOX_API invalidSvg : MsgID {
+    invalidSvg(const std::wstring& slide, const std::wstring& shape, const std::wstring& file,
+               const std::wstring& reason)
+        : MsgID(kCatalog, "invalidSvg", {slide, shape, file, reason}) {}
+};
+/// A picture is an SVG, and librsvg, which draws these for readers that can't, isn't installed.
+struct VELLOX_API svgNeedsRenderer : MsgID {
+    svgNeedsRenderer(const std::wstring& slide, const std::wstring& shape, const std::wstring& file)
+        : MsgID(kCatalog, "svgNeedsRenderer", {slide, shape, file}) {}
+};
 /// A picture is made of bytes that are no image of a known kind.
 struct VELLOX_API unknownImageBytes : MsgID {
     explicit unknownImageBytes(const std::wstring& count) : MsgID(kCatalog, "unknownImageBytes", {count}) {}
@@ -453,6 +464,14 @@ struct VELLOX_API noShapeProperties : MsgID {
 /// The target of a link is empty or blank.
 struct VELLOX_API emptyLinkTarget : MsgID {
     emptyLinkTarget() : MsgID(kCatalog, "emptyLinkTarget", 0) {}
+};
+/// A date, a footer or a number is wanted on a slide whose layout has no place for it.
+struct VELLOX_API pageFieldNotShown : MsgID {
+    explicit pageFieldNotShown(const std::wstring& field) : MsgID(kCatalog, "pageFieldNotShown", {field}) {}
+};
+/// A text is to be measured in a font that isn't installed, and was measured in another or by an average.
+struct VELLOX_API fontNotInstalled : MsgID {
+    explicit fontNotInstalled(const std::wstring& font) : MsgID(kCatalog, "fontNotInstalled", {font}) {}
 };
 /// A text or a name holds characters that XML can't hold.
 struct VELLOX_API charactersDropped : MsgID {

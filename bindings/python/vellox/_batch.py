@@ -34,7 +34,7 @@ class Result:
 
 
 def batch(template: str | os.PathLike[str] | None, records: Iterable[Record], output: str | Callable[[Record], str],
-          make: Make, *, jobs: int | None = None, strict: bool = False, progress: bool | None = None,
+          make: Make | None = None, *, jobs: int | None = None, strict: bool = False, progress: bool | None = None,
           told: Callable[[Result], object] | None = None) -> list[Result]:
     """Makes a deck of every record, several at a time, each in a process of its own that reads the template once.
 
@@ -43,7 +43,8 @@ def batch(template: str | os.PathLike[str] | None, records: Iterable[Record], ou
 
         results = vellox.batch("letter.potx", customers, "letter-{id}.pptx", make)
 
-    Records are mappings, or the rows of a data frame. Where to write a deck is a text with names of the record in braces,
+    Without a function the values of a record are put in the place of the template's tokens, as fillTokens does; those that no
+    token asks for may be for the output's name alone. Records are mappings, or the rows of a data frame. Where to write a deck is a text with names of the record in braces,
     or a function of it. A deck that fails doesn't stop the others: its result has an error. told() hears of each
     result as it comes; what is returned has the order of the records. Progress is shown by tqdm where that is installed and
     somebody looks, unless it is said otherwise. Ctrl-C lets the decks end that have been begun: none is left half.
@@ -107,22 +108,25 @@ class _Progress:
 
 # What a worker does
 
-def make_deck(source: Any, make: Make, strict: bool, record: Record, output: str) -> Result:
+def make_deck(source: Any, make: Make | None, strict: bool, record: Record, output: str) -> Result:
     """Makes one deck of a ppt.Template that was read before, and tells what came of it. Nothing is raised."""
     from . import deck
 
     result = Result(record, output)
     try:
         with deck(output, source, strict=strict) as presentation:
-            make(presentation, record)
-        result.findings = list(presentation.Findings)
+            if make:
+                make(presentation, record)
+            else:
+                presentation.fillTokens(dict(record))
+        result.findings = [finding for finding in presentation.Findings if make or finding.code != "valueWithoutToken"]
     except Exception as error:  # the user's function may raise anything
         result.error = f"{type(error).__name__}: {error}"
         result.identifier = getattr(error, "identifier", None)
     return result
 
 
-def _serve(connection: Connection, template: str | None, make: Make, strict: bool) -> None:
+def _serve(connection: Connection, template: str | None, make: Make | None, strict: bool) -> None:
     signal.signal(signal.SIGINT, signal.SIG_IGN)  # the terminal tells all; whoever has begun ends its deck
     from . import ppt
 

@@ -51,6 +51,18 @@ def test_failures_cost_one_deck(folder):
     assert [finding.code for finding in result.findings if finding.severity == "error"] == ["unknownName"]
 
 
+def test_records_fill_tokens_by_themselves(folder):
+    with vellox.deck("letter.pptx") as deck:
+        deck.add("Title Slide").replace("Title", "Dear {name}, {city}")
+    records = [{"id": 1, "name": "Ada", "city": "Turin"}, {"id": 2, "name": "Bob"}]
+    whole, gap = vellox.batch("letter.pptx", records, "{id}.pptx")
+    assert (whole.error, whole.findings) == (None, [])
+    assert [finding.code for finding in gap.findings] == ["tokenWithoutValue"]
+    whole, gap = vellox.batch("letter.pptx", records, "strict-{id}.pptx", strict=True)
+    assert whole.error is None and "{city}" in gap.error
+    assert sorted(path.name for path in folder.glob("*.pptx")) == ["1.pptx", "2.pptx", "letter.pptx", "strict-1.pptx"]
+
+
 def test_outputs_are_names_of_their_own(folder):
     with pytest.raises(ValueError, match="several records"):
         vellox.batch(None, RECORDS, "deck.pptx", make)

@@ -159,6 +159,21 @@ BoundMethod describeAddParagraph(BoundMethod row) {
     return row;
 }
 
+/// Of slides and presentations.
+template <class C> std::vector<BoundProperty> makePageFieldRows() {
+    // The one that refuses no texts.
+    constexpr void (PageFieldProperties<C>::*kShow)(bool) = &PageFieldProperties<C>::setSlideNumbers;
+    return {
+        optionalProperty<C, &C::getDate, &C::setDate, &C::unsetDate>(
+            "Date",
+            "The date shown: a text, \"auto\" for one that programs bring up to date, or \"\" for none."),
+        optionalProperty<C, &C::getFooter, &C::setFooter, &C::unsetFooter>(
+            "Footer", "The text at the foot, or \"\" for none."),
+        optionalProperty<C, &C::getSlideNumbers, kShow, &C::unsetSlideNumbers>(
+            "SlideNumbers", "Whether slide numbers are shown."),
+    };
+}
+
 BoundClass describeTemplate() {
     BoundClass bound =
         describe<Template>("Template", "Object", "A template that was read once, for many presentations.");
@@ -212,6 +227,7 @@ BoundClass describePresentation() {
             "ThousandsMark", "What sets off thousands where a form asks for that."),
     };
     append(bound.properties, makeValueRows<Deck>());
+    append(bound.properties, makePageFieldRows<Deck>());
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},
                                                "Reads the template. False if it was open before."),
@@ -281,6 +297,7 @@ BoundClass describeSlide() {
         property<Slide, &Slide::isHidden, &Slide::setHidden>("Hidden", "Whether it is left out of the show."),
         property<Slide, &Slide::getNotes, &Slide::setNotes>("Notes", "What the speaker reads."),
     };
+    append(bound.properties, makePageFieldRows<Slide>());
     constexpr const char* kAddObject = "Puts this very object on the slide, on top of what is there.";
     bound.methods = {
         Method<Slide, Picture(const Picture&)>::row<&Slide::add>("add", {"picture"}, kAddObject),

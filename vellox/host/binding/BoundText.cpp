@@ -85,9 +85,16 @@ BoundClass describeRun() {
 BoundClass describeLink() {
     BoundClass bound = describe<ExternalLink>("ExternalLink", "Text", "A text that leads somewhere.");
     bound.constructors = {make<ExternalLink>(),
-                          make<ExternalLink, std::wstring, std::wstring>({"target", "text"})};
-    bound.properties = {property<ExternalLink, &ExternalLink::getTarget, &ExternalLink::setTarget>(
-        "Target", "Where it leads, such as \"https://example.org/report\".")};
+                          make<ExternalLink, std::wstring, std::wstring>({"target", "text"}),
+                          make<ExternalLink, Slide, std::wstring>({"slide", "text"})};
+    constexpr void (ExternalLink::*kSetTarget)(const std::wstring&) = &ExternalLink::setTarget;
+    bound.properties = {property<ExternalLink, &ExternalLink::getTarget, kSetTarget>(
+        "Target",
+        "Where it leads, such as \"https://example.org/report\" or \"mailto:team@example.org\"; empty "
+        "for a slide.")};
+    constexpr void (ExternalLink::*kLead)(const Slide&) = &ExternalLink::setTarget;
+    bound.methods = {Method<ExternalLink, void(const Slide&)>::row<kLead>(
+        "leadTo", {"slide"}, "Makes it lead to a slide of the same presentation.")};
     return bound;
 }
 

@@ -57,6 +57,7 @@ PresentationImpl::PresentationImpl(const std::wstring& outputPath, boost::intrus
 
 PresentationImpl::PresentationImpl(const PresentationImpl& other)
     : NodeOf(other),
+      WithPageFields(other),
       template_(other.template_),
       profile_(other.profile_),
       state_(other.state_),

@@ -22,6 +22,7 @@
 #include "vellox/ppt/messages/Finding.h"
 #include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/PPTNode.h"
+#include "vellox/ppt/tree/PageFields.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Slide.h"
 
@@ -45,7 +46,7 @@ struct PageOptions {
 /// way back: what is changed after close() changes nothing on disk. With the profile "office" the output path keeps
 /// what stands there until close() has the whole deck. With "classic" a copy of the template stands there from open()
 /// on, and that is what a presentation leaves that is never closed.
-class VELLOX_API Presentation : public PPTNode {
+class VELLOX_API Presentation : public PPTNode, public PageFieldProperties<Presentation> {
 public:
     using Names = std::vector<std::wstring>;
     using NamePairs = std::vector<std::pair<std::wstring, std::wstring>>;
@@ -192,6 +193,8 @@ public:
     /// | noTextBody | error | text was given to a shape without a text body |
     /// | noShapeProperties | error | a fill was given to a shape without properties |
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
+    /// | pageFieldNotShown | error | a slide is to have a date, a footer or a number that its layout has no place for |
+    /// | fontNotInstalled | warning | the room for a text was estimated without its font |
     /// | charactersDropped | warning | a text or a name holds characters that no file can |
     /// | valueLimited | warning | a size or the like is beyond what the format allows, and was brought to its limit |
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |

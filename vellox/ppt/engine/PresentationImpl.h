@@ -52,7 +52,8 @@ struct Report {
     std::wstring outputPath;
 };
 
-class PresentationImpl : public NodeOf<NodeType::Presentation, PresentationImpl, Presentation, PPTNodeImpl> {
+class PresentationImpl : public NodeOf<NodeType::Presentation, PresentationImpl, Presentation, PPTNodeImpl>,
+                         public WithPageFields {
 public:
     PresentationImpl();
     explicit PresentationImpl(const std::wstring& outputPath);

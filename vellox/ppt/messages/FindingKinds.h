@@ -34,6 +34,8 @@ constexpr FindingKind kFindingKinds[] = {
     {"noTextBody", Severity::Error},
     {"noShapeProperties", Severity::Error},
     {"emptyLinkTarget", Severity::Error},
+    {"pageFieldNotShown", Severity::Error},
+    {"fontNotInstalled", Severity::Warning},
     {"charactersDropped", Severity::Warning},
     {"valueLimited", Severity::Warning},
     {"cannotChangeOutputPath", Severity::Warning},

@@ -196,8 +196,33 @@ void removeUndeclared(DOMDocument& document) {
         removeNode(node);
 }
 
+std::vector<LayoutField> readFields(const TemplateLayout& layout, TreePath path) {
+    std::vector<LayoutField> fields;
+    std::size_t shape = 0;
+    for (const DOMElement* element = findFirstShape(layout.document.get(), path); element;
+         element = element->getNextElementSibling(), ++shape) {
+        const ShapeFacts facts = readFacts(*element);
+        const auto isSame = [&](const LayoutField& field) { return field.type == facts.placeholderType; };
+        if (!facts.isField || std::any_of(fields.begin(), fields.end(), isSame))
+            continue;
+        const DOMElement* placeholder = findDescendant(findNonVisual(*element), {xml::kNvPr, xml::kPh});
+        LayoutField& field = fields.emplace_back();
+        field.type = facts.placeholderType;
+        field.index = facts.placeholderIndex;
+        field.size = getAttribute(placeholder, xml::kSz);
+        field.orientation = getAttribute(placeholder, u"orient");
+        field.name = facts.name;
+        field.fieldType =
+            getAttribute(findDescendant(element, {xml::kTxBody, xml::kAP, xml::kAFld}), xml::kType);
+        field.text = facts.text;
+        field.isKept = shape < layout.fates.size() && layout.fates[shape] == Fate::Keep;
+    }
+    return fields;
+}
+
 boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layout, const Rules& rules) {
     const auto prototype = boost::make_shared<SlidePrototype>();
+    prototype->fields = readFields(layout, rules.findsTree());
     OwnedDocument document = copyDocument(layout.document);
     document->setXmlStandalone(true);
     removeIndentation(*document.get());

@@ -24,12 +24,23 @@ namespace vellox::ppt {
 
 class Rules;
 
+/// What a layout has for a date, a footer or a slide number, as far as a slide's own is made of it: place and looks
+/// are inherited.
+struct LayoutField {
+    std::wstring type, index, size, orientation; ///< of p:ph
+    std::wstring name;                           ///< of p:cNvPr
+    std::wstring fieldType;                      ///< of a:fld; empty if programs don't bring it up to date
+    std::wstring text;
+    bool isKept = false; ///< whether a new slide has it anyway
+};
+
 /// A new slide of a layout, of which every slide that is written is a copy.
 struct SlidePrototype {
     OwnedDocument document;                    ///< placeholders bear the data-uid of the layout's records
     unsigned int greatestId = 0;               ///< of a p:cNvPr in it
     unsigned int lastShapeId = 0;              ///< the last id that was given out in it; 0 if none was
     bool isWhole = true;                       ///< whether all that a slide has of its layout could be had
+    std::vector<LayoutField> fields;           ///< the first of each type
     std::optional<SlidePieces> pieces;         ///< of the document; none if it can't be cut
     std::vector<std::wstring> relationshipIds; ///< the layout's relationships that it needs, sorted
 };

@@ -2,6 +2,7 @@
 
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
+#include "vellox/ppt/tree/SlideImpl.h"
 
 namespace vellox::ppt {
 
@@ -17,7 +18,11 @@ ExternalLinkImpl::ExternalLinkImpl(const std::wstring& target, const std::wstrin
     announceCreated(*this);
 }
 
-ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other) : NodeOf(other), target_(other.target_) {
+ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other)
+    : NodeOf(other),
+      target_(other.target_),
+      leadsToSlide_(other.leadsToSlide_),
+      slide_(other.slide_) {
     announceCreated(*this);
 }
 
@@ -30,6 +35,10 @@ ExternalLinkImpl::~ExternalLinkImpl() {
 ExternalLink::ExternalLink() : ExternalLink(new ExternalLinkImpl) {}
 ExternalLink::ExternalLink(const std::wstring& target, const std::wstring& text)
     : ExternalLink(new ExternalLinkImpl(target, text)) {}
+ExternalLink::ExternalLink(const Slide& target, const std::wstring& text)
+    : ExternalLink(std::wstring(), text) {
+    setTarget(target);
+}
 ExternalLink::ExternalLink(ExternalLinkImpl* impl) : Text(impl) {}
 
 ExternalLinkImpl* ExternalLink::pimpl() {
@@ -46,6 +55,10 @@ const std::wstring& ExternalLink::getTarget() const {
 
 void ExternalLink::setTarget(const std::wstring& target) {
     pimpl()->setTarget(target);
+}
+
+void ExternalLink::setTarget(const Slide& target) {
+    pimpl()->setSlide(implOf<SlideImpl>(target)->getTemplateSlide());
 }
 
 } // namespace vellox::ppt

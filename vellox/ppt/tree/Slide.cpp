@@ -32,6 +32,7 @@ SlideImpl::SlideImpl(const SlideImpl& other) : SlideImpl(other, other.templateSl
 
 SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSlide>& templateSlide)
     : NodeOf(other),
+      WithPageFields(other),
       charts_(other.charts_),
       isHidden_(other.isHidden_),
       dropped_(other.dropped_),

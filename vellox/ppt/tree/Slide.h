@@ -11,6 +11,7 @@
 #include "vellox/ppt/object/Content.h"
 #include "vellox/ppt/object/Element.h"
 #include "vellox/ppt/tree/Chart.h"
+#include "vellox/ppt/tree/PageFields.h"
 #include "vellox/ppt/tree/Paragraph.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
@@ -30,7 +31,7 @@ class SlideImpl;
 /// The operations by name act on every shape that bears the name, those in groups among them, though these stay
 /// in the file as the template has them. A shape that doesn't take what is given is passed over, and a name that
 /// nothing bears does nothing: see Presentation::getFindings().
-class VELLOX_API Slide : public Element {
+class VELLOX_API Slide : public Element, public PageFieldProperties<Slide> {
 public:
     /// @{ Puts this very object on the slide, on top of what is there.
     /// @return a handle on it

@@ -13,7 +13,7 @@
 
 namespace vellox::ppt {
 
-class SlideImpl : public NodeOf<NodeType::Slide, SlideImpl, Slide, ElementImpl> {
+class SlideImpl : public NodeOf<NodeType::Slide, SlideImpl, Slide, ElementImpl>, public WithPageFields {
 public:
     SlideImpl();
     /// A slide of a layout or of the template, still without its shapes.

@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/ExternalLinkWriter.h"
 
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/tree/ExternalLinkImpl.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
@@ -14,12 +15,26 @@ ExternalLinkWriter::ExternalLinkWriter(const ExternalLinkImpl& link, PPTWriter& 
       link_(link) {}
 
 void ExternalLinkWriter::write() {
-    const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
+    const std::wstring id = link_.leadsToSlide()
+                                ? addJump()
+                                : getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
     if (id.empty())
         getWriter().report(ppt_finding::emptyLinkTarget());
     // The rule of links: their element stands ahead of what the formats append.
-    addRPrChild(xml::kAHlinkClick).setAttribute(xml::kRId, id);
+    PropertyElement& click = addRPrChild(xml::kAHlinkClick);
+    click.setAttribute(xml::kRId, id);
+    if (link_.leadsToSlide() && !id.empty())
+        click.setAttribute(u"action", u"ppaction://hlinksldjump");
     TextWriter::write();
+}
+
+// The slide may still have to be written, or not be in the deck any more.
+std::wstring ExternalLinkWriter::addJump() const {
+    const boost::shared_ptr<TemplateSlide> slide = link_.getSlide();
+    const std::wstring from = getCurrentSlidePartName();
+    if (!slide || from.empty() || !getWriter().isPlanned(*slide))
+        return {};
+    return getPartWriter().addRelationship(from, relationship::kSlide, getWriter().requirePartName(*slide));
 }
 
 } // namespace vellox::ppt

@@ -16,6 +16,9 @@ public:
     void write() override;
 
 private:
+    /// The id of a relationship with the slide that the link leads to; empty if it isn't in the deck.
+    std::wstring addJump() const;
+
     const ExternalLinkImpl& link_;
 };
 

@@ -91,8 +91,7 @@ opc::Part PPTPartWriter::copyPart(opc::Part from, const std::wstring& name, bool
     return copy;
 }
 
-std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide) {
-    const std::wstring name = takeSlideName();
+std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide, const std::wstring& name) {
     opc::Part part = createPart(name, contenttype::kSlide);
     copyRelationships(getPart(slide.layout->partName), part, slide.layout->prototype->relationshipIds);
     part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),

@@ -30,7 +30,7 @@ public:
     std::wstring takeSlideName();
     /// Makes the part of a new slide, and its relationship to the slide's layout.
     /// @return the name of the part
-    std::wstring createSlidePart(const TemplateSlide& slide);
+    std::wstring createSlidePart(const TemplateSlide& slide, const std::wstring& name);
     /// A part of the same type and content as another, still without relationships.
     opc::Part copyPart(opc::Part from, const std::wstring& name, bool isStored);
     /// A name such as another one that is free: "/ppt/charts/chart7.xml" for "/ppt/charts/chart1.xml".

@@ -55,9 +55,20 @@ void PPTWriter::prepare(const PPTNode::Children& slides) {
     for (const auto& slide : slides) {
         const auto* impl = implAs<SlideImpl>(*slide);
         const boost::shared_ptr<TemplateSlide> record = impl ? impl->getTemplateSlide() : nullptr;
+        if (record)
+            planned_.insert(record.get());
         if (record && !record->originName.empty())
             copies_->remember(record->originName);
     }
+}
+
+const std::wstring& PPTWriter::requirePartName(const TemplateSlide& slide) {
+    if (!slide.partName.empty())
+        return slide.partName;
+    std::wstring& name = newNames_[&slide];
+    if (name.empty())
+        name = partWriter_->takeSlideName();
+    return name;
 }
 
 void PPTWriter::write(const PPTNode& node) {

@@ -10,6 +10,7 @@
 #define VELLOX_PPT_WRITERS_PPTWRITER_H
 
 #include <boost/shared_ptr.hpp>
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -50,6 +51,7 @@ class TextLook;
 struct ParagraphLook;
 struct DeckValues;
 struct DocumentProperties;
+struct PageFields;
 struct TableContext;
 
 class PPTWriter {
@@ -125,6 +127,14 @@ public:
     const DeckValues* getDeckValues() const { return deckValues_; }
     const NumberMarks& getNumberMarks() const { return marks_; }
     /// @}
+    /// Those of the deck, which have to stay; null for none.
+    void setPageFields(const PageFields& fields) { pageFields_ = &fields; }
+    const PageFields* getPageFields() const { return pageFields_; }
+    /// Whether a slide is one of those that are written.
+    bool isPlanned(const TemplateSlide& slide) const { return planned_.count(&slide) > 0; }
+    /// The name of a slide's part, also of one that is still to be made: links may lead ahead.
+    const std::wstring& requirePartName(const TemplateSlide& slide);
+
     /// Has a table style among those that the deck defines, if it is one that programs have built in.
     void useTableStyle(const std::wstring& id) { tableStyleIds_.insert(id); }
 
@@ -174,6 +184,9 @@ private:
     boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;
     std::set<const TemplateSlide*> written_;
+    std::set<const TemplateSlide*> planned_;
+    std::map<const TemplateSlide*, std::wstring> newNames_; // of the parts of new slides
+    const PageFields* pageFields_ = nullptr;
     std::set<std::wstring> tableStyleIds_; // that tables have
     SlideDocument* currentSlide_ = nullptr;
     Frame frame_;

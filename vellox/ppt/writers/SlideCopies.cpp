@@ -59,8 +59,7 @@ void SlideCopies::remember(const std::wstring& originName) {
         remembered_.emplace(originName, partWriter_.getPart(originName).getRelationships());
 }
 
-std::wstring SlideCopies::createPart(const TemplateSlide& slide) {
-    const std::wstring name = partWriter_.takeSlideName();
+std::wstring SlideCopies::createPart(const TemplateSlide& slide, const std::wstring& name) {
     opc::Part part = partWriter_.createPart(name, contenttype::kSlide);
     copied_.clear();
     copied_.emplace(opc::PartName(slide.originName),

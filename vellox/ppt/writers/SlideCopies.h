@@ -30,7 +30,7 @@ public:
     /// then are its own.
     void remember(const std::wstring& originName);
     /// @return the name of the new part
-    std::wstring createPart(const TemplateSlide& slide);
+    std::wstring createPart(const TemplateSlide& slide, const std::wstring& name);
 
 private:
     using Rows = std::vector<opc::Relationship>;

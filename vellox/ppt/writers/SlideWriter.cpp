@@ -12,6 +12,7 @@
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
+#include "vellox/ppt/writers/PageFieldWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideReports.h"
 #include "vellox/ppt/xml/XmlNames.h"
@@ -29,8 +30,10 @@ void SlideWriter::write() {
     if (!record || getWriter().hasWritten(*record))
         return report(ppt_finding::slideNotWritten(), slide_);
     const bool turnsHidden = slide_.isHidden() != record->isHidden;
+    const PageFieldWriter fields(slide_.pageFields, getWriter().getPageFields(), *record, getRules());
     SlideDocument document(*record, getModel().getRules(),
-                           turnsHidden ? SlideDocument::Form::Nodes : SlideDocument::Form::Pieces);
+                           turnsHidden || fields.needNodes() ? SlideDocument::Form::Nodes
+                                                             : SlideDocument::Form::Pieces);
     document.setName(slide_.getName());
     if (turnsHidden)
         document.getRoot()->setAttribute(xml::kShow, slide_.isHidden() ? xml::kFalse : xml::kTrue);
@@ -41,6 +44,7 @@ void SlideWriter::write() {
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
     reportOnSlide(slide_, getModel());
+    writeFields(fields, document);
     writeShapes(document, shapes, taken);
     arrange(document.getShapeTree());
     opc::MarkupBuffer text;
@@ -53,13 +57,22 @@ void SlideWriter::write() {
         getWriter().getNotes().write(partName, *record->notes);
 }
 
+void SlideWriter::writeFields(const PageFieldWriter& fields, SlideDocument& document) const {
+    const PageFieldWriter::Outcome outcome = fields.writeTo(document);
+    if (outcome.dropped > 0)
+        report(ppt_finding::charactersDropped(std::to_wstring(outcome.dropped)), slide_);
+    for (const std::wstring& field : outcome.notShown)
+        report(ppt_finding::pageFieldNotShown(field), slide_);
+}
+
 std::wstring SlideWriter::requirePart(const TemplateSlide& slide, SlideDocument& document) const {
     if (!slide.partName.empty())
         return slide.partName;
+    const std::wstring& name = getWriter().requirePartName(slide);
     if (slide.originName.empty())
-        return getPartWriter().createSlidePart(slide);
+        return getPartWriter().createSlidePart(slide, name);
     makeOrdinary(document);
-    return getWriter().getCopies().createPart(slide);
+    return getWriter().getCopies().createPart(slide, name);
 }
 
 // An element of the slide belongs to the first shape that stands for it. A copy of that, which bears the same

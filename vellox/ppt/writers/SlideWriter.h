@@ -12,6 +12,7 @@
 
 namespace vellox::ppt {
 
+class PageFieldWriter;
 class SlideDocument;
 class SlideImpl;
 struct TemplateSlide;
@@ -24,6 +25,7 @@ public:
 private:
     /// The name of the slide's part, which is made if there is none.
     std::wstring requirePart(const TemplateSlide& slide, SlideDocument& document) const;
+    void writeFields(const PageFieldWriter& fields, SlideDocument& document) const;
     void writeShapes(SlideDocument& document, const PPTNode::Children& shapes, std::set<std::wstring>& taken);
 
     const SlideImpl& slide_;
