@@ -37,8 +37,9 @@ std::string frame(int id, const std::string& name, const std::string& content) {
 
 std::string makeChart() {
     const std::string cache = "<c:pt idx='0'><c:v>1</c:v></c:pt><c:pt idx='2'><c:v>3</c:v></c:pt>";
-    return "<c:chartSpace xmlns:c='" + std::string(kFormats) + "drawingml/2006/chart'><c:chart><c:ser><c:tx><c:strRef>" +
-           "<c:strCache>" + cache + "</c:strCache></c:strRef></c:tx><c:cat><c:strRef><c:strCache>" + cache +
+    return "<c:chartSpace xmlns:c='" + std::string(kFormats) +
+           "drawingml/2006/chart'><c:chart><c:ser><c:tx><c:strRef>" + "<c:strCache>" + cache +
+           "</c:strCache></c:strRef></c:tx><c:cat><c:strRef><c:strCache>" + cache +
            "</c:strCache></c:strRef></c:cat><c:val><c:numRef><c:numCache>" + cache +
            "</c:numCache></c:numRef></c:val></c:ser></c:chart></c:chartSpace>";
 }
@@ -50,8 +51,9 @@ test::Parts makeBase() {
     const test::Page& layout = builder.addLayout("Own", test::shape(7, "Title", "<p:ph type='title'/>"));
     test::Page& slide = builder.addSlide(
         "", layout,
-        test::shape(2, "Title", "<p:ph type='title'/>") + test::groupShape(3, "Group", test::shape(4, "Deep")) +
-            test::tableShape(5, "Table", 2, 2) + test::pictureShape(6, "Picture", "rId7", "<p:spPr/>") +
+        test::shape(2, "Title", "<p:ph type='title'/>") +
+            test::groupShape(3, "Group", test::shape(4, "Deep")) + test::tableShape(5, "Table", 2, 2) +
+            test::pictureShape(6, "Picture", "rId7", "<p:spPr/>") +
             frame(8, "Chart", "<c:chart xmlns:c='" + formats + "drawingml/2006/chart' r:id='rId8'/>") +
             frame(9, "Diagram", "<d:relIds xmlns:d='" + formats + "drawingml/2006/diagram' r:dm='rId9'/>"));
     slide.relations = {{"rId7", "image", "../media/image1.png"},
@@ -60,15 +62,15 @@ test::Parts makeBase() {
                        {"rId10", "notesSlide", "../notesSlides/notesSlide1.xml"}};
     builder.addPart("ppt/media/image1.png", "image/png", test::makePng(4, 3));
     builder.addPart("ppt/charts/chart1.xml", std::string(kTypes) + "drawingml.chart+xml", makeChart());
-    builder.addPart("ppt/diagrams/data1.xml", std::string(kTypes) + "drawingml.diagramData+xml",
-                    "<d:dataModel xmlns:d='" + formats + "drawingml/2006/diagram' xmlns:a='" + formats +
-                        "drawingml/2006/main'><d:ptLst><d:pt><d:t><a:p><a:r><a:t>one</a:t></a:r></a:p></d:t></d:pt>"
-                        "</d:ptLst></d:dataModel>");
-    builder.addPart("ppt/notesSlides/notesSlide1.xml",
-                    std::string(kTypes) + "presentationml.notesSlide+xml",
+    builder.addPart(
+        "ppt/diagrams/data1.xml", std::string(kTypes) + "drawingml.diagramData+xml",
+        "<d:dataModel xmlns:d='" + formats + "drawingml/2006/diagram' xmlns:a='" + formats +
+            "drawingml/2006/main'><d:ptLst><d:pt><d:t><a:p><a:r><a:t>one</a:t></a:r></a:p></d:t></d:pt>"
+            "</d:ptLst></d:dataModel>");
+    builder.addPart("ppt/notesSlides/notesSlide1.xml", std::string(kTypes) + "presentationml.notesSlide+xml",
                     "<p:notes xmlns:p='" + formats + "presentationml/2006/main' xmlns:a='" + formats +
-                        "drawingml/2006/main'><p:cSld><p:spTree>" + test::shape(2, "Notes", "<p:ph type='body'/>") +
-                        "</p:spTree></p:cSld></p:notes>");
+                        "drawingml/2006/main'><p:cSld><p:spTree>" +
+                        test::shape(2, "Notes", "<p:ph type='body'/>") + "</p:spTree></p:cSld></p:notes>");
     return builder.build();
 }
 
@@ -82,7 +84,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ppt::DeckContents present = [] {
         test::writeParts(folder / L"base.pptx", base);
         ppt::DeckContents contents = ppt::readDeck(folder / L"base.pptx");
-        fuzz::require(contents.slides.size() == 1 && contents.slides[0].shapes.size() == 6, "the base is read");
+        fuzz::require(contents.slides.size() == 1 && contents.slides[0].shapes.size() == 6,
+                      "the base is read");
         return contents;
     }();
     const std::string input = fuzz::toString(data + 1, size - 1);

@@ -58,7 +58,8 @@ TEST_F(TablePagesTest, RowsGoOnBelowTheHeader) {
     EXPECT_EQ(textsOf(shapeXml(2, "Title"), "a:t"), (Texts{"Runs (2/3)"}));
     EXPECT_EQ(textsOf(shapeXml(4, "Title"), "a:t"), (Texts{"Page 1 of 1"}));
     for (const unsigned int slide : {1u, 3u})
-        EXPECT_EQ(textsOf(slideXml(slide), "a:tableStyleId"), (Texts{"{66D2FF9F-7886-452D-B4A4-E2D27D0B4D84}"}));
+        EXPECT_EQ(textsOf(slideXml(slide), "a:tableStyleId"),
+                  (Texts{"{66D2FF9F-7886-452D-B4A4-E2D27D0B4D84}"}));
     EXPECT_EQ(valuesOf(slideXml(2), "a:tblPr", "lastRow"), (Texts{"0"}));
     EXPECT_EQ(valuesOf(slideXml(3), "a:tblPr", "lastRow"), (Texts{"1"}));
 }

@@ -92,13 +92,14 @@ TEST_P(TableValues, AreShownInTheirForms) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     Table table(boost::make_shared<MemoryTable>(
         4, std::initializer_list<HvContentPtr>{
-               number(2026), text(L"2026"), text(L"Day"), text(L"Share"),              //
-               number(1234.5), text(L"1234.5"), text(L"2026-11-21"), number(0.125),    //
-               number(nan), text(L"<NA>"), text(L"none"), HvContentPtr(),              //
-               truth(true), truth(false), text(L"NaT"), number(2), text(L""), text(L""), text(L""), text(L"")}));
+               number(2026),   text(L"2026"),   text(L"Day"),        text(L"Share"), //
+               number(1234.5), text(L"1234.5"), text(L"2026-11-21"), number(0.125),  //
+               number(nan),    text(L"<NA>"),   text(L"none"),       HvContentPtr(), //
+               truth(true),    truth(false),    text(L"NaT"),        number(2),
+               text(L""),      text(L""),       text(L""),           text(L"")}));
     table.setName(L"Table");
-    table.setColSpecs(
-        {makeColumn(L",.2f"), makeColumn(L"{:.0f} m"), makeColumn(L"%d.%m.%Y"), boost::make_shared<ColSpec>()});
+    table.setColSpecs({makeColumn(L",.2f"), makeColumn(L"{:.0f} m"), makeColumn(L"%d.%m.%Y"),
+                       boost::make_shared<ColSpec>()});
     table.setNumberFormat(L".0%");
     table.setMissingText(L"–");
     table.setTrueText(L"yes");
@@ -108,8 +109,9 @@ TEST_P(TableValues, AreShownInTheirForms) {
     deck.setNumberFormat(L".9f");
     deck.setDecimalMark(L",");
     const Texts shown = cellsOf(write(table));
-    EXPECT_EQ(shown, (Texts{"2026,0!", "2026", "Day", "Share", "1.234,50", "1234 m", "21.11.2026", "12%", "–", "–",
-                            "none", "–", "yes", "no", "–", "{2}", "", "", "", ""}));
+    EXPECT_EQ(shown,
+              (Texts{"2026,0!", "2026", "Day", "Share", "1.234,50", "1234 m", "21.11.2026", "12%", "–", "–",
+                     "none",    "–",    "yes", "no",    "–",        "{2}",    "",           "",    "",  ""}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Profiles, TableValues, testing::Values(L"classic", L"office"));
@@ -141,8 +143,8 @@ TEST_F(TableFormatsTest, ValuesOfADeckAreThoseOfItsTables) {
 TEST_F(TableFormatsTest, MissingValuesStandWhereNumbersDo) {
     useOffice();
     Table table(boost::make_shared<MemoryTable>(
-        2, std::initializer_list<HvContentPtr>{text(L"Flow"), text(L"Name"), number(1), text(L"a"), HvContentPtr(),
-                                               HvContentPtr(), text(L"<NA>"), text(L"b")}));
+        2, std::initializer_list<HvContentPtr>{text(L"Flow"), text(L"Name"), number(1), text(L"a"),
+                                               HvContentPtr(), HvContentPtr(), text(L"<NA>"), text(L"b")}));
     TableRow row;
     row.append(TableEntry());
     table.append(row); // its second cell isn't there, and so isn't missing
@@ -179,17 +181,18 @@ TEST_F(TableFormatsTest, MergedCellsShowTheOneAtTheirTopLeft) {
     TablePlaceholder::cast(slide.find(L"Table")[0])->replace(table); // they come along
     close();
     const std::string xml = shapeXml(1, "Table");
-    EXPECT_EQ(valuesOf(xml, "a:tc", "gridSpan"), (Texts{"", "3", "", "", "", "", "", "", "", "", "2", "", "", "",
-                                                        "2", ""}));
-    EXPECT_EQ(valuesOf(xml, "a:tc", "rowSpan"), (Texts{"", "", "", "", "2", "", "", "", "", "", "2", "2", "", "",
-                                                       "", ""}));
-    EXPECT_EQ(valuesOf(xml, "a:tc", "hMerge"), (Texts{"", "", "1", "1", "", "", "", "", "", "", "", "1", "", "",
-                                                      "", "1"}));
-    EXPECT_EQ(valuesOf(xml, "a:tc", "vMerge"), (Texts{"", "", "", "", "", "", "", "", "1", "", "", "", "", "", "1",
-                                                      "1"}));
+    EXPECT_EQ(valuesOf(xml, "a:tc", "gridSpan"),
+              (Texts{"", "3", "", "", "", "", "", "", "", "", "2", "", "", "", "2", ""}));
+    EXPECT_EQ(valuesOf(xml, "a:tc", "rowSpan"),
+              (Texts{"", "", "", "", "2", "", "", "", "", "", "2", "2", "", "", "", ""}));
+    EXPECT_EQ(valuesOf(xml, "a:tc", "hMerge"),
+              (Texts{"", "", "1", "1", "", "", "", "", "", "", "", "1", "", "", "", "1"}));
+    EXPECT_EQ(valuesOf(xml, "a:tc", "vMerge"),
+              (Texts{"", "", "", "", "", "", "", "", "1", "", "", "", "", "", "1", "1"}));
     EXPECT_EQ(cellsOf(xml)[2] + cellsOf(xml)[8] + cellsOf(xml)[15], "");
     const auto lines = findAll(xml, "a:lnR");
-    EXPECT_EQ(lines.size(), 3u + 1u + 4u); // those of the header and of the last, which cover cells, on each of them
+    EXPECT_EQ(lines.size(),
+              3u + 1u + 4u); // those of the header and of the last, which cover cells, on each of them
     const std::vector<Finding> findings = deck.getFindings();
     const auto covered = std::find_if(findings.begin(), findings.end(),
                                       [](const Finding& finding) { return finding.code == "coveredCell"; });
@@ -229,7 +232,8 @@ TEST_F(TableFormatsTest, LinesAreThoseAroundAndBetween) {
                             line("lnB", "25420", "000000", "sysDot") +
                             "<a:solidFill><a:srgbClr val='123456'/></a:solidFill></a:tcPr>");
     EXPECT_EQ(cells[3], "<a:tcPr marL='1828800'>" + line("lnL", "12710", "FF0000", "dash") +
-                            line("lnR", "12710", "000000", "solid") + line("lnT", "25420", "000000", "sysDot") +
+                            line("lnR", "12710", "000000", "solid") +
+                            line("lnT", "25420", "000000", "sysDot") +
                             line("lnB", "12710", "000000", "solid") + "</a:tcPr>");
 }
 

@@ -64,8 +64,12 @@ template <class C, unsigned int kFacet> void setFacet(C& format, const hvArray& 
 }
 
 template <class C, unsigned int kFacet> BoundProperty facetRow(const char* name, const char* doc) {
-    return {name, SignatureWord("char"), true, AdaptedClassGetter<C, getFacet<C, kFacet>>::get,
-            AdaptedClassSetter<C, setFacet<C, kFacet>>::set, doc};
+    return {name,
+            SignatureWord("char"),
+            true,
+            AdaptedClassGetter<C, getFacet<C, kFacet>>::get,
+            AdaptedClassSetter<C, setFacet<C, kFacet>>::set,
+            doc};
 }
 /// @}
 
@@ -73,18 +77,20 @@ BoundClass describeBorders() {
     using C = CellBorders;
     BoundClass bound = describe<C>("CellBorders", "Format", "The lines around and between cells.");
     bound.constructors = {make<C>()};
-    bound.properties = {facetRow<C, C::Left>("Left", "The line at the left, such as \"1pt solid black\"."),
-                        facetRow<C, C::Right>("Right", "The line at the right."),
-                        facetRow<C, C::Top>("Top", "The line above."),
-                        facetRow<C, C::Bottom>("Bottom", "The line below."),
-                        facetRow<C, C::InsideH>("InsideH", "The lines across, between the cells."),
-                        facetRow<C, C::InsideV>("InsideV", "The lines from top to bottom, between the cells.")};
+    bound.properties = {
+        facetRow<C, C::Left>("Left", "The line at the left, such as \"1pt solid black\"."),
+        facetRow<C, C::Right>("Right", "The line at the right."),
+        facetRow<C, C::Top>("Top", "The line above."),
+        facetRow<C, C::Bottom>("Bottom", "The line below."),
+        facetRow<C, C::InsideH>("InsideH", "The lines across, between the cells."),
+        facetRow<C, C::InsideV>("InsideV", "The lines from top to bottom, between the cells.")};
     return bound;
 }
 
 BoundClass describeMargins() {
     using C = CellMargins;
-    BoundClass bound = describe<C>("CellMargins", "Format", "The distances of text from the edges of its cell.");
+    BoundClass bound =
+        describe<C>("CellMargins", "Format", "The distances of text from the edges of its cell.");
     bound.constructors = {make<C>()};
     bound.properties = {facetRow<C, C::Left>("Left", "That from the left: a length."),
                         facetRow<C, C::Right>("Right", "That from the right."),

@@ -266,10 +266,11 @@ BoundClass describePresentation() {
              "Adds a copy of a slide at the end, or at an index, which counts from 1."),
          Method<Deck, PPTNode::Children(Wide, Wide, const Table&, const Optional<unsigned int>&,
                                         const Optional<std::wstring>&, const Optional<std::wstring>&)>::
-             row<&addPages>("addPages",
-                            {"layout", "name", "table", keyword("rows"), keyword("height"), keyword("title")},
-                            "Adds slides of a layout with parts of a long table in the place of the shape of a "
-                            "name: so many rows on each, or as many as find room. Returns the slides."),
+             row<&addPages>(
+                 "addPages",
+                 {"layout", "name", "table", keyword("rows"), keyword("height"), keyword("title")},
+                 "Adds slides of a layout with parts of a long table in the place of the shape of a "
+                 "name: so many rows on each, or as many as find room. Returns the slides."),
          Method<Deck, void(const Slide&, unsigned int)>::row<&moveSlide>(
              "move", {"slide", "index"}, "Puts a slide in the place of an index, which counts from 1."),
          Method<Deck, void(const Slide&)>::row<&Deck::remove>("remove", {"slide"}, "Takes a slide out."),

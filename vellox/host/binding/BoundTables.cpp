@@ -147,8 +147,9 @@ BoundClass describeColSpec() {
     BoundClass bound = describe<ColSpec>("ColSpec", "Element", "Width and formats of a table's column.");
     bound.constructors = {make<ColSpec>(), make<ColSpec, std::wstring>({"width"})};
     bound.properties = makeCellRows<ColSpec>();
-    bound.properties.push_back(formatProperty<ColSpec, &ColSpec::getWidth, &ColWidth::getValue,
-                                              &ColSpec::setWidth, &ColSpec::unsetWidth>("Width", "A length."));
+    bound.properties.push_back(
+        formatProperty<ColSpec, &ColSpec::getWidth, &ColWidth::getValue, &ColSpec::setWidth,
+                       &ColSpec::unsetWidth>("Width", "A length."));
     return bound;
 }
 

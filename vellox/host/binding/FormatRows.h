@@ -88,12 +88,13 @@ template <class C> BoundProperty makeVAlignRow() {
 template <class C> std::vector<BoundProperty> makeValueRows() {
     return {
         optionalProperty<C, &C::getNumberFormat, &C::setNumberFormat, &C::unsetNumberFormat>(
-            "NumberFormat", "The form of numbers, such as \",.1f\" or \"{:.0%} of all\", or of dates, such as "
-                            "\"%d.%m.%Y\"."),
+            "NumberFormat",
+            "The form of numbers, such as \",.1f\" or \"{:.0%} of all\", or of dates, such as "
+            "\"%d.%m.%Y\"."),
         optionalProperty<C, &C::getMissingText, &C::setMissingText, &C::unsetMissingText>(
             "MissingText", "What cells show that hold nothing, or a number that is none."),
-        optionalProperty<C, &C::getTrueText, &C::setTrueText, &C::unsetTrueText>(
-            "TrueText", "What cells show for true."),
+        optionalProperty<C, &C::getTrueText, &C::setTrueText, &C::unsetTrueText>("TrueText",
+                                                                                 "What cells show for true."),
         optionalProperty<C, &C::getFalseText, &C::setFalseText, &C::unsetFalseText>(
             "FalseText", "What cells show for false."),
     };

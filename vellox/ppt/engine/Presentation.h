@@ -33,7 +33,8 @@ class PresentationImpl;
 /// How a long table is spread over slides.
 struct PageOptions {
     unsigned int rows = 0; ///< on each slide, the header's not counted; 0 for as many as find room
-    std::wstring height;   ///< a length: the room for the table; empty for that of its place. Counts without `rows`.
+    std::wstring
+        height; ///< a length: the room for the table; empty for that of its place. Counts without `rows`.
     /// The title of the slides, empty to leave that open. "{page}" and "{pages}" in it are numbers; where neither is,
     /// " (2/3)" comes behind it if there are several.
     std::wstring title;

@@ -52,8 +52,11 @@ void TablePages::splitByHeight(const std::vector<double>& heights, double room) 
 void TablePages::findMerged() {
     merged_.assign(ends_.size(), {});
     for (const CellRange& range : table_->getMerged().getRanges()) {
+        if (ends_.empty() || range.lastRow >= ends_.back()) // the table has lost rows since
+            continue;
         const auto pageOf = [&](std::size_t row) {
-            return static_cast<std::size_t>(std::upper_bound(ends_.begin(), ends_.end(), row) - ends_.begin());
+            return static_cast<std::size_t>(std::upper_bound(ends_.begin(), ends_.end(), row) -
+                                            ends_.begin());
         };
         const bool isInHeader = range.row < header_;
         const bool isOnAll = isInHeader && range.lastRow < header_;
@@ -88,12 +91,13 @@ void TablePages::takeMerged(TableImpl& made, std::size_t page) const {
     for (const CellRange& range : merged_[page]) {
         CellRange here = range;
         here.row = place(range.row < header_ ? range.row : std::max<std::size_t>(range.row, first));
-        here.lastRow = place(range.lastRow < header_ ? range.lastRow : std::min<std::size_t>(range.lastRow, end - 1));
-        if (range.row >= header_ && range.row < first) {
-            auto* row = implOf<PPTNodeImpl>(*made.getChildren()[here.row]);
-            const auto& shown = table_->getChildren()[range.row]->getChildren()[range.column];
-            row->replaceChild(*row->getChildren()[here.column], shown->clone());
-        }
+        here.lastRow =
+            place(range.lastRow < header_ ? range.lastRow : std::min<std::size_t>(range.lastRow, end - 1));
+        const PPTNode::Children shown = table_->getChildren()[range.row]->getChildren();
+        auto* row = implOf<PPTNodeImpl>(*made.getChildren()[here.row]);
+        const bool areThere = std::min(shown.size(), row->getChildren().size()) > range.column;
+        if (range.row >= header_ && range.row < first && areThere)
+            row->replaceChild(*row->getChildren()[range.column], shown[range.column]->clone());
         if (!here.isOneCell())
             merged.add(here);
     }
@@ -151,7 +155,8 @@ void fillPage(Slide& slide, const std::wstring& name, const Table& page, const s
         rows.emplace_back(L"type:title", title);
     slide.fill(Contents(rows));
     const auto index = static_cast<std::size_t>(at - shapes.begin());
-    const auto placed = index < slide.getChildren().size() ? Table::cast(slide.getChildren()[index]) : nullptr;
+    const auto placed =
+        index < slide.getChildren().size() ? Table::cast(slide.getChildren()[index]) : nullptr;
     if (placed && page.getStyleName().isSet())
         placed->setStyleName(page.getStyleName().get());
 }

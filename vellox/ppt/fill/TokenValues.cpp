@@ -8,7 +8,6 @@
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 
-
 namespace vellox::ppt {
 
 namespace {

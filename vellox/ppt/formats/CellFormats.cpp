@@ -70,12 +70,9 @@ constexpr wchar_t kUsualWidth[] = L"1pt", kUsualKind[] = L"solid", kUsualColor[]
 // Named as the lines under text are.
 const SpellingTable& getLineKinds() {
     static const SpellingTable& kinds = *new const SpellingTable{
-        {L"solid", L"solid", u"solid"},
-        {L"dotted", L"dotted", u"sysDot"},
-        {L"dash", L"dash", u"dash"},
-        {L"dashlong", L"dashLong", u"lgDash"},
-        {L"dotdash", L"dotDash", u"dashDot"},
-        {L"dotdotdash", L"dotDotDash", u"sysDashDotDot"},
+        {L"solid", L"solid", u"solid"},       {L"dotted", L"dotted", u"sysDot"},
+        {L"dash", L"dash", u"dash"},          {L"dashlong", L"dashLong", u"lgDash"},
+        {L"dotdash", L"dotDash", u"dashDot"}, {L"dotdotdash", L"dotDotDash", u"sysDashDotDot"},
         {L"double", kDoubleLine, u"solid"},
     };
     return kinds;
@@ -84,7 +81,8 @@ const SpellingTable& getLineKinds() {
 std::vector<std::wstring> splitWords(const std::wstring& text) {
     std::vector<std::wstring> words;
     const std::wstring trimmed = boost::algorithm::trim_copy(text);
-    boost::algorithm::split(words, trimmed, boost::algorithm::is_space(), boost::algorithm::token_compress_on);
+    boost::algorithm::split(words, trimmed, boost::algorithm::is_space(),
+                            boost::algorithm::token_compress_on);
     return words;
 }
 

@@ -37,7 +37,8 @@ protected:
 };
 
 /// See CellBorders for what a line is. Border is the four lines around, where they are the same.
-template <class Owner> class BorderProperties : public FacetProperties<Owner, CellBorders, FormatType::CellBorders> {
+template <class Owner>
+class BorderProperties : public FacetProperties<Owner, CellBorders, FormatType::CellBorders> {
 public:
     BaseAttribute<std::wstring> getBorder() const {
         const BaseAttribute<std::wstring> left = getBorderLeft();
@@ -90,7 +91,8 @@ private:
 };
 
 /// See CellMargins.
-template <class Owner> class MarginProperties : public FacetProperties<Owner, CellMargins, FormatType::CellMargins> {
+template <class Owner>
+class MarginProperties : public FacetProperties<Owner, CellMargins, FormatType::CellMargins> {
 public:
     /// @{ @throws invalidPropertyValue for what is no length, or a negative one
     BaseAttribute<std::wstring> getMarginLeft() const { return this->getFacetOf(CellMargins::Left); }
@@ -110,7 +112,8 @@ public:
 
 /// How numbers, dates, truth values and what is missing are shown. What is set on a table or a column acts below the
 /// table's header rows.
-template <class Owner> class ValueProperties : public FacetProperties<Owner, ValueFormat, FormatType::ValueFormat> {
+template <class Owner>
+class ValueProperties : public FacetProperties<Owner, ValueFormat, FormatType::ValueFormat> {
 public:
     /// @{ The form of numbers, such as L".1f", L",.0f", L".0%" or L"{:.1f} m", or of dates, such as L"%d.%m.%Y". Values
     /// that it can't be for stay as they are.

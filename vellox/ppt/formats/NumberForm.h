@@ -49,7 +49,7 @@ private:
     static std::optional<std::wstring> showDate(const std::wstring& date, const std::wstring& form);
 
     std::optional<Number> number_;
-    std::wstring date_;          // where it is none of numbers
+    std::wstring date_;           // where it is none of numbers
     std::wstring before_, after_; // what stands around
 };
 

@@ -15,9 +15,7 @@ class ColSpecImpl;
 
 /// The width and the formats of one column. A format of a row goes before that of a column. A handle: copies
 /// share one specification.
-class VELLOX_API ColSpec : public Element,
-                           public CellProperties<ColSpec>,
-                           public WidthProperty<ColSpec> {
+class VELLOX_API ColSpec : public Element, public CellProperties<ColSpec>, public WidthProperty<ColSpec> {
 public:
     ColSpec();
     /// @param width a length, such as L"2.5cm"

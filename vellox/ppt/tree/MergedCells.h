@@ -30,7 +30,8 @@ public:
 
 private:
     std::vector<CellRange> ranges_;
-    std::map<std::pair<unsigned int, unsigned int>, std::size_t> places_; // of all cells, to numbers of ranges
+    std::map<std::pair<unsigned int, unsigned int>, std::size_t>
+        places_; // of all cells, to numbers of ranges
 };
 
 } // namespace vellox::ppt

@@ -131,7 +131,8 @@ unsigned int TableImpl::countHeaderRows() const {
 
 void TableImpl::merge(const CellRange& range) {
     const bool isOrdered = range.row <= range.lastRow && range.column <= range.lastColumn;
-    bool isThere = isOrdered && !range.isOneCell() && range.lastRow < getChildren().size() && range.lastColumn < nCols_;
+    bool isThere =
+        isOrdered && !range.isOneCell() && range.lastRow < getChildren().size() && range.lastColumn < nCols_;
     for (unsigned int r = range.row; isThere && r <= range.lastRow; ++r)
         isThere = range.lastColumn < getChildren()[r]->getNChildren();
     const auto count = [](unsigned int i) { return num2str(i + 1.0); };

@@ -16,8 +16,7 @@ class TableEntryImpl;
 
 /// One cell of a table, holding paragraphs. Its formats are those of paragraphs and texts in it that have none of their
 /// kind. A handle: copies share one entry.
-class VELLOX_API TableEntry : public Element,
-                              public CellProperties<TableEntry> {
+class VELLOX_API TableEntry : public Element, public CellProperties<TableEntry> {
 public:
     TableEntry();
     /// With one new paragraph.

@@ -17,8 +17,7 @@ class TableEntry;
 class TableRowImpl;
 
 /// A row of entries. Its formats are those of its entries that have none of their kind. A handle: copies share one row.
-class VELLOX_API TableRow : public Element,
-                            public CellProperties<TableRow> {
+class VELLOX_API TableRow : public Element, public CellProperties<TableRow> {
 public:
     TableRow();
 

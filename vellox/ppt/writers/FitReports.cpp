@@ -2,9 +2,11 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/CellFormatsImpl.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/tree/TableRowImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
@@ -152,23 +154,44 @@ TableRoom findTableRoom(const ShapeImpl& shape, double slideHeight) {
     return room;
 }
 
+namespace {
+
+// Above and below the text, of what has margins set or stands in what has.
+double findMargins(const ElementImpl& element, double inherited) {
+    const auto format = element.getStyle().getFormat(FormatType::CellMargins);
+    if (!format)
+        return inherited;
+    const auto& margins = *implOf<CellMarginsImpl>(*format);
+    const auto& top = margins.getMargin(CellMargins::Top);
+    const auto& bottom = margins.getMargin(CellMargins::Bottom);
+    return (top ? *top : inherited / 2) + (bottom ? *bottom : inherited / 2);
+}
+
+double measureRow(const TableRowImpl& row, double size, double margins, double column) {
+    const double own = findSize(row, size), around = findMargins(row, margins);
+    double highest = (own > 0 ? own : kDefaultSize) * kEmuPerPoint * kLineHeight + around;
+    for (const auto& cell : row.getChildren()) {
+        const auto* entry = implAs<TableEntryImpl>(*cell);
+        if (entry)
+            highest =
+                std::max(highest, measureParagraphs(*entry, nullptr, findSize(*entry, own), column).height +
+                                      findMargins(*entry, around));
+    }
+    return highest;
+}
+
+} // namespace
+
 std::vector<double> estimateRowHeights(const TableImpl& table, double width) {
-    const double column = table.getNCols() > 0 ? width / table.getNCols() - 2 * kMarginX : 0;
-    const double size = findSizeAbove(table);
+    const double column = width / std::max(1u, table.getNCols()) - 2 * kMarginX;
+    const double size = findSizeAbove(table), margins = findMargins(table, 2 * kMarginY);
     const double least = table.getRowHeight().isSet() ? table.getRowHeight().get().getEMUNumber() : 0;
     std::vector<double> heights;
     for (const auto& child : table.getChildren()) {
         const auto* row = implAs<TableRowImpl>(*child);
-        double highest = kDefaultSize * kEmuPerPoint * kLineHeight;
-        for (const auto& cell : row && column > 0 ? row->getChildren() : PPTNode::Children()) {
-            const ElementImpl* entry = implOf<PPTNodeImpl>(*cell)->asElement();
-            const double own = entry ? findSize(*entry, findSize(*row, size)) : size;
-            highest = std::max(highest,
-                               measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column).height);
-        }
-        const bool isTold = row && row->getHeight().isSet();
+        const double told = row && row->getHeight().isSet() ? row->getHeight().get().getEMUNumber() : least;
         heights.push_back(
-            std::max(highest + 2 * kMarginY, isTold ? row->getHeight().get().getEMUNumber() : least));
+            std::max(told, row ? measureRow(*row, size, margins, std::max(column, kMarginX)) : 0));
     }
     return heights;
 }

@@ -60,12 +60,12 @@ struct TableContext {
     std::optional<ColumnMeter> meter;          ///< if anybody wants to know the lengths of texts
     const TableImpl* table = nullptr;
     unsigned int headerRows = 0;
-    int rowHeight = 0;                  ///< of rows that have none, in EMU
+    int rowHeight = 0;                   ///< of rows that have none, in EMU
     const MergedCells* merged = nullptr; ///< if there are any
-    bool isWide = false;                ///< whether the cell that the table is at has several columns
-    ValueLook values;                   ///< of the cell that the table is at
-    const TableLook* look = nullptr;           ///< of the table whose place this one takes, if it counts
-    bool hasTotalRow = false;                  ///< whether both have one
+    bool isWide = false;                 ///< whether the cell that the table is at has several columns
+    ValueLook values;                    ///< of the cell that the table is at
+    const TableLook* look = nullptr;     ///< of the table whose place this one takes, if it counts
+    bool hasTotalRow = false;            ///< whether both have one
 };
 
 /// The run of a paragraph that has one and nothing else, which must be no link; else null.

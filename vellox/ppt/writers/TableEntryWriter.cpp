@@ -80,9 +80,13 @@ void TableEntryWriter::writeCovered(const CellRange& merged) const {
     if (!readParagraphs(getElement()).empty())
         getWriter().report(
             ppt_finding::coveredCell(std::to_wstring(table_->row + 1), std::to_wstring(table_->col + 1)));
-    const PPTNode& row = *table_->table->getChildren()[merged.row];
-    const auto& shown = row.getChildren()[merged.column];
-    TableEntryWriter(*implOf<TableEntryImpl>(*shown), getWriter(), getParentNode()).writeBlank();
+    const boost::shared_ptr<TableRow> row = table_->table->row(merged.row);
+    const PPTNode::Children shown = row ? row->getChildren() : PPTNode::Children();
+    const bool isThere = merged.column < shown.size(); // rows may have lost entries since
+    const auto* entry = isThere ? implAs<TableEntryImpl>(*shown[merged.column]) : nullptr;
+    TableEntryWriter(entry ? static_cast<const ElementImpl&>(*entry) : getElement(), getWriter(),
+                     getParentNode())
+        .writeBlank();
 }
 
 void TableEntryWriter::writeSpans(const CellRange& merged) const {
@@ -90,7 +94,8 @@ void TableEntryWriter::writeSpans(const CellRange& merged) const {
     const auto write = [&](const char* name, unsigned int value) {
         out.append(std::string(name) + std::to_string(value) + "\"");
     };
-    const unsigned int columns = merged.lastColumn - merged.column + 1, rows = merged.lastRow - merged.row + 1;
+    const unsigned int columns = merged.lastColumn - merged.column + 1,
+                       rows = merged.lastRow - merged.row + 1;
     const bool isFirstColumn = table_->col == merged.column, isFirstRow = table_->row == merged.row;
     if (isFirstColumn && columns > 1)
         write(" gridSpan=\"", columns);
