@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     again.getAll()[i].getTargetURI().toString() ==
                         table.getAll()[i].getTargetURI().toString(),
                 "rows come back as they were");
-    table.remove(added);
+    table.remove({added});
     require(!table.find(added), "what was removed is gone");
     return 0;
 }

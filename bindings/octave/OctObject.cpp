@@ -87,7 +87,7 @@ void OctSlot::hold(const BoundClass& bound, ObjectPtr proxy) {
 void OctSlot::drop() {
     if (!proxy_)
         return;
-    warnOfLoss(*class_, getProxy());
+    warnOfLoss(*class_, proxy_);
     BindingRegistry::remove(proxy_, *this);
     ObjectPtr dropped;
     dropped.swap(proxy_);

@@ -23,7 +23,7 @@ std::string indent(const std::string& text, const std::string& start) {
     std::istringstream lines(text);
     std::string indented;
     for (std::string line; std::getline(lines, line);)
-        indented += start + (line.empty() ? "" : " ") + line + "\n";
+        indented.append(start).append(line.empty() ? "" : " ").append(line).append("\n");
     return indented;
 }
 

@@ -116,6 +116,7 @@ std::string mergeParameters(std::string text, const std::vector<const Signature*
 
 std::string formatTextSignature(const std::vector<const BoundMethod*>& overloads) {
     std::vector<const Signature*> signatures;
+    signatures.reserve(overloads.size());
     for (const BoundMethod* overload : overloads)
         signatures.push_back(&overload->signature);
     return mergeParameters(overloads.front()->isStatic ? "" : "$self", signatures);

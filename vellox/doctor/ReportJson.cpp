@@ -17,7 +17,7 @@ std::string escapeUnit(unsigned long unit) {
 
 // Beyond the first 65,536 a character is two units.
 std::string escape(wchar_t c) {
-    const auto code = static_cast<unsigned long>(c);
+    const auto code = static_cast<char32_t>(c);
     constexpr unsigned long kFirstPair = 0x10000, kHigh = 0xD800, kLow = 0xDC00;
     if (code < kFirstPair)
         return escapeUnit(code);

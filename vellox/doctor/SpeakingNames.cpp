@@ -112,11 +112,14 @@ std::vector<std::wstring> describePlaces(const std::vector<BoxEmu>& boxes) {
     const std::size_t nRows = *std::max_element(rows.begin(), rows.end()) + 1;
     const std::size_t nColumns = *std::max_element(columns.begin(), columns.end()) + 1;
     std::vector<std::wstring> words;
+    words.reserve(boxes.size());
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const std::wstring row = getLineWord(rows[i], nRows, kDown);
         const std::wstring column = getLineWord(columns[i], nColumns, kAcross);
-        const bool isCentre = row == kMiddle && column == kMiddle;
-        words.push_back(isCentre ? L"Center" : row + (row.empty() || column.empty() ? L"" : L" ") + column);
+        if (row == kMiddle && column == kMiddle)
+            words.emplace_back(L"Center");
+        else
+            words.push_back(row.empty() || column.empty() ? row + column : row + L" " + column);
     }
     return words;
 }
@@ -126,6 +129,7 @@ std::vector<std::wstring> describePlaces(const std::vector<BoxEmu>& boxes) {
 std::vector<std::wstring> makeSpeakingNames(const std::vector<PlaceholderReport>& placeholders) {
     std::map<std::wstring, std::vector<std::size_t>> groups;
     std::vector<std::wstring> names;
+    names.reserve(placeholders.size());
     for (std::size_t i = 0; i < placeholders.size(); ++i) {
         names.push_back(getBase(placeholders[i]));
         groups[names.back()].push_back(i);
@@ -142,6 +146,7 @@ std::vector<std::wstring> makeSpeakingNames(const std::vector<PlaceholderReport>
             names[members[k]] = places[k].empty() ? base : places[k] + L" " + base;
     }
     std::vector<NamedShape> page;
+    page.reserve(names.size());
     for (const std::wstring& name : names)
         page.push_back({name, nullptr});
     return OfficeRules().nameShapes(page);

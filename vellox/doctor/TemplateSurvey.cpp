@@ -238,7 +238,7 @@ void TemplateSurvey::noteFonts(DOMDocument& document) {
 
 namespace {
 
-constexpr unsigned long long kMegabyte = 1024 * 1024;
+constexpr unsigned long long kMegabyte = 1024ULL * 1024;
 constexpr unsigned long long kHugeBytes = 5 * kMegabyte;
 constexpr unsigned long long kMostMediaRead =
     256 * kMegabyte; // of all together: small files can hold large ones

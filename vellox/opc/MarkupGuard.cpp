@@ -18,7 +18,8 @@ void MarkupGuard::watch(const unsigned char* bytes, std::size_t count) {
     if (start_.size() < 4) // nothing shorter is a document
         return;
     detectWidth();
-    const std::string start = std::move(start_);
+    std::string start;
+    start.swap(start_);
     watch(reinterpret_cast<const unsigned char*>(start.data()), start.size());
 }
 

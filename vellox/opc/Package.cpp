@@ -51,7 +51,11 @@ Relationship RelationshipSource::createExternalRelationship(const std::wstring& 
 }
 
 void RelationshipSource::deleteRelationship(const std::wstring& id) {
-    getTable().remove(id);
+    getTable().remove({id});
+}
+
+void RelationshipSource::deleteRelationships(const std::set<std::wstring>& ids) {
+    getTable().remove(ids);
 }
 
 void RelationshipSource::deleteRelationships(const std::wstring& type) {
@@ -127,11 +131,16 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
                                                             StandardPartInfo info) {
     if (findPart(name))
         throw Exception("there is a part named " + quote(name) + " already");
-    types_.add(name, type);
     // Relationships that some program has left behind under the name aren't those of the new part.
     const PartName leftBehind = name.getRelationshipPartName();
     if (findPart(leftBehind))
         sources_.insert_or_assign(leftBehind, RelationshipTable::makeEmpty(name.getFolder()));
+    return addPart(name, type, info);
+}
+
+boost::shared_ptr<PhysicalPart> PackageContents::addPart(const PartName& name, const ContentType& type,
+                                                         StandardPartInfo info) {
+    types_.add(name, type);
     auto part = physical_->createPart(name, info);
     parts_.emplace(part->getName().getKey(), part);
     return part;
@@ -175,13 +184,15 @@ bool PackageContents::hasChanges() const {
     return changed;
 }
 
+// Each table ends when it is written: there are as many as slides.
 void PackageContents::saveRelationships() {
-    for (const auto& [name, table] : sources_) {
+    for (auto source = sources_.begin(); source != sources_.end(); source = sources_.erase(source)) {
+        const auto& [name, table] = *source;
         if (!table.isChanged())
             continue;
         auto part = findPart(name);
         if (!part)
-            part = createPart(name, ContentType(kRelationshipType), StandardPartInfo());
+            part = addPart(name, ContentType(kRelationshipType), StandardPartInfo());
         table.write(part->startOutput());
     }
 }

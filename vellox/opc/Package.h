@@ -41,6 +41,7 @@ public:
     Relationship createExternalRelationship(const std::wstring& type, const std::wstring& target,
                                             const std::wstring& id);
     void deleteRelationship(const std::wstring& id);
+    void deleteRelationships(const std::set<std::wstring>& ids);
     /// All of a type.
     void deleteRelationships(const std::wstring& type);
 

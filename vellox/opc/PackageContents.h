@@ -32,6 +32,8 @@ public:
     const boost::shared_ptr<XmlBudget>& getXmlBudget() const { return budget_; }
 
 private:
+    boost::shared_ptr<PhysicalPart> addPart(const PartName& name, const ContentType& type,
+                                            StandardPartInfo info);
     void indexParts();
     void saveRelationships();
     bool hasChanges() const;

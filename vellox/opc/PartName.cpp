@@ -93,11 +93,17 @@ std::wstring PartName::getExtension() const {
     return vellox::fromUtf8(key_.substr(dot + 1));
 }
 
+// A name that is one stays one: it needn't be checked again. There are as many of these as there are slides.
 PartName PartName::getRelationshipPartName() const {
-    return PartName(getFolder() + L"_rels/" + name_.substr(name_.rfind(L'/') + 1) + L".rels");
+    PartName part(*this);
+    part.name_.insert(name_.rfind(L'/') + 1, L"_rels/").append(L".rels");
+    part.key_.insert(key_.rfind('/') + 1, "_rels/").append(".rels");
+    return part;
 }
 
 URI PartName::toURI() const {
+    if (name_.find_first_of(L" \"<>^`{|}#?%") == std::wstring::npos)
+        return URI(name_);
     return URI(L"/" + vellox::fromUtf8(toEntryName()));
 }
 

@@ -1,5 +1,6 @@
 #include "vellox/opc/Relationship.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/opc/Exception.h"
 #include "vellox/opc/MarkupBuffer.h"
 #include "vellox/opc/XercesString.h"
@@ -64,9 +65,11 @@ void RelationshipTable::index(std::size_t row) {
 std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
     if (!wanted.empty())
         return wanted;
-    while (rowByID_.count(L"rId" + std::to_wstring(nextID_)) > 0)
-        ++nextID_;
-    return L"rId" + std::to_wstring(nextID_);
+    for (;; ++nextID_) {
+        std::wstring id = L"rId" + vellox::num2str(nextID_);
+        if (rowByID_.count(id) == 0)
+            return id;
+    }
 }
 
 const Relationship& RelationshipTable::add(Relationship row) {
@@ -90,8 +93,8 @@ const Relationship& RelationshipTable::addExternal(const std::wstring& type, con
     return add(Relationship(chooseID(id), type, reference, URI(reference), true));
 }
 
-void RelationshipTable::remove(const std::wstring& id) {
-    removeIf([&](const Relationship& row) { return row.getID() == id; });
+void RelationshipTable::remove(const std::set<std::wstring>& ids) {
+    removeIf([&](const Relationship& row) { return ids.count(row.getID()) > 0; });
 }
 
 void RelationshipTable::removeOfType(const std::wstring& type) {

@@ -4,6 +4,7 @@
 #ifndef VELLOX_OPC_RELATIONSHIP_H
 #define VELLOX_OPC_RELATIONSHIP_H
 
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -64,7 +65,7 @@ public:
     const Relationship& addInternal(const std::wstring& type, const URI& target, const std::wstring& id);
     const Relationship& addExternal(const std::wstring& type, const std::wstring& target,
                                     const std::wstring& id);
-    void remove(const std::wstring& id);
+    void remove(const std::set<std::wstring>& ids);
     void removeOfType(const std::wstring& type);
 
     bool isChanged() const { return isChanged_; }

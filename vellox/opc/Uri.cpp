@@ -23,10 +23,23 @@ Segments splitPath(std::wstring_view path) {
     return segments;
 }
 
+// Has nothing to leave out or to go up by: no element begins with a dot, none is empty.
+bool isResolved(const std::wstring& target) {
+    wchar_t former = 0;
+    for (const wchar_t c : target) {
+        if (c == L'?' || c == L'#' || (former == L'/' && (c == L'/' || c == L'.')))
+            return false;
+        former = c;
+    }
+    return former != L'/';
+}
+
 } // namespace
 
 std::wstring resolveTarget(const std::wstring& folder, const std::wstring& target) {
     const bool isAbsolute = !target.empty() && target[0] == L'/';
+    if (isAbsolute && isResolved(target))
+        return target;
     const std::wstring whole = isAbsolute ? target : folder + target;
     const std::size_t end = whole.find_first_of(L"?#", isAbsolute ? 0 : folder.size());
     Segments result;

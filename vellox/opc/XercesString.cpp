@@ -1,5 +1,8 @@
 #include "vellox/opc/XercesString.h"
 
+#include <algorithm>
+#include <xercesc/util/XMLString.hpp>
+
 namespace opc {
 
 namespace {
@@ -22,9 +25,13 @@ bool isLowSurrogate(char16_t c) {
 } // namespace
 
 XercesString::XercesString(const std::wstring& text) {
+    // Nearly every text is plain from its start to its end, and there are as many as cells.
+    const auto plainEnd =
+        std::find_if_not(text.begin(), text.end(), [](wchar_t c) { return c >= 0x20 && c < 0xD800; });
     text_.reserve(text.size());
-    for (const wchar_t wide : text) {
-        const auto c = static_cast<char32_t>(wide);
+    text_.assign(text.begin(), plainEnd);
+    for (auto wide = plainEnd; wide != text.end(); ++wide) {
+        const auto c = static_cast<char32_t>(*wide);
         if (!isAllowed(c)) {
             ++dropped_;
         } else if (c < 0x10000) {
@@ -42,6 +49,7 @@ std::wstring XercesString::toString() const {
 
 std::wstring toWideString(const XMLCh* text) {
     std::wstring wide;
+    wide.reserve(xercesc::XMLString::stringLen(text));
     for (; text && *text; ++text) {
         char32_t c = *text;
         if (isHighSurrogate(text[0]) && isLowSurrogate(text[1])) {

@@ -55,7 +55,7 @@ private:
     // Streams don't promise to keep the system's code.
     bool refill() {
         errno = 0;
-        open_->file.read(open_->block.data(), open_->block.size());
+        open_->file.read(open_->block.data(), static_cast<std::streamsize>(open_->block.size()));
         open_->position = 0;
         open_->size = static_cast<std::size_t>(open_->file.gcount());
         return !open_->file.bad() || fail(ZIP_ER_READ, errno ? errno : EIO) == 0;

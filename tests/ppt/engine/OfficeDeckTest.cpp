@@ -121,6 +121,20 @@ TEST_F(OfficeDeckTest, MastersAndLayoutsAreFoundInTheirOrder) {
     EXPECT_EQ(errorOf([&] { deck.add(L"#3"); }), "ppt_error:invalidLayoutName #3");
 }
 
+// A group that shows what it holds as many times as large, the corner at 5, 5 of its own at a place of the slide.
+std::string scale(std::string group, int where, int factor) {
+    const std::string empty = "<p:grpSpPr/>";
+    const auto pair = [](const char* name, const char* x, int one, const char* y, int other) {
+        return std::string("<a:") + name + " " + x + "='" + std::to_string(one) + "' " + y + "='" +
+               std::to_string(other) + "'/>";
+    };
+    return group.replace(group.find(empty), empty.size(),
+                         "<p:grpSpPr><a:xfrm>" + pair("off", "x", where, "y", where) +
+                             pair("ext", "cx", 100 * factor, "cy", 100 * factor) +
+                             pair("chOff", "x", 5, "y", 5) + pair("chExt", "cx", 100, "cy", 100) +
+                             "</a:xfrm></p:grpSpPr>");
+}
+
 TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
     builder.addMaster("Theme");
     Page& layout = builder.addLayout("Own");
@@ -129,18 +143,23 @@ TEST_F(OfficeDeckTest, GroupsAndBareShapesTakeTexts) {
         groupShape(2, "Group",
                    shape(3, "Inner", "", "", "old") +
                        shape(4, "Photo", "<p:ph type='pic' idx='9'/>", place(50, 60, 1000, 2000))) +
+            scale(groupShape(5, "Doubled", shape(6, "Scaled", "", place(10, 20, 30, 40))), 1000, 2) +
             "<p:sp><p:nvSpPr><p:cNvPr id='77' name='Bare'/><p:cNvSpPr/><p:nvPr/></p:nvSpPr><p:spPr/>"
             "<p:extLst/></p:sp>");
     useBuilder();
     deck.replace(L"Inner", L"new");
     deck.replace(L"Bare", L"words");
+    const auto scaled = Shape::cast(deck.find(L"Scaled").front());
+    scaled->setX(L"1400emus");
+    scaled->setWidth(L"600emus");
     writeFile(folder / L"a.png", makePng(100, 100));
     deck.replace(L"Photo", object(Picture(folder / L"a.png")));
     TextBox free(L"Free");
     free.add(L"x");
     Slide::cast(deck.getChildren().front())->add(free);
     close();
-    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "words", "x"}));
+    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"new", "prompt", "words", "x"}));
+    EXPECT_EQ(placeOf(shapeXml(1, "Scaled")), "205 20 300 40"); // the slide's lengths, in the group's
     EXPECT_EQ(canonical(shapeXml(1, "Bare")).find("<p:extLst/></p:sp>"), shapeXml(1, "Bare").size() - 18);
     EXPECT_EQ(placeOf(findAll(findAll(slideXml(1), "p:grpSp").at(0), "p:pic").at(0)), "50 560 1000 1000");
     const Texts ids = valuesOf(slideXml(1), "p:cNvPr", "id");

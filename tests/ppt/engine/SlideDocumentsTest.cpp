@@ -219,14 +219,18 @@ TEST(Sections, FollowTheSlides) {
         const char* why;
         std::vector<std::wstring> formerIds;
         const char *before, *after;
+        bool isListed = false; // slides 1 to 9 of the template
     };
-    const auto make = [](const char* sections) { // "7 8|9": the ids of each section
-        std::string xml = "<p14:sectionLst xmlns:p14='p14'><p14:section><p14:sldIdLst>";
+    const auto make = [](const char* sections, bool isListed) { // "7 8|9": the ids of each section
+        std::string xml = "<all xmlns:p='p' xmlns:p14='p14'>";
+        for (int id = 1; isListed && id < 10; ++id)
+            xml += "<p:sldId id='" + std::to_string(id) + "'/>";
+        xml += "<p14:sectionLst><p14:section><p14:sldIdLst>";
         std::istringstream ids(sections);
         for (std::string id; ids >> id;)
             xml += id == "|" ? "</p14:sldIdLst></p14:section><p14:section><p14:sldIdLst>"
                              : "<p14:sldId id='" + id + "'/>";
-        return xml + "</p14:sldIdLst></p14:section></p14:sectionLst>";
+        return xml + "</p14:sldIdLst></p14:section></p14:sectionLst></all>";
     };
     const Row rows[] = {
         {"renumbered", {L"7", L"8", L"9"}, "7 8 | 9", "256 257 | 258"},
@@ -238,16 +242,20 @@ TEST(Sections, FollowTheSlides) {
         {"named twice", {L"7", L"8"}, "7 8 | 8", "256 257 |"},
         {"in none", {L"6", L"", L"7"}, "| 7", "| 257 258"},
         {"all new", {L"", L""}, "|", "256 257 |"},
-        {"in another order", {L"9", L"", L"7"}, "7 | 9", "258 | 256 257"},
+        {"in another order by the template", {L"9", L"", L"7"}, "7 | 9", "258 | 256 257"},
+        {"moved ahead", {L"6", L"1", L"2", L"5"}, "1 2 | 5 6", "256 257 258 | 259", true},
+        {"moved behind", {L"2", L"5", L"1"}, "1 2 | 5", "256 | 257 258", true},
+        {"moved within", {L"2", L"1", L"6", L"5"}, "1 2 | 5 6", "256 257 | 258 259", true},
     };
     const opc::XercesProcess xerces;
     const opc::ParserScope parser(opc::XercesHelper::createParser());
     for (const Row& row : rows) {
-        opc::StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(make(row.before)));
+        opc::StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(make(row.before, row.isListed)));
         const OwnedDocument document(
             opc::XercesHelper::readDocumentFromStream(parser.get(), stream, false, {}, {}));
         updateSections(*document.get(), row.formerIds, 256);
-        EXPECT_EQ(canonical(*document->getDocumentElement()), canonical(make(row.after))) << row.why;
+        EXPECT_EQ(canonical(*document->getDocumentElement()), canonical(make(row.after, row.isListed)))
+            << row.why;
     }
 }
 

@@ -183,12 +183,15 @@ TEST_F(SlidesTest, NotesAreReadChangedAndMade) {
     copy.setNotes(L"Say that\nand that");
     EXPECT_EQ(copy.getNotes(), L"Say that\nand that");
     EXPECT_EQ(slide(0).getNotes(), L"Say it");
+    deck.copy(slide(0));
+    slide(0).setNotes(L"Of this alone");
     Slide added = deck.add(L"Own");
     added.setNotes(L"All new");
-    EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide1.xml"), "a:t"), Texts{"Say it"});
+    EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide1.xml"), "a:t"), Texts{"Of this alone"});
     EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide2.xml"), "a:t"), (Texts{"Say that", "and that"}));
-    EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide3.xml"), "a:t"), Texts{"All new"});
-    EXPECT_EQ(target("ppt/notesSlides/notesSlide3.xml", "rId1"), "../notesMasters/notesMaster1.xml");
+    EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide3.xml"), "a:t"), Texts{"Say it"});
+    EXPECT_EQ(textsOf(parts().at("ppt/notesSlides/notesSlide4.xml"), "a:t"), Texts{"All new"});
+    EXPECT_EQ(target("ppt/notesSlides/notesSlide4.xml", "rId1"), "../notesMasters/notesMaster1.xml");
     EXPECT_EQ(target("ppt/notesMasters/notesMaster1.xml", "rId1"), "../theme/theme2.xml");
     EXPECT_EQ(findAll(parts().at("ppt/presentation.xml"), "p:notesMasterId").size(), 1u);
 }

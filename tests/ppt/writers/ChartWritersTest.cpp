@@ -166,6 +166,7 @@ TEST_F(ChartWritersTest, PointsComeAndGo) {
     for (int i = 0; i < 2; ++i)
         points += "<c:dPt><c:idx val='" + std::to_string(i) + "'/>" + fill("accent" + std::to_string(i + 1)) +
                   "</c:dPt>";
+    points += "<c:dPt/>"; // of no point
     const std::string pie = "<c:pieChart><c:varyColors val='1'/>" + ser(0, "A", "", points) + "</c:pieChart>";
     useChart(chartXml(pie)).chart(L"Sales").setData({L"a", L"b", L"c"}, {{L"A", {1, 2, 3}}});
     EXPECT_EQ(valuesOf(chartOf(close()), "a:schemeClr", "val"), (Texts{"accent1", "accent2", "accent3"}));

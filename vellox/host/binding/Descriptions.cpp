@@ -46,9 +46,9 @@ std::wstring getTextStart(const PPTObject& object) {
     for (unsigned int seen = 0; !open.empty() && seen < kMostNodes && start.size() <= kLongestText; ++seen) {
         const PPTNode& node = *open.back();
         open.pop_back();
+        const PPTNode::Children& children = node.getChildren();
         if (const auto* text = dynamic_cast<const Text*>(&node))
             start += (start.empty() ? L"" : L" ") + text->getTextContent().substr(0, kLongestText + 1);
-        const PPTNode::Children& children = node.getChildren();
         for (std::size_t i = std::min<std::size_t>(children.size(), kMostNodes); i-- > 0;)
             open.push_back(children[i].get());
     }

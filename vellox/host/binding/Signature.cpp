@@ -141,6 +141,7 @@ std::optional<std::vector<const hvArray*>> orderArguments(const Signature& signa
 int findOverload(const std::vector<const Signature*>& signatures, const Arguments& arguments,
                  const std::vector<NamedArgument>& named) {
     std::vector<std::optional<std::vector<const hvArray*>>> ordered;
+    ordered.reserve(signatures.size());
     for (const Signature* signature : signatures)
         ordered.push_back(orderArguments(*signature, arguments, named));
     for (const Fit fit : {Fit::Exact, Fit::Converted, Fit::WithAny})

@@ -1,6 +1,7 @@
 #include "vellox/ppt/engine/OutputReader.h"
 
 #include "vellox/ppt/package/PackageNames.h"
+#include "vellox/ppt/xml/Prefixes.h"
 
 #include <boost/interprocess/streams/bufferstream.hpp>
 #include <boost/make_shared.hpp>
@@ -28,6 +29,7 @@ boost::shared_ptr<const TemplateNotes> OutputReader::readNotes(const std::wstrin
         return {};
     const auto notes = boost::make_shared<TemplateNotes>();
     notes->document.reset(builder_.getDocument(builder_.getPart(target)));
+    useUsualPrefixes(*notes->document.get());
     return notes;
 }
 

@@ -140,7 +140,7 @@ void PresentationImpl::takeSlide(const boost::shared_ptr<TemplateSlide>& slide) 
 
 void PresentationImpl::rejectTemplate() {
     state_ = PresentationState::TemplateInvalid;
-    raise(ppt_error::invalidTemplate(partBuilder_->getPath()));
+    raise(ppt_error::invalidTemplate(partBuilder_ ? partBuilder_->getPath() : report_->templatePath));
 }
 
 void PresentationImpl::makeWorkingCopy(const std::wstring& templateFile) {
@@ -222,7 +222,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     writer.prepare(slides);
     for (const Child& slide : slides)
         writer.write(*slide);
-    writer.writeCharts();
+    writer.writeAttachments();
     state_ = PresentationState::Closed;
     attempt.keep();
     writer.setReporter(this);

@@ -62,7 +62,8 @@ void PresentationImpl::clearSlides() {
     open();
     const Children taken = takeOut([](const PPTNode& child) {
         const auto* impl = implAs<SlideImpl>(child);
-        return impl && impl->getTemplateSlide() && !impl->getTemplateSlide()->id.empty();
+        const auto record = impl ? impl->getTemplateSlide() : nullptr;
+        return record && record->source && record->originName.empty();
     });
     removed_.insert(removed_.end(), taken.begin(), taken.end());
 }

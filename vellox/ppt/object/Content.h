@@ -45,11 +45,15 @@ public:
     operator const HvContentPtr&() const { return content_; }
 
 private:
+    static constexpr unsigned long long kGreatest = 0x7FFFFFFFFFFFFFFF; // of a long long
+
     static HvContentPtr makeNumber(double number);
     static HvContentPtr makeNumber(long long number);
     template <class Number> static HvContentPtr makeNumber(Number number) {
         if constexpr (std::is_floating_point_v<Number>)
             return makeNumber(static_cast<double>(number));
+        else if (number > 0 && static_cast<unsigned long long>(number) > kGreatest)
+            return Content(std::to_wstring(number)).get(); // all its digits
         else
             return makeNumber(static_cast<long long>(number));
     }

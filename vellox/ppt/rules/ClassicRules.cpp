@@ -262,6 +262,10 @@ std::vector<int> ClassicRules::shareWidth(const GridFacts& grid) const {
     return widths;
 }
 
+bool ClassicRules::keepsDescription() const {
+    return true;
+}
+
 bool ClassicRules::keepsLook() const {
     return false;
 }

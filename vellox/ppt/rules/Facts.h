@@ -139,7 +139,7 @@ struct DeckFacts {
 struct IdFacts {
     bool isNew = true;         ///< a slide of a layout, and none of the template
     unsigned int greatest = 0; ///< the greatest id among its layout's placeholders
-    unsigned int present = 0;  ///< the greatest id on the slide as it is
+    unsigned int present = 0;  ///< the last of the usual ids on the slide as it is
 };
 
 // A tree is written

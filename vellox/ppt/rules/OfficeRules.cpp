@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Lines.h"
+#include "vellox/foundation/NumberText.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/rules/Sequences.h"
 #include "vellox/ppt/rules/TableStyles.h"
@@ -248,7 +249,7 @@ std::vector<bool> OfficeRules::keepPlaces(const std::vector<ShapeFacts>& layout)
 }
 
 unsigned int OfficeRules::firstFreeId(const IdFacts& ids) const {
-    return std::max(ids.greatest, ids.present) + 1;
+    return ids.present + 1;
 }
 
 bool OfficeRules::renumbersRepeats() const {
@@ -268,17 +269,6 @@ bool OfficeRules::givesTextBodies() const {
 namespace {
 
 // The shortest text that reads back as the same number, without an exponent where people would write none.
-std::wstring toShortest(double number) {
-    constexpr double kLeastPlain = 1e-5, kGreatestPlain = 1e16;
-    const double size = std::fabs(number);
-    const bool isPlain = size == 0 || (size >= kLeastPlain && size < kGreatestPlain);
-    std::array<char, 64> digits;
-    const auto end = isPlain
-                         ? std::to_chars(digits.begin(), digits.end(), number, std::chars_format::fixed)
-                         : std::to_chars(digits.begin(), digits.end(), number, std::chars_format::scientific);
-    return {digits.begin(), end.ptr};
-}
-
 struct ToText {
     const std::wstring& text;
 
@@ -427,6 +417,10 @@ std::vector<int> OfficeRules::shareWidth(const GridFacts& grid) const {
         written += widths.back();
     }
     return widths;
+}
+
+bool OfficeRules::keepsDescription() const {
+    return false;
 }
 
 bool OfficeRules::keepsLook() const {

@@ -51,6 +51,7 @@ public:
     bool measuresColumns() const override;
     std::vector<int> shareWidth(const GridFacts& grid) const override;
     bool keepsLook() const override;
+    bool keepsDescription() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
     bool sharesImages() const override;

@@ -102,6 +102,8 @@ public:
     virtual std::vector<int> shareWidth(const GridFacts& grid) const = 0;
     /// Whether what replaces texts or tables of the template looks like them.
     virtual bool keepsLook() const = 0;
+    /// Whether a picture or a table is described, for who can't see it, as what it came in the stead of was.
+    virtual bool keepsDescription() const = 0;
     /// What an element of the library's own making has to look like.
     /// @return null to leave it as it was made
     virtual const ElementForm* formOf(std::u16string_view element) const = 0;

@@ -122,9 +122,34 @@ unsigned int findGreatestId(DOMDocument* document) {
     return greatest;
 }
 
+namespace {
+
+// Those of ink have another prefix.
+std::vector<DOMElement*> getAllIdentities(DOMDocument* document) {
+    constexpr std::u16string_view kLocal = u":cNvPr";
+    std::vector<DOMElement*> identities;
+    for (DOMElement* element : getAllElements(document)) {
+        const std::u16string_view name = element->getNodeName();
+        if (name.size() > kLocal.size() && name.substr(name.size() - kLocal.size()) == kLocal)
+            identities.push_back(element);
+    }
+    return identities;
+}
+
+} // namespace
+
+unsigned int findLastId(DOMDocument* document) {
+    unsigned int last = 0;
+    for (const DOMElement* properties : getAllIdentities(document)) {
+        const unsigned int id = str2uint(getAttribute(properties, xml::kId));
+        last = id < kEndOfIds ? std::max(last, id) : last;
+    }
+    return last;
+}
+
 unsigned int renumberRepeatedIds(DOMDocument* document, unsigned int next) {
     std::set<std::wstring> taken;
-    for (DOMElement* properties : getElementsByName(document, xml::kCNvPr))
+    for (DOMElement* properties : getAllIdentities(document))
         if (!isInFallback(*properties) && !taken.insert(getAttribute(properties, xml::kId)).second)
             setAttribute(properties, xml::kId, num2str(next++));
     return next;

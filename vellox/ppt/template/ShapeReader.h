@@ -25,6 +25,10 @@ xercesc::DOMElement* findFirstShape(xercesc::DOMDocument* document, TreePath pat
 
 /// The greatest id of a p:cNvPr of a document; 0 if there is none.
 unsigned int findGreatestId(xercesc::DOMDocument* document);
+/// Where ids end that are counted on from: programs want them below 2^31, and those beyond stand alone.
+inline constexpr unsigned int kEndOfIds = 0x7FFF0000;
+/// The greatest id below that end of anything drawn on a page, of whatever namespace; 0 if there is none.
+unsigned int findLastId(xercesc::DOMDocument* document);
 /// Gives shapes whose id another one ahead of them has ids of their own, counted on from one that is free. What refers
 /// to a shape by its id means the first. A fallback stands for a shape, and has its id.
 /// @return the next free id

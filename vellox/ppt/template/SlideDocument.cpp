@@ -34,8 +34,7 @@ unsigned int findFirstFreeId(const TemplateSlide& slide, const Rules& rules) {
     ids.isNew = !slide.source;
     if (ids.isNew)
         ids.greatest = std::max(slide.layout->maxShapeId, requirePrototype(*slide.layout, rules).lastShapeId);
-    ids.present =
-        ids.isNew ? requirePrototype(*slide.layout, rules).greatestId : findGreatestId(slide.source->get());
+    ids.present = ids.isNew ? requirePrototype(*slide.layout, rules).lastId : findLastId(slide.source->get());
     return rules.firstFreeId(ids);
 }
 

@@ -232,8 +232,8 @@ boost::shared_ptr<const SlidePrototype> makePrototype(const TemplateLayout& layo
     removeUndeclared(*document.get());
     prototype->lastShapeId = completeIdentities(*document.get(), layout);
     if (rules.renumbersRepeats())
-        renumberRepeatedIds(document.get(), std::max(findGreatestId(document.get()), layout.maxShapeId) + 1);
-    prototype->greatestId = findGreatestId(document.get());
+        renumberRepeatedIds(document.get(), findLastId(document.get()) + 1);
+    prototype->lastId = findLastId(document.get());
     prototype->relationshipIds = collectRelationshipIds(*document.get());
     // Once more, which leaves behind what was stripped: a document never gives memory back.
     prototype->document = copyDocument(document);

@@ -37,7 +37,7 @@ struct LayoutField {
 /// A new slide of a layout, of which every slide that is written is a copy.
 struct SlidePrototype {
     OwnedDocument document;                    ///< placeholders bear the data-uid of the layout's records
-    unsigned int greatestId = 0;               ///< of a p:cNvPr in it
+    unsigned int lastId = 0;                   ///< as findLastId() has it
     unsigned int lastShapeId = 0;              ///< the last id that was given out in it; 0 if none was
     bool isWhole = true;                       ///< whether all that a slide has of its layout could be had
     std::vector<LayoutField> fields;           ///< the first of each type

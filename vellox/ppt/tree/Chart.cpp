@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NumberText.h"
 #include "vellox/ppt/tree/ChartImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 
@@ -30,7 +31,7 @@ void check(const ChartData& data) {
         for (std::size_t i = 0; i < series.values.size(); ++i)
             if (std::isinf(series.values[i]))
                 raise(ppt_error::chartValueNoNumber(series.name, std::to_wstring(i + 1),
-                                                    num2str(series.values[i])));
+                                                    toShortest(series.values[i])));
     }
 }
 
@@ -68,7 +69,7 @@ std::wstring toText(const HvContentPtr& content) {
     case HvContent::Integer:
         return num2str(IntegerContent::getValue(content));
     case HvContent::Double:
-        return num2str(DoubleContent::getValue(content));
+        return toShortest(DoubleContent::getValue(content));
     case HvContent::Boolean:
         return BooleanContent::getValue(content) ? L"true" : L"false";
     default:
@@ -134,6 +135,7 @@ const std::wstring Chart::getName() const {
 
 void Chart::setData(const std::vector<std::wstring>& categories, const Series& series) {
     std::vector<ChartCategory> all;
+    all.reserve(categories.size());
     for (const std::wstring& text : categories)
         all.push_back({text, {}});
     implOf<ChartImpl>(*this)->setData(toData(std::move(all), series));
@@ -141,8 +143,9 @@ void Chart::setData(const std::vector<std::wstring>& categories, const Series& s
 
 void Chart::setData(const std::vector<double>& categories, const Series& series) {
     std::vector<ChartCategory> all;
+    all.reserve(categories.size());
     for (const double number : categories)
-        all.push_back({num2str(number), std::isfinite(number) ? number : std::optional<double>()});
+        all.push_back({toShortest(number), std::isfinite(number) ? number : std::optional<double>()});
     implOf<ChartImpl>(*this)->setData(toData(std::move(all), series));
 }
 

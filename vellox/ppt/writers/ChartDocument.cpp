@@ -1,13 +1,12 @@
 #include "vellox/ppt/writers/ChartDocument.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/NumberText.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/writers/ChartLooks.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <set>
 
@@ -47,12 +46,6 @@ bool isGroup(std::u16string_view local) {
     return local.size() > kEnd.size() && local.substr(local.size() - kEnd.size()) == kEnd;
 }
 
-std::wstring toShortest(double number) {
-    std::array<char, 32> digits;
-    const auto end = std::to_chars(digits.begin(), digits.end(), number);
-    return {digits.begin(), end.ptr};
-}
-
 std::wstring toColumn(std::size_t index) {
     constexpr std::size_t kLetters = 26;
     std::wstring letters;
@@ -61,17 +54,13 @@ std::wstring toColumn(std::size_t index) {
     return letters;
 }
 
-// "'A sheet'!$B$2:$B$5", whatever the name is.
+// "'A sheet'!$B$2:$B$5". The quotes are for names such as "Q1", which a cell has, too.
 std::wstring toFormula(const std::wstring& sheet, std::size_t column, std::size_t first, std::size_t last) {
     std::wstring quoted = sheet;
     replaceAll(quoted, L"'", L"''");
-    const bool isPlain = std::all_of(sheet.begin(), sheet.end(), [](wchar_t c) {
-        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9') || c > 127;
-    });
-    const bool isWord = isPlain && !(sheet[0] >= L'0' && sheet[0] <= L'9');
-    const std::wstring place = L"!$" + toColumn(column) + L"$";
-    const std::wstring start = (isWord ? sheet : L"'" + quoted + L"'") + place + std::to_wstring(first);
-    return first == last ? start : start + L":$" + toColumn(column) + L"$" + std::to_wstring(last);
+    const std::wstring place = L"$" + toColumn(column) + L"$";
+    const std::wstring start = L"'" + quoted + L"'!" + place + std::to_wstring(first);
+    return first == last ? start : start + L":" + place + std::to_wstring(last);
 }
 
 bool canBeSheet(const std::wstring& name) {
@@ -288,8 +277,7 @@ DOMElement* ChartDocument::append(DOMElement* parent, std::u16string_view local)
 }
 
 DOMElement* ChartDocument::renew(DOMElement* series, std::u16string_view local) const {
-    while (DOMElement* former = findLocal(series, local))
-        removeNode(former);
+    removeLocal(series, local);
     DOMElement* child = make(local);
     insertInSequence(series, child);
     return child;

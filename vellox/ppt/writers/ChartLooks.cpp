@@ -16,11 +16,6 @@ constexpr const wchar_t* kShades[][2] = {{nullptr, nullptr}, {L"60000", nullptr}
 /// What belongs to the points of one series, or is known by a number of its own.
 constexpr std::u16string_view kOfPoints[] = {u"dPt", u"dLbls", u"trendline", u"errBars", u"extLst"};
 
-void removeAll(DOMElement* parent, std::u16string_view local) {
-    while (DOMElement* child = findLocal(parent, local))
-        removeNode(child);
-}
-
 // Makes the colour of an element that of the theme whose turn it is.
 void setTurn(DOMElement* color, unsigned long index) {
     DOMElement* own = color->getOwnerDocument()->createElement(xml::kASchemeClr);
@@ -57,15 +52,21 @@ std::u16string_view getLocalName(const DOMNode& element) {
 }
 
 DOMElement* findLocal(const DOMNode* parent, std::u16string_view local) {
+    for (DOMNode* child = parent ? parent->getFirstChild() : nullptr; child; child = child->getNextSibling())
+        if (child->getNodeType() == DOMNode::ELEMENT_NODE && getLocalName(*child) == local)
+            return static_cast<DOMElement*>(child);
+    return nullptr;
+}
+
+void removeLocal(DOMElement* parent, std::u16string_view local) {
     for (DOMElement* child : getChildElements(parent))
         if (getLocalName(*child) == local)
-            return child;
-    return nullptr;
+            removeNode(child);
 }
 
 void continueLook(DOMElement* series, unsigned long index) {
     for (const std::u16string_view local : kOfPoints)
-        removeAll(series, local);
+        removeLocal(series, local);
     for (const std::u16string_view local : {u"spPr", u"marker"})
         if (DOMElement* look = findLocal(series, local))
             recolor(look, index);
@@ -75,7 +76,7 @@ void limitPoints(DOMElement* series, std::size_t count) {
     std::size_t looks = 0, greatest = 0;
     DOMElement* last = nullptr;
     for (DOMElement* child : getChildElements(series)) {
-        if (getLocalName(*child) != u"dPt")
+        if (getLocalName(*child) != u"dPt" || !findLocal(child, u"idx"))
             continue;
         const std::size_t point = getPoint(child);
         if (point >= count) {
@@ -93,7 +94,7 @@ void limitPoints(DOMElement* series, std::size_t count) {
         return;
     for (std::size_t point = looks; point < count; ++point) {
         auto* copy = static_cast<DOMElement*>(last->cloneNode(true));
-        removeAll(copy, u"extLst");
+        removeLocal(copy, u"extLst");
         setAttribute(findLocal(copy, u"idx"), xml::kVal, std::to_wstring(point));
         recolor(copy, point);
         series->insertBefore(copy, last->getNextSibling());

@@ -14,6 +14,8 @@ namespace vellox::ppt {
 std::u16string_view getLocalName(const xercesc::DOMNode& element);
 /// The first child element of such a name; null for a null parent or if there is none.
 xercesc::DOMElement* findLocal(const xercesc::DOMNode* parent, std::u16string_view local);
+/// Takes all children of a local name away.
+void removeLocal(xercesc::DOMElement* parent, std::u16string_view local);
 
 /// Makes the copy of a series look like the one of an index: in the colours of the theme that are its turn, without
 /// what belongs to the original's points.

@@ -31,28 +31,44 @@ private:
     std::wstring path_;
 };
 
-void fillSheet(lxw_worksheet* sheet, const ChartData& data) {
-    const bool isNumeric = data.hasNumbersAsCategories();
-    lxw_row_t row = 0;
-    for (const ChartCategory& category : data.categories) {
-        ++row;
-        if (isNumeric)
-            worksheet_write_number(sheet, row, 0, *category.number, nullptr);
-        else
-            worksheet_write_string(sheet, row, 0, toUtf8(category.text).c_str(), nullptr);
-    }
-    lxw_col_t column = 0;
-    for (const ChartSeries& series : data.series) {
-        ++column;
-        worksheet_write_string(sheet, 0, column, toUtf8(series.name).c_str(), nullptr);
-        row = 0;
-        for (const double value : series.values) {
+/// One sheet, and the first thing that didn't go into it.
+class Sheet {
+public:
+    explicit Sheet(lxw_worksheet* sheet) : sheet_(sheet) {}
+
+    void fill(const ChartData& data) {
+        const bool isNumeric = data.hasNumbersAsCategories();
+        lxw_row_t row = 0;
+        for (const ChartCategory& category : data.categories) {
             ++row;
-            if (std::isfinite(value))
-                worksheet_write_number(sheet, row, column, value, nullptr);
+            if (isNumeric)
+                put(row, 0, *category.number);
+            else
+                put(row, 0, category.text);
+        }
+        lxw_col_t column = 0;
+        for (const ChartSeries& series : data.series) {
+            put(0, ++column, series.name);
+            row = 0;
+            for (const double value : series.values)
+                put(++row, column, value);
         }
     }
-}
+    lxw_error getFailure() const { return failure_; }
+
+private:
+    void put(lxw_row_t row, lxw_col_t column, const std::wstring& text) {
+        note(worksheet_write_string(sheet_, row, column, toUtf8(text).c_str(), nullptr));
+    }
+    void put(lxw_row_t row, lxw_col_t column, double number) {
+        if (std::isfinite(number))
+            note(worksheet_write_number(sheet_, row, column, number, nullptr));
+    }
+    void note(lxw_error result) { failure_ = failure_ ? failure_ : result; }
+
+    lxw_worksheet* sheet_;
+    lxw_error failure_ = LXW_NO_ERROR;
+};
 
 } // namespace
 
@@ -67,9 +83,14 @@ std::string makeChartWorkbook(const std::wstring& chartName, const std::wstring&
     lxw_doc_properties properties{};
     properties.created = kAnyTime;
     workbook_set_properties(workbook, &properties);
-    if (lxw_worksheet* sheet = workbook_add_worksheet(workbook, toUtf8(sheetName).c_str()))
-        fillSheet(sheet, data);
-    if (const lxw_error failure = workbook_close(workbook))
+    lxw_worksheet* added = workbook_add_worksheet(workbook, toUtf8(sheetName).c_str());
+    Sheet sheet(added);
+    if (added)
+        sheet.fill(data);
+    const lxw_error closed = workbook_close(workbook);
+    if (!added)
+        raise(ppt_error::chartWorkbookFailed(chartName, L"there can be no sheet " + sheetName));
+    if (const lxw_error failure = sheet.getFailure() ? sheet.getFailure() : closed)
         raise(ppt_error::chartWorkbookFailed(chartName, fromUtf8(lxw_strerror(failure))));
     try {
         return fsys::readFile(fsys::Path(file.getPath()), kMostBytes);

@@ -6,6 +6,7 @@
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/object/ElementImpl.h"
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/rules/Sequences.h"
 #include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/xml/ChildOrder.h"
@@ -82,8 +83,11 @@ PPTWriter::Frame ElementWriter::makeFrame() const {
 
 unsigned int ElementWriter::writeChildren(const PPTWriter::Frame& frame) const {
     const PPTWriter::FrameScope scope(writer_, frame);
-    for (const auto& child : element_.getChildren())
+    const PPTNode::Children& children = element_.getChildren();
+    for (std::size_t i = 0; i < children.size(); ++i) { // a listener that hears of a finding may change them
+        const auto child = children[i];
         child->acceptWriter(&writer_, parentNode_);
+    }
     return writer_.getFrame().paragraphs;
 }
 
@@ -134,6 +138,11 @@ void ElementWriter::arrange(PropertyElement& properties) const {
 
 void ElementWriter::arrange(DOMElement* element) const {
     if (const ElementForm* form = element ? getRules().formOf(element->getNodeName()) : nullptr)
+        sortChildren(element, form->children);
+}
+
+void ElementWriter::arrangeAnyway(DOMElement* element) {
+    if (const ElementForm* form = findElementForm(element->getNodeName()))
         sortChildren(element, form->children);
 }
 

@@ -92,6 +92,8 @@ protected:
     /// @{ Brings an element into the form that the rules want it to have, if they say so. The second takes null.
     void arrange(PropertyElement& properties) const;
     void arrange(xercesc::DOMElement* element) const;
+    /// The same whatever the rules are: for properties of the template that classic knows no way to write to.
+    static void arrangeAnyway(xercesc::DOMElement* element);
     /// @}
 
 private:

@@ -26,26 +26,37 @@ bool haveSameBytes(const ImageSource& a, const ImageSource& b) {
                         : fsys::holds(fsys::Path(a.getPath()), *b.getBytes());
 }
 
-} // namespace
-
-// An image is copied when the package is saved, and that would be too late to find out that it can't be had in whole:
-// the presentation is closed by then.
-bool ImageIndex::read(const ImageSource& image, bool wantsHash, Reading& reading) {
-    reading.image = image;
-    if (!image.getBytes())
-        reading.file = fsys::identify(fsys::Path(image.getPath()));
-    const auto stream = image.open();
-    if (!stream)
-        return false;
+// Of what can't be read to its end, which equals nothing, as far as it goes.
+std::size_t hashBytes(const ImageSource& image) {
+    std::size_t hash = 0;
     std::array<char, 64 << 10> block;
-    while (*stream) {
+    const auto stream = image.open();
+    while (stream && *stream) {
         stream->read(block.data(), block.size());
         const auto count = static_cast<std::size_t>(stream->gcount());
-        reading.size += count;
-        if (wantsHash)
-            boost::hash_combine(reading.hash, std::hash<std::string_view>()({block.data(), count}));
+        boost::hash_combine(hash, std::hash<std::string_view>()({block.data(), count}));
     }
-    return stream->eof() && !stream->bad();
+    return hash;
+}
+
+} // namespace
+
+// An image is read when the package is saved, and that would be too late to find out that it can't be had: the
+// presentation is closed by then. Only a device that fails within the image makes the saving fail, which leaves
+// the output as it was.
+bool ImageIndex::look(const ImageSource& image, Look& look) {
+    look.image = image;
+    if (image.getBytes()) {
+        look.size = image.getBytes()->size();
+    } else {
+        look.file = fsys::identify(fsys::Path(image.getPath()));
+        look.size = static_cast<unsigned long long>(look.file.size);
+    }
+    const auto stream = image.open();
+    if (!stream || !*stream)
+        return false;
+    stream->peek();
+    return !stream->bad();
 }
 
 // The extension tells what kind of image a file is.
@@ -67,27 +78,40 @@ std::wstring ImageIndex::findSource(const ImageSource& image) const {
     return found == files_.end() ? std::wstring() : found->second;
 }
 
-std::wstring ImageIndex::findEqual(const Reading& reading) {
-    for (const Entry& entry : contents_[{getExtension(reading.image), reading.size, reading.hash}]) {
-        if (!haveSameBytes(entry.reading.image, reading.image))
+std::wstring ImageIndex::findEqual(Look& look) {
+    Group& group = groups_[{getExtension(look.image), look.size}];
+    if (group.unread) {
+        group.read.emplace(hashBytes(group.unread->look.image), *group.unread);
+        group.unread.reset();
+    }
+    if (group.read.empty())
+        return {};
+    look.hash = hashBytes(look.image);
+    const auto [first, end] = group.read.equal_range(*look.hash);
+    for (auto row = first; row != end; ++row) {
+        const Entry& entry = row->second;
+        if (!haveSameBytes(entry.look.image, look.image))
             continue;
-        const std::wstring partName = entry.partName;
-        remember(reading, partName);
-        return partName;
+        remember(look, entry.partName);
+        return entry.partName;
     }
     return {};
 }
 
-void ImageIndex::add(const Reading& reading, const std::wstring& partName) {
-    contents_[{getExtension(reading.image), reading.size, reading.hash}].push_back({reading, partName});
-    remember(reading, partName);
+void ImageIndex::add(const Look& look, const std::wstring& partName) {
+    Group& group = groups_[{getExtension(look.image), look.size}];
+    if (look.hash)
+        group.read.emplace(*look.hash, Entry{look, partName});
+    else
+        group.unread = Entry{look, partName};
+    remember(look, partName);
 }
 
-void ImageIndex::remember(const Reading& reading, const std::wstring& partName) {
-    if (reading.image.getBytes()) // which the entry keeps, so that nothing else comes to lie in their place
-        memory_[reading.image.getBytes().get()] = {reading, partName};
+void ImageIndex::remember(const Look& look, const std::wstring& partName) {
+    if (look.image.getBytes()) // which the entry keeps, so that nothing else comes to lie in their place
+        memory_[look.image.getBytes().get()] = {look, partName};
     else
-        files_[makeKey(reading.image.getPath(), reading.file)] = partName;
+        files_[makeKey(look.image.getPath(), look.file)] = partName;
 }
 
 } // namespace vellox::ppt

@@ -5,50 +5,55 @@
 #define VELLOX_PPT_WRITERS_IMAGEINDEX_H
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
-#include <vector>
+#include <utility>
 
 #include "vellox/foundation/ImageSource.h"
 #include "vellox/host/services/FileSystem.h"
 
 namespace vellox::ppt {
 
-/// What was put into a deck, by what it holds. Each file is read once to its end; a second time only where another
-/// may hold the same.
+/// What was put into a deck, by what it holds. A file is read here only where another of its size is in the deck.
 class ImageIndex {
 public:
-    /// An image that was read to its end.
-    struct Reading {
+    /// What is known of an image before it is read.
+    struct Look {
         ImageSource image;
         hostfx::filesystem::FileIdentity file; ///< of a file
         unsigned long long size = 0;
-        std::size_t hash = 0;
+        std::optional<std::size_t> hash; ///< of its bytes, once they had to be compared
     };
 
-    /// @param wantsHash whether anybody is to look for one of the same bytes, which isn't free
-    /// @return false if it can't be read to its end, or is no regular file
-    static bool read(const ImageSource& image, bool wantsHash, Reading& reading);
+    /// @return false if it can't be read, or is no regular file
+    static bool look(const ImageSource& image, Look& look);
     /// The part of an image that was put in, seen by where it is alone: it needn't be read.
     std::wstring findSource(const ImageSource& image) const;
     /// The part of an image of the same bytes and the same kind; empty if there is none.
-    std::wstring findEqual(const Reading& reading);
-    void add(const Reading& reading, const std::wstring& partName);
+    std::wstring findEqual(Look& look);
+    /// After findEqual() has found none.
+    void add(const Look& look, const std::wstring& partName);
 
 private:
     struct Entry {
-        Reading reading;
+        Look look;
         std::wstring partName;
+    };
+    /// Images of one kind and size: the first is read when a second comes.
+    struct Group {
+        std::optional<Entry> unread;
+        std::multimap<std::size_t, Entry> read; // by the hash
     };
     using FileKey =
         std::tuple<std::wstring, unsigned long long, unsigned long long, long long, long long, long long>;
 
     static FileKey makeKey(const std::wstring& path, const hostfx::filesystem::FileIdentity& file);
-    void remember(const Reading& reading, const std::wstring& partName);
+    void remember(const Look& look, const std::wstring& partName);
 
     std::map<FileKey, std::wstring> files_;
     std::map<const std::string*, Entry> memory_;
-    std::map<std::tuple<std::wstring, unsigned long long, std::size_t>, std::vector<Entry>> contents_;
+    std::map<std::pair<std::wstring, unsigned long long>, Group> groups_; // by extension and size
 };
 
 } // namespace vellox::ppt

@@ -26,6 +26,11 @@ NotesParts::NotesParts(const ReadTemplate& source, PPTPartWriter& partWriter)
     : source_(source),
       partWriter_(partWriter) {}
 
+void NotesParts::write() {
+    for (const auto& [slidePartName, notes] : pages_)
+        write(slidePartName, *notes);
+}
+
 void NotesParts::write(const std::wstring& slidePartName, const TemplateNotes& notes) {
     std::wstring name = findTarget(partWriter_, slidePartName, relationship::kNotesSlide);
     if (name.empty())
@@ -71,11 +76,7 @@ void NotesParts::createTheme() {
         const opc::Part theme = partWriter_.getPart(master->theme->partName);
         const std::wstring name = partWriter_.chooseNameLike(L"/ppt/theme/theme1.xml");
         opc::Part copy = partWriter_.copyPart(theme, name, false);
-        for (const opc::Relationship& row : theme.getRelationships())
-            if (row.isExternal())
-                copy.createExternalRelationship(row.getType(), row.getTarget(), row.getID());
-            else
-                copy.createInternalRelationship(row.getType(), row.getTargetURI(), row.getID());
+        copyRelationships(theme, copy);
         partWriter_.addRelationship(masterName_, relationship::kTheme, name);
         return;
     }

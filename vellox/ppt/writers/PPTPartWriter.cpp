@@ -39,21 +39,20 @@ bool isCompressed(const std::wstring& contentType) {
     return compressed.count(contentType) > 0;
 }
 
-// Gives a part those of another's relationships that have one of the ids, under the same ids.
-void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<std::wstring>& ids) {
-    if (ids.empty())
-        return;
+} // namespace
+
+void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<std::wstring>* ids) {
+    std::set<std::wstring> copied; // a damaged list may have an id twice
     for (const opc::Relationship& row : from.getRelationships()) {
-        if (!std::binary_search(ids.begin(), ids.end(), row.getID()))
+        const std::wstring& id = row.getID();
+        if ((ids && !std::binary_search(ids->begin(), ids->end(), id)) || !copied.insert(id).second)
             continue;
         if (row.isExternal())
-            to.createExternalRelationship(row.getType(), row.getTarget(), row.getID());
+            to.createExternalRelationship(row.getType(), row.getTarget(), id);
         else
-            to.createInternalRelationship(row.getType(), row.getTargetURI(), row.getID());
+            to.createInternalRelationship(row.getType(), row.getTargetURI(), id);
     }
 }
-
-} // namespace
 
 PPTPartWriter::PPTPartWriter(boost::shared_ptr<OPCPackage> package) : PartDOMWriter(std::move(package)) {}
 
@@ -93,7 +92,9 @@ opc::Part PPTPartWriter::copyPart(opc::Part from, const std::wstring& name, bool
 
 std::wstring PPTPartWriter::createSlidePart(const TemplateSlide& slide, const std::wstring& name) {
     opc::Part part = createPart(name, contenttype::kSlide);
-    copyRelationships(getPart(slide.layout->partName), part, slide.layout->prototype->relationshipIds);
+    const std::vector<std::wstring>& ids = slide.layout->prototype->relationshipIds;
+    if (!ids.empty())
+        copyRelationships(getPart(slide.layout->partName), part, &ids);
     part.createInternalRelationship(relationship::kSlideLayout, opc::PartName(slide.layout->partName).toURI(),
                                     {});
     return name;
@@ -126,16 +127,16 @@ std::wstring PPTPartWriter::addImage(const std::wstring& partName, const ImageSo
 
 std::wstring PPTPartWriter::requireImagePart(const ImageSource& image, bool isShared) {
     std::wstring present = isShared ? images_.findSource(image) : std::wstring();
-    ImageIndex::Reading reading;
-    if (!present.empty() || !ImageIndex::read(image, isShared, reading))
+    ImageIndex::Look look;
+    if (!present.empty() || !ImageIndex::look(image, look))
         return present;
     if (isShared)
-        present = images_.findEqual(reading);
+        present = images_.findEqual(look);
     if (!present.empty())
         return present;
     const std::wstring name = createImagePart(image);
     if (isShared)
-        images_.add(reading, name);
+        images_.add(look, name);
     return name;
 }
 

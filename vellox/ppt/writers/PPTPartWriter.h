@@ -81,6 +81,10 @@ private:
     ImageIndex images_;
 };
 
+/// Gives a part those of another's relationships that have one of some ids in ascending order, or all, under the same
+/// ids.
+void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<std::wstring>* ids = nullptr);
+
 } // namespace vellox::ppt
 
 #endif

@@ -46,9 +46,10 @@ ChartParts& PPTWriter::getChartParts() {
     return *chartParts_;
 }
 
-void PPTWriter::writeCharts() {
+void PPTWriter::writeAttachments() {
     if (chartParts_)
         chartParts_->write();
+    notes_->write();
 }
 
 void PPTWriter::prepare(const PPTNode::Children& slides) {

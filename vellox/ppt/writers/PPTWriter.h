@@ -144,8 +144,8 @@ public:
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     ChartParts& getChartParts();
-    /// Gives charts their data, once all slides are written: a copy of a slide has its charts as the original had them.
-    void writeCharts();
+    /// Writes charts and notes, once all slides are written: a copy of a slide begins with what the original had.
+    void writeAttachments();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     SlideCopies& getCopies() { return *copies_; }
     NotesParts& getNotes() { return *notes_; }

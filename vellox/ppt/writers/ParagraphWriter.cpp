@@ -63,7 +63,7 @@ void ParagraphWriter::applyTo(DOMElement* paragraph) {
         return;
     DOMElement* properties = requireFirstChild(paragraph, xml::kAPPr);
     pPr_.applyTo(properties);
-    arrange(properties);
+    arrangeAnyway(properties);
 }
 
 PPTWriter::Frame ParagraphWriter::makeRunFrame() const {

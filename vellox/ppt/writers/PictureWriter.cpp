@@ -8,6 +8,7 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/writers/GroupSpace.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
@@ -35,6 +36,9 @@ void PictureWriter::write() {
             writePlacement(made, *placement, orientation_);
         return dress(made.pic);
     }
+    const GroupSpace space(*former);
+    facts_.cx = facts_.cx ? space.toWidth(*facts_.cx) : facts_.cx;
+    facts_.cy = facts_.cy ? space.toHeight(*facts_.cy) : facts_.cy;
     const std::optional<PicturePlacement> placement = fitInPlace();
     DOMNode* parent = former->getParentNode();
     const PictureElements made =
@@ -43,6 +47,7 @@ void PictureWriter::write() {
         writePlacement(made, *placement, orientation_);
     if (parent)
         parent->replaceChild(made.pic, former);
+    dropDescription(made.pic);
     dress(made.pic);
 }
 

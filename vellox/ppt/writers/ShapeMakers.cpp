@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/writers/GroupSpace.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -246,13 +247,29 @@ void takeLength(BaseAttribute<Dimension>& length, const std::wstring& text) {
         length.set(Dimension(text + Dimension::dim2str(Dimension::emus)));
 }
 
+// Lengths are the slide's, wherever the shape stands.
+ShapeGeometry toGroup(const ShapeGeometry& geometry, const GroupSpace& space) {
+    ShapeGeometry inside = geometry;
+    const auto convert = [&](BaseAttribute<Dimension>& length, double (GroupSpace::*to)(double) const) {
+        if (length.isSet())
+            length.set(Dimension(num2str(truncateToInt((space.*to)(length.get().getEMUNumber()))) +
+                                 Dimension::dim2str(Dimension::emus)));
+    };
+    convert(inside.x, &GroupSpace::toX);
+    convert(inside.y, &GroupSpace::toY);
+    convert(inside.cx, &GroupSpace::toWidth);
+    convert(inside.cy, &GroupSpace::toHeight);
+    return inside;
+}
+
 } // namespace
 
 void placeExistingTextShape(DOMElement* shape, const PlaceText* place, const ShapeGeometry& geometry) {
     if (!geometry.hasPlacement())
         return;
     ShapeElements elements = readShapeElements(shape);
-    ShapeGeometry merged = geometry;
+    const GroupSpace space(*shape);
+    ShapeGeometry merged = space.isSlide() ? geometry : toGroup(geometry, space);
     if (place) {
         takeLength(merged.x, place->x);
         takeLength(merged.y, place->y);

@@ -1,5 +1,6 @@
 #include "vellox/ppt/writers/ShapeWriter.h"
 
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
@@ -23,6 +24,12 @@ xercesc::DOMElement* ShapeWriter::getSlideElement() const {
 NodeType ShapeWriter::getShapeType() const {
     const TemplateShape* record = getTemplateShape();
     return record ? record->type : NodeType::None;
+}
+
+void ShapeWriter::dropDescription(xercesc::DOMElement* element) const {
+    xercesc::DOMElement* properties = findChild(findNonVisual(*element), xml::kCNvPr);
+    if (properties && !getRules().keepsDescription())
+        properties->removeAttribute(xml::kDescr);
 }
 
 void ShapeWriter::writeAltText(xercesc::DOMElement* element) const {

@@ -25,6 +25,8 @@ public:
     NodeType getShapeType() const;
 
 protected:
+    /// Takes off what described the shape that this one came in the stead of, as far as the rules want it.
+    void dropDescription(xercesc::DOMElement* element) const;
     /// Writes the alternative text of the shape, if it has one of its own, to its element.
     void writeAltText(xercesc::DOMElement* element) const;
 

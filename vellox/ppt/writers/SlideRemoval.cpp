@@ -87,8 +87,7 @@ private:
         }
         if (ids.empty())
             return;
-        for (const std::wstring& id : ids)
-            part.deleteRelationship(id);
+        part.deleteRelationships(ids);
         if (part.getContentType().isXml())
             cutElements(part, ids);
     }

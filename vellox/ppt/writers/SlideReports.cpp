@@ -27,7 +27,7 @@ bool isChanged(const ShapeImpl& shape) {
 }
 
 void reportGrouped(const PPTNodeImpl& group) {
-    for (const auto& child : group.getChildren()) {
+    for (const auto& child : PPTNode::Children(group.getChildren())) { // a listener may change them
         const auto* shape = implAs<ShapeImpl>(*child);
         if (child->getNodeType() == NodeType::Group)
             reportGrouped(*shape);
@@ -52,14 +52,14 @@ void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
 
 } // namespace
 
-void reportOnSlide(const SlideImpl& slide, const PresentationModel& model) {
+void reportOnSlide(const SlideImpl& slide, const PPTNode::Children& shapes, const PresentationModel& model) {
     const boost::shared_ptr<TemplateLayout>& layout = slide.getTemplateSlide()->layout;
     if (layout && layout->prototype && !layout->prototype->isWhole)
         report(ppt_finding::layoutCopiedInPart(layout->name), slide);
     const bool isNew = !slide.getTemplateSlide()->source;
     const double height = str2double(model.getTemplate().slideHeight);
     reportName(slide);
-    for (const auto& child : slide.getChildren()) {
+    for (const auto& child : shapes) {
         const auto* shape = implOf<PPTNodeImpl>(*child);
         reportName(*shape);
         if (shape->getNodeType() == NodeType::Group && !model.getRules().reachesIntoGroups())

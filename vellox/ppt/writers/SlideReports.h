@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_WRITERS_SLIDEREPORTS_H
 #define VELLOX_PPT_WRITERS_SLIDEREPORTS_H
 
+#include "vellox/ppt/object/PPTNode.h"
+
 namespace vellox::ppt {
 
 class PresentationModel;
@@ -11,7 +13,8 @@ class SlideImpl;
 
 /// Reports shapes in groups that were changed where the rules don't reach them, names with characters that are left
 /// out, what of the layout the slide lacks, placeholders that were left empty, and texts and tables that find no room.
-void reportOnSlide(const SlideImpl& slide, const PresentationModel& model);
+/// @param shapes those of the slide, kept from listeners
+void reportOnSlide(const SlideImpl& slide, const PPTNode::Children& shapes, const PresentationModel& model);
 
 } // namespace vellox::ppt
 

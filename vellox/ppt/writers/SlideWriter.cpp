@@ -43,7 +43,7 @@ void SlideWriter::write() {
     const PPTWriter::Visit visit(getWriter(), record, document, partName);
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
-    reportOnSlide(slide_, getModel());
+    reportOnSlide(slide_, shapes, getModel());
     writeFields(fields, document);
     writeShapes(document, shapes, taken);
     arrange(document.getShapeTree());
@@ -54,7 +54,7 @@ void SlideWriter::write() {
         if (chart.data)
             getWriter().getChartParts().add(partName, getWriter().getCurrentSlideNumber(), chart);
     if (record->notes && record->notes->isChanged)
-        getWriter().getNotes().write(partName, *record->notes);
+        getWriter().getNotes().add(partName, record->notes);
 }
 
 void SlideWriter::writeFields(const PageFieldWriter& fields, SlideDocument& document) const {

@@ -17,7 +17,6 @@
 #include "vellox/ppt/writers/TableLook.h"
 #include "vellox/ppt/writers/TextWriter.h"
 #include "vellox/ppt/xml/BodyText.h"
-#include "vellox/ppt/xml/ChildOrder.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <array>
@@ -143,9 +142,7 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
             cell->insertBefore(properties, body->getNextSibling());
         }
         tcPr_.applyTo(properties);
-        if (findFormat(FormatType::CellBorders))
-            sortChildren(properties, {xml::kALnL, xml::kALnR, xml::kALnT, xml::kALnB, kAnyOther});
-        arrange(properties);
+        arrangeAnyway(properties);
     }
     const std::size_t dropped = entry.getNewText() ? replaceBody(*body, *entry.getNewText()) : 0;
     if (dropped > 0)

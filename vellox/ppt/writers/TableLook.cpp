@@ -49,7 +49,8 @@ TableLook::Row TableLook::readRow(const DOMElement& row) {
             read.cells.push_back(read.cells.back());
             continue;
         }
-        CellLook& look = read.cells.emplace_back();
+        read.cells.push_back(read.looks.size());
+        CellLook& look = read.looks.emplace_back();
         if (const DOMElement* properties = findChild(cell, xml::kATcPr))
             look.tcPr.copyFrom(*properties);
         look.text = TextLook(findChild(cell, xml::kATxBody));
@@ -70,7 +71,7 @@ const CellLook* TableLook::find(unsigned int row, unsigned int column, unsigned 
     const Row* found = findRow(row, rowCount, hasTotalRow);
     if (!found || found->cells.empty())
         return nullptr;
-    return &found->cells[std::min<std::size_t>(column, found->cells.size() - 1)];
+    return &found->looks[found->cells[std::min<std::size_t>(column, found->cells.size() - 1)]];
 }
 
 int TableLook::getRowHeight(unsigned int row, unsigned int rowCount, bool hasTotalRow) const {

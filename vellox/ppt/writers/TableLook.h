@@ -41,7 +41,8 @@ public:
 private:
     struct Row {
         double height = 0;
-        std::vector<CellLook> cells;
+        std::vector<CellLook> looks;
+        std::vector<std::size_t> cells; // which of the looks each has
     };
 
     static Row readRow(const xercesc::DOMElement& row);

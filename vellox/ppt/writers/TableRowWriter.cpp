@@ -34,8 +34,11 @@ void TableRowWriter::write() {
         writeEntry(formats);
         table.nextEntry();
     };
-    for (const auto& entry : row_.getChildren())
+    const PPTNode::Children& entries = row_.getChildren();
+    for (std::size_t i = 0; i < entries.size(); ++i) { // a listener that hears of a finding may change them
+        const auto entry = entries[i];
         writeNext([&](const FormatsInForce&) { entry->acceptWriter(&getWriter(), getParentNode()); });
+    }
     while (table.col < table.colCount && getRules().fillsRows())
         writeNext([&](const FormatsInForce& formats) {
             TableEntryWriter blank(row_, getWriter(), getParentNode());

@@ -101,6 +101,7 @@ GraphicFrameElements TableWriter::makeGraphicFrame() {
     const GraphicFrameElements made = makeTableInPlace(slide, former, place, table_.getNCols());
     if (parent)
         parent->replaceChild(made.frame, former);
+    dropDescription(made.frame);
     return made;
 }
 

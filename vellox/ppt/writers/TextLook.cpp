@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/ppt/xml/Dom.h"
+#include "vellox/ppt/xml/RunMarks.h"
 
 #include <algorithm>
 
@@ -11,6 +12,8 @@ using namespace xercesc;
 
 namespace {
 
+constexpr unsigned int kDeepestLevel = 8; // from 0
+
 const DOMElement* findFirstRun(const DOMElement& paragraph) {
     for (const DOMElement* child : getChildElements(&paragraph))
         if (hasName(*child, xml::kAR) || hasName(*child, xml::kAFld))
@@ -18,21 +21,20 @@ const DOMElement* findFirstRun(const DOMElement& paragraph) {
     return nullptr;
 }
 
-// Links led from the former words, and marks of the spelling are about them.
 void takeRunProperties(PropertyElement& into, const DOMElement* properties) {
     if (!properties)
         return;
     into.copyFrom(*properties);
-    for (const XMLCh* name : {xml::kAHlinkClick, xml::kAHlinkMouseOver})
+    for (const XMLCh* name : kRunLinks)
         into.removeChildren(name);
-    for (const XMLCh* name : {xml::kBmk, xml::kDirty, xml::kErr, xml::kSmtClean})
+    for (const XMLCh* name : kRunMarks)
         into.removeAttribute(name);
 }
 
 ParagraphLook readLook(const DOMElement& paragraph, const DOMElement* run) {
     ParagraphLook look;
     if (const DOMElement* properties = findChild(&paragraph, xml::kAPPr)) {
-        look.level = str2uint(getAttribute(properties, xml::kLvl));
+        look.level = std::min(str2uint(getAttribute(properties, xml::kLvl)), kDeepestLevel);
         look.pPr.copyFrom(*properties);
         look.pPr.removeAttribute(xml::kLvl);
     }

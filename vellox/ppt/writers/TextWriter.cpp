@@ -38,7 +38,7 @@ void TextWriter::writeLine(const std::wstring& line) {
 void TextWriter::applyTo(DOMElement* properties) {
     prepare();
     rPr_.applyTo(properties);
-    arrange(properties);
+    arrangeAnyway(properties);
 }
 
 void TextWriter::prepare() {

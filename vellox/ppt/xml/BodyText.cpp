@@ -2,7 +2,7 @@
 
 #include "vellox/foundation/Lines.h"
 #include "vellox/opc/XercesString.h"
-#include "vellox/ppt/xml/XmlNames.h"
+#include "vellox/ppt/xml/RunMarks.h"
 
 namespace vellox::ppt {
 
@@ -34,10 +34,12 @@ std::wstring readBody(const DOMElement* body) {
 namespace {
 
 DOMElement* findNth(const DOMElement* parent, const XMLCh* name, unsigned int n) {
-    for (DOMElement* child : getChildElements(parent))
-        if (hasName(*child, name) && n-- == 0)
-            return child;
-    return nullptr;
+    DOMElement* child = findChild(parent, name);
+    while (child && n-- > 0)
+        do {
+            child = child->getNextElementSibling();
+        } while (child && !hasName(*child, name));
+    return child;
 }
 
 } // namespace
@@ -69,12 +71,17 @@ Look findLook(const DOMElement& body) {
     return look;
 }
 
-void copyContent(const DOMElement& from, DOMElement& to) {
+void copyLook(const DOMElement& from, DOMElement& to) {
     const DOMNamedNodeMap* attributes = from.getAttributes();
     for (XMLSize_t i = 0; i < attributes->getLength(); ++i)
         to.setAttribute(attributes->item(i)->getNodeName(), attributes->item(i)->getNodeValue());
     for (const DOMNode* child = from.getFirstChild(); child; child = child->getNextSibling())
         to.appendChild(child->cloneNode(true));
+    for (const XMLCh* name : kRunLinks)
+        while (DOMElement* link = findChild(&to, name))
+            removeNode(link);
+    for (const XMLCh* name : kRunMarks)
+        to.removeAttribute(name);
 }
 
 std::size_t appendParagraph(DOMElement& body, const Look& look, const std::wstring& line) {
@@ -85,12 +92,12 @@ std::size_t appendParagraph(DOMElement& body, const Look& look, const std::wstri
     if (line.empty()) {
         DOMElement* end = appendElement(paragraph, xml::kAEndParaRPr);
         if (properties)
-            copyContent(*properties, *end);
+            copyLook(*properties, *end);
         return 0;
     }
     DOMElement* run = appendElement(paragraph, u"a:r");
     if (properties)
-        copyContent(*properties, *appendElement(run, xml::kARPr));
+        copyLook(*properties, *appendElement(run, xml::kARPr));
     return appendText(appendElement(run, xml::kAT), line);
 }
 

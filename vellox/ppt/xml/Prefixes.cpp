@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -88,41 +89,55 @@ public:
         }
     }
 
-    void rename() { rename(*document_.getDocumentElement(), {}); }
+    void rename() { rename(*document_.getDocumentElement()); }
 
 private:
     using Scope = std::map<Name, Name>; // from prefixes to those that stand for the same here
+    using Former = std::vector<std::pair<Name, std::optional<Name>>>;
 
-    void rename(DOMElement& element, Scope scope) {
+    void rename(DOMElement& element) {
+        Former former; // of the prefixes that this element declares
         std::vector<DOMAttr*> attributes;
         for (XMLSize_t i = 0; i < element.getAttributes()->getLength(); ++i)
             attributes.push_back(static_cast<DOMAttr*>(element.getAttributes()->item(i)));
         for (DOMAttr* attribute : attributes)
-            declare(*attribute, scope);
+            declare(*attribute, former);
         for (DOMAttr* attribute : attributes)
-            renameAttribute(element, *attribute, scope);
-        renameNode(element, translate(element.getNodeName(), scope));
+            renameAttribute(element, *attribute);
+        renameNode(element, translate(element.getNodeName()));
         for (DOMElement* child : getChildElements(&element))
-            rename(*child, scope);
+            rename(*child);
+        restore(former);
     }
 
-    void declare(const DOMAttr& attribute, Scope& scope) {
+    void declare(const DOMAttr& attribute, Former& former) {
         Name prefix;
         if (!readDeclaration(attribute.getName(), prefix))
             return;
-        scope[prefix] = prefix;
+        const auto present = scope_.find(prefix);
+        former.emplace_back(prefix,
+                            present == scope_.end() ? std::nullopt : std::make_optional(present->second));
+        Name& wanted = scope_[prefix] = prefix;
         for (const UsualPrefix& row : kUsual)
             if (XMLString::equals(attribute.getValue(), row.uri))
-                scope[prefix] = row.prefix;
+                wanted = row.prefix;
             else if (prefix == row.prefix)
-                scope[prefix] = number(prefix);
+                wanted = number(prefix);
+    }
+
+    void restore(Former& former) {
+        for (auto& [prefix, wanted] : former)
+            if (wanted)
+                scope_[prefix] = std::move(*wanted);
+            else
+                scope_.erase(prefix);
     }
 
     // An attribute without a prefix has no namespace, whatever the default one is.
-    void renameAttribute(DOMElement& element, DOMAttr& attribute, const Scope& scope) {
+    void renameAttribute(DOMElement& element, DOMAttr& attribute) {
         Name prefix;
         if (readDeclaration(attribute.getName(), prefix)) {
-            const Name& wanted = scope.at(prefix);
+            const Name& wanted = scope_.at(prefix);
             const Name name = wanted.empty() ? kDeclaration : join(kDeclaration, wanted);
             if (name != attribute.getName() && element.hasAttribute(name.c_str()))
                 element.removeAttribute(attribute.getName()); // it is declared already
@@ -131,23 +146,23 @@ private:
             return;
         }
         if (holdsPrefixes(split(attribute.getName()).second))
-            attribute.setValue(translateList(attribute.getValue(), scope).c_str());
+            attribute.setValue(translateList(attribute.getValue()).c_str());
         if (XMLString::indexOf(attribute.getName(), u':') >= 0)
-            renameNode(attribute, translate(attribute.getName(), scope));
+            renameNode(attribute, translate(attribute.getName()));
     }
 
-    static Name translate(const Name& name, const Scope& scope) {
+    Name translate(const Name& name) const {
         const auto [prefix, localName] = split(name);
-        const auto found = scope.find(prefix);
-        return found == scope.end() ? name : join(found->second, localName);
+        const auto found = scope_.find(prefix);
+        return found == scope_.end() ? name : join(found->second, localName);
     }
 
-    static Name translateList(const Name& list, const Scope& scope) {
+    Name translateList(const Name& list) const {
         Name translated;
         for (std::size_t at = 0; at < list.size();) {
             const std::size_t end = std::min(list.find_first_of(u" \t\r\n:", at), list.size());
-            const auto found = scope.find(list.substr(at, end - at));
-            translated += found == scope.end() || end == at ? list.substr(at, end - at) : found->second;
+            const auto found = scope_.find(list.substr(at, end - at));
+            translated += found == scope_.end() || end == at ? list.substr(at, end - at) : found->second;
             const std::size_t next = end < list.size() && list[end] == u':' // what follows is a name's rest
                                          ? std::min(list.find_first_of(u" \t\r\n", end), list.size())
                                          : std::min(end + 1, list.size());
@@ -175,6 +190,7 @@ private:
     }
 
     DOMDocument& document_;
+    Scope scope_;
     std::set<Name> taken_;
     std::map<Name, Name> numbered_;
 };

@@ -184,7 +184,15 @@ void PropertyElement::appendTo(DOMElement* parent) const {
 void PropertyElement::applyTo(DOMElement* element) const {
     setAttributesOf(element);
     for (const PropertyElement& child : children_) {
-        DOMElement* former = findChild(element, child.name_.data());
+        DOMElement* former = nullptr;
+        for (DOMElement* present : getChildElements(element)) {
+            if (getKind(present->getNodeName()) != getKind(child.name_))
+                continue;
+            if (!former)
+                former = present;
+            else if (!hasName(*present, child.name_.data()))
+                removeNode(present); // another fill
+        }
         if (former)
             child.replace(element, former);
         else

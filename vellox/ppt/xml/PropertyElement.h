@@ -61,8 +61,8 @@ public:
 
     /// Makes the element and appends it.
     void appendTo(xercesc::DOMElement* parent) const;
-    /// Puts attributes and children into an element that is there already, each in the place of one of its name
-    /// or behind what there is.
+    /// Puts attributes and children into an element that is there already, each in the place of one of its name,
+    /// a fill in that of another fill, or behind what there is.
     void applyTo(xercesc::DOMElement* element) const;
 
     bool operator==(const PropertyElement& other) const;
