@@ -135,10 +135,10 @@ TextCells healFile(Wide input, Wide output) {
     return toRows(healTemplate(input, output));
 }
 
-/// Of the last handle on a presentation.
+/// Of the last handle on a presentation. While that ends, it is less than a presentation.
 bool isUnfinished(const PPTObject& deck) {
-    const auto* impl = implOf<PresentationImpl>(deck);
-    return impl->getState() == PresentationState::Open && impl->getRefCount() == 1;
+    const auto* impl = implAs<PresentationImpl>(deck);
+    return impl && impl->getState() == PresentationState::Open && impl->getRefCount() == 1;
 }
 
 /// replace by name, of slides and presentations.
