@@ -8,8 +8,11 @@ pkg_check_modules(libdeflate REQUIRED IMPORTED_TARGET libdeflate>=1.14)
 pkg_check_modules(tiff REQUIRED IMPORTED_TARGET libtiff-4>=4.5)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter>=1.1)
 pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
-# Without it nobody can tell whether a template's fonts are installed.
+# Without these nobody can tell whether a template's fonts are installed, and how wide their letters are.
 pkg_check_modules(fontconfig IMPORTED_TARGET fontconfig>=2.13)
+pkg_check_modules(freetype freetype2>=24)
+# Without it nobody draws an SVG for readers that can't.
+pkg_check_modules(librsvg librsvg-2.0>=2.52)
 find_program(MSGFMT msgfmt REQUIRED)
 
 # The command needs four more; a build without them goes on without it.

@@ -18,6 +18,10 @@ ImageSource::ImageSource(std::string bytes)
         raise(ppt_error::unknownImageBytes(std::to_wstring(bytes_->size())));
 }
 
+ImageSource::ImageSource(std::string bytes, const std::wstring& extension)
+    : bytes_(boost::make_shared<const std::string>(std::move(bytes))),
+      extension_(extension) {}
+
 std::wstring ImageSource::getFileName() const {
     return bytes_ ? L"image." + extension_ : path_;
 }

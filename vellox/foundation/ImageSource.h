@@ -22,6 +22,8 @@ public:
     explicit ImageSource(const std::wstring& path) : path_(path) {}
     /// @throws unknownImageBytes for bytes that are no image of a known kind
     explicit ImageSource(std::string bytes);
+    /// Bytes of a kind that is known.
+    ImageSource(std::string bytes, const std::wstring& extension);
 
     bool isEmpty() const { return path_.empty() && !bytes_; }
     /// The path of a file; empty for bytes.

@@ -139,6 +139,25 @@ std::vector<BoundClass> describeFormats() {
         describeText<FontSize>("FontSize", "BaseDimension", "The size of text, \"12pt\" by default."),
         describeText<ColWidth>("ColWidth", "BaseDimension",
                                "The width of a table's column, \"0.25in\" by default."),
+        describeText<SpaceBefore>("SpaceBefore", "BaseDimension",
+                                  "The room above a paragraph, \"0pt\" by default, or a share of a line."),
+        describeText<SpaceAfter>("SpaceAfter", "BaseDimension",
+                                 "The room below a paragraph, \"0pt\" by default, or a share of a line."),
+        describeText<LineSpacing>("LineSpacing", "BaseDimension",
+                                  "How high a line is, \"100%\" of its font by default."),
+        describeText<LeftIndent>("LeftIndent", "BaseDimension",
+                                 "How far lines stand from the edge, \"0cm\" by default."),
+        describeText<FirstLineIndent>("FirstLineIndent", "BaseDimension",
+                                      "How much further the first line does, \"0cm\" by default."),
+        describeText<Bullet>(
+            "Bullet", "Format", "What stands ahead of a paragraph, a dot by default.",
+            {property<Bullet, &Bullet::getValue, &Bullet::setValue>(
+                "Value",
+                "A character, \"1.\", \"a)\", \"(i)\" or another number, or \"none\"; several for levels.")}),
+        describeLogical<RightToLeft>("RightToLeft", "Whether a paragraph is read from right to left."),
+        describeText<Language>("Language", "Format", "The language of text, \"en-US\" by default.",
+                               {property<Language, &Language::getValue, &Language::setValue>(
+                                   "Value", "A tag such as \"en-US\" or \"ar\".")}),
         describeText<HAlign>("HAlign", "Format", "The alignment of a paragraph, \"left\" by default.",
                              {property<HAlign, &HAlign::getValue, &HAlign::setValue>(
                                  "Value", "\"left\", \"right\", \"center\", \"justified\" and others.")}),

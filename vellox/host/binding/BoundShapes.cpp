@@ -30,8 +30,12 @@ BoundClass describeBaseTextBox() {
     BoundClass bound = describe<BaseTextBox>("BaseTextBox", "Shape", "A shape that holds paragraphs.");
     bound.constructors = {make<BaseTextBox>()};
     bound.properties = makeCharacterRows<BaseTextBox>();
+    append(bound.properties, makeParagraphFormatRows<BaseTextBox>());
     bound.properties.push_back(makeBackgroundRow<BaseTextBox>());
     bound.properties.push_back(makeVAlignRow<BaseTextBox>());
+    bound.properties.push_back(optionalProperty<BaseTextBox, &BaseTextBox::getAutofit,
+                                                &BaseTextBox::setAutofit, &BaseTextBox::unsetAutofit>(
+        "Autofit", "What becomes of text that is too long: \"none\", \"shrink\" or \"resize\"."));
     bound.properties.push_back(
         readOnlyProperty<BaseTextBox, &BaseTextBox::getText>("Text", "What the shape shows, as text."));
     bound.methods = makeParagraphRows();

@@ -57,6 +57,7 @@ BoundClass describeParagraph() {
         make<Paragraph, Text, unsigned int>({"text", "level"}),
     };
     bound.properties = makeCharacterRows<Paragraph>();
+    append(bound.properties, makeParagraphFormatRows<Paragraph>());
     bound.properties.push_back(makeHAlignRow<Paragraph>());
     bound.properties.push_back(
         {"Level", SignatureWord("uint32 scalar"), true, ClassGetter<Paragraph, &Paragraph::getLevel>::get,

@@ -59,6 +59,8 @@ template <class C> std::vector<BoundProperty> makeCharacterRows() {
         formatProperty<C, &C::getSuperscript, &Superscript::getValue,
                        LogicalSetter<SuperscriptProperty, C>(&C::setSuperscript), &C::unsetSuperscript>(
             "Superscript", "Whether text is raised."),
+        formatProperty<C, &C::getLanguage, &Language::getValue, &C::setLanguage, &C::unsetLanguage>(
+            "Language", "The language of text, such as \"en-US\" or \"ar\"."),
         formatProperty<C, &C::getStrike, &Strike::getStyle, &C::setStrikeStyle, &C::unsetStrike>(
             "Strike", "The line through text: \"none\", \"single\" or \"double\"."),
         formatProperty<C, &C::getUnderline, &Underline::getStyle, &C::setUnderlineStyle, &C::unsetUnderline>(
@@ -66,6 +68,32 @@ template <class C> std::vector<BoundProperty> makeCharacterRows() {
     };
     append(rows, makeFontRows<C>());
     return rows;
+}
+
+/// How paragraphs stand.
+template <class C> std::vector<BoundProperty> makeParagraphFormatRows() {
+    return {
+        formatProperty<C, &C::getBullet, &Bullet::getValue, &C::setBullet, &C::unsetBullet>(
+            "Bullet",
+            "What stands ahead: a character, \"1.\", \"a)\", \"(i)\" or another number, \"none\", or "
+            "several for the levels: \"1. a) -\"."),
+        formatProperty<C, &C::getSpaceBefore, &SpaceBefore::getValue, &C::setSpaceBefore,
+                       &C::unsetSpaceBefore>(
+            "SpaceBefore", "The room above: a length, or a share of a line such as \"50%\"."),
+        formatProperty<C, &C::getSpaceAfter, &SpaceAfter::getValue, &C::setSpaceAfter, &C::unsetSpaceAfter>(
+            "SpaceAfter", "The room below: a length, or a share of a line."),
+        formatProperty<C, &C::getLineSpacing, &LineSpacing::getValue, &C::setLineSpacing,
+                       &C::unsetLineSpacing>("LineSpacing",
+                                             "How high a line is: a share such as \"90%\", or a length."),
+        formatProperty<C, &C::getLeftIndent, &LeftIndent::getValue, &C::setLeftIndent, &C::unsetLeftIndent>(
+            "LeftIndent", "How far lines stand from the edge: a length."),
+        formatProperty<C, &C::getFirstLineIndent, &FirstLineIndent::getValue, &C::setFirstLineIndent,
+                       &C::unsetFirstLineIndent>(
+            "FirstLineIndent", "How much further the first line does: a length, negative if it hangs out."),
+        formatProperty<C, &C::getRightToLeft, &RightToLeft::getValue,
+                       LogicalSetter<RightToLeftProperty, C>(&C::setRightToLeft), &C::unsetRightToLeft>(
+            "RightToLeft", "Whether it is read from right to left."),
+    };
 }
 
 template <class C> BoundProperty makeBackgroundRow() {

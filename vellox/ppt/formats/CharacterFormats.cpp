@@ -1,6 +1,8 @@
 #include "vellox/ppt/formats/CharacterFormats.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/IdentifiedException.h"
+#include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/BaseDimensionImpl.h"
 #include "vellox/ppt/formats/SpelledFormatImpl.h"
@@ -316,6 +318,64 @@ void FontFamily::setComplexScriptFont(const std::wstring& font) {
 
 boost::shared_ptr<FontFamily> FontFamily::clone() const {
     return pimpl()->clone();
+}
+
+// Language
+
+namespace {
+
+// Parts of letters and digits with hyphens between them; the first, of letters, is the language.
+const std::wstring& requireTag(const std::wstring& tag) {
+    constexpr std::size_t kLongestPart = 8, kLongest = 35;
+    const auto isLetter = [](wchar_t c) { return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z'); };
+    std::size_t length = 0, parts = 0;
+    bool isTag = tag.size() >= 2 && tag.size() <= kLongest;
+    for (const wchar_t c : tag) {
+        if (c == L'-') {
+            isTag = isTag && length > 0;
+            length = 0;
+            ++parts;
+            continue;
+        }
+        isTag = isTag && ++length <= kLongestPart && (isLetter(c) || (parts > 0 && c >= L'0' && c <= L'9'));
+    }
+    if (!isTag || length == 0)
+        raise(ppt_error::invalidPropertyValue(tag));
+    return tag;
+}
+
+} // namespace
+
+class LanguageImpl : public FormatImpl {
+public:
+    explicit LanguageImpl(const std::wstring& tag) : tag_(requireTag(tag)) {}
+
+    const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Language"; }
+    boost::shared_ptr<Format> makeInterface() override {
+        return boost::shared_ptr<Format>(new Language(this));
+    }
+    FormatType getFormatType() const override { return FormatType::Language; }
+    void applyToText(TextWriter& writer) const override {
+        writer.setRPrAttribute(xml::kLang, opc::XercesString(tag_));
+    }
+
+    const std::wstring& getValue() const { return tag_; }
+    void setValue(const std::wstring& tag) { tag_ = requireTag(tag); }
+
+private:
+    std::wstring tag_;
+};
+
+Language::Language() : Language(L"en-US") {}
+Language::Language(const std::wstring& tag) : Language(new LanguageImpl(tag)) {}
+Language::Language(LanguageImpl* impl) : Format(impl) {}
+
+const std::wstring& Language::getValue() const {
+    return implOf<LanguageImpl>(*this)->getValue();
+}
+
+void Language::setValue(const std::wstring& tag) {
+    implOf<LanguageImpl>(*this)->setValue(tag);
 }
 
 } // namespace vellox::ppt

@@ -17,6 +17,7 @@ class BoldImpl;
 class FontFamilyImpl;
 class FontSizeImpl;
 class ItalicImpl;
+class LanguageImpl;
 class StrikeImpl;
 class SubscriptImpl;
 class SuperscriptImpl;
@@ -155,6 +156,22 @@ protected:
     explicit FontFamily(FontFamilyImpl* impl);
     FontFamilyImpl* pimpl();
     const FontFamilyImpl* pimpl() const;
+};
+
+/// The language of the text, by which programs check its spelling and break its words: a tag such as "en-US", the
+/// default, or "ar".
+class VELLOX_API Language : public Format {
+public:
+    Language();
+    /// @throws invalidPropertyValue for what is no such tag
+    explicit Language(const std::wstring& tag);
+    const std::wstring& getValue() const;
+    /// @throws invalidPropertyValue; the value stays as it is then
+    void setValue(const std::wstring& tag);
+
+protected:
+    friend class LanguageImpl;
+    explicit Language(LanguageImpl* impl);
 };
 
 } // namespace vellox::ppt

@@ -4,6 +4,7 @@
 ///
 ///                            box  paragraph  text  table  row  entry  column
 ///     CharacterProperties     x       x       x     x       x     x     x
+///     ParagraphProperties     x       x
 ///     BackgroundColor         x                     x       x     x     x
 ///     HAlign                          x             x       x     x     x
 ///     VAlign                  x                     x       x     x     x
@@ -26,6 +27,7 @@
 #include "vellox/ppt/formats/BaseDimension.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/formats/Color.h"
+#include "vellox/ppt/formats/ParagraphFormats.h"
 
 namespace vellox::ppt {
 
@@ -162,6 +164,94 @@ public:
     void unsetWidth() { this->unsetProperty(); }
 };
 
+/// See Bullet.
+template <class Owner> class BulletProperty : public FormatProperty<Owner, Bullet, FormatType::Bullet> {
+public:
+    boost::shared_ptr<Bullet> getBullet() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setBullet(const std::wstring& bullet) { this->setProperty(bullet); }
+    void unsetBullet() { this->unsetProperty(); }
+};
+
+/// See SpaceBefore.
+template <class Owner>
+class SpaceBeforeProperty : public FormatProperty<Owner, SpaceBefore, FormatType::SpaceBefore> {
+public:
+    boost::shared_ptr<SpaceBefore> getSpaceBefore() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setSpaceBefore(const std::wstring& space) { this->setProperty(space); }
+    void unsetSpaceBefore() { this->unsetProperty(); }
+};
+
+/// See SpaceAfter.
+template <class Owner>
+class SpaceAfterProperty : public FormatProperty<Owner, SpaceAfter, FormatType::SpaceAfter> {
+public:
+    boost::shared_ptr<SpaceAfter> getSpaceAfter() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setSpaceAfter(const std::wstring& space) { this->setProperty(space); }
+    void unsetSpaceAfter() { this->unsetProperty(); }
+};
+
+/// See LineSpacing.
+template <class Owner>
+class LineSpacingProperty : public FormatProperty<Owner, LineSpacing, FormatType::LineSpacing> {
+public:
+    boost::shared_ptr<LineSpacing> getLineSpacing() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setLineSpacing(const std::wstring& spacing) { this->setProperty(spacing); }
+    void unsetLineSpacing() { this->unsetProperty(); }
+};
+
+/// See LeftIndent.
+template <class Owner>
+class LeftIndentProperty : public FormatProperty<Owner, LeftIndent, FormatType::LeftIndent> {
+public:
+    boost::shared_ptr<LeftIndent> getLeftIndent() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setLeftIndent(const std::wstring& indent) { this->setProperty(indent); }
+    void unsetLeftIndent() { this->unsetProperty(); }
+};
+
+/// See FirstLineIndent.
+template <class Owner>
+class FirstLineIndentProperty : public FormatProperty<Owner, FirstLineIndent, FormatType::FirstLineIndent> {
+public:
+    boost::shared_ptr<FirstLineIndent> getFirstLineIndent() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setFirstLineIndent(const std::wstring& indent) { this->setProperty(indent); }
+    void unsetFirstLineIndent() { this->unsetProperty(); }
+};
+
+/// See Language.
+template <class Owner> class LanguageProperty : public FormatProperty<Owner, Language, FormatType::Language> {
+public:
+    boost::shared_ptr<Language> getLanguage() const { return this->findProperty(); }
+    /// @throws invalidPropertyValue
+    void setLanguage(const std::wstring& tag) { this->setProperty(tag); }
+    void unsetLanguage() { this->unsetProperty(); }
+};
+
+/// See RightToLeft.
+template <class Owner>
+class RightToLeftProperty : public FormatProperty<Owner, RightToLeft, FormatType::RightToLeft> {
+public:
+    boost::shared_ptr<RightToLeft> getRightToLeft() const { return this->findProperty(); }
+    void setRightToLeft(bool isRightToLeft) { this->setProperty(isRightToLeft); }
+    template <class T> void setRightToLeft(const T*) = delete; ///< a text is no truth value
+    void unsetRightToLeft() { this->unsetProperty(); }
+};
+
+/// What paragraphs have, and boxes for those in them.
+template <class Owner>
+class ParagraphProperties : public BulletProperty<Owner>,
+                            public SpaceBeforeProperty<Owner>,
+                            public SpaceAfterProperty<Owner>,
+                            public LineSpacingProperty<Owner>,
+                            public LeftIndentProperty<Owner>,
+                            public FirstLineIndentProperty<Owner>,
+                            public RightToLeftProperty<Owner> {};
+
 /// A property that is set by a style and keeps its format when the style changes.
 template <class Owner, class F, FormatType kType>
 class StyledProperty : public FormatProperty<Owner, F, kType> {
@@ -238,6 +328,7 @@ template <class Owner>
 class CharacterProperties : public FontProperties<Owner>,
                             public BoldProperty<Owner>,
                             public ItalicProperty<Owner>,
+                            public LanguageProperty<Owner>,
                             public StrikeProperty<Owner>,
                             public SubscriptProperty<Owner>,
                             public SuperscriptProperty<Owner>,

@@ -23,13 +23,21 @@ enum class FormatType : int {
     Superscript = 11,
     Underline = 12,
     VAlign = 13,
-    CellBorders = 14,
-    CellMargins = 15,
-    ValueFormat = 16
+    Bullet = 14,
+    SpaceBefore = 15,
+    SpaceAfter = 16,
+    LineSpacing = 17,
+    LeftIndent = 18,
+    FirstLineIndent = 19,
+    RightToLeft = 20,
+    Language = 21,
+    CellBorders = 22,
+    CellMargins = 23,
+    ValueFormat = 24
 };
 
 /// One more than the number of the last.
-inline constexpr unsigned int kFormatTypeCount = 17;
+inline constexpr unsigned int kFormatTypeCount = 25;
 
 } // namespace vellox::ppt
 

@@ -262,6 +262,10 @@ std::vector<int> ClassicRules::shareWidth(const GridFacts& grid) const {
     return widths;
 }
 
+bool ClassicRules::measuresTexts() const {
+    return false;
+}
+
 bool ClassicRules::keepsDescription() const {
     return true;
 }
@@ -275,6 +279,10 @@ const ElementForm* ClassicRules::formOf(std::u16string_view) const {
 }
 
 bool ClassicRules::sharesImages() const {
+    return false;
+}
+
+bool ClassicRules::drawsSvg() const {
     return false;
 }
 

@@ -49,11 +49,13 @@ public:
     bool sizesEmptyCells() const override;
     bool measuresColumns() const override;
     std::vector<int> shareWidth(const GridFacts& grid) const override;
+    bool measuresTexts() const override;
     bool keepsLook() const override;
     bool keepsDescription() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
     bool sharesImages() const override;
+    bool drawsSvg() const override;
     bool readsTraits() const override;
     PictureFacts sizeFree(const PictureFacts& picture) const override;
     std::optional<Box> fit(const PictureFacts& picture, const Box* place) const override;

@@ -419,6 +419,10 @@ std::vector<int> OfficeRules::shareWidth(const GridFacts& grid) const {
     return widths;
 }
 
+bool OfficeRules::measuresTexts() const {
+    return true;
+}
+
 bool OfficeRules::keepsDescription() const {
     return false;
 }
@@ -432,6 +436,10 @@ const ElementForm* OfficeRules::formOf(std::u16string_view element) const {
 }
 
 bool OfficeRules::sharesImages() const {
+    return true;
+}
+
+bool OfficeRules::drawsSvg() const {
     return true;
 }
 

@@ -100,6 +100,8 @@ public:
     /// The widths of the columns of a table.
     /// @return nothing if they stay as wide as one another
     virtual std::vector<int> shareWidth(const GridFacts& grid) const = 0;
+    /// Whether texts that are to shrink into their box, or to stretch it, are measured as the deck is written.
+    virtual bool measuresTexts() const = 0;
     /// Whether what replaces texts or tables of the template looks like them.
     virtual bool keepsLook() const = 0;
     /// Whether a picture or a table is described, for who can't see it, as what it came in the stead of was.
@@ -110,6 +112,8 @@ public:
     virtual Missing missingFile() const = 0;
     /// Whether images of the same bytes are put into the deck once.
     virtual bool sharesImages() const = 0;
+    /// Whether an SVG comes with a drawing of it for readers that don't know SVG.
+    virtual bool drawsSvg() const = 0;
     /// Whether it counts what an image says of its resolution and of how it is to be turned.
     virtual bool readsTraits() const = 0;
     /// The size of a picture that is placed freely, as far as it has one.

@@ -1,5 +1,6 @@
 #include "vellox/ppt/tree/BaseTextBox.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -9,6 +10,7 @@
 #include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vellox::ppt {
@@ -27,7 +29,7 @@ BaseTextBoxImpl::BaseTextBoxImpl(const std::wstring& name, const Record& record)
     announceCreated(*this);
 }
 
-BaseTextBoxImpl::BaseTextBoxImpl(const BaseTextBoxImpl& other) : NodeOf(other) {
+BaseTextBoxImpl::BaseTextBoxImpl(const BaseTextBoxImpl& other) : NodeOf(other), autofit_(other.autofit_) {
     announceCreated(*this);
 }
 
@@ -135,6 +137,14 @@ std::wstring BaseTextBoxImpl::getText() const {
     return joinTexts(readBody(findChild(element, xml::kTxBody)), readParagraphs(*this));
 }
 
+void BaseTextBoxImpl::setAutofit(const std::wstring& value) {
+    const std::wstring word = toLowerString(value);
+    constexpr const wchar_t* kWords[] = {autofit::kNone, autofit::kShrink, autofit::kResize};
+    if (std::find(std::begin(kWords), std::end(kWords), word) == std::end(kWords))
+        raise(ppt_error::invalidPropertyValue(value));
+    autofit_.set(word);
+}
+
 // BaseTextBox
 
 BaseTextBox::BaseTextBox() : BaseTextBox(new BaseTextBoxImpl) {}
@@ -171,6 +181,18 @@ Paragraph BaseTextBox::replace(const Paragraph& paragraph) {
 
 void BaseTextBox::replace(const HvContentPtr& content) {
     heldImplOf<BaseTextBoxImpl>(*this)->replace(content);
+}
+
+const BaseAttribute<std::wstring>& BaseTextBox::getAutofit() const {
+    return pimpl()->getAutofit();
+}
+
+void BaseTextBox::setAutofit(const std::wstring& autofit) {
+    pimpl()->setAutofit(autofit);
+}
+
+void BaseTextBox::unsetAutofit() {
+    pimpl()->unsetAutofit();
 }
 
 std::wstring BaseTextBox::getText() const {

@@ -17,6 +17,7 @@ class BaseTextBoxImpl;
 /// The base of text boxes and placeholders. A handle: copies share one box.
 class VELLOX_API BaseTextBox : public Shape,
                                public CharacterProperties<BaseTextBox>,
+                               public ParagraphProperties<BaseTextBox>,
                                public BackgroundColorProperty<BaseTextBox>,
                                public VAlignProperty<BaseTextBox> {
 public:
@@ -43,6 +44,16 @@ public:
     /// get level 2, those of a list in that level 3, and so on.
     /// @throws invalidReplaceArg for an empty pointer or for what is no list
     void replace(const HvContentPtr& content);
+
+    /// @{ What becomes of a text that is longer than the box: "none", nothing; "shrink", letters and lines become smaller
+    /// until it fits; "resize", the box becomes as high as the text; in upper or lower case. Unset it is as the template
+    /// has it. Programs do it when somebody edits the text; with the profile "office" it is also estimated as the deck is
+    /// written, so that all show it fitting: see Rules::measuresTexts().
+    const BaseAttribute<std::wstring>& getAutofit() const;
+    /// @throws invalidPropertyValue
+    void setAutofit(const std::wstring& autofit);
+    void unsetAutofit();
+    /// @}
 
     /// What the shape shows: what the template has in it, as far as that stands, and what came since. "\n" ends
     /// paragraphs and lines. Prompts of placeholders, which no slide shows, are no text.

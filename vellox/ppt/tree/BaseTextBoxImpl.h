@@ -12,6 +12,13 @@
 
 namespace vellox::ppt {
 
+/// The words for what becomes of a text that is longer than its box.
+namespace autofit {
+
+inline constexpr wchar_t kNone[] = L"none", kShrink[] = L"shrink", kResize[] = L"resize";
+
+} // namespace autofit
+
 class BaseTextBoxImpl : public NodeOf<NodeType::BaseTextBox, BaseTextBoxImpl, BaseTextBox, ShapeImpl> {
 public:
     BaseTextBoxImpl();
@@ -22,6 +29,10 @@ public:
 
     void replace(const HvContentPtr& content) override;
     std::wstring getText() const;
+    const BaseAttribute<std::wstring>& getAutofit() const { return autofit_; }
+    /// @throws invalidPropertyValue
+    void setAutofit(const std::wstring& value);
+    void unsetAutofit() { autofit_.unset(); }
 
     /// Puts the items of a list behind the present paragraphs. Unlike all other ways in, this one doesn't
     /// tell the paragraphs of their parent.
@@ -32,6 +43,9 @@ public:
     virtual void replaceList(const boost::shared_ptr<HvList>& list);
     virtual Paragraph replace(const Paragraph& paragraph);
     virtual Paragraph replace(const std::wstring& text);
+
+private:
+    BaseAttribute<std::wstring> autofit_; // in lower case
 };
 
 } // namespace vellox::ppt

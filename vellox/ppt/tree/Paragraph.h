@@ -24,6 +24,7 @@ class Text;
 ///     paragraph.setBold(true);
 class VELLOX_API Paragraph : public Element,
                              public CharacterProperties<Paragraph>,
+                             public ParagraphProperties<Paragraph>,
                              public HAlignProperty<Paragraph> {
 public:
     /// Without any text.

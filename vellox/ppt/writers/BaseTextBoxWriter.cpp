@@ -1,5 +1,6 @@
 #include "vellox/ppt/writers/BaseTextBoxWriter.h"
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/rules/Rules.h"
@@ -7,6 +8,7 @@
 #include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
+#include "vellox/ppt/writers/TextFit.h"
 #include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
@@ -19,6 +21,17 @@ BaseTextBoxWriter::BaseTextBoxWriter(const BaseTextBoxImpl& textBox, PPTWriter& 
       textBox_(textBox),
       spPr_(xml::kSpPr),
       bodyPr_(xml::kABodyPr) {}
+
+namespace {
+
+constexpr unsigned int kWhole = 100000; // thousandths of a per cent
+
+double findLength(const BaseAttribute<Dimension>& own, const PlaceText* place,
+                  std::wstring PlaceText::*inherited) {
+    return own.isSet() ? own.get().getEMUNumber() : place ? str2double(place->*inherited) : 0;
+}
+
+} // namespace
 
 DOMElement* BaseTextBoxWriter::findOrMakeShape() {
     const ShapeGeometry& geometry = textBox_.getGeometry();
@@ -37,12 +50,14 @@ void BaseTextBoxWriter::write() {
     const bool mayBeText = staysInPlace();
     DOMElement* shape = mayBeText ? nullptr : findOrMakeShape();
     applyFormats();
+    putAutofit();
     arrange(bodyPr_);
     if (mayBeText && spPr_.isEmpty() && bodyPr_.isEmpty())
         return writeParagraphs(slide->getText(getTemplateShape()->id), nullptr, false);
     if (!shape)
         shape = findOrMakeShape();
     writeAltText(shape);
+    resize(shape);
     DOMElement* txBody = findChild(shape, xml::kTxBody);
     writeSpPr(shape);
     arrange(findChild(shape, xml::kSpPr));
@@ -79,6 +94,58 @@ void BaseTextBoxWriter::writeParagraphs(opc::MarkupBuffer& out, const TextLook* 
 void BaseTextBoxWriter::reportLostText() const {
     if (!textBox_.getChildren().empty() || !bodyPr_.isEmpty())
         getWriter().report(ppt_finding::noTextBody());
+}
+
+void BaseTextBoxWriter::putAutofit() {
+    const BaseAttribute<std::wstring>& wish = textBox_.getAutofit();
+    if (!wish.isSet())
+        return;
+    const bool isNone = wish.get() == autofit::kNone;
+    PropertyElement& autofit = bodyPr_.putChild(isNone                           ? xml::kANoAutofit
+                                                : wish.get() == autofit::kShrink ? xml::kANormAutofit
+                                                                                 : xml::kASpAutoFit);
+    if (!isNone && getRules().measuresTexts())
+        measure(autofit);
+}
+
+// What a slide of the template has in a shape beside the paragraphs that are known here has no measure.
+void BaseTextBoxWriter::measure(PropertyElement& autofit) {
+    const TemplateShape* record = getTemplateShape();
+    const TemplateLayout* layout = getWriter().getCurrentLayout();
+    const bool isNew = !record || textBox_.isContentReplaced() || getWriter().isOnNewSlide();
+    const PlaceText* place = !record             ? nullptr
+                             : record->textPlace ? record->textPlace.get()
+                                                 : record->successorPlace.get();
+    const double cx = findLength(textBox_.getGeometry().cx, place, &PlaceText::cx);
+    const double cy = findLength(textBox_.getGeometry().cy, place, &PlaceText::cy);
+    if (!isNew || textBox_.getChildren().empty() || cx <= 0)
+        return;
+    const TextFit fit(textBox_, getWriter().getInheritedTexts().find(layout, record), getWriter().getFonts());
+    for (const std::wstring& font : fit.getMissingFonts())
+        getWriter().report(ppt_finding::fontNotInstalled(font));
+    if (textBox_.getAutofit().get() == autofit::kResize) {
+        fittingHeight_ = fit.findHeight(cx, {kWhole, 0});
+        return;
+    }
+    if (cy <= 0)
+        return;
+    const Shrinking shrinking = fit.findShrinking(cx, cy);
+    const double need = fit.findHeight(cx, shrinking) / cy;
+    if (need > 1)
+        getWriter().report(ppt_finding::textTooLong(num2str(truncateToInt(need * 100))));
+    if (shrinking.fontScale < kWhole)
+        autofit.setAttribute(u"fontScale", num2str(shrinking.fontScale));
+    if (shrinking.spacingReduction > 0)
+        autofit.setAttribute(u"lnSpcReduction", num2str(shrinking.spacingReduction));
+}
+
+void BaseTextBoxWriter::resize(DOMElement* shape) const {
+    if (fittingHeight_ <= 0)
+        return;
+    const TemplateShape* record = getTemplateShape();
+    ShapeGeometry geometry = textBox_.getGeometry();
+    geometry.cy.set(Dimension(num2str(truncateToInt(fittingHeight_)) + Dimension::dim2str(Dimension::emus)));
+    placeExistingTextShape(shape, record ? record->textPlace.get() : nullptr, geometry);
 }
 
 // Shapes that are drawn needn't have one.

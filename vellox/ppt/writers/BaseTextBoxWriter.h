@@ -35,6 +35,9 @@ public:
 
 private:
     bool staysInPlace() const;
+    void putAutofit();
+    void measure(PropertyElement& autofit);
+    void resize(xercesc::DOMElement* shape) const;
     xercesc::DOMElement* findOrMakeShape();
     xercesc::DOMElement* makeTextBody(xercesc::DOMElement* shape) const;
     void writeParagraphs(opc::MarkupBuffer& out, const TextLook* former, bool hasParagraphs) const;
@@ -45,6 +48,7 @@ private:
     const BaseTextBoxImpl& textBox_;
     PropertyElement spPr_;
     PropertyElement bodyPr_;
+    double fittingHeight_ = 0; // of a box that is to be as high as its text, if that is known
 };
 
 } // namespace vellox::ppt

@@ -1,5 +1,6 @@
 #include "vellox/ppt/writers/PPTWriter.h"
 
+#include "vellox/foundation/FontMetrics.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationModel.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -8,11 +9,13 @@
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/writers/ChartParts.h"
 #include "vellox/ppt/writers/DocumentProperties.h"
+#include "vellox/ppt/writers/InheritedTexts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
 #include "vellox/ppt/writers/SlideRemoval.h"
+#include "vellox/ppt/writers/SvgPictures.h"
 #include "vellox/ppt/writers/TableStylesPart.h"
 #include "vellox/ppt/writers/ValueTexts.h"
 
@@ -38,6 +41,32 @@ void PPTWriter::setDeckValues(const DeckValues& values) {
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+InheritedTexts& PPTWriter::getInheritedTexts() {
+    if (!texts_)
+        texts_ = boost::make_shared<InheritedTexts>(*partWriter_, *model_);
+    return *texts_;
+}
+
+SvgPictures& PPTWriter::getSvgPictures() {
+    if (!svgPictures_)
+        svgPictures_ = boost::make_shared<SvgPictures>(*partWriter_);
+    return *svgPictures_;
+}
+
+FontBook& PPTWriter::getFonts() {
+    if (!fonts_)
+        fonts_ = boost::make_shared<FontBook>();
+    return *fonts_;
+}
+
+bool PPTWriter::isOnNewSlide() const {
+    return currentSlide_ && !slides_.back().slide->source;
+}
+
+const TemplateLayout* PPTWriter::getCurrentLayout() const {
+    return currentSlide_ ? slides_.back().slide->layout.get() : nullptr;
 }
 
 ChartParts& PPTWriter::getChartParts() {

@@ -22,14 +22,16 @@
 #include "vellox/ppt/template/TemplateRecords.h"
 
 namespace vellox {
+class FontBook;
 class MsgID;
-}
+} // namespace vellox
 
 namespace vellox::ppt {
 
 class ChartParts;
 class ExternalLinkImpl;
 class FormatsInForce;
+class InheritedTexts;
 class NotesParts;
 class OPCPackage;
 class ParagraphImpl;
@@ -41,6 +43,7 @@ class PresentationModel;
 class SlideCopies;
 class SlideDocument;
 class SlideImpl;
+class SvgPictures;
 class TableEntryImpl;
 class TableImpl;
 class TableRowImpl;
@@ -146,12 +149,20 @@ public:
     ChartParts& getChartParts();
     /// Writes charts and notes, once all slides are written: a copy of a slide begins with what the original had.
     void writeAttachments();
+    /// What texts inherit.
+    InheritedTexts& getInheritedTexts();
+    FontBook& getFonts();
+    SvgPictures& getSvgPictures();
     const boost::shared_ptr<PPTPartWriter>& getPartWriter() const { return partWriter_; }
     SlideCopies& getCopies() { return *copies_; }
     NotesParts& getNotes() { return *notes_; }
     const boost::shared_ptr<PresentationModel>& getModel() const { return model_; }
     /// The slide being written; null between slides.
     SlideDocument* getCurrentSlide() const { return currentSlide_; }
+    /// Its layout; null without one, and between slides.
+    const TemplateLayout* getCurrentLayout() const;
+    /// Whether it comes from its layout alone.
+    bool isOnNewSlide() const;
     /// The name of its part; empty between slides.
     std::wstring getCurrentSlidePartName() const;
     /// Its number in the deck, from 1.
@@ -180,6 +191,9 @@ private:
     NumberMarks marks_;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
+    boost::shared_ptr<InheritedTexts> texts_;  // made when they are asked for, as the fonts are
+    boost::shared_ptr<FontBook> fonts_;
+    boost::shared_ptr<SvgPictures> svgPictures_;
     boost::shared_ptr<SlideCopies> copies_;
     boost::shared_ptr<NotesParts> notes_;
     std::vector<Written> slides_;

@@ -1,10 +1,17 @@
 #include "vellox/ppt/writers/ParagraphWriter.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Dimension.h"
+#include "vellox/foundation/Identifiers.h"
+#include "vellox/opc/XercesString.h"
+#include "vellox/ppt/formats/BulletForms.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/rules/Rules.h"
+#include "vellox/ppt/rules/Sequences.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/writers/InheritedTexts.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/writers/TextLook.h"
@@ -58,6 +65,7 @@ void ParagraphWriter::write() {
 
 void ParagraphWriter::applyTo(DOMElement* paragraph) {
     applyFormats();
+    finishFormats();
     arrange(pPr_);
     if (pPr_.isEmpty())
         return;
@@ -92,6 +100,7 @@ void ParagraphWriter::writeEnd(bool hasRuns) const {
 
 void ParagraphWriter::preparePPr() {
     applyFormats();
+    finishFormats();
     const BaseAttribute<unsigned int>& level = paragraph_.getLevel();
     if (level.isSet() && level.get() != 0)
         pPr_.setAttribute(xml::kLvl, num2str(getLevel()));
@@ -99,7 +108,53 @@ void ParagraphWriter::preparePPr() {
         pPr_.layOver(look_->pPr);
     if (isAmongNumbers() && !pPr_.hasAttribute(xml::kAlgn))
         pPr_.setAttribute(xml::kAlgn, xml::kRight);
+    if (!isArranged_)
+        pPr_.sortChildren(findElementForm(xml::kAPPr)->children);
     arrange(pPr_);
+}
+
+// What formats ask for together.
+void ParagraphWriter::finishFormats() {
+    if (bullet_)
+        putBullet();
+    if (isRightToLeft_ && !pPr_.hasAttribute(xml::kAlgn))
+        pPr_.setAttribute(xml::kAlgn, xml::kRight);
+}
+
+// In the font of the text: that of the template's bullets may have other signs in the place of letters.
+void ParagraphWriter::putBullet() {
+    isArranged_ = false;
+    const bool isNone = !bullet_->numbering && bullet_->character.empty();
+    if (isNone) {
+        pPr_.putChild(xml::kABuNone);
+        return;
+    }
+    pPr_.putChild(xml::kABuFontTx);
+    if (bullet_->numbering) {
+        PropertyElement& number = pPr_.putChild(xml::kABuAutoNum);
+        number.setAttribute(xml::kType, bullet_->numbering);
+        if (bullet_->start > 1)
+            number.setAttribute(u"startAt", num2str(bullet_->start));
+    } else {
+        pPr_.putChild(xml::kABuChar).setAttribute(u"char", bullet_->character);
+    }
+    if (!pPr_.hasAttribute(xml::kMarL) && !pPr_.hasAttribute(xml::kIndent))
+        hangBullet();
+}
+
+// Without a hanging indent the text would begin right behind its bullet, and go on below it.
+void ParagraphWriter::hangBullet() {
+    constexpr double kHang = 342900;
+    if (look_ && look_->pPr.hasAttribute(xml::kIndent))
+        return;
+    const auto* shape = dynamic_cast<const ShapeImpl*>(paragraph_.getParent());
+    const InheritedText& text = getWriter().getInheritedTexts().find(
+        getWriter().getCurrentLayout(), shape ? shape->getTemplateShape().get() : nullptr);
+    const LevelText& level = text.levels[getLevel()];
+    if (level.indent < 0)
+        return;
+    pPr_.setAttribute(xml::kMarL, num2str(truncateToInt(level.marginLeft + kHang)));
+    pPr_.setAttribute(xml::kIndent, num2str(truncateToInt(-kHang)));
 }
 
 // Of a text box or a cell with nothing but this paragraph.
@@ -153,8 +208,50 @@ void ParagraphWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& ParagraphWriter::inheritedFormatTypes() const {
-    static const FormatTypes& types = *new const FormatTypes{FormatType::HAlign};
+    static const FormatTypes& types =
+        *new const FormatTypes{FormatType::HAlign,          FormatType::Bullet,      FormatType::SpaceBefore,
+                               FormatType::SpaceAfter,      FormatType::LineSpacing, FormatType::LeftIndent,
+                               FormatType::FirstLineIndent, FormatType::RightToLeft};
     return types;
+}
+
+void ParagraphWriter::setBullet(const std::vector<BulletForm>& forms) {
+    bullet_ = &forms[std::min<std::size_t>(getLevel(), forms.size() - 1)];
+}
+
+void ParagraphWriter::setSpacing(const XMLCh* name, const Dimension& spacing) {
+    constexpr double kGreatestShare = 13200000,
+                     kGreatestPoints = 158400; // thousandths of a per cent, hundredths
+    constexpr double kPerPercent = 1000, kPerLine = 100000, kPerPoint = 100;
+    isArranged_ = false;
+    PropertyElement& element = pPr_.putChild(name);
+    const bool isShare = spacing.isPercentValue() || spacing.isProportionalValue();
+    const double value = isShare
+                             ? spacing.getNumericValue() * (spacing.isPercentValue() ? kPerPercent : kPerLine)
+                             : spacing.getPointNumber() * kPerPoint;
+    element.addChild(isShare ? u"a:spcPct" : u"a:spcPts")
+        .setAttribute(xml::kVal, num2str(truncateToInt(
+                                     limit(name, value, 0, isShare ? kGreatestShare : kGreatestPoints))));
+}
+
+void ParagraphWriter::setIndent(const XMLCh* name, const Dimension& indent) {
+    constexpr double kGreatest = 51206400;
+    const bool mayHang = std::u16string_view(name) == xml::kIndent;
+    pPr_.setAttribute(name, num2str(truncateToInt(
+                                limit(name, indent.getEMUNumber(), mayHang ? -kGreatest : 0, kGreatest))));
+}
+
+void ParagraphWriter::setRightToLeft(bool isRightToLeft) {
+    isRightToLeft_ = isRightToLeft;
+    pPr_.setAttribute(u"rtl", isRightToLeft ? xml::kTrue : xml::kFalse);
+}
+
+double ParagraphWriter::limit(const XMLCh* name, double value, double least, double greatest) const {
+    const double limited = std::min(std::max(value, least), greatest);
+    if (limited != value)
+        getWriter().report(ppt_finding::valueLimited(opc::toWideString(name), num2str(truncateToInt(value)),
+                                                     num2str(truncateToInt(limited))));
+    return limited;
 }
 
 void ParagraphWriter::setPPrAttribute(const XMLCh* name, const ValueMapping& mapping) {

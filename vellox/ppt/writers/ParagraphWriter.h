@@ -8,10 +8,15 @@
 #include "vellox/ppt/writers/ElementWriter.h"
 #include "vellox/ppt/xml/PropertyElement.h"
 
+namespace vellox {
+class Dimension;
+}
+
 namespace vellox::ppt {
 
 class ParagraphImpl;
 class TextImpl;
+struct BulletForm;
 struct ParagraphLook;
 
 class ParagraphWriter : public ElementWriter {
@@ -27,9 +32,20 @@ public:
     /// The paragraph's properties. They are written if anything is put in.
     PropertyElement& getPPr() { return pPr_; }
     void setPPrAttribute(const XMLCh* name, const ValueMapping& mapping);
+    /// @param forms by level; they have to stay until the paragraph is written
+    void setBullet(const std::vector<BulletForm>& forms);
+    /// @{ An element or an attribute that is a length. What is beyond the format is brought to its limit, and reported.
+    void setSpacing(const XMLCh* name, const Dimension& spacing);
+    void setIndent(const XMLCh* name, const Dimension& indent);
+    /// @}
+    void setRightToLeft(bool isRightToLeft);
 
 private:
     void preparePPr();
+    void finishFormats();
+    void putBullet();
+    void hangBullet();
+    double limit(const XMLCh* name, double value, double least, double greatest) const;
     unsigned int getLevel() const;
     PPTWriter::Frame makeRunFrame() const;
     void writeEnd(bool hasRuns) const;
@@ -42,6 +58,9 @@ private:
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
+    const BulletForm* bullet_ = nullptr;
+    bool isRightToLeft_ = false;
+    bool isArranged_ = true;    // whether the children are in the sequence of the schema
     const ParagraphLook* look_; // of the one in whose stead it comes; null if there is none
 };
 

@@ -3,6 +3,8 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/SvgDrawing.h"
+#include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/messages/MessageDispatcher.h"
 #include "vellox/ppt/rules/Rules.h"
@@ -12,6 +14,7 @@
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ShapeMakers.h"
+#include "vellox/ppt/writers/SvgPictures.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -28,12 +31,13 @@ void PictureWriter::write() {
     if (!slide || picture_.getImage().isEmpty())
         return keep(former);
     readImage();
-    const std::wstring id = addImage();
+    const std::wstring id = isDrawn_ ? std::wstring() : addImage();
     if (!former) {
         const ShapeGeometry geometry = sizeFree();
         const PictureElements made = makeFreePicture(*slide, id, geometry.shapeName, geometry);
         if (const auto placement = fitFree(geometry))
             writePlacement(made, *placement, orientation_);
+        writeSvg(made);
         return dress(made.pic);
     }
     const GroupSpace space(*former);
@@ -45,6 +49,7 @@ void PictureWriter::write() {
         makePictureInPlace(*slide, id, former, placement ? placement->box : std::optional<Box>());
     if (placement)
         writePlacement(made, *placement, orientation_);
+    writeSvg(made);
     if (parent)
         parent->replaceChild(made.pic, former);
     dropDescription(made.pic);
@@ -77,6 +82,42 @@ std::wstring PictureWriter::addImage() const {
     return id;
 }
 
+// Its own size isn't known before it is read.
+void PictureWriter::readSvg() {
+    constexpr double kPerInch = 96;
+    try {
+        const SvgSize size = getWriter().getSvgPictures().findSize(picture_.getImage());
+        facts_.pixelWidth = size.width;
+        facts_.pixelHeight = size.height;
+        facts_.perInchX = facts_.perInchY = kPerInch;
+    } catch (const SvgFault& fault) {
+        refuseSvg(fault.what());
+    }
+}
+
+void PictureWriter::writeSvg(const PictureElements& made) {
+    if (!isDrawn_)
+        return;
+    constexpr double kEmuPerPixel = 9525;
+    const std::wstring cx = getAttribute(made.ext, xml::kCx), cy = getAttribute(made.ext, xml::kCy);
+    const bool hasBox = !cx.empty() && !cy.empty();
+    SvgPictures::Ids ids;
+    try {
+        ids = getWriter().getSvgPictures().add(
+            getCurrentSlidePartName(), picture_.getImage(),
+            hasBox ? SvgSize{str2double(cx), str2double(cy)}
+                   : SvgSize{facts_.pixelWidth * kEmuPerPixel, facts_.pixelHeight * kEmuPerPixel});
+    } catch (const SvgFault& fault) {
+        refuseSvg(fault.what());
+    }
+    setAttribute(made.blip, xml::kREmbed, ids.drawing);
+    DOMElement* extension = appendElement(appendElement(made.blip, xml::kAExtLst), u"a:ext");
+    extension->setAttribute(u"uri", u"{96DAC541-7B7A-43D3-8B79-37D633B846F1}");
+    DOMElement* blip = appendElement(extension, u"asvg:svgBlip");
+    blip->setAttribute(u"xmlns:asvg", u"http://schemas.microsoft.com/office/drawing/2016/SVG/main");
+    setAttribute(blip, xml::kREmbed, ids.svg);
+}
+
 void PictureWriter::readImage() {
     const ImageInfo info = picture_.getImage().getInfo();
     facts_ = {info.getWidth(), info.getHeight(), {}, {}};
@@ -86,6 +127,9 @@ void PictureWriter::readImage() {
         facts_.perInchX = traits.perInchX;
         facts_.perInchY = traits.perInchY;
     }
+    isDrawn_ = getRules().drawsSvg() && isSvg(picture_.getImage()) && picture_.getImage().open();
+    if (isDrawn_)
+        readSvg();
     if (liesOnSide(orientation_)) {
         std::swap(facts_.pixelWidth, facts_.pixelHeight);
         std::swap(facts_.perInchX, facts_.perInchY);
@@ -167,6 +211,14 @@ void PictureWriter::writeLink(DOMElement* shape) const {
 void PictureWriter::refuseMissing() const {
     raise(ppt_error::missingPictureFile(std::to_wstring(getWriter().getCurrentSlideNumber()),
                                         picture_.getName(), picture_.getPath()));
+}
+
+void PictureWriter::refuseSvg(const std::string& reason) const {
+    const std::wstring slide = std::to_wstring(getWriter().getCurrentSlideNumber());
+    const std::wstring file = picture_.getImage().getFileName();
+    if (!canDrawSvg())
+        raise(ppt_error::svgNeedsRenderer(slide, picture_.getName(), file));
+    raise(ppt_error::invalidSvg(slide, picture_.getName(), file, fromUtf8(reason)));
 }
 
 void PictureWriter::reportUnknownType() const {

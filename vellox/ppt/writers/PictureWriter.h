@@ -5,6 +5,7 @@
 #define VELLOX_PPT_WRITERS_PICTUREWRITER_H
 
 #include <optional>
+#include <string>
 
 #include "vellox/ppt/rules/Facts.h"
 #include "vellox/ppt/template/TemplateRecords.h"
@@ -25,6 +26,9 @@ private:
     void dress(xercesc::DOMElement* shape) const;
     void readImage();
     std::wstring addImage() const;
+    void readSvg();
+    void writeSvg(const PictureElements& made);
+    [[noreturn]] void refuseSvg(const std::string& reason) const;
     ShapeGeometry sizeFree() const;
     std::optional<PicturePlacement> fitFree(const ShapeGeometry& geometry) const;
     std::optional<PicturePlacement> fitInPlace() const;
@@ -36,6 +40,7 @@ private:
     const PictureImpl& picture_;
     PictureFacts facts_{0, 0, {}, {}}; // of the image as it is to be seen
     unsigned int orientation_ = 1;
+    bool isDrawn_ = false; // an SVG that a drawing goes with
 };
 
 } // namespace vellox::ppt

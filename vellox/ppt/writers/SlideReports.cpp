@@ -7,6 +7,7 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlidePrototype.h"
+#include "vellox/ppt/tree/BaseTextBoxImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
@@ -36,8 +37,14 @@ void reportGrouped(const PPTNodeImpl& group) {
     }
 }
 
+// Text and box are made to fit, which is seen to where they are written.
+bool fits(const ShapeImpl& shape) {
+    const auto* textBox = dynamic_cast<const BaseTextBoxImpl*>(&shape);
+    return textBox && textBox->getAutofit().isSet() && textBox->getAutofit().get() != autofit::kNone;
+}
+
 // What stands on a slide of the template has contents that nobody here knows.
-void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
+void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, bool isMeasured, double slideHeight) {
     if (shape.getTemplateShape() && !isOnNewSlide)
         return;
     const NodeType type = shape.getNodeType();
@@ -46,7 +53,7 @@ void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, double slideHeight) {
     const bool isPlaceholder = isKindOf(type, NodeType::TextBoxPlaceholder);
     if (isPlaceholder && shape.getChildren().empty() && !shape.isContentReplaced())
         report(ppt_finding::emptyPlaceholder(), shape);
-    else if (isPlaceholder || type == NodeType::TextBox)
+    else if ((isPlaceholder || type == NodeType::TextBox) && !(isMeasured && fits(shape)))
         reportFit(shape);
 }
 
@@ -65,7 +72,7 @@ void reportOnSlide(const SlideImpl& slide, const PPTNode::Children& shapes, cons
         if (shape->getNodeType() == NodeType::Group && !model.getRules().reachesIntoGroups())
             reportGrouped(*shape);
         if (const auto* placed = implAs<ShapeImpl>(*child))
-            reportRoom(*placed, isNew, height);
+            reportRoom(*placed, isNew, model.getRules().measuresTexts(), height);
     }
 }
 

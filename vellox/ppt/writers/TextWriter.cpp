@@ -83,10 +83,10 @@ void TextWriter::applyFormat(const Format& format) {
 }
 
 const ElementWriter::FormatTypes& TextWriter::inheritedFormatTypes() const {
-    static const FormatTypes& types =
-        *new const FormatTypes{FormatType::Bold,       FormatType::Italic,      FormatType::FontColor,
-                               FormatType::FontFamily, FormatType::FontSize,    FormatType::Strike,
-                               FormatType::Subscript,  FormatType::Superscript, FormatType::Underline};
+    static const FormatTypes& types = *new const FormatTypes{
+        FormatType::Bold,      FormatType::Italic,  FormatType::FontColor, FormatType::FontFamily,
+        FormatType::FontSize,  FormatType::Strike,  FormatType::Subscript, FormatType::Superscript,
+        FormatType::Underline, FormatType::Language};
     return types;
 }
 

@@ -107,11 +107,19 @@ void PropertyElement::removeChildren(std::u16string_view name, std::u16string_vi
 
 namespace {
 
-// An element has one fill, whatever it is called.
+// An element has one fill, one bullet, one font of it, one way to fit, whatever they are called.
+constexpr std::u16string_view kKinds[][6] = {
+    {xml::kANoFill, xml::kASolidFill, xml::kAGradFill, xml::kABlipFill, xml::kAPattFill, xml::kAGrpFill},
+    {xml::kABuNone, xml::kABuAutoNum, xml::kABuChar, xml::kABuBlip},
+    {xml::kABuFont, xml::kABuFontTx},
+    {xml::kANoAutofit, xml::kANormAutofit, xml::kASpAutoFit},
+};
+
 std::u16string_view getKind(std::u16string_view name) {
-    constexpr std::u16string_view kFills[] = {xml::kANoFill,   xml::kASolidFill, xml::kAGradFill,
-                                              xml::kABlipFill, xml::kAPattFill,  xml::kAGrpFill};
-    return std::find(std::begin(kFills), std::end(kFills), name) == std::end(kFills) ? name : kFills[0];
+    for (const auto& kind : kKinds)
+        if (std::find(std::begin(kind), std::end(kind), name) != std::end(kind))
+            return kind[0];
+    return name;
 }
 
 } // namespace

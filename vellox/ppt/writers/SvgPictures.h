@@ -1,0 +1,56 @@
+/// @file
+/// Pictures that are SVGs: the SVG for readers that draw it, and a PNG of it for all others.
+
+#ifndef VELLOX_PPT_WRITERS_SVGPICTURES_H
+#define VELLOX_PPT_WRITERS_SVGPICTURES_H
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "vellox/foundation/ImageSource.h"
+#include "vellox/foundation/SvgText.h"
+
+namespace vellox::ppt {
+
+class PPTPartWriter;
+
+/// Whether an image is an SVG, by its extension.
+bool isSvg(const ImageSource& image);
+
+/// The SVGs of a deck. Each is read once, and drawn once for each size.
+class SvgPictures {
+public:
+    /// The ids of relationships of a slide.
+    struct Ids {
+        std::wstring drawing, svg;
+    };
+
+    explicit SvgPictures(PPTPartWriter& partWriter) : partWriter_(partWriter) {}
+
+    /// That of the image itself; 300 each way where it says none.
+    /// @throws SvgFault if it can't be read
+    SvgSize findSize(const ImageSource& image);
+    /// Puts an SVG into the deck with a drawing of it for a box.
+    /// @param box in EMU
+    /// @throws SvgFault if it can't be drawn
+    Ids add(const std::wstring& slidePartName, const ImageSource& image, const SvgSize& box);
+
+private:
+    using Key = std::pair<std::wstring, const std::string*>; // path and bytes
+    using Pixels = std::pair<unsigned int, unsigned int>;
+    struct Entry {
+        ImageSource cleaned; ///< without a document type
+        SvgSize size;
+        std::map<Pixels, ImageSource> drawings;
+    };
+
+    Entry& require(const ImageSource& image);
+
+    PPTPartWriter& partWriter_;
+    std::map<Key, Entry> entries_;
+};
+
+} // namespace vellox::ppt
+
+#endif
