@@ -68,7 +68,7 @@ def test_signatures_can_be_read():
     for call, signature in ((ppt.Table.entry, "(self, row, column, /)"), (ppt.Table(2).entry, "(row, column, /)"),
                             (ppt.Presentation.open, "(self, /)"), (ppt.MessageDispatcher.getTheDispatcher, "()"),
                             (ppt.Slide.add, "(self, argument1, argument2=Ellipsis, /)"),
-                            (ppt.ExternalLink, "(target=Ellipsis, text=Ellipsis, /)")):
+                            (ppt.ExternalLink, "(argument1=Ellipsis, text=Ellipsis, /)")):
         assert str(inspect.signature(call)) == signature
     for call, signature in ((ppt.Object.__copy__, "(self)"), (ppt.Presentation.__enter__, "(self)")):
         assert str(inspect.signature(call)).startswith(signature)

@@ -220,6 +220,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     PPTWriter writer(model_, package);
     if (template_ && profile_.rules->checksDocuments())
         writer.setCheck(template_->getCheck());
+    writer.setDeckValues(values_);
     FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
     writer.setPageFields(pageFields);

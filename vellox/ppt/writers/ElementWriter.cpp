@@ -46,7 +46,10 @@ void ElementWriter::applyFormats() {
     for (const auto& entry : own)
         if (acceptsFormat(*entry.second))
             applyFormat(*entry.second);
-    for (const FormatType type : inheritedFormatTypes()) {
+    const FormatTypes& types = inheritedFormatTypes();
+    if (types.empty() || getFormatsInForce().isEmpty())
+        return; // as most texts have it
+    for (const FormatType type : types) {
         if (!own.empty() && own.count(type) > 0)
             continue;
         const Format* format = findFormat(type);

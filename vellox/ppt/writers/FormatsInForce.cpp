@@ -17,8 +17,10 @@ FormatsInForce FormatsInForce::at(const PPTNodeImpl* node, const TableContext* t
 }
 
 void FormatsInForce::layOver(const Formats& nearer) {
-    for (const auto& entry : nearer.getMap())
+    for (const auto& entry : nearer.getMap()) {
         formats_[static_cast<std::size_t>(entry.first)] = entry.second.get();
+        isEmpty_ = false;
+    }
 }
 
 } // namespace vellox::ppt

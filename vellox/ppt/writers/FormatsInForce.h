@@ -31,11 +31,13 @@ public:
 
     /// Null if there is none of the kind.
     const Format* find(FormatType type) const { return formats_[static_cast<std::size_t>(type)]; }
+    bool isEmpty() const { return isEmpty_; }
     /// Formats that are nearer take the places of those of their kinds.
     void layOver(const Formats& nearer);
 
 private:
     std::array<const Format*, kFormatTypeCount> formats_{}; // by the number of the kind
+    bool isEmpty_ = true;
 };
 
 } // namespace vellox::ppt
