@@ -196,6 +196,18 @@ struct VELLOX_API chartWorkbookFailed : MsgID {
     chartWorkbookFailed(const std::wstring& chart, const std::wstring& reason)
         : MsgID(kCatalog, "chartWorkbookFailed", {chart, reason}) {}
 };
+/// Cells are to be merged that a table hasn't, or only one; rows and columns count from 1.
+struct VELLOX_API invalidCellRange : MsgID {
+    invalidCellRange(const std::wstring& row, const std::wstring& column, const std::wstring& lastRow,
+                     const std::wstring& lastColumn)
+        : MsgID(kCatalog, "invalidCellRange", {row, column, lastRow, lastColumn}) {}
+};
+/// Cells are to be merged of which some are in a merged cell, which is named; rows and columns count from 1.
+struct VELLOX_API cellsAlreadyMerged : MsgID {
+    cellsAlreadyMerged(const std::wstring& row, const std::wstring& column, const std::wstring& lastRow,
+                       const std::wstring& lastColumn)
+        : MsgID(kCatalog, "cellsAlreadyMerged", {row, column, lastRow, lastColumn}) {}
+};
 /// A table that stands nowhere is to be replaced.
 struct VELLOX_API tableCannotBeReplaced : MsgID {
     tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}
@@ -435,6 +447,11 @@ struct VELLOX_API invalidTableStyle : MsgID {
 /// A table has no rows.
 struct VELLOX_API emptyTable : MsgID {
     emptyTable() : MsgID(kCatalog, "emptyTable", 0) {}
+};
+/// A cell holds something and is covered by a merged one; row and column count from 1.
+struct VELLOX_API coveredCell : MsgID {
+    coveredCell(const std::wstring& row, const std::wstring& column)
+        : MsgID(kCatalog, "coveredCell", {row, column}) {}
 };
 /// A shape that the template gives no text body is given text, or formats for it.
 struct VELLOX_API noTextBody : MsgID {

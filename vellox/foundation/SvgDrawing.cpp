@@ -231,7 +231,7 @@ std::string drawSvg(const std::string& svg, unsigned int width, unsigned int hei
     const char kind = sent[0];
     sent.erase(0, 1);
     if (kind != kDrawn)
-        throw SvgFault(sent);
+        throw SvgFault(sent.substr(0, sent.find_last_not_of(" \n") + 1));
     return sent;
 }
 

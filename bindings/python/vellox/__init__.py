@@ -1,26 +1,32 @@
 """PowerPoint decks by program. The classes are in vellox.ppt; begin with deck()."""
 from __future__ import annotations
 
-import importlib
 import os
-from typing import TYPE_CHECKING, Any
 
+TYPE_CHECKING = False  # as checkers read it, and without the module typing, which takes as long as a deck
 if TYPE_CHECKING:
+    from typing import Any
+
     from ._batch import Record, Result, batch
     from ._doctor import TemplateReport
     from ._findings import Finding
+    from ._tables import table
     from .ppt import Presentation, Template
 
-__all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect"]
+__all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect",
+           "table"]
 
 # What few programs need is imported when it is asked for: most decks are made sooner than all of it is read.
-_HOMES = {"Record": "_batch", "Result": "_batch", "batch": "_batch", "TemplateReport": "_doctor", "Finding": "_findings"}
+_HOMES = {"Record": "_batch", "Result": "_batch", "batch": "_batch", "TemplateReport": "_doctor", "Finding": "_findings",
+          "table": "_tables"}
 
 
 def __getattr__(name: str) -> Any:
     if name not in _HOMES:
         raise AttributeError(f"module {__name__!r} has no attribute {name!r}")
-    return getattr(importlib.import_module("." + _HOMES[name], __name__), name)
+    from importlib import import_module
+
+    return getattr(import_module("." + _HOMES[name], __name__), name)
 
 
 def deck(output: str | os.PathLike[str], template: str | os.PathLike[str] | Template | None = None, *,

@@ -6,14 +6,13 @@ name these classes as bases, so that the types here are those that checkers see.
 """
 from __future__ import annotations
 
-import copy
-from collections.abc import Iterator
-from types import TracebackType
-from typing import TYPE_CHECKING, Any, Literal, Self
-
-from ._findings import Finding, read_findings
-
+TYPE_CHECKING = False  # each process reads this: modules are imported where they are used
 if TYPE_CHECKING:
+    from collections.abc import Iterator
+    from types import TracebackType
+    from typing import Any, Literal, Self
+
+    from ._findings import Finding
     from .ppt import Shape
     from .ppt import Slide as _Slide
 
@@ -41,6 +40,8 @@ class Object:
         twin = self.__vellox_twin__()
         memo[id(self)] = twin  # it may hold itself
         if hasattr(self, "__dict__"):
+            import copy
+
             twin.__dict__.update(copy.deepcopy(self.__dict__, memo))
         return twin
 
@@ -75,6 +76,8 @@ class Presentation:
     @property
     def Findings(self) -> list[Finding]:
         """What was asked for and isn't in the deck, or is other than asked, in the order in which it came out."""
+        from ._findings import read_findings
+
         return read_findings(self.getFindings())
 
     def __enter__(self) -> Self:

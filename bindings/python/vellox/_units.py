@@ -1,7 +1,9 @@
 """Lengths of numbers, for where a length is wanted: shape.Width = ppt.cm(2)."""
 from __future__ import annotations
 
-from typing import SupportsFloat
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import SupportsFloat
 
 __all__ = ["cm", "emu", "inch", "mm", "pt"]
 

@@ -63,6 +63,7 @@ PresentationImpl::PresentationImpl(const PresentationImpl& other)
       state_(other.state_),
       compression_(other.compression_),
       properties_(other.properties_),
+      values_(other.values_.copy()),
       isStrict_(other.isStrict_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);

@@ -215,6 +215,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         return;
     }
     PPTWriter writer(model_, package);
+    writer.setDeckValues(values_);
     FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
     writer.setPageFields(pageFields);

@@ -30,6 +30,7 @@ constexpr FindingKind kFindingKinds[] = {
     {"unknownImageType", Severity::Warning},
     {"invalidTableStyle", Severity::Error},
     {"emptyTable", Severity::Error},
+    {"coveredCell", Severity::Warning},
     {"noTextBody", Severity::Error},
     {"noShapeProperties", Severity::Error},
     {"emptyLinkTarget", Severity::Error},

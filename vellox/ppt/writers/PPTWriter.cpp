@@ -17,6 +17,7 @@
 #include "vellox/ppt/writers/SlideRemoval.h"
 #include "vellox/ppt/writers/SvgPictures.h"
 #include "vellox/ppt/writers/TableStylesPart.h"
+#include "vellox/ppt/writers/ValueTexts.h"
 
 #include <boost/make_shared.hpp>
 
@@ -31,6 +32,11 @@ PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_p
 }
 
 PPTWriter::~PPTWriter() = default;
+
+void PPTWriter::setDeckValues(const DeckValues& values) {
+    deckValues_ = &values;
+    marks_ = values.getMarks();
+}
 
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
