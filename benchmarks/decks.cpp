@@ -19,6 +19,17 @@ std::wstring say(const wchar_t* text, unsigned number) {
     return text + std::to_wstring(number);
 }
 
+std::wstring getDefaultTemplate() {
+    return FileUtils::appendPath(FileUtils::getHostRoot(),
+                                 L"toolbox/shared/vellox/ppt/resources/templates/pptx/default.pptx");
+}
+
+Presentation begin(const std::wstring& output, const std::wstring& profile) {
+    Presentation deck(output);
+    deck.setProfile(profile);
+    return deck;
+}
+
 Slide addTextSlide(Presentation& deck, unsigned number) {
     Slide slide = deck.add(L"Title and Content");
     slide.replace(L"Title", say(L"Results of run ", number));
@@ -46,15 +57,16 @@ TableEntry makeCell(unsigned number, bool isHeader) {
 
 } // namespace
 
-void makeTextDeck(const std::wstring& output, unsigned slides) {
-    Presentation deck(output);
+void makeTextDeck(const std::wstring& output, unsigned slides, const std::wstring& profile) {
+    Presentation deck = begin(output, profile);
     for (unsigned i = 0; i < slides; ++i)
         addTextSlide(deck, i);
     deck.close();
 }
 
-void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide) {
-    Presentation deck(output);
+void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide,
+                    const std::wstring& profile) {
+    Presentation deck = begin(output, profile);
     for (unsigned i = 0; i < slides; ++i) {
         Slide slide = deck.add(L"Title Only");
         TextBox box(L"Runs");
@@ -71,8 +83,8 @@ void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPe
     deck.close();
 }
 
-void makeTableDeck(const std::wstring& output, unsigned slides) {
-    Presentation deck(output);
+void makeTableDeck(const std::wstring& output, unsigned slides, const std::wstring& profile) {
+    Presentation deck = begin(output, profile);
     for (unsigned i = 0; i < slides; ++i) {
         Slide slide = deck.add(L"Title Only");
         Table table(8);
@@ -88,9 +100,11 @@ void makeTableDeck(const std::wstring& output, unsigned slides) {
     deck.close();
 }
 
-void makeChartDeck(const std::wstring& output, const std::wstring& templatePath) {
+void makeChartDeck(const std::wstring& output, const std::wstring& templatePath,
+                   const std::wstring& profile) {
     constexpr unsigned kSeries = 3, kMonths = 12;
     Presentation deck(output, templatePath);
+    deck.setProfile(profile);
     deck.open();
     std::vector<std::wstring> months;
     for (unsigned i = 1; i <= kMonths; ++i)
@@ -104,8 +118,9 @@ void makeChartDeck(const std::wstring& output, const std::wstring& templatePath)
     deck.close();
 }
 
-void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images) {
-    Presentation deck(output);
+void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images,
+                     const std::wstring& profile) {
+    Presentation deck = begin(output, profile);
     for (unsigned i = 0; i < slides; ++i)
         deck.add(L"Title Only").add(Picture(images[i % images.size()]));
     deck.close();
@@ -164,10 +179,8 @@ void openDeck(const std::wstring& output, const std::wstring& templatePath) {
 
 void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
     const std::string target = toUtf8(path);
-    std::filesystem::copy_file(
-        toUtf8(FileUtils::appendPath(FileUtils::getHostRoot(),
-                                     L"toolbox/shared/vellox/ppt/resources/templates/pptx/default.pptx")),
-        target, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(toUtf8(getDefaultTemplate()), target,
+                               std::filesystem::copy_options::overwrite_existing);
     zip_t* archive = zip_open(target.c_str(), 0, nullptr);
     const zip_int64_t master = zip_name_locate(archive, "ppt/slideMasters/slideMaster1.xml", 0);
     const auto index = static_cast<zip_uint64_t>(master);
@@ -187,12 +200,13 @@ void writeHeavyMaster(const std::wstring& path, unsigned shapes) {
     zip_close(archive);
 }
 
-void makeSmallDeck(const std::wstring& output, const std::wstring& image) {
-    fillSmallDeck(Presentation(output), image);
+void makeSmallDeck(const std::wstring& output, const std::wstring& image, const std::wstring& profile) {
+    fillSmallDeck(begin(output, profile), image);
 }
 
-void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks) {
-    const Template source;
+void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks,
+                    const std::wstring& profile) {
+    const Template source(getDefaultTemplate(), profile);
     for (unsigned i = 0; i < decks; ++i)
         fillSmallDeck(Presentation(output, source), image);
 }

@@ -9,20 +9,28 @@
 
 namespace vellox::bench {
 
+/// The profile of a deck, where it can be chosen.
+inline constexpr wchar_t kClassic[] = L"classic", kOffice[] = L"office";
+
 /// A title and five bullets on each slide.
-void makeTextDeck(const std::wstring& output, unsigned slides);
+void makeTextDeck(const std::wstring& output, unsigned slides, const std::wstring& profile = kClassic);
 /// One paragraph of runs on each slide, each run with five formats that it inherits.
-void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide);
+void makeStyledDeck(const std::wstring& output, unsigned slides, unsigned runsPerSlide,
+                    const std::wstring& profile = kClassic);
 /// A table of 20 rows and 8 columns on each slide, with a size on each run and a bold first row.
-void makeTableDeck(const std::wstring& output, unsigned slides);
+void makeTableDeck(const std::wstring& output, unsigned slides, const std::wstring& profile = kClassic);
 /// A picture on each slide: one image after the other, and again from the first.
-void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images);
+void makePictureDeck(const std::wstring& output, unsigned slides, const std::vector<std::wstring>& images,
+                     const std::wstring& profile = kClassic);
 /// Data for the chart on each slide of a template that charts.py has made.
-void makeChartDeck(const std::wstring& output, const std::wstring& templatePath);
+void makeChartDeck(const std::wstring& output, const std::wstring& templatePath,
+                   const std::wstring& profile = kClassic);
 /// @{ Five slides as makeTextDeck() makes them, and a picture on the last: on the path of the template, which is read
 /// for the deck, and a number of such decks on a template that is read once, each over the last.
-void makeSmallDeck(const std::wstring& output, const std::wstring& image);
-void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks);
+void makeSmallDeck(const std::wstring& output, const std::wstring& image,
+                   const std::wstring& profile = kClassic);
+void makeSmallDecks(const std::wstring& output, const std::wstring& image, unsigned decks,
+                    const std::wstring& profile = kClassic);
 /// @}
 
 /// Writes a deck of slides to be filled: on each a title, two boxes and a table, with so many tokens together.

@@ -5,6 +5,7 @@
 //     make_deck chart <slides> <output.pptx> <folder>      data for the charts of the folder's charts.pptx
 //     make_deck small <decks> <output.pptx> <folder>       one deck after the other, over the last
 //     make_deck small-path <decks> <output.pptx> <folder>  the same, reading the template for each
+//     make_deck office-text|office-styled|... ...          all these by the profile of that name
 //     make_deck images <count> <folder>                    the pictures for these
 //     make_deck master <shapes> <output.pptx>              the default template with shapes on its master
 //     make_deck open <template.pptx> <output.pptx>
@@ -19,6 +20,8 @@ namespace {
 
 using namespace vellox::bench;
 
+constexpr std::string_view kOfficeStart = "office-";
+
 std::wstring nameImage(const std::wstring& folder, unsigned number) {
     return folder + L"/" + std::to_wstring(number) + L".png";
 }
@@ -30,24 +33,27 @@ std::vector<std::wstring> nameImages(const std::wstring& folder, unsigned count)
     return names;
 }
 
-bool run(const std::string& kind, unsigned count, const std::wstring& output, const std::wstring& folder) {
+bool run(std::string kind, unsigned count, const std::wstring& output, const std::wstring& folder) {
+    const bool isOffice = kind.compare(0, kOfficeStart.size(), kOfficeStart) == 0;
+    const std::wstring profile = isOffice ? kOffice : kClassic;
+    kind.erase(0, isOffice ? kOfficeStart.size() : 0);
     if (kind == "text")
-        makeTextDeck(output, count);
+        makeTextDeck(output, count, profile);
     else if (kind == "styled")
-        makeStyledDeck(output, count, 100);
+        makeStyledDeck(output, count, 100, profile);
     else if (kind == "table")
-        makeTableDeck(output, count);
+        makeTableDeck(output, count, profile);
     else if (kind == "picture")
-        makePictureDeck(output, count, nameImages(folder, count));
+        makePictureDeck(output, count, nameImages(folder, count), profile);
     else if (kind == "chart")
-        makeChartDeck(output, folder + L"/charts.pptx");
+        makeChartDeck(output, folder + L"/charts.pptx", profile);
     else if (kind == "master")
         writeHeavyMaster(output, count);
     else if (kind == "small")
-        makeSmallDecks(output, nameImage(folder, 0), count);
+        makeSmallDecks(output, nameImage(folder, 0), count, profile);
     else if (kind == "small-path")
         for (unsigned i = 0; i < count; ++i)
-            makeSmallDeck(output, nameImage(folder, 0));
+            makeSmallDeck(output, nameImage(folder, 0), profile);
     else if (kind == "images")
         for (unsigned i = 0; i < count; ++i)
             writePng(nameImage(output, i), 300000, i);
@@ -65,10 +71,11 @@ int main(int argc, char** argv) {
     }
     if (argc < 4 || !run(argv[1], static_cast<unsigned>(std::stoul(argv[2])), vellox::fromUtf8(argv[3]),
                          vellox::fromUtf8(argc > 4 ? argv[4] : ""))) {
-        std::cerr << "usage: make_deck text|styled|table|picture|chart|small|small-path|images|master "
-                     "<count> <output> "
-                     "[<folder>]\n"
-                     "       make_deck open <template> <output>\n";
+        std::cerr
+            << "usage: make_deck [office-]text|styled|table|picture|chart|small|small-path|images|master "
+               "<count> <output> "
+               "[<folder>]\n"
+               "       make_deck open <template> <output>\n";
         return 2;
     }
     return 0;

@@ -36,6 +36,7 @@
 #include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/formats/Alignment.h"
 #include "vellox/ppt/formats/BaseDimension.h"
+#include "vellox/ppt/formats/CellFormats.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/formats/Color.h"
 #include "vellox/ppt/formats/Format.h"

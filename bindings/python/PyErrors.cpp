@@ -125,6 +125,8 @@ constexpr struct {
     {"invalidObjectForTable", Kind::Type},
     {"failedToAppendChild", Kind::Value},
     {"pictureCannotBeReplaced", Kind::State},
+    {"invalidCellRange", Kind::Subscript},
+    {"cellsAlreadyMerged", Kind::Value},
     {"tableCannotBeReplaced", Kind::State},
     {"placeholderWasReplacedByObject", Kind::State},
     {"missingPictureFile", Kind::File},

@@ -195,7 +195,8 @@ bool PyValue::readBuffer(PyObject* object) {
 
 /// Tables with named columns, whatever library they are of.
 bool PyValue::readFrame() {
-    if (!has(object_, "columns") || !has(object_, "to_numpy"))
+    const bool isFrame = has(object_, "columns") && has(object_, "to_numpy");
+    if (!isFrame && !has(object_, "__dataframe__"))
         return false;
     const PyRef rows = checked(PySequence_Tuple(readForeign(kFrames, "read_frame", object_).get()));
     readRow(rows);

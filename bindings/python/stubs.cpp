@@ -96,6 +96,7 @@ constexpr const char* kChildren[][2] = {
 /// Results of which the table says less than a type checker can use.
 constexpr const char* kResults[][2] = {
     {"Presentation.find", "list[Slide | Shape]"},
+    {"Presentation.addPages", "list[Slide]"},
     {"Slide.find", "list[Shape]"},
     {"Slide.getChartNames", "list[str]"},
     {"Presentation.getMasterNames", "list[str]"},

@@ -1,15 +1,11 @@
 #include "vellox/check/PackageCheck.h"
 
-#include "vellox/check/DocumentCheck.h"
 #include "vellox/check/FindingCodes.h"
 #include "vellox/host/services/Utf8.h"
-#include "vellox/opc/XercesHelper.h"
-#include "vellox/opc/XercesProcess.h"
 
 #include "tests/support/Files.h"
 #include "tests/support/Mutations.h"
 
-#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -155,37 +151,6 @@ TEST_F(PackageCheck, SurvivesDamageAnywhere) {
     const auto many = check(parts);
     EXPECT_EQ(many.size(), 1001u);
     EXPECT_EQ(many.back().code, "moreFindings");
-}
-
-// The documents of a deck that is being made have names without namespaces, and are checked before they are
-// parts.
-TEST(SlideDocument, IsCheckedWithoutNamespaces) {
-    const opc::XercesProcess xerces;
-    const opc::ParserScope parser(opc::XercesHelper::createParser());
-    const Parts sound = test::makeSoundDeck();
-    check::DocumentCheck documents;
-    const auto run = [&](const std::string& xml, const check::RelationshipKinds* kinds) {
-        opc::StdIStreamAdaptor stream(boost::make_shared<std::istringstream>(xml));
-        const opc::DocumentScope document(
-            opc::XercesHelper::readDocumentFromStream(parser.get(), stream, false, {}, {}));
-        std::vector<Finding> findings;
-        check::checkSlideDocument(documents, *document, {L"/ppt/slides/slide1.xml", 1}, kinds, findings);
-        return describe(findings);
-    };
-    const check::RelationshipKinds kinds{{L"rId2", L"image"}, {L"rId3", L"hyperlink"}};
-    const std::string& slide = sound.at("ppt/slides/slide1.xml");
-    EXPECT_EQ(run(slide, &kinds), "");
-    EXPECT_EQ(run(slide, nullptr), "");
-    const auto change = [&](const char* from, const char* to) {
-        return test::withChange(sound, "ppt/slides/slide1.xml", from, to)["ppt/slides/slide1.xml"];
-    };
-    EXPECT_EQ(run(change("r:embed=\"rId2\"", "r:embed=\"rId3\""), &kinds),
-              "error wrongReference /ppt/slides/slide1.xml 1 Picture: r:embed=\"rId3\" of a:blip leads to a "
-              "part of the "
-              "kind \"hyperlink\", and needs one of the kind \"image\"\n");
-    EXPECT_NE(run(change("<a:buNone/>", "<q:buNone/>"), &kinds).find("unknownPrefix"), std::string::npos);
-    EXPECT_NE(run(sound.at("ppt/slideLayouts/slideLayout1.xml"), &kinds).find("rootElement"),
-              std::string::npos);
 }
 
 // The page for users, the comment in the header and the table name the same codes.

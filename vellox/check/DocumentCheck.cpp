@@ -292,12 +292,4 @@ DocumentFacts DocumentCheck::check(const DOMDocument& document, const Place& pla
     return walk_->run(document, place, kinds, report);
 }
 
-void checkSlideDocument(DocumentCheck& check, const DOMDocument& document, const Place& place,
-                        const RelationshipKinds* kinds, std::vector<ppt::Finding>& findings) {
-    Report report(findings);
-    const DocumentFacts facts = check.check(document, place, kinds, report);
-    if (facts.root != L"p:sld")
-        report.add(Code::rootElement, place, L"the root element of a slide is " + facts.root);
-}
-
 } // namespace vellox::check

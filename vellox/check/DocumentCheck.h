@@ -32,10 +32,6 @@ private:
     std::unique_ptr<Walk> walk_;
 };
 
-/// The part of the check that concerns one slide as it is going to be written.
-void checkSlideDocument(DocumentCheck& check, const xercesc::DOMDocument& document, const Place& place,
-                        const RelationshipKinds* kinds, std::vector<ppt::Finding>& findings);
-
 } // namespace vellox::check
 
 #endif

@@ -7,28 +7,15 @@ namespace vellox::check {
 
 using namespace xercesc;
 
-enum class ElementFacts::Watch {
-    Shape,
-    TargetBySpid,
-    TargetById,
-    Slide,
-    Master,
-    Layout,
-    NotesMaster,
-    HandoutMaster,
-    SectionSlide,
-    Author,
-    Comment,
-    Table
-};
+namespace {
 
-struct ElementFacts::WatchRow {
+struct WatchRow {
     Namespace space;
     const char* name;
     Watch watch;
 };
 
-const ElementFacts::WatchRow ElementFacts::kWatched[] = {
+constexpr WatchRow kWatched[] = {
     {kPresentation, "cNvPr", Watch::Shape},
     {kDrawing, "stCxn", Watch::TargetById},
     {kDrawing, "endCxn", Watch::TargetById},
@@ -49,29 +36,26 @@ const ElementFacts::WatchRow ElementFacts::kWatched[] = {
 };
 
 /// What the references of an element have to lead to.
-struct ElementFacts::KindRow {
+struct KindRow {
     Namespace space;
     const char* name;
-    const wchar_t* kind;
-    const wchar_t* other; // allowed too
+    TargetKinds kinds;
 };
 
-const ElementFacts::KindRow ElementFacts::kKinds[] = {
-    {kDrawing, "blip", L"image", L"image"},
-    {kChart, "chart", L"chart", L"chart"},
-    {kDrawing, "snd", L"audio", L"media"},
-    {kPresentation, "snd", L"audio", L"media"},
-    {kDrawing, "wavAudioFile", L"audio", L"media"},
-    {kDrawing, "audioFile", L"audio", L"media"},
-    {kDrawing, "videoFile", L"video", L"media"},
-    {kPresentation, "tags", L"tags", L"tags"},
-    {kPresentation, "custData", L"customXml", L"customXml"},
+constexpr KindRow kKinds[] = {
+    {kDrawing, "blip", {L"image"}},
+    {kChart, "chart", {L"chart"}},
+    {kDrawing, "snd", {L"audio", L"media"}},
+    {kPresentation, "snd", {L"audio", L"media"}},
+    {kDrawing, "wavAudioFile", {L"audio", L"media"}},
+    {kDrawing, "audioFile", {L"audio", L"media"}},
+    {kDrawing, "videoFile", {L"video", L"media"}},
+    {kPresentation, "tags", {L"tags"}},
+    {kPresentation, "custData", {L"customXml"}},
 };
 
-namespace {
-
-bool isLink(std::u16string_view name) {
-    return name == u"hlinkClick" || name == u"hlinkHover" || name == u"hlinkMouseOver";
+bool isSpelled(std::u16string_view name, std::string_view ascii) {
+    return std::equal(name.begin(), name.end(), ascii.begin(), ascii.end());
 }
 
 bool isShape(std::u16string_view name) {
@@ -87,6 +71,26 @@ bool isForeignShapeId(const std::wstring& id) {
 }
 
 } // namespace
+
+Watch findWatch(Namespace space, std::u16string_view name) {
+    for (const WatchRow& row : kWatched)
+        if (row.space == space && isSpelled(name, row.name))
+            return row.watch;
+    return Watch::Nothing;
+}
+
+bool isLink(std::u16string_view name) {
+    return name == u"hlinkClick" || name == u"hlinkHover" || name == u"hlinkMouseOver";
+}
+
+TargetKinds findTargetKinds(Namespace space, std::u16string_view name, std::u16string_view action) {
+    if (isLink(name) && action == u"ppaction://hlinksldjump")
+        return {L"slide"};
+    for (const KindRow& row : kKinds)
+        if (row.space == space && isSpelled(name, row.name))
+            return row.kinds;
+    return {};
+}
 
 std::wstring findShapeName(const DOMElement& element) {
     for (const DOMNode* node = &element; node; node = node->getParentNode()) {
@@ -111,8 +115,6 @@ ElementFacts::ElementFacts(Names& names)
     for (const WatchRow& row : kWatched)
         watched_.emplace(names.makeKey(row.space, row.name), row.watch);
     lastWatched_ = static_cast<std::uint32_t>(names.count());
-    for (const KindRow& row : kKinds)
-        kindRows_.emplace(names.makeKey(row.space, row.name), &row);
 }
 
 void ElementFacts::begin(const Place& place, const RelationshipKinds* kinds, Report& report) {
@@ -141,6 +143,8 @@ void ElementFacts::see(const DOMElement& element, const NodeNames::Scope& scope,
 
 void ElementFacts::act(Watch watch, const DOMElement& element, const NodeNames::Scope& scope, bool isActive) {
     switch (watch) {
+    case Watch::Nothing:
+        return;
     case Watch::Shape:
         return seeShape(element, scope, isActive);
     case Watch::TargetBySpid:
@@ -216,19 +220,13 @@ void ElementFacts::seeReference(const DOMElement& element, Key key, const Attrib
 
 void ElementFacts::checkKind(const DOMElement& element, Key key, const AttributeNode& attribute,
                              const std::wstring& kind) {
-    std::wstring wanted;
-    const auto row = kindRows_.find(key);
-    if (row != kindRows_.end() && kind != row->second->kind && kind != row->second->other)
-        wanted = row->second->kind;
-    const bool isJump = isLink(getLocalName(element)) &&
-                        std::u16string_view(element.getAttribute(u"action")) == u"ppaction://hlinksldjump";
-    if (isJump && kind != L"slide")
-        wanted = L"slide";
-    if (!wanted.empty())
+    const TargetKinds wanted =
+        findTargetKinds(getNamespace(key), getLocalName(element), element.getAttribute(u"action"));
+    if (!wanted.take(kind))
         report_->add(Code::wrongReference, place_,
                      names_.spell(attribute.key) + L"=" + quote(opc::toWideString(attribute.value)) +
                          L" of " + names_.spell(key) + L" leads to a part of the kind " + quote(kind) +
-                         L", and needs one of the kind " + quote(wanted),
+                         L", and needs one of the kind " + quote(wanted.kind),
                      findShapeName(element));
 }
 

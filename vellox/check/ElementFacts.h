@@ -15,6 +15,40 @@
 
 namespace vellox::check {
 
+/// What there is to see at an element.
+enum class Watch {
+    Nothing,
+    Shape,
+    TargetBySpid,
+    TargetById,
+    Slide,
+    Master,
+    Layout,
+    NotesMaster,
+    HandoutMaster,
+    SectionSlide,
+    Author,
+    Comment,
+    Table
+};
+
+Watch findWatch(Namespace space, std::u16string_view name);
+
+/// The kinds of relationships that references may name.
+struct TargetKinds {
+    const wchar_t* kind = nullptr;  ///< null for any
+    const wchar_t* other = nullptr; ///< allowed too, or null
+
+    bool take(const std::wstring& found) const { return !kind || found == kind || (other && found == other); }
+};
+
+/// Those of an element.
+/// @param action what the element does; only links do anything
+TargetKinds findTargetKinds(Namespace space, std::u16string_view name, std::u16string_view action);
+
+/// Whether an element of this name is a link, which may do something without a reference.
+bool isLink(std::u16string_view name);
+
 /// Sees each element of a document once.
 class ElementFacts {
 public:
@@ -28,12 +62,6 @@ public:
     DocumentFacts finish();
 
 private:
-    enum class Watch;
-    struct WatchRow;
-    struct KindRow;
-    static const WatchRow kWatched[];
-    static const KindRow kKinds[];
-
     /// A shape that something on the slide points to.
     struct ShapeTarget {
         const xercesc::DOMElement* element;
@@ -53,7 +81,6 @@ private:
     Key id_, spid_, authorId_, relationshipId_, action_;
     std::unordered_map<Key, Watch> watched_;
     std::uint32_t lastWatched_; // names are numbered as they come, and those of the map came first
-    std::unordered_map<Key, const KindRow*> kindRows_; // by element
 
     Place place_;
     const RelationshipKinds* kinds_ = nullptr;

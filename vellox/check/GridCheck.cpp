@@ -65,9 +65,8 @@ private:
         column_ = 0;
         const std::size_t cells = count(row, u"tc");
         if (cells != rowsLeft_.size())
-            return add(Code::tableGrid, L"row " + std::to_wstring(row_) + L" has " + std::to_wstring(cells) +
-                                            L" cells, and the grid has " + std::to_wstring(rowsLeft_.size()) +
-                                            L" columns");
+            return add(Code::tableGrid, L"row " + std::to_wstring(row_) + L" has " + countOf(cells, L"cell") +
+                                            L", and the grid has " + countOf(rowsLeft_.size(), L"column"));
         Span span;
         for (const DOMElement* cell = row.getFirstElementChild(); cell; cell = cell->getNextElementSibling())
             if (getLocalName(*cell) == u"tc") {

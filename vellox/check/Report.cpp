@@ -21,6 +21,10 @@ void Report::add(Code code, const Place& place, const std::wstring& text, const 
     findings_.push_back(std::move(finding));
 }
 
+std::wstring countOf(std::size_t number, const std::wstring& noun) {
+    return std::to_wstring(number) + L" " + noun + (number == 1 ? L"" : L"s");
+}
+
 std::wstring quote(const std::wstring& text) {
     constexpr std::size_t kMaxLength = 80;
     return L"\"" + (text.size() > kMaxLength ? text.substr(0, kMaxLength) + L"..." : text) + L"\"";

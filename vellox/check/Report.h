@@ -32,6 +32,9 @@ private:
     std::size_t count_ = 0;
 };
 
+/// Such as "1 cell" and "2 cells".
+std::wstring countOf(std::size_t number, const std::wstring& noun);
+
 /// A text between quotation marks; what is long is cut.
 std::wstring quote(const std::wstring& text);
 

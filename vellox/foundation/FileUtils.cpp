@@ -223,8 +223,8 @@ bool beginsLine(std::wstring_view text, std::size_t at) {
     return at == 0 || kLineEnds.find(text[at - 1]) != kLineEnds.npos;
 }
 
-// Of a stem in lower case.
-bool isDeviceName(std::wstring_view stem, std::size_t at) {
+// Whether there is one at a place of a stem in lower case.
+bool beginsDeviceName(std::wstring_view stem, std::size_t at) {
     const std::wstring_view name = stem.substr(at, 3);
     if (name == L"com" || name == L"lpt")
         return at + 3 < stem.size() && stem[at + 3] >= L'1' && stem[at + 3] <= L'9';
@@ -238,10 +238,18 @@ FileNameFault FileUtils::judgeFileName(const std::wstring& name) {
     // their names by it.
     const std::wstring stem = toLowerString(getFileNameStem(name));
     for (std::size_t at = 0; at < stem.size(); ++at)
-        if (isDeviceName(stem, at))
+        if (beginsDeviceName(stem, at))
             return FileNameFault::ReservedName;
     return stem.find_first_of(L":<>\"/|?*") == stem.npos ? FileNameFault::None
                                                          : FileNameFault::ReservedCharacter;
+}
+
+bool FileUtils::isDeviceName(const std::wstring& name) {
+    std::wstring stem = toLowerString(extractFilename(name));
+    stem.erase(std::min(stem.find(L'.'), stem.size()));
+    stem.erase(stem.find_last_not_of(L' ') + 1);
+    const std::size_t length = stem.compare(0, 3, L"com") == 0 || stem.compare(0, 3, L"lpt") == 0 ? 4 : 3;
+    return stem.size() == length && beginsDeviceName(stem, 0);
 }
 
 void FileUtils::refuseFileName(FileNameFault fault, const std::wstring& name) {

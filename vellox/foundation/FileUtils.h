@@ -12,7 +12,8 @@
 namespace vellox {
 
 /// Why a file of some name couldn't be kept everywhere.
-enum class FileNameFault { None, ReservedName, ReservedCharacter };
+/// What may be wrong with the name of a file. A DeviceName can be had, but not everywhere.
+enum class FileNameFault { None, ReservedName, ReservedCharacter, DeviceName };
 
 /// Class-level operations only. Those that give a bool give true when they return, but for unzip().
 class VELLOX_API FileUtils {
@@ -81,7 +82,10 @@ public:
     /// or "con", "aux", "prn", "com1" to "com9", "lpt1" to "lpt9" anywhere in it, in any case, and a
     /// ReservedCharacter one of : < > " / | ? *
     static FileNameFault judgeFileName(const std::wstring& name);
-    /// Raises what a fault is called; nothing for None.
+    /// Whether Windows takes the name of a file for a device, which it does whatever comes behind the first dot: "con",
+    /// "prn", "aux", "nul", "com1" to "com9", "lpt1" to "lpt9", in any case.
+    static bool isDeviceName(const std::wstring& name);
+    /// Raises what a fault is called; nothing for None and DeviceName.
     /// @throws reservedWindowsFileName, reservedWindowsFileNameChar with the stem of the name
     static void refuseFileName(FileNameFault fault, const std::wstring& name);
     /// Checks the name of a file that is to be made, so that a deck made here can be kept anywhere.

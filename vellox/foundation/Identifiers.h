@@ -196,6 +196,18 @@ struct VELLOX_API chartWorkbookFailed : MsgID {
     chartWorkbookFailed(const std::wstring& chart, const std::wstring& reason)
         : MsgID(kCatalog, "chartWorkbookFailed", {chart, reason}) {}
 };
+/// Cells are to be merged that a table hasn't, or only one; rows and columns count from 1.
+struct VELLOX_API invalidCellRange : MsgID {
+    invalidCellRange(const std::wstring& row, const std::wstring& column, const std::wstring& lastRow,
+                     const std::wstring& lastColumn)
+        : MsgID(kCatalog, "invalidCellRange", {row, column, lastRow, lastColumn}) {}
+};
+/// Cells are to be merged of which some are in a merged cell, which is named; rows and columns count from 1.
+struct VELLOX_API cellsAlreadyMerged : MsgID {
+    cellsAlreadyMerged(const std::wstring& row, const std::wstring& column, const std::wstring& lastRow,
+                       const std::wstring& lastColumn)
+        : MsgID(kCatalog, "cellsAlreadyMerged", {row, column, lastRow, lastColumn}) {}
+};
 /// A table that stands nowhere is to be replaced.
 struct VELLOX_API tableCannotBeReplaced : MsgID {
     tableCannotBeReplaced() : MsgID(kCatalog, "tableCannotBeReplaced", 0) {}
@@ -436,6 +448,11 @@ struct VELLOX_API invalidTableStyle : MsgID {
 struct VELLOX_API emptyTable : MsgID {
     emptyTable() : MsgID(kCatalog, "emptyTable", 0) {}
 };
+/// A cell holds something and is covered by a merged one; row and column count from 1.
+struct VELLOX_API coveredCell : MsgID {
+    coveredCell(const std::wstring& row, const std::wstring& column)
+        : MsgID(kCatalog, "coveredCell", {row, column}) {}
+};
 /// A shape that the template gives no text body is given text, or formats for it.
 struct VELLOX_API noTextBody : MsgID {
     noTextBody() : MsgID(kCatalog, "noTextBody", 0) {}
@@ -480,6 +497,20 @@ struct VELLOX_API macrosLeftOut : MsgID {
 /// The template is signed, and what was signed isn't the deck.
 struct VELLOX_API signaturesRemoved : MsgID {
     signaturesRemoved() : MsgID(kCatalog, "signaturesRemoved", 0) {}
+};
+/// The name of the output is one that Windows keeps for a device.
+struct VELLOX_API deviceFileName : MsgID {
+    explicit deviceFileName(const std::wstring& name) : MsgID(kCatalog, "deviceFileName", {name}) {}
+};
+/// A part that was written isn't as the format has it: a fault of the library, or one that the template had.
+struct VELLOX_API unsoundPart : MsgID {
+    unsoundPart(const std::wstring& part, const std::wstring& fault)
+        : MsgID(kCatalog, "unsoundPart", {part, fault}) {}
+};
+/// A part that was written has something that programs read in different ways.
+struct VELLOX_API doubtfulPart : MsgID {
+    doubtfulPart(const std::wstring& part, const std::wstring& fault)
+        : MsgID(kCatalog, "doubtfulPart", {part, fault}) {}
 };
 /// The profile of an open presentation is to change.
 struct VELLOX_API cannotChangeProfile : MsgID {

@@ -10,12 +10,15 @@ if TYPE_CHECKING:
     from ._batch import Record, Result, batch
     from ._doctor import TemplateReport
     from ._findings import Finding
+    from ._tables import table
     from .ppt import Presentation, Template
 
-__all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect"]
+__all__ = ["Finding", "Record", "Result", "TemplateReport", "batch", "check", "deck", "heal", "inspect",
+           "table"]
 
 # What few programs need is imported when it is asked for: most decks are made sooner than all of it is read.
-_HOMES = {"Record": "_batch", "Result": "_batch", "batch": "_batch", "TemplateReport": "_doctor", "Finding": "_findings"}
+_HOMES = {"Record": "_batch", "Result": "_batch", "batch": "_batch", "TemplateReport": "_doctor", "Finding": "_findings",
+          "table": "_tables"}
 
 
 def __getattr__(name: str) -> Any:

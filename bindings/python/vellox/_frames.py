@@ -5,24 +5,60 @@ the texts that pandas itself shows.
 """
 from __future__ import annotations
 
-from typing import Any
+from typing import Any, NamedTuple
 
 _TIMES = ("m", "M")
 
 
+Span = tuple[int, int, int, int]
+
+
+class Grid(NamedTuple):
+    """What a frame shows: a row for each level of the columns' names, then its rows."""
+
+    rows: list[list[Any]]
+    header: int  # rows of it
+    spans: list[Span]  # labels that stand for several rows or columns: from one corner to the other, from 0
+
+
 def read_frame(frame: Any) -> list[list[Any]]:
-    """A row for each level of the columns' names, then the rows. The labels of rows are shown if they have levels."""
+    """The rows of a frame. The labels of rows are shown if they have levels."""
+    return read_grid(frame).rows
+
+
+def is_frame(data: Any) -> bool:
+    """Whether something is a table with named columns, whatever library it is of."""
+    return hasattr(data, "columns") and hasattr(data, "to_numpy") or hasattr(data, "__dataframe__")
+
+
+def read_grid(frame: Any, index: bool | None = None) -> Grid:
+    """What a frame shows, with the labels of rows, without, or with them if they have levels."""
+    if not (hasattr(frame, "columns") and hasattr(frame, "to_numpy")):
+        frame = _exchange(frame)
     header = _read_levels(frame.columns)
     columns = _read_columns(frame, len(header[0]))
-    index: Any = getattr(frame, "index", None)
-    if getattr(index, "nlevels", 1) > 1:
-        corner = ["" if name is None else str(name) for name in index.names]
-        columns = _leave_out_repeats(_read_levels(index)) + columns
-    else:
-        corner = []
+    labels: Any = getattr(frame, "index", None)
+    corner: list[str] = []
+    spans: list[Span] = []
+    has_labels = getattr(labels, "nlevels", 1) > 1 if index is None else index and labels is not None
+    if has_labels:
+        corner = ["" if name is None else str(name) for name in labels.names]
+        levels = _read_levels(labels)
+        columns = _leave_out_repeats(levels) + columns
+        spans = [(first + len(header), level, last + len(header), level) for level, first, last in _find_runs(levels)]
+    spans += [(level, first + len(corner), level, last + len(corner)) for level, first, last in _find_runs(header)]
     rows = [[""] * len(corner) + level for level in _leave_out_repeats(header)]
     rows[-1][: len(corner)] = corner
-    return rows + [list(row) for row in zip(*columns)] if columns else []
+    return Grid(rows + [list(row) for row in zip(*columns)] if columns else [], len(header), spans)
+
+
+def _exchange(frame: Any) -> Any:
+    """Frames that only offer what the exchange protocol has are read by pandas."""
+    try:
+        from pandas.api.interchange import from_dataframe
+    except ImportError as error:
+        raise TypeError(f"pandas is needed to read a {type(frame).__name__}") from error
+    return from_dataframe(frame)
 
 
 def read_dictionary(columns: dict[Any, Any]) -> list[list[Any]]:
@@ -84,6 +120,20 @@ def _leave_out_repeats(levels: list[list[Any]]) -> list[list[Any]]:
                 break
             texts[i] = ""
     return shown
+
+
+def _find_runs(levels: list[list[Any]]) -> list[tuple[int, int, int]]:
+    """For each label that stands for several: its level, and the first and the last that it stands for."""
+    runs = []
+    for number in range(len(levels) - 1):
+        keys = list(zip(*levels[: number + 1]))
+        first = 0
+        for i in range(1, len(keys) + 1):
+            if i == len(keys) or keys[i] != keys[first]:
+                if i - first > 1:
+                    runs.append((number, first, i - 1))
+                first = i
+    return runs
 
 
 def _read_categories(categories: Any, codes: Any) -> list[Any]:

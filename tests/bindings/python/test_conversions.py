@@ -8,11 +8,13 @@ import io
 import pathlib
 import struct
 import uuid
+import zipfile
 
 import numpy as np
 import pandas as pd
 import pytest
 
+import vellox
 import vellox.ppt as ppt
 
 PNG = b"\x89PNG\r\n\x1a\n" + struct.pack(">I4sII", 13, b"IHDR", 30, 20) + b"\x08\x02\0\0\0" + bytes(4) + bytes(4) + b"IDAT"
@@ -389,3 +391,36 @@ def test_what_is_no_image_is_refused():
         ppt.Picture(io.StringIO("text"))
     with pytest.raises(TypeError):
         ppt.Picture(3.5)
+
+
+class Exchanged:
+    """A frame of a library that only offers the protocol."""
+
+    def __init__(self, frame):
+        self.frame = frame
+
+    def __dataframe__(self, nan_as_null=False, allow_copy=True):
+        return self.frame.__dataframe__(nan_as_null, allow_copy)
+
+
+def test_frames_become_tables_with_labels_and_merged_headers(tmp_path):
+    columns = pd.MultiIndex.from_tuples([("p", "x"), ("p", "y"), ("q", "y")])
+    index = pd.MultiIndex.from_product([["a", "b"], [1, 2]], names=["outer", "inner"])
+    frame = pd.DataFrame(np.arange(12).reshape(4, 3), index, columns)
+    table = vellox.table(frame)
+    assert table.HeaderRows == 2 and table.entry(1, 3).HAlign == "center" and table.NCols == 5
+    with vellox.deck(tmp_path / "deck.pptx") as deck:
+        slide = deck.add("Title and Table", {"Title": "x", "Table": table})
+    with zipfile.ZipFile(tmp_path / "deck.pptx") as package:
+        xml = package.read("ppt/slides/slide1.xml").decode()
+    assert xml.count('gridSpan="2"') == 1 and xml.count('rowSpan="2"') == 2
+    assert not deck.Findings and slide["Table"].entry(2, 1).Text == "outer"
+    assert vellox.table(frame, index=False).NCols == 3
+    plain = pd.DataFrame({"n": [1, 2]}, ["r", "s"])
+    shown = vellox.table(plain, index=True)
+    assert [[entry.Text for entry in row.Children] for row in shown.Children] == [["", "n"], ["r", "1"], ["s", "2"]] \
+        or shown.entry(2, 1).Text == "r"
+    assert vellox.table(pd.DataFrame({"n": []})).NCols in (0, 1)
+    assert cells(Exchanged(plain)) == cells(plain)
+    assert vellox.table(Exchanged(plain)).NCols == 1
+    assert vellox.table([[1, 2], [3, 4]]).NCols == 2

@@ -20,7 +20,7 @@ TEST(ModuleTest, RegistersListensAndEndsOnce) {
     HostInitialize_vellox_ppt();
     HostInitialize_vellox_ppt();
     EXPECT_EQ(host.packages, (std::set<std::string>{"vellox", "vellox.ppt"}));
-    EXPECT_EQ(host.classes.size(), 57u);
+    EXPECT_EQ(host.classes.size(), 60u);
     EXPECT_EQ(host.classes.front(), "vellox.ppt.Null");
     EXPECT_EQ(host.classes.at(1), "vellox.ppt.Object");
     EXPECT_EQ(host.log, "keepLoaded ");

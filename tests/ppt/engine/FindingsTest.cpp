@@ -139,7 +139,7 @@ TEST_F(FindingsTest, TextsThatAreNotWritten) {
     close();
     EXPECT_EQ(told(), (Lines{L"noShapeProperties 1 Bare", L"noTextBody 1 Bare", L"charactersDropped 1 Box",
                              L"emptyLinkTarget 1 Box"}));
-    EXPECT_EQ(deck.getFindings()[2].text, L"2 characters that a file can't hold were left out");
+    EXPECT_EQ(deck.getFindings()[2].text, L"characters that a file can't hold were left out: 2");
 }
 
 TEST_F(FindingsTest, WhatComesTooLate) {
@@ -194,7 +194,7 @@ TEST_F(FindingsTest, WhatFindsNoRoom) {
     EXPECT_EQ(told(), (Lines{L"textTooLong 1 Small", L"tableTooLong 1 Table"}));
     const Finding left = deck.getFindings().at(2);
     EXPECT_EQ(left.code + " " + toUtf8(left.shape), "emptyPlaceholder Unused");
-    EXPECT_EQ(deck.getFindings()[0].text, L"the text takes about 570 % of the room that its box has");
+    EXPECT_EQ(deck.getFindings()[0].text, L"the text takes about 820 % of the room that its box has");
 }
 
 // By the name of the error, the first finding that is one is raised, and nothing has happened then.

@@ -154,6 +154,74 @@ TEST_F(OfficePackageTest, MacrosGoWhereTheyMayAndSignaturesNowhere) {
     EXPECT_NE(parts.at("[Content_Types].xml").find("slideshow.macroEnabled"), std::string::npos);
 }
 
+// What is written is checked on its way: the template makes it unsound here, as a fault of ours would.
+TEST_F(OfficePackageTest, WhatIsUnsoundIsTold) {
+    builder.addMaster("Master");
+    Page& layout = builder.addLayout("Own", shape(2, "Words", "<p:ph type='body'/>"));
+    builder.addSlide("Made", layout, shape(7, "Odd", "<p:odd/>"));
+    const auto tell = [&](const Parts& parts, const wchar_t* profile) {
+        useTemplate(parts);
+        deck.setProfile(profile);
+        deck.add(L"Own").replace(L"Words", L"x");
+        EXPECT_TRUE(deck.close());
+        Texts found;
+        for (const Finding& finding : deck.getFindings())
+            if (finding.code == "unsoundPart" || finding.code == "doubtfulPart")
+                found.push_back(std::to_string(finding.slide) + " " + toUtf8(finding.text));
+        return found;
+    };
+    const Parts parts = builder.build();
+    EXPECT_EQ(tell(parts, L"classic"), Texts());
+    const Texts told = tell(parts, L"office");
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0],
+              "1 /ppt/slides/slide1.xml isn't as programs expect it, and some may want to repair the file: "
+              "Odd: p:odd isn't allowed in p:nvPr");
+    // What new slides have of a layout, and other parts that are written.
+    const char kLayout[] = "ppt/slideLayouts/slideLayout1.xml";
+    EXPECT_EQ(
+        tell(withChange(parts, kLayout, "<p:cNvPr id='2'", "<p:cNvPr id='2' odd='1'"), L"office").size(), 2u);
+    EXPECT_EQ(
+        tell(withChange(parts, "ppt/presentation.xml", "<p:sldSz", "<p:sldSz odd='1'"), L"office").size(),
+        2u);
+
+    TemplateBuilder other;
+    other.addMaster("Master");
+    other.addLayout("Own", shape(2, "Words", "<p:ph type='body'/>"));
+    Parts orphan = other.build();
+    orphan.erase("ppt/slideLayouts/_rels/slideLayout1.xml.rels");
+    EXPECT_EQ(
+        tell(orphan, L"office"),
+        Texts{"0 /ppt/slideLayouts/slideLayout1.xml isn't as programs expect it, and some may want to repair "
+              "the file: it leads to no slide master"});
+
+    // A strict presentation leaves what is there.
+    writeFile(output, "last week's");
+    useTemplate(parts);
+    deck.setProfile(L"office");
+    deck.setStrict(true);
+    deck.open();
+    EXPECT_EQ(errorOf([&] { deck.close(); }).substr(0, 24), "ppt_error:notAsAsked sli");
+    EXPECT_EQ(readFile(output), "last week's");
+}
+
+TEST_F(OfficePackageTest, NamesOfDevicesAreTold) {
+    for (const auto& [name, isTold] :
+         {std::pair(L"con.pptx", true), std::pair(L"LPT1.pptx", true), std::pair(L"nul .old.pptx", true),
+          std::pair(L"control-valve.pptx", false), std::pair(L"com.pptx", false),
+          std::pair(L"lpt10.pptx", false)}) {
+        deck = Presentation(folder / name);
+        deck.setProfile(L"office");
+        deck.add(L"Blank");
+        EXPECT_TRUE(deck.close());
+        EXPECT_TRUE(findFaults(folder / name).empty());
+        EXPECT_EQ(deck.getFindings().size(), isTold ? 1u : 0u) << toUtf8(name);
+        if (isTold) {
+            EXPECT_EQ(deck.getFindings()[0].code, "deviceFileName");
+        }
+    }
+}
+
 TEST_F(OfficePackageTest, PropertiesTellOfTheDeck) {
     const std::string core =
         "<c:coreProperties xmlns:c='http://schemas.openxmlformats.org/package/2006/metadata/core-properties' "
@@ -194,6 +262,15 @@ TEST_F(OfficePackageTest, PropertiesTellOfTheDeck) {
     EXPECT_GT(coreText(parts, "dcterms:created"), "2020");
     EXPECT_EQ(textsOf(parts.at("docProps/app.xml"), "Slides"), Texts{"1"});
     EXPECT_TRUE(findAll(parts.at("docProps/app.xml"), "Words").empty());
+    // There may be one such part, however it is named.
+    const std::string usual = "package/2006/relationships/metadata/core-properties";
+    const Parts former =
+        std::exchange(source, withChange(source, "_rels/.rels", usual,
+                                         "officedocument/2006/relationships/metadata/core-properties"));
+    parts = make(L"office", L"Me");
+    EXPECT_EQ(coreText(parts, "dc:creator"), "Me");
+    EXPECT_EQ(parts.at("_rels/.rels").find(usual), std::string::npos);
+    source = former;
     // Without any, or with what can't be read, it has new ones.
     source.at("docProps/core.xml") = "no XML";
     EXPECT_EQ(coreText(make(L"office", L"Me"), "cp:lastModifiedBy"), "Me");

@@ -3,7 +3,6 @@
 #include "vellox/ppt/fill/Tokens.h"
 #include "tests/support/DeckTest.h"
 #include "tests/support/TemplateBuilder.h"
-#include "vellox/ppt/fill/NumberForm.h"
 #include "vellox/ppt/tree/Picture.h"
 
 #include <algorithm>
@@ -15,30 +14,6 @@ using namespace vellox::test;
 namespace {
 
 using Texts = std::vector<std::string>;
-
-TEST(NumberFormTest, NumbersAndDatesComeInTheirForms) {
-    const struct {
-        double number;
-        const wchar_t* form;
-        const wchar_t* text; // null: no such form
-    } rows[] = {
-        {3.14159, L".1f", L"3.1"},    {1234567.5, L",.2f", L"1,234,567.50"},
-        {-0.25, L".0%", L"-25%"},     {12, L"d", L"12"},
-        {1e6, L"+,d", L"+1,000,000"}, {0.00012, L".1e", L"1.2e-04"},
-        {12.5, L"d", nullptr},        {1, L".2x", nullptr},
-        {1, L".999f", nullptr},       {1, L"%d.%m", nullptr},
-        {999, L",", L"999"},          {1e300, L".1g", L"1e+300"},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(formatNumber(row.number, row.form).value_or(L"-"), row.text ? row.text : L"-")
-            << toUtf8(row.form);
-    EXPECT_EQ(formatDate(L"2026-11-21", L"%d.%m.%Y"), L"21.11.2026");
-    EXPECT_EQ(formatDate(L"2026-11-21 09:30:00", L"%a %H:%M %%"), L"Sat 09:30 %");
-    for (const wchar_t* date : {L"", L"week 47", L"2026-13-01", L"2026-02-31"})
-        EXPECT_FALSE(formatDate(date, L"%d")) << toUtf8(date);
-    EXPECT_FALSE(formatDate(L"2026-11-21", L"%Q"));
-    EXPECT_FALSE(formatDate(L"2026-11-21", L"%"));
-}
 
 TEST(TokensTest, OnlyNamesInBracesAreTokens) {
     const struct {

@@ -2,6 +2,7 @@
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/ppt/formats/Alignment.h"
 #include "vellox/ppt/formats/BaseDimension.h"
+#include "vellox/ppt/formats/CellFormats.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/formats/Color.h"
 
@@ -47,6 +48,65 @@ BoundClass describeColor() {
     BoundClass bound = describeAbstract<Color>("Color", "Format", "A colour.");
     bound.properties = {property<Color, &Color::getValue, &Color::setValue>(
         "Value", "\"#\" and six hexadecimal digits, or a name such as \"cornflowerblue\".")};
+    return bound;
+}
+
+/// @{ A facet of a format as a property.
+template <class C, unsigned int kFacet> HostResult getFacet(const C& format) {
+    return ToHost<BaseAttribute<std::wstring>>::convert(format.getFacet(kFacet));
+}
+
+template <class C, unsigned int kFacet> void setFacet(C& format, const hvArray& value) {
+    if (value.getNElements() == 0)
+        format.unsetFacet(kFacet);
+    else
+        format.setFacet(kFacet, value.getString());
+}
+
+template <class C, unsigned int kFacet> BoundProperty facetRow(const char* name, const char* doc) {
+    return {name,
+            SignatureWord("char"),
+            true,
+            AdaptedClassGetter<C, getFacet<C, kFacet>>::get,
+            AdaptedClassSetter<C, setFacet<C, kFacet>>::set,
+            doc};
+}
+/// @}
+
+BoundClass describeBorders() {
+    using C = CellBorders;
+    BoundClass bound = describe<C>("CellBorders", "Format", "The lines around and between cells.");
+    bound.constructors = {make<C>()};
+    bound.properties = {
+        facetRow<C, C::Left>("Left", "The line at the left, such as \"1pt solid black\"."),
+        facetRow<C, C::Right>("Right", "The line at the right."),
+        facetRow<C, C::Top>("Top", "The line above."),
+        facetRow<C, C::Bottom>("Bottom", "The line below."),
+        facetRow<C, C::InsideH>("InsideH", "The lines across, between the cells."),
+        facetRow<C, C::InsideV>("InsideV", "The lines from top to bottom, between the cells.")};
+    return bound;
+}
+
+BoundClass describeMargins() {
+    using C = CellMargins;
+    BoundClass bound =
+        describe<C>("CellMargins", "Format", "The distances of text from the edges of its cell.");
+    bound.constructors = {make<C>()};
+    bound.properties = {facetRow<C, C::Left>("Left", "That from the left: a length."),
+                        facetRow<C, C::Right>("Right", "That from the right."),
+                        facetRow<C, C::Top>("Top", "That from above."),
+                        facetRow<C, C::Bottom>("Bottom", "That from below.")};
+    return bound;
+}
+
+BoundClass describeValues() {
+    using C = ValueFormat;
+    BoundClass bound = describe<C>("ValueFormat", "Format", "How numbers, dates and truth values are shown.");
+    bound.constructors = {make<C>()};
+    bound.properties = {facetRow<C, C::NumberFormat>("NumberFormat", "The form of numbers or dates."),
+                        facetRow<C, C::MissingText>("MissingText", "What is shown for nothing."),
+                        facetRow<C, C::TrueText>("TrueText", "What is shown for true."),
+                        facetRow<C, C::FalseText>("FalseText", "What is shown for false.")};
     return bound;
 }
 
@@ -104,6 +164,9 @@ std::vector<BoundClass> describeFormats() {
         describeText<VAlign>("VAlign", "Format", "Where text is anchored, \"top\" by default.",
                              {property<VAlign, &VAlign::getValue, &VAlign::setValue>(
                                  "Value", "\"top\", \"middle\", \"bottom\", or with \"Centered\" behind.")}),
+        describeBorders(),
+        describeMargins(),
+        describeValues(),
     };
 }
 

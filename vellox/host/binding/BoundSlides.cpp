@@ -5,6 +5,7 @@
 #include "vellox/host/binding/Adapters.h"
 #include "vellox/host/binding/BoundClasses.h"
 #include "vellox/host/binding/ContentArguments.h"
+#include "vellox/host/binding/FormatRows.h"
 #include "vellox/host/services/Utf8.h"
 #include "vellox/ppt/engine/Presentation.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
@@ -59,6 +60,19 @@ Slide addWith(Presentation& deck, Wide layout, const Optional<Contents>& content
 
 Slide copySlide(Presentation& deck, const Slide& slide, const Optional<unsigned int>& index) {
     return index ? deck.copy(slide, toIndex(deck, *index)) : deck.copy(slide);
+}
+
+PPTNode::Children addPages(Presentation& deck, Wide layoutName, Wide name, const Table& table,
+                           const Optional<unsigned int>& rows, const Optional<std::wstring>& height,
+                           const Optional<std::wstring>& title) {
+    PageOptions options;
+    options.rows = rows.value_or(0);
+    options.height = height.value_or(L"");
+    options.title = title.value_or(L"");
+    PPTNode::Children slides;
+    for (const Slide& slide : deck.addPages(layoutName, name, table, options))
+        slides.push_back(boost::make_shared<Slide>(slide));
+    return slides;
 }
 
 void moveSlide(Presentation& deck, const Slide& slide, unsigned int index) {
@@ -207,7 +221,12 @@ BoundClass describePresentation() {
                        "changed once the presentation is open."),
         property<Deck, &Deck::getStrict, &Deck::setStrict>(
             "Strict", "Whether the first finding that is an error is raised."),
+        optionalProperty<Deck, &Deck::getDecimalMark, &Deck::setDecimalMark, &Deck::unsetDecimalMark>(
+            "DecimalMark", "What stands ahead of the fractions of numbers, \".\" unless told otherwise."),
+        optionalProperty<Deck, &Deck::getThousandsMark, &Deck::setThousandsMark, &Deck::unsetThousandsMark>(
+            "ThousandsMark", "What sets off thousands where a form asks for that."),
     };
+    append(bound.properties, makeValueRows<Deck>());
     append(bound.properties, makePageFieldRows<Deck>());
     bound.methods = {
         Method<Deck, bool()>::row<&Deck::open>("open", {},
@@ -245,6 +264,13 @@ BoundClass describePresentation() {
          Method<Deck, Slide(const Slide&, const Optional<unsigned int>&)>::row<&copySlide>(
              "copy", {"slide", keyword("index")},
              "Adds a copy of a slide at the end, or at an index, which counts from 1."),
+         Method<Deck, PPTNode::Children(Wide, Wide, const Table&, const Optional<unsigned int>&,
+                                        const Optional<std::wstring>&, const Optional<std::wstring>&)>::
+             row<&addPages>(
+                 "addPages",
+                 {"layout", "name", "table", keyword("rows"), keyword("height"), keyword("title")},
+                 "Adds slides of a layout with parts of a long table in the place of the shape of a "
+                 "name: so many rows on each, or as many as find room. Returns the slides."),
          Method<Deck, void(const Slide&, unsigned int)>::row<&moveSlide>(
              "move", {"slide", "index"}, "Puts a slide in the place of an index, which counts from 1."),
          Method<Deck, void(const Slide&)>::row<&Deck::remove>("remove", {"slide"}, "Takes a slide out."),

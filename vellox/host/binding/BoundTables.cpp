@@ -57,6 +57,13 @@ boost::shared_ptr<TableEntry> getEntry(Table& table, unsigned int r, unsigned in
     raise(ppt_error::badColSubscript(num2str(c), num2str(table.row(r - 1)->getNChildren())));
 }
 
+void mergeCells(Table& table, unsigned int row, unsigned int column, unsigned int lastRow,
+                unsigned int lastColumn) {
+    if (row == 0 || column == 0 || lastRow == 0 || lastColumn == 0)
+        raise(ppt_error::positiveSubscript());
+    table.merge(row - 1, column - 1, lastRow - 1, lastColumn - 1);
+}
+
 // The setter of a truth value, picked from the overloads that refuse texts.
 template <auto kGet, void (Table::*kSet)(bool), auto kUnset>
 BoundProperty partRow(const char* name, const char* doc) {
@@ -68,7 +75,7 @@ BoundClass describeTable() {
     bound.constructors = {make<Table>(),
                           make<Table, unsigned int>({"nCols"}),
                           {{{"content", SignatureWord("any")}}, makeTableOfContent}};
-    bound.properties = makeFontRows<Table>();
+    bound.properties = makeCellRows<Table>();
     append(bound.properties,
            {optionalProperty<Table, &Table::getStyleName, &Table::setStyleName, &Table::unsetStyleName>(
                 "StyleName", "The name of a table style of the template, or of the office programs."),
@@ -84,6 +91,10 @@ BoundClass describeTable() {
                 "BandedRows", "Whether the style shows rows in turns."),
             partRow<&Table::getBandedColumns, &Table::setBandedColumns, &Table::unsetBandedColumns>(
                 "BandedColumns", "Whether the style shows columns in turns."),
+            optionalProperty<Table, &Table::getHeaderRows, &Table::setHeaderRows, &Table::unsetHeaderRows>(
+                "HeaderRows", "How many rows the header has, 1 unless told otherwise."),
+            optionalProperty<Table, &Table::getRowHeight, &Table::setRowHeight, &Table::unsetRowHeight>(
+                "RowHeight", "The least height of rows that have none of their own: a length."),
             BoundProperty{"ColSpecs", SignatureWord("list of ColSpec"), false,
                           AdaptedClassGetter<Table, getColSpecs>::get,
                           AdaptedClassSetter<Table, setColSpecs>::set,
@@ -95,6 +106,9 @@ BoundClass describeTable() {
         makeReplaceRow<Table, Table>("table"),
         Method<Table, boost::shared_ptr<TableEntry>(unsigned int, unsigned int)>::row<&getEntry>(
             "entry", {"row", "column"}, "The entry at a row and a column, which count from 1."),
+        Method<Table, void(unsigned int, unsigned int, unsigned int, unsigned int)>::row<&mergeCells>(
+            "merge", {"row", "column", "lastRow", "lastColumn"},
+            "Makes one cell of those from one corner to another, which count from 1."),
         Method<Table, boost::shared_ptr<TableRow>(unsigned int)>::row<&getRow>(
             "row", {"row"}, "The row of a number, which counts from 1."),
     };
@@ -104,8 +118,10 @@ BoundClass describeTable() {
 BoundClass describeTableRow() {
     BoundClass bound = describe<TableRow>("TableRow", "Element", "A row of a table.");
     bound.constructors = {make<TableRow>()};
-    bound.properties = makeFontRows<TableRow>();
-    bound.properties.push_back(makeBackgroundRow<TableRow>());
+    bound.properties = makeCellRows<TableRow>();
+    bound.properties.push_back(
+        optionalProperty<TableRow, &TableRow::getHeight, &TableRow::setHeight, &TableRow::unsetHeight>(
+            "Height", "The least height: a length."));
     bound.methods = {Method<TableRow, TableEntry(const TableEntry&)>::row<&TableRow::append>(
         "append", {"entry"}, "Appends this very entry, which must not stand anywhere yet.")};
     return bound;
@@ -115,11 +131,9 @@ BoundClass describeTableEntry() {
     BoundClass bound = describe<TableEntry>("TableEntry", "Element", "One cell of a table, with paragraphs.");
     bound.constructors = {make<TableEntry>(), make<TableEntry, std::wstring>({"text"}),
                           make<TableEntry, Paragraph>({"paragraph"})};
-    bound.properties = makeFontRows<TableEntry>();
-    append(bound.properties,
-           {makeBackgroundRow<TableEntry>(), makeHAlignRow<TableEntry>(), makeVAlignRow<TableEntry>(),
-            property<TableEntry, &TableEntry::getText, &TableEntry::setText>(
-                "Text", "What the cell shows, as text. A cell of the template's keeps its look.")});
+    bound.properties = makeCellRows<TableEntry>();
+    bound.properties.push_back(property<TableEntry, &TableEntry::getText, &TableEntry::setText>(
+        "Text", "What the cell shows, as text. A cell of the template's keeps its look."));
     bound.methods = {
         Method<TableEntry, Paragraph(const Paragraph&)>::row<&TableEntry::append>(
             "append", {"paragraph"}, "Appends this very paragraph, which must not stand anywhere yet."),
@@ -132,11 +146,10 @@ BoundClass describeTableEntry() {
 BoundClass describeColSpec() {
     BoundClass bound = describe<ColSpec>("ColSpec", "Element", "Width and formats of a table's column.");
     bound.constructors = {make<ColSpec>(), make<ColSpec, std::wstring>({"width"})};
-    bound.properties = makeCharacterRows<ColSpec>();
-    append(bound.properties,
-           {formatProperty<ColSpec, &ColSpec::getWidth, &ColWidth::getValue, &ColSpec::setWidth,
-                           &ColSpec::unsetWidth>("Width", "A length."),
-            makeBackgroundRow<ColSpec>(), makeHAlignRow<ColSpec>(), makeVAlignRow<ColSpec>()});
+    bound.properties = makeCellRows<ColSpec>();
+    bound.properties.push_back(
+        formatProperty<ColSpec, &ColSpec::getWidth, &ColWidth::getValue, &ColSpec::setWidth,
+                       &ColSpec::unsetWidth>("Width", "A length."));
     return bound;
 }
 

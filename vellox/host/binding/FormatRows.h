@@ -112,6 +112,60 @@ template <class C> BoundProperty makeVAlignRow() {
         "VAlign", "Where text is anchored: \"top\", \"middle\", \"bottom\", or with \"Centered\" behind.");
 }
 
+/// How values are shown: what a presentation, a table, its rows, columns and entries have.
+template <class C> std::vector<BoundProperty> makeValueRows() {
+    return {
+        optionalProperty<C, &C::getNumberFormat, &C::setNumberFormat, &C::unsetNumberFormat>(
+            "NumberFormat",
+            "The form of numbers, such as \",.1f\" or \"{:.0%} of all\", or of dates, such as "
+            "\"%d.%m.%Y\"."),
+        optionalProperty<C, &C::getMissingText, &C::setMissingText, &C::unsetMissingText>(
+            "MissingText", "What cells show that hold nothing, or a number that is none."),
+        optionalProperty<C, &C::getTrueText, &C::setTrueText, &C::unsetTrueText>("TrueText",
+                                                                                 "What cells show for true."),
+        optionalProperty<C, &C::getFalseText, &C::setFalseText, &C::unsetFalseText>(
+            "FalseText", "What cells show for false."),
+    };
+}
+
+/// Lines and distances of cells.
+template <class C> std::vector<BoundProperty> makeBorderRows() {
+    return {
+        optionalProperty<C, &C::getBorder, &C::setBorder, &C::unsetBorder>(
+            "Border", "The four lines around: a width, a kind and a colour, such as \"1.5pt dash #17384a\"; "
+                      "\"none\" for no line."),
+        optionalProperty<C, &C::getBorderLeft, &C::setBorderLeft, &C::unsetBorderLeft>(
+            "BorderLeft", "The line at the left."),
+        optionalProperty<C, &C::getBorderRight, &C::setBorderRight, &C::unsetBorderRight>(
+            "BorderRight", "The line at the right."),
+        optionalProperty<C, &C::getBorderTop, &C::setBorderTop, &C::unsetBorderTop>("BorderTop",
+                                                                                    "The line above."),
+        optionalProperty<C, &C::getBorderBottom, &C::setBorderBottom, &C::unsetBorderBottom>(
+            "BorderBottom", "The line below."),
+        optionalProperty<C, &C::getBorderInsideH, &C::setBorderInsideH, &C::unsetBorderInsideH>(
+            "BorderInsideH", "The lines across, between the cells."),
+        optionalProperty<C, &C::getBorderInsideV, &C::setBorderInsideV, &C::unsetBorderInsideV>(
+            "BorderInsideV", "The lines from top to bottom, between the cells."),
+        optionalProperty<C, &C::getMarginLeft, &C::setMarginLeft, &C::unsetMarginLeft>(
+            "MarginLeft", "The distance of text from the left edge: a length."),
+        optionalProperty<C, &C::getMarginRight, &C::setMarginRight, &C::unsetMarginRight>(
+            "MarginRight", "The distance of text from the right edge: a length."),
+        optionalProperty<C, &C::getMarginTop, &C::setMarginTop, &C::unsetMarginTop>(
+            "MarginTop", "The distance of text from the upper edge: a length."),
+        optionalProperty<C, &C::getMarginBottom, &C::setMarginBottom, &C::unsetMarginBottom>(
+            "MarginBottom", "The distance of text from the lower edge: a length."),
+    };
+}
+
+/// How cells look: what a table, its rows, columns and entries have.
+template <class C> std::vector<BoundProperty> makeCellRows() {
+    std::vector<BoundProperty> rows = makeCharacterRows<C>();
+    append(rows, {makeBackgroundRow<C>(), makeHAlignRow<C>(), makeVAlignRow<C>()});
+    append(rows, makeBorderRows<C>());
+    append(rows, makeValueRows<C>());
+    return rows;
+}
+
 } // namespace vellox::ppt::hostbind
 
 #endif

@@ -63,6 +63,7 @@ PresentationImpl::PresentationImpl(const PresentationImpl& other)
       state_(other.state_),
       compression_(other.compression_),
       properties_(other.properties_),
+      values_(other.values_.copy()),
       isStrict_(other.isStrict_),
       report_(boost::make_shared<Report>(*other.report_)) {
     announceCreated(*this);
@@ -144,6 +145,8 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
         layout = masterName ? model_->findLayout(layoutName, *masterName) : model_->findLayout(layoutName);
     if (!layout)
         refuseLayout(layoutName, masterName);
+    if (layout->master.expired())
+        report(ppt_finding::unsoundPart(layout->partName, L"it leads to no slide master"), *this);
     const boost::shared_ptr<TemplateSlide> record = model_->createSlide(layout);
     auto* slide = new SlideImpl(record);
     const Child handle = slide->makeInterface();

@@ -20,6 +20,7 @@
 #include "vellox/host/values/HvContent.h"
 #include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/messages/Finding.h"
+#include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/tree/PageFields.h"
 #include "vellox/ppt/tree/Paragraph.h"
@@ -28,6 +29,16 @@
 namespace vellox::ppt {
 
 class PresentationImpl;
+
+/// How a long table is spread over slides.
+struct PageOptions {
+    unsigned int rows = 0; ///< on each slide, the header's not counted; 0 for as many as find room
+    std::wstring
+        height; ///< a length: the room for the table; empty for that of its place. Counts without `rows`.
+    /// The title of the slides, empty to leave that open. "{page}" and "{pages}" in it are numbers; where neither is,
+    /// " (2/3)" comes behind it if there are several.
+    std::wstring title;
+};
 
 /// A presentation that is being made from a template. A handle: copies share one presentation.
 ///
@@ -92,6 +103,15 @@ public:
     Slide add(const std::wstring& layoutName, const std::wstring& masterName, const Slide& before);
     /// @}
 
+    /// Adds slides of a layout at the end, as many as a table needs, and puts a part of it in each in the place of the
+    /// shape of a name: the rows of its header, and as many of the others as go there. How many find room is estimated.
+    /// A total row is on the last one; what is merged and goes on on another slide is shown there again.
+    /// @return the slides; none for a table without rows
+    /// @throws invalidPropertyValue for a height that is no length, or not above 0
+    /// @throws what add() and Slide::fill() do; then no slide was added
+    std::vector<Slide> addPages(const std::wstring& layoutName, const std::wstring& name, const Table& table,
+                                const PageOptions& options = PageOptions());
+
     /// @{ Adds a slide with all that another one has, behind the last slide or before the one at an index from 0: what
     /// the template has on it and what came since, notes and transition among it. Pictures are shared, charts with
     /// their workbooks are copied; links to the slide lead to the copy where they stand on that. Comments stay behind.
@@ -123,7 +143,7 @@ public:
     /// tables and notes. What a token becomes looks as the text does that it begins in.
     ///
     /// - "{name}": the value of the name. Of a record, "{flow.mean}".
-    /// - "{mean:.1f}": a number in a form: [,][.digits][f, e, g, d or %]; a date written as 2026-11-21, with or without
+    /// - "{mean:.1f}": a number in a form: [+][,][.digits][f, e, g, d or %]; a date written as 2026-11-21, with or without
     ///   a time, in one such as "%d.%m.%Y".
     /// - A token that is all of a paragraph, and whose value is a list: a paragraph for each item, lists in it a level
     ///   deeper.
@@ -170,6 +190,7 @@ public:
     /// | unknownImageType | warning | the file of a picture is of no known kind |
     /// | invalidTableStyle | error | the template has no table style of the name |
     /// | emptyTable | error | a table has no rows |
+    /// | coveredCell | warning | a cell that a merged one covers holds something |
     /// | noTextBody | error | text was given to a shape without a text body |
     /// | noShapeProperties | error | a fill was given to a shape without properties |
     /// | emptyLinkTarget | error | the target of a link is empty or blank |
@@ -180,6 +201,9 @@ public:
     /// | cannotChangeOutputPath, cannotChangeTemplatePath | warning | a path of an open presentation was to change |
     /// | macrosLeftOut | warning | the template has macros, and a file with the extension of the output can't have any |
     /// | signaturesRemoved | warning | the template is signed, and what was signed isn't the deck |
+    /// | deviceFileName | warning | the output is called as a device of Windows |
+    /// | unsoundPart | error | a part that was written, or a layout of a new slide, isn't as the format has it |
+    /// | doubtfulPart | warning | a part that was written has something that programs read in different ways |
     /// | cannotChangeProfile | warning | the profile of an open presentation was to change |
     /// | emptyPlaceholder | info | a placeholder of a new slide got nothing |
     /// | textTooLong | warning | a text takes more room than its box has, by an estimate |
@@ -224,6 +248,34 @@ public:
     void setSubject(const std::wstring& subject);
     const std::wstring getKeywords() const;
     void setKeywords(const std::wstring& keywords);
+    /// @}
+
+    /// @{ How values are shown in all tables of the deck, below their headers: see NumberFormat and the others of tables,
+    /// columns and entries, which come first.
+    /// @throws invalidPropertyValue for what is no form
+    BaseAttribute<std::wstring> getNumberFormat() const;
+    void setNumberFormat(const std::wstring& form);
+    void unsetNumberFormat();
+    BaseAttribute<std::wstring> getMissingText() const;
+    void setMissingText(const std::wstring& text);
+    void unsetMissingText();
+    BaseAttribute<std::wstring> getTrueText() const;
+    void setTrueText(const std::wstring& text);
+    void unsetTrueText();
+    BaseAttribute<std::wstring> getFalseText() const;
+    void setFalseText(const std::wstring& text);
+    void unsetFalseText();
+    /// @}
+    /// @{ What stands between the whole and the fraction of numbers, "." unless told otherwise, and what sets off
+    /// thousands where a form asks for that: "," or, if that is the decimal mark, ".". They count for all that is given as
+    /// a number, in tables, texts and tokens.
+    /// @throws invalidPropertyValue for what isn't one character, or a digit; thousands may be set off by nothing
+    BaseAttribute<std::wstring> getDecimalMark() const;
+    void setDecimalMark(const std::wstring& mark);
+    void unsetDecimalMark();
+    BaseAttribute<std::wstring> getThousandsMark() const;
+    void setThousandsMark(const std::wstring& mark);
+    void unsetThousandsMark();
     /// @}
 
     /// @{ By which rules slides are made of the template: "classic", as vellox always has, or "office", as the

@@ -15,6 +15,7 @@
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/object/PPTNodeImpl.h"
 #include "vellox/ppt/writers/DocumentProperties.h"
+#include "vellox/ppt/writers/ValueTexts.h"
 
 namespace vellox::ppt {
 
@@ -98,11 +99,16 @@ public:
     void setCompression(opc::Compression compression) { compression_ = compression; }
     const DocumentProperties& getProperties() const { return properties_; }
     DocumentProperties& getProperties() { return properties_; }
+    DeckValues& getValues() { return values_; }
+    const DeckValues& getValues() const { return values_; }
     const std::wstring& getProfile() const { return profile_.name; }
     void setProfile(const std::wstring& name);
     const Presentation::Names& getMasterNames();
     const Presentation::Names& getLayoutNames(const std::wstring& masterName);
     const Presentation::NamePairs& getTableStyleNames();
+
+    /// In EMU; 0 as long as nothing of the template is known.
+    double getSlideHeight() const;
 
     std::vector<Finding> getFindings() const { return findings_.get(getChildren()); }
     bool isStrict() const { return isStrict_; }
@@ -139,6 +145,7 @@ private:
     PresentationState state_ = PresentationState::Created;
     opc::Compression compression_ = opc::Compression::Normal;
     DocumentProperties properties_;
+    DeckValues values_;
     bool isStrict_ = false;
     bool isBusy_ = false; // opening or closing: a listener that asks for either gets false
     boost::shared_ptr<Report> report_;

@@ -65,7 +65,8 @@ bool PresentationImpl::open() {
         return false;
     const Busy busy(this, isBusy_);
     const std::wstring wanted = report_->outputPath.empty() ? kDefaultOutput : report_->outputPath;
-    FileUtils::refuseFileName(profile_.rules->judgeFileName(wanted), wanted);
+    const FileNameFault fault = profile_.rules->judgeFileName(wanted);
+    FileUtils::refuseFileName(fault, wanted);
     const std::wstring templateFile = ensureExtension(report_->templatePath);
     const std::wstring outputFile = ensureExtension(wanted);
     if (!template_ && profile_.rules->appearsWhen() == Appearance::AtClose)
@@ -78,6 +79,8 @@ bool PresentationImpl::open() {
     }
     setOutputPath(outputFile);
     placeOutput(outputFile);
+    if (fault == FileNameFault::DeviceName)
+        report(ppt_finding::deviceFileName(FileUtils::extractFilename(outputFile)), *this);
     return true;
 }
 
@@ -215,16 +218,19 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
         return;
     }
     PPTWriter writer(model_, package);
+    if (template_ && profile_.rules->checksDocuments())
+        writer.setCheck(template_->getCheck());
+    writer.setDeckValues(values_);
     FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
     writer.setPageFields(pageFields);
     writer.prepare(slides);
     for (const Child& slide : slides)
         writer.write(*slide);
+    writer.setReporter(this);
     writer.writeAttachments();
     state_ = PresentationState::Closed;
     attempt.keep();
-    writer.setReporter(this);
     writer.finish(properties_);
 }
 

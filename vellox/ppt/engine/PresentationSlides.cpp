@@ -1,5 +1,6 @@
 // The slides of a presentation as a whole: copying, moving, removing, and their notes.
 
+#include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/Exception.h"
@@ -142,6 +143,10 @@ void Slide::setNotes(const std::wstring& text) {
     record->notes = changeNotes(record->notes.get(), text);
     if (const std::size_t dropped = opc::XercesString(text).getDropped())
         report(ppt_finding::charactersDropped(std::to_wstring(dropped)), *pimpl());
+}
+
+double PresentationImpl::getSlideHeight() const {
+    return model_ ? str2double(model_->getTemplate().slideHeight) : 0;
 }
 
 } // namespace vellox::ppt

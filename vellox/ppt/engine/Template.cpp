@@ -1,5 +1,6 @@
 #include "vellox/ppt/engine/Template.h"
 
+#include "vellox/check/MarkupCheck.h"
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/host/services/FreshFile.h"
 #include "vellox/opc/Exception.h"
@@ -29,7 +30,8 @@ constexpr std::size_t kMaxTemplateBytes = std::size_t(2) << 30; // to be held in
 } // namespace
 
 TemplateImpl::TemplateImpl(const std::wstring& path, const Profile& profile)
-    : path_(normalizeAndCheck(ensureExtension(normalizeAndCheck(path)))) {
+    : path_(normalizeAndCheck(ensureExtension(normalizeAndCheck(path)))),
+      check_(boost::make_shared<check::MarkupCheck>()) {
     translate<fsys::FsysExceptionBase, ppt_error::cannotOpenTemplate>(path_, [&] {
         bytes_ = boost::make_shared<std::string>(fsys::readFile(fsys::Path(path_), kMaxTemplateBytes));
     });

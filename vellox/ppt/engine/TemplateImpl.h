@@ -12,6 +12,10 @@
 #include "vellox/ppt/engine/Template.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 
+namespace vellox::check {
+class MarkupCheck;
+}
+
 namespace vellox::ppt {
 
 class PresentationModel;
@@ -28,6 +32,8 @@ public:
     const std::wstring& getPath() const { return path_; }
     /// The whole file.
     const boost::shared_ptr<const std::string>& getBytes() const { return bytes_; }
+    /// Checks what decks are made of. What it learns of one serves the next.
+    const boost::shared_ptr<check::MarkupCheck>& getCheck() const { return check_; }
     /// The template as one deck of a profile has it. With the first of another profile it is read once more.
     /// @throws invalidTemplate, partDOMBuildError
     boost::shared_ptr<PresentationModel> makeModel(const Profile& profile);
@@ -40,6 +46,7 @@ private:
 
     std::wstring path_;
     boost::shared_ptr<const std::string> bytes_;
+    boost::shared_ptr<check::MarkupCheck> check_;
     std::map<std::wstring, Contents> readings_; // by the names of profiles
 };
 

@@ -167,7 +167,7 @@ using Filled = std::vector<std::unique_ptr<FilledSlide>>;
 
 unsigned int fillSlides(const PPTNode::Children& slides, PresentationImpl* deck, const Contents& contents,
                         bool strict, const PPTNodeImpl& about) {
-    TokenValues values(contents);
+    TokenValues values(contents, deck ? deck->getValues().getMarks() : NumberMarks());
     Filled filled;
     bool hasReports = false;
     unsigned int count = 0;

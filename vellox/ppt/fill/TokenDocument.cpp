@@ -193,14 +193,14 @@ struct Item {
 };
 
 // @return false if an item is no text
-bool collectItems(const HvList& list, const std::wstring& form, unsigned int level,
+bool collectItems(const HvList& list, const std::wstring& form, const NumberMarks& marks, unsigned int level,
                   std::vector<Item>& items) {
     for (unsigned int i = 0; i < list.getSize(); ++i) {
         const HvContentPtr item = list.getItem(i);
         if (const auto inner = ListContent::getValue(item)) {
-            if (level >= 1000 || !collectItems(*inner, form, level + 1, items))
+            if (level >= 1000 || !collectItems(*inner, form, marks, level + 1, items))
                 return false;
-        } else if (const auto text = toText(item, form)) {
+        } else if (const auto text = toText(item, form, marks)) {
             items.push_back({*text, level});
         } else {
             return false;
@@ -221,7 +221,7 @@ void setLevel(DOMElement& paragraph, unsigned int level) {
 
 void TokenDocument::fillList(DOMElement& paragraph, const Token& token, const HvList& list) {
     std::vector<Item> items;
-    if (!collectItems(list, token.form, 0, items))
+    if (!collectItems(list, token.form, values_.getMarks(), 0, items))
         return report(Fault::Refused, token);
     ++count_;
     const bool isOnly = findBelow(*static_cast<DOMElement*>(paragraph.getParentNode()), xml::kAP).size() == 1;
@@ -247,7 +247,7 @@ void TokenDocument::fillRuns(DOMElement& paragraph, const std::vector<Token>& to
             continue;
         }
         const Content* value = values_.find(token, scope);
-        const auto text = value ? toText(value->get(), token.form) : std::nullopt;
+        const auto text = value ? toText(value->get(), token.form, values_.getMarks()) : std::nullopt;
         if (!value)
             report(Fault::NoValue, token);
         else if (!text)

@@ -2,14 +2,11 @@
 
 #include "vellox/host/services/Utf8.h"
 #include "vellox/host/values/HvViews.h"
-#include "vellox/ppt/fill/NumberForm.h"
+#include "vellox/ppt/formats/NumberForm.h"
 #include "vellox/ppt/rules/OfficeRules.h"
 #include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
-
-#include <charconv>
-#include <cmath>
 
 namespace vellox::ppt {
 
@@ -52,7 +49,7 @@ std::optional<std::vector<Contents>> toRecords(const HvTable& table) {
 
 } // namespace
 
-TokenValues::TokenValues(const Contents& values) : values_(values) {
+TokenValues::TokenValues(const Contents& values, const NumberMarks& marks) : values_(values), marks_(marks) {
     for (const Contents::Row& row : values_.getRows())
         byName_.emplace(row.first, &row.second);
 }
@@ -108,9 +105,12 @@ std::wstring showShortest(const TextImpl::Given& given) {
     return rules.textOf({std::wstring(), given}).front();
 }
 
-std::optional<std::wstring> showNumber(const TextImpl::Given& given, double number,
-                                       const std::wstring& form) {
-    return form.empty() ? showShortest(given) : formatNumber(number, form);
+std::optional<std::wstring> showNumber(const TextImpl::Given& given, double number, const std::wstring& form,
+                                       const NumberMarks& marks) {
+    if (form.empty())
+        return marks.mark(showShortest(given));
+    const std::optional<NumberForm> parsed = NumberForm::parse(form);
+    return parsed ? parsed->show(number, marks) : std::nullopt;
 }
 
 std::optional<std::wstring> showObject(const HvContentPtr& content) {
@@ -120,38 +120,31 @@ std::optional<std::wstring> showObject(const HvContentPtr& content) {
     return paragraph ? std::optional(readRuns(*implOf<PPTNodeImpl>(*paragraph))) : std::nullopt;
 }
 
-/// The number that a text is from its beginning to its end.
-std::optional<double> readNumber(const std::wstring& text) {
-    const std::string bytes = toUtf8(text);
-    double number = 0;
-    const auto end = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
-    const bool isWhole = end.ec == std::errc() && end.ptr == bytes.data() + bytes.size();
-    return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
-}
-
 /// Tables in files have numbers as texts, and these may have the form of a number, too.
-std::optional<std::wstring> showText(const std::wstring& text, const std::wstring& form) {
+std::optional<std::wstring> showText(const std::wstring& text, const std::wstring& form,
+                                     const NumberMarks& marks) {
     if (form.empty())
         return text;
-    const std::optional<double> number = readNumber(text);
-    return number ? formatNumber(*number, form) : formatDate(text, form);
+    const std::optional<NumberForm> parsed = NumberForm::parse(form);
+    return parsed ? parsed->show(text, marks) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstring& form) {
+std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstring& form,
+                                   const NumberMarks& marks) {
     if (!content)
         return std::wstring();
     switch (content->getContentType()) {
     case HvContent::Integer:
         return showNumber(static_cast<long long>(IntegerContent::getValue(content)),
-                          IntegerContent::getValue(content), form);
+                          IntegerContent::getValue(content), form, marks);
     case HvContent::Double:
-        return showNumber(DoubleContent::getValue(content), DoubleContent::getValue(content), form);
+        return showNumber(DoubleContent::getValue(content), DoubleContent::getValue(content), form, marks);
     case HvContent::Boolean:
         return form.empty() ? std::optional(showShortest(BooleanContent::getValue(content))) : std::nullopt;
     case HvContent::String:
-        return showText(StringContent::getValue(content), form);
+        return showText(StringContent::getValue(content), form, marks);
     case HvContent::Object:
         return form.empty() ? showObject(content) : std::nullopt;
     case HvContent::List:

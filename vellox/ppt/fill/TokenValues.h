@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "vellox/ppt/fill/Tokens.h"
+#include "vellox/ppt/formats/NumberForm.h"
 #include "vellox/ppt/object/Content.h"
 
 namespace vellox::ppt {
@@ -23,7 +24,9 @@ struct TokenScope {
 
 class TokenValues {
 public:
-    explicit TokenValues(const Contents& values);
+    explicit TokenValues(const Contents& values, const NumberMarks& marks = {});
+
+    const NumberMarks& getMarks() const { return marks_; }
 
     /// The value of a token, which counts as used then.
     /// @param scope null outside of what is repeated
@@ -37,6 +40,7 @@ public:
 
 private:
     const Contents& values_;
+    const NumberMarks marks_;
     std::map<std::wstring, const Content*> byName_;
     std::map<std::wstring, std::optional<std::vector<Contents>>>
         records_; // by name, once they were asked for
@@ -45,7 +49,8 @@ private:
 
 /// A value as text.
 /// @return nothing for what is no text and has none, or can't have the form
-std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstring& form);
+std::optional<std::wstring> toText(const HvContentPtr& content, const std::wstring& form,
+                                   const NumberMarks& marks = {});
 
 } // namespace vellox::ppt
 

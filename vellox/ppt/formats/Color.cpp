@@ -14,16 +14,6 @@
 
 namespace vellox::ppt {
 
-namespace {
-
-// Of a text in lower case: "#" and six hexadecimal digits.
-bool isHex(const std::wstring& text) {
-    return text.size() == 7 && text[0] == L'#' &&
-           text.find_first_not_of(L"0123456789abcdef", 1) == std::wstring::npos;
-}
-
-} // namespace
-
 // ColorImpl
 
 class ColorImpl : public FormatImpl {
@@ -35,13 +25,11 @@ public:
 
     const std::wstring& getValue() const { return value_; }
     void setValue(const std::wstring& value);
-    /// Six upper-case hexadecimal digits.
-    std::wstring toHex() const;
 
 protected:
     /// Makes this the colour of a fill.
     void writeTo(PropertyElement& fill) const {
-        fill.addChild(xml::kASrgbClr).setAttribute(xml::kVal, toHex());
+        fill.addChild(xml::kASrgbClr).setAttribute(xml::kVal, toHex(value_));
     }
 
 private:
@@ -50,16 +38,9 @@ private:
 
 void ColorImpl::setValue(const std::wstring& value) {
     const std::wstring trimmed = toLowerString(boost::algorithm::trim_copy(value));
-    if (!isHex(trimmed) && !findColor(trimmed))
+    if (!isColor(trimmed))
         raise(ppt_error::invalidPropertyValue(value));
     value_ = trimmed;
-}
-
-std::wstring ColorImpl::toHex() const {
-    if (value_[0] == L'#')
-        return toUpperString(value_.substr(1));
-    const wchar_t* color = findColor(value_);
-    return color ? color + 1 : L"FFFFFF";
 }
 
 Color::Color() : Color(new ColorImpl(L"black")) {}

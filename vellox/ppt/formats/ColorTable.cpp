@@ -1,5 +1,7 @@
 #include "vellox/ppt/formats/ColorTable.h"
 
+#include "vellox/foundation/Conversions.h"
+
 #include <unordered_map>
 
 namespace vellox::ppt {
@@ -160,6 +162,19 @@ const wchar_t* findColor(const std::wstring& name) {
     // clang-format on
     const auto found = colors.find(name);
     return found == colors.end() ? nullptr : found->second;
+}
+
+bool isColor(const std::wstring& text) {
+    const bool isHex = text.size() == 7 && text[0] == L'#' &&
+                       text.find_first_not_of(L"0123456789abcdef", 1) == std::wstring::npos;
+    return isHex || findColor(text);
+}
+
+std::wstring toHex(const std::wstring& color) {
+    if (color[0] == L'#')
+        return toUpperString(color.substr(1));
+    const wchar_t* found = findColor(color);
+    return found ? found + 1 : L"FFFFFF";
 }
 
 } // namespace vellox::ppt

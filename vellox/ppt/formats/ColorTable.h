@@ -12,6 +12,11 @@ namespace vellox::ppt {
 /// the table.
 const wchar_t* findColor(const std::wstring& name);
 
+/// Whether a text in lower case is "#" and six hexadecimal digits, or a name in the table.
+bool isColor(const std::wstring& text);
+/// Six upper-case hexadecimal digits for such a text.
+std::wstring toHex(const std::wstring& color);
+
 } // namespace vellox::ppt
 
 #endif

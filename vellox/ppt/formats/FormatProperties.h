@@ -3,12 +3,11 @@
 /// unsetBold(). Which class has which is said by the bases that it lists:
 ///
 ///                            box  paragraph  text  table  row  entry  column
-///     CharacterProperties     x       x       x                          x
+///     CharacterProperties     x       x       x     x       x     x     x
 ///     ParagraphProperties     x       x
-///     FontProperties         (in CharacterProperties) x     x     x     (in)
-///     BackgroundColor         x                              x     x     x
-///     HAlign                          x                            x     x
-///     VAlign                  x                                    x     x
+///     BackgroundColor         x                     x       x     x     x
+///     HAlign                          x             x       x     x     x
+///     VAlign                  x                     x       x     x     x
 ///     Width                                                              x
 ///
 /// A getter gives an empty pointer if the element has no such format of its own; else a handle on the format
@@ -318,13 +317,13 @@ private:
     }
 };
 
-/// What every element that holds text has.
+/// The fonts, their size and colour.
 template <class Owner>
 class FontProperties : public FontColorProperty<Owner>,
                        public FontFamilyProperty<Owner>,
                        public FontSizeProperty<Owner> {};
 
-/// What text boxes, paragraphs, texts and columns have besides.
+/// What every element that holds text has.
 template <class Owner>
 class CharacterProperties : public FontProperties<Owner>,
                             public BoldProperty<Owner>,

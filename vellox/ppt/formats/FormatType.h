@@ -30,11 +30,14 @@ enum class FormatType : int {
     LeftIndent = 18,
     FirstLineIndent = 19,
     RightToLeft = 20,
-    Language = 21
+    Language = 21,
+    CellBorders = 22,
+    CellMargins = 23,
+    ValueFormat = 24
 };
 
 /// One more than the number of the last.
-inline constexpr unsigned int kFormatTypeCount = 22;
+inline constexpr unsigned int kFormatTypeCount = 25;
 
 } // namespace vellox::ppt
 

@@ -9,6 +9,9 @@ namespace vellox::ppt::relationship {
 
 inline constexpr wchar_t kCoreProperties[] =
     L"http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties";
+// As some programs spell the same.
+inline constexpr wchar_t kOtherCoreProperties[] =
+    L"http://schemas.openxmlformats.org/officedocument/2006/relationships/metadata/core-properties";
 inline constexpr wchar_t kExtendedProperties[] =
     L"http://schemas.openxmlformats.org/officeDocument/2006/relationships/extended-properties";
 inline constexpr wchar_t kHyperlink[] =

@@ -1,22 +1,23 @@
 #include "vellox/ppt/package/PartDOMWriter.h"
 
+#include "vellox/opc/Utf8Serializer.h"
+
 namespace vellox::ppt {
 
-PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> package)
-    : OPCPartWriter(std::move(package)),
-      serializer_(opc::XercesHelper::createWriter()) {}
+PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> package) : OPCPartWriter(std::move(package)) {}
 
 PartDOMWriter::~PartDOMWriter() = default;
 
 void PartDOMWriter::writeDocument(const std::wstring& partName, xercesc::DOMDocument* document) {
-    opc::Part part = getPart(partName);
-    opc::OutputStream& stream = part.getOutputStream();
-    opc::XercesHelper::writeDocumentToStream(serializer_.get(), document, stream);
-    stream.close();
+    markup_.truncate(0);
+    opc::Utf8Serializer::appendDocument(*document, opc::Contents(), markup_);
+    writeMarkup(partName, markup_.get());
 }
 
 void PartDOMWriter::writeMarkup(const std::wstring& partName, std::string_view markup) {
     opc::Part part = getPart(partName);
+    if (watcher_)
+        watcher_(part, markup);
     opc::OutputStream& stream = part.getOutputStream();
     stream.write(reinterpret_cast<const unsigned char*>(markup.data()), markup.size());
     stream.close();

@@ -4,10 +4,13 @@
 #ifndef VELLOX_PPT_PACKAGE_PARTDOMWRITER_H
 #define VELLOX_PPT_PACKAGE_PARTDOMWRITER_H
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <xercesc/dom/DOM.hpp>
 
-#include "vellox/opc/XercesHelper.h"
+#include "vellox/opc/MarkupBuffer.h"
 #include "vellox/opc/XercesProcess.h"
 #include "vellox/ppt/package/OPCPartWriter.h"
 
@@ -15,9 +18,13 @@ namespace vellox::ppt {
 
 class PartDOMWriter : public OPCPartWriter {
 public:
+    /// Hears of the text of each part before it is put in.
+    using Watcher = std::function<void(const opc::Part& part, std::string_view markup)>;
+
     explicit PartDOMWriter(boost::shared_ptr<OPCPackage> package);
     ~PartDOMWriter() override;
 
+    void setWatcher(Watcher watcher) { watcher_ = std::move(watcher); }
     /// Makes a document the content of an existing part.
     /// @throws opc::Exception
     void writeDocument(const std::wstring& partName, xercesc::DOMDocument* document);
@@ -31,7 +38,8 @@ public:
 
 private:
     opc::XercesProcess xerces_;
-    opc::SerializerScope serializer_;
+    opc::MarkupBuffer markup_; // stays from document to document
+    Watcher watcher_;
 };
 
 } // namespace vellox::ppt

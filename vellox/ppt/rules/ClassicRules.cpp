@@ -294,6 +294,10 @@ Missing ClassicRules::missingFile() const {
     return Missing::Passed;
 }
 
+bool ClassicRules::checksDocuments() const {
+    return false;
+}
+
 PictureFacts ClassicRules::sizeFree(const PictureFacts& picture) const {
     return picture;
 }

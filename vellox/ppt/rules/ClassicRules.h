@@ -54,6 +54,7 @@ public:
     bool keepsDescription() const override;
     const ElementForm* formOf(std::u16string_view element) const override;
     Missing missingFile() const override;
+    bool checksDocuments() const override;
     bool sharesImages() const override;
     bool drawsSvg() const override;
     bool readsTraits() const override;

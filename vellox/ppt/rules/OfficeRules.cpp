@@ -54,9 +54,9 @@ Rules::Names makeUnique(const Rules::Names& names) {
 
 // A template is opened
 
-// The system itself refuses what it can't make, with its own reason.
-FileNameFault OfficeRules::judgeFileName(const std::wstring&) const {
-    return FileNameFault::None;
+// The system itself refuses what it can't make, with its own reason. On another one the file may be made.
+FileNameFault OfficeRules::judgeFileName(const std::wstring& name) const {
+    return FileUtils::isDeviceName(name) ? FileNameFault::DeviceName : FileNameFault::None;
 }
 
 bool OfficeRules::namesNearest() const {
@@ -449,6 +449,10 @@ bool OfficeRules::readsTraits() const {
 
 Missing OfficeRules::missingFile() const {
     return Missing::Refused;
+}
+
+bool OfficeRules::checksDocuments() const {
+    return true;
 }
 
 // A length that is set beside one of the file's decides alone.

@@ -18,7 +18,7 @@ public:
 
     virtual ~Rules();
 
-    /// Whether a file of this name may be made.
+    /// What is wrong with a file of this name. It is made where a DeviceName is all.
     virtual FileNameFault judgeFileName(const std::wstring& name) const = 0;
     virtual Appearance appearsWhen() const = 0;
     /// Whether a package can be a template.
@@ -110,6 +110,8 @@ public:
     /// @return null to leave it as it was made
     virtual const ElementForm* formOf(std::u16string_view element) const = 0;
     virtual Missing missingFile() const = 0;
+    /// Whether what is written is checked, as far as it can be, before it is put into the package.
+    virtual bool checksDocuments() const = 0;
     /// Whether images of the same bytes are put into the deck once.
     virtual bool sharesImages() const = 0;
     /// Whether an SVG comes with a drawing of it for readers that don't know SVG.

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/formats/CellProperties.h"
 #include "vellox/ppt/object/Element.h"
 
 namespace vellox::ppt {
@@ -15,12 +15,7 @@ class ColSpecImpl;
 
 /// The width and the formats of one column. A format of a row goes before that of a column. A handle: copies
 /// share one specification.
-class VELLOX_API ColSpec : public Element,
-                           public CharacterProperties<ColSpec>,
-                           public BackgroundColorProperty<ColSpec>,
-                           public HAlignProperty<ColSpec>,
-                           public VAlignProperty<ColSpec>,
-                           public WidthProperty<ColSpec> {
+class VELLOX_API ColSpec : public Element, public CellProperties<ColSpec>, public WidthProperty<ColSpec> {
 public:
     ColSpec();
     /// @param width a length, such as L"2.5cm"

@@ -38,6 +38,9 @@ TableImpl::TableImpl(const ShapeImpl& former, TakeName takeName, const TableImpl
       nCols_(table.nCols_),
       broughtStyleName_(table.styleName_.isSet() ? table.styleName_ : table.broughtStyleName_),
       parts_(table.parts_),
+      headerRows_(table.headerRows_),
+      rowHeight_(table.rowHeight_),
+      merged_(table.merged_),
       colSpecs_(table.colSpecs_) {
     setStyle(table.getStyle());
     announceCreated(*this);
@@ -49,6 +52,9 @@ TableImpl::TableImpl(const TableImpl& other)
       styleName_(other.styleName_),
       broughtStyleName_(other.broughtStyleName_),
       parts_(other.parts_),
+      headerRows_(other.headerRows_),
+      rowHeight_(other.rowHeight_),
+      merged_(other.merged_),
       colSpecs_(other.colSpecs_) {
     for (const auto& [place, cell] : other.templateCells_)
         templateCells_.emplace(place, TableEntry::cast(cell->clone()));
@@ -57,6 +63,12 @@ TableImpl::TableImpl(const TableImpl& other)
 
 TableImpl::~TableImpl() {
     announceDestroyed(*this);
+}
+
+Dimension requireHeight(const std::wstring& length) {
+    if (!Dimension::isValid(length) || Dimension(length).getEMUNumber() < 0)
+        raise(ppt_error::invalidPropertyValue(length));
+    return Dimension(length);
 }
 
 namespace {
@@ -108,6 +120,29 @@ TableParts TableImpl::getParts() const {
         if (parts_[i].isSet())
             parts[i] = parts_[i].get();
     return parts;
+}
+
+unsigned int TableImpl::countHeaderRows() const {
+    if (headerRows_.isSet())
+        return headerRows_.get();
+    const BaseAttribute<bool>& hasHeader = part(TablePart::HeaderRow);
+    return !hasHeader.isSet() || hasHeader.get() ? 1 : 0;
+}
+
+void TableImpl::merge(const CellRange& range) {
+    const bool isOrdered = range.row <= range.lastRow && range.column <= range.lastColumn;
+    bool isThere =
+        isOrdered && !range.isOneCell() && range.lastRow < getChildren().size() && range.lastColumn < nCols_;
+    for (unsigned int r = range.row; isThere && r <= range.lastRow; ++r)
+        isThere = range.lastColumn < getChildren()[r]->getNChildren();
+    const auto count = [](unsigned int i) { return num2str(i + 1.0); };
+    if (!isThere)
+        raise(ppt_error::invalidCellRange(count(range.row), count(range.column), count(range.lastRow),
+                                          count(range.lastColumn)));
+    if (const CellRange* other = merged_.findOverlap(range))
+        raise(ppt_error::cellsAlreadyMerged(count(other->row), count(other->column), count(other->lastRow),
+                                            count(other->lastColumn)));
+    merged_.add(range);
 }
 
 void TableImpl::growTo(std::size_t entries) {
@@ -283,6 +318,30 @@ void Table::unsetBandedColumns() {
     pimpl()->part(TablePart::BandedColumns).unset();
 }
 
+const BaseAttribute<unsigned int>& Table::getHeaderRows() const {
+    return pimpl()->getHeaderRows();
+}
+
+void Table::setHeaderRows(unsigned int count) {
+    pimpl()->headerRows().set(count);
+}
+
+void Table::unsetHeaderRows() {
+    pimpl()->headerRows().unset();
+}
+
+const BaseAttribute<Dimension>& Table::getRowHeight() const {
+    return pimpl()->getRowHeight();
+}
+
+void Table::setRowHeight(const std::wstring& length) {
+    pimpl()->rowHeight().set(requireHeight(length));
+}
+
+void Table::unsetRowHeight() {
+    pimpl()->rowHeight().unset();
+}
+
 const Table::ColSpecs& Table::getColSpecs() const {
     return pimpl()->getColSpecs();
 }
@@ -302,6 +361,10 @@ boost::shared_ptr<TableRow> Table::row(unsigned int i) {
 
 boost::shared_ptr<TableEntry> Table::entry(unsigned int r, unsigned int c) {
     return pimpl()->entry(r, c);
+}
+
+void Table::merge(unsigned int row, unsigned int column, unsigned int lastRow, unsigned int lastColumn) {
+    pimpl()->merge({row, column, lastRow, lastColumn});
 }
 
 Table Table::replace(const Table& table) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "vellox/host/values/HvViews.h"
-#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/formats/CellProperties.h"
 #include "vellox/ppt/tree/ColSpec.h"
 #include "vellox/ppt/tree/Shape.h"
 #include "vellox/ppt/tree/TableEntry.h"
@@ -19,7 +19,8 @@ namespace vellox::ppt {
 
 class TableImpl;
 
-/// Rows of entries. A handle: copies share one table. Rows and columns count from 0 here.
+/// Rows of entries. Its formats are those of all cells that have none of their kind, nor their rows and columns. A
+/// handle: copies share one table. Rows and columns count from 0 here.
 ///
 ///     Table table(2);
 ///     TableRow row;
@@ -27,7 +28,7 @@ class TableImpl;
 ///     row.append(TableEntry(L"Value"));
 ///     table.append(row);
 ///     slide.add(table);
-class VELLOX_API Table : public Shape, public FontProperties<Table> {
+class VELLOX_API Table : public Shape, public CellProperties<Table> {
 public:
     using ColSpecs = std::vector<boost::shared_ptr<ColSpec>>;
 
@@ -82,6 +83,18 @@ public:
     template <class T> void setBandedColumns(const T*) = delete;
     void unsetBandedColumns();
     /// @}
+    /// @{ How many rows the header has, 1 unless told otherwise, 0 for none: formats of values that columns and the table
+    /// have act below, and a table that goes on on further slides repeats them there.
+    const BaseAttribute<unsigned int>& getHeaderRows() const;
+    void setHeaderRows(unsigned int count);
+    void unsetHeaderRows();
+    /// @}
+    /// @{ A length: the least height of rows that have none of their own.
+    /// @throws invalidPropertyValue for what isn't a length, or a negative one
+    const BaseAttribute<Dimension>& getRowHeight() const;
+    void setRowHeight(const std::wstring& length);
+    void unsetRowHeight();
+    /// @}
     /// @{ Widths and formats of columns, in column order. The vector is copied, the objects in it are shared.
     const ColSpecs& getColSpecs() const;
     void setColSpecs(const ColSpecs& colSpecs);
@@ -98,9 +111,15 @@ public:
     /// @throws entriesColumnsMismatch if the row has more or fewer entries than the table has columns
     boost::shared_ptr<TableEntry> entry(unsigned int r, unsigned int c);
 
+    /// Makes one cell of those from one corner to another, whose rows and columns are in it. It shows the entry at its
+    /// top left; what the others hold isn't shown.
+    /// @throws invalidCellRange if there are no such cells, or only one
+    /// @throws cellsAlreadyMerged if one of them is in a merged cell
+    void merge(unsigned int row, unsigned int column, unsigned int lastRow, unsigned int lastColumn);
+
     using Shape::replace;
     /// Puts a new table, made of copies of the given one's rows, in this table's place and under its name. It
-    /// has the given one's formats, column specifications and properties of parts, and no table style until one is
+    /// has the given one's formats, column specifications, merged cells and properties of parts, and no table style until one is
     /// set on it; with the profile "office" the given one's style, or else this one's.
     /// @return a handle on the new table, or the argument if this table doesn't stand directly on a slide,
     ///         in which case nothing changes

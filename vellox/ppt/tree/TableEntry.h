@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "vellox/ppt/formats/FormatProperties.h"
+#include "vellox/ppt/formats/CellProperties.h"
 #include "vellox/ppt/object/Element.h"
 #include "vellox/ppt/tree/Paragraph.h"
 
@@ -14,12 +14,9 @@ namespace vellox::ppt {
 
 class TableEntryImpl;
 
-/// One cell of a table, holding paragraphs. A handle: copies share one entry.
-class VELLOX_API TableEntry : public Element,
-                              public FontProperties<TableEntry>,
-                              public BackgroundColorProperty<TableEntry>,
-                              public HAlignProperty<TableEntry>,
-                              public VAlignProperty<TableEntry> {
+/// One cell of a table, holding paragraphs. Its formats are those of paragraphs and texts in it that have none of their
+/// kind. A handle: copies share one entry.
+class VELLOX_API TableEntry : public Element, public CellProperties<TableEntry> {
 public:
     TableEntry();
     /// With one new paragraph.

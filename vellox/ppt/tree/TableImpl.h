@@ -10,10 +10,15 @@
 
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/rules/Facts.h"
+#include "vellox/ppt/tree/MergedCells.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/Table.h"
 
 namespace vellox::ppt {
+
+/// A length of a row.
+/// @throws invalidPropertyValue for what isn't a length, or a negative one
+Dimension requireHeight(const std::wstring& length);
 
 class TableImpl : public NodeOf<NodeType::Table, TableImpl, Table, ShapeImpl> {
 public:
@@ -44,6 +49,15 @@ public:
     const BaseAttribute<bool>& part(TablePart part) const { return parts_[static_cast<std::size_t>(part)]; }
     const Table::ColSpecs& getColSpecs() const { return colSpecs_; }
     void setColSpecs(const Table::ColSpecs& colSpecs) { colSpecs_ = colSpecs; }
+    BaseAttribute<unsigned int>& headerRows() { return headerRows_; }
+    const BaseAttribute<unsigned int>& getHeaderRows() const { return headerRows_; }
+    /// As many as there are, whether anybody has said so or not.
+    unsigned int countHeaderRows() const;
+    BaseAttribute<Dimension>& rowHeight() { return rowHeight_; }
+    const BaseAttribute<Dimension>& getRowHeight() const { return rowHeight_; }
+    void merge(const CellRange& range);
+    const MergedCells& getMerged() const { return merged_; }
+    void setMerged(const MergedCells& merged) { merged_ = merged; }
     void append(const Child& row);
     /// Appends a row for each of the content's.
     /// @throws invalidObjectForTable for content that no cell can show
@@ -67,6 +81,9 @@ private:
     BaseAttribute<std::wstring> styleName_;
     BaseAttribute<std::wstring> broughtStyleName_;
     std::array<BaseAttribute<bool>, kTablePartCount> parts_; // by their numbers
+    BaseAttribute<unsigned int> headerRows_;
+    BaseAttribute<Dimension> rowHeight_;
+    MergedCells merged_;
     Table::ColSpecs colSpecs_;            // in column order; no children, and without parents
     mutable TemplateCells templateCells_; // likewise; made when they are asked for
 };

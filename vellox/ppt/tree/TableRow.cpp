@@ -13,7 +13,7 @@ TableRowImpl::TableRowImpl() {
     announceCreated(*this);
 }
 
-TableRowImpl::TableRowImpl(const TableRowImpl& other) : NodeOf(other) {
+TableRowImpl::TableRowImpl(const TableRowImpl& other) : NodeOf(other), height_(other.height_) {
     announceCreated(*this);
 }
 
@@ -38,6 +38,18 @@ TableRowImpl* TableRow::pimpl() {
 
 const TableRowImpl* TableRow::pimpl() const {
     return implOf<TableRowImpl>(*this);
+}
+
+const BaseAttribute<Dimension>& TableRow::getHeight() const {
+    return pimpl()->getHeight();
+}
+
+void TableRow::setHeight(const std::wstring& length) {
+    pimpl()->height().set(requireHeight(length));
+}
+
+void TableRow::unsetHeight() {
+    pimpl()->height().unset();
 }
 
 TableEntry TableRow::append(const TableEntry& entry) {

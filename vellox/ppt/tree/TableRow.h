@@ -4,7 +4,11 @@
 #ifndef VELLOX_PPT_TREE_TABLEROW_H
 #define VELLOX_PPT_TREE_TABLEROW_H
 
-#include "vellox/ppt/formats/FormatProperties.h"
+#include <string>
+
+#include "vellox/foundation/Dimension.h"
+#include "vellox/ppt/formats/CellProperties.h"
+#include "vellox/ppt/object/Attribute.h"
 #include "vellox/ppt/object/Element.h"
 
 namespace vellox::ppt {
@@ -12,12 +16,17 @@ namespace vellox::ppt {
 class TableEntry;
 class TableRowImpl;
 
-/// A row of entries. A handle: copies share one row.
-class VELLOX_API TableRow : public Element,
-                            public FontProperties<TableRow>,
-                            public BackgroundColorProperty<TableRow> {
+/// A row of entries. Its formats are those of its entries that have none of their kind. A handle: copies share one row.
+class VELLOX_API TableRow : public Element, public CellProperties<TableRow> {
 public:
     TableRow();
+
+    /// @{ A length: the least height of the row, which is as high as its text. Unset means that of the table.
+    /// @throws invalidPropertyValue for what isn't a length, or a negative one
+    const BaseAttribute<Dimension>& getHeight() const;
+    void setHeight(const std::wstring& length);
+    void unsetHeight();
+    /// @}
 
     /// Appends this very entry. If the row stands in a table, the table has at least as many columns then.
     /// @throws failedToAppendChild if the entry already has a parent

@@ -19,6 +19,11 @@ public:
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
 
     void append(const Child& entry);
+    BaseAttribute<Dimension>& height() { return height_; }
+    const BaseAttribute<Dimension>& getHeight() const { return height_; }
+
+private:
+    BaseAttribute<Dimension> height_;
 };
 
 } // namespace vellox::ppt

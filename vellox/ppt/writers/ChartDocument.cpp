@@ -294,10 +294,12 @@ void ChartDocument::setValue(DOMElement* series, std::u16string_view local, unsi
 
 void ChartDocument::insertInSequence(DOMElement* series, DOMElement* child) const {
     const std::size_t rank = findRank(kSequence, getLocalName(*child));
-    DOMElement* place = series->getFirstElementChild();
-    while (place && findRank(kSequence, getLocalName(*place)) <= rank)
-        place = place->getNextElementSibling();
-    series->insertBefore(child, place);
+    DOMElement* former = nullptr;
+    for (DOMElement* each = series->getFirstElementChild();
+         each && findRank(kSequence, getLocalName(*each)) <= rank; each = each->getNextElementSibling())
+        former = each;
+    // Right behind it, so that white space and other text keep their place, too.
+    series->insertBefore(child, former ? former->getNextSibling() : series->getFirstChild());
 }
 
 } // namespace vellox::ppt

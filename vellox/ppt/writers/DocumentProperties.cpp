@@ -105,10 +105,16 @@ bool tellsOfTemplate(const std::u16string& name) {
     return names.count(name) > 0;
 }
 
+// A package with two such parts would be damaged.
+std::wstring findCoreProperties(const PPTPartWriter& partWriter) {
+    const std::wstring usual = partWriter.findPackagePart(relationship::kCoreProperties);
+    return usual.empty() ? partWriter.findPackagePart(relationship::kOtherCoreProperties) : usual;
+}
+
 } // namespace
 
 void writeCoreProperties(const DocumentProperties& properties, bool areRenewed, PPTPartWriter& partWriter) {
-    const std::wstring present = partWriter.findPackagePart(relationship::kCoreProperties);
+    const std::wstring present = findCoreProperties(partWriter);
     Texts texts = readTexts(partWriter.readIfWellFormed(present));
     if (areRenewed)
         renew(texts);

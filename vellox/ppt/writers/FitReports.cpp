@@ -2,14 +2,19 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/CellFormatsImpl.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
+#include "vellox/ppt/tree/TableEntryImpl.h"
 #include "vellox/ppt/tree/TableImpl.h"
+#include "vellox/ppt/tree/TableRowImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
+#include "vellox/ppt/writers/LetterWidths.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 namespace vellox::ppt {
@@ -17,17 +22,14 @@ namespace vellox::ppt {
 namespace {
 
 constexpr double kEmuPerPoint = 12700;
-constexpr double kDefaultSize = 18; // in points, as that of the other sizes here
-constexpr double kCharacterWidth = 0.5, kWideCharacterWidth = 1, kLineHeight = 1.2; // of the size
-constexpr double kMarginX = 91440, kMarginY = 45720;                                // in EMU, on either side
+constexpr double kDefaultSize = 18;                  // in points, as that of the other sizes here
+constexpr double kLineHeight = 1.2;                  // of the size
+constexpr double kMarginX = 91440, kMarginY = 45720; // in EMU, on either side
 constexpr double kTolerance = 1.15;
 
 struct Room {
     double cx, cy;
 };
-
-// From here on characters are as wide as they are high.
-constexpr wchar_t kFirstWide = L'\x2E80';
 
 double findSize(const ElementImpl& element, double inherited) {
     const auto format = element.getStyle().getFormat(FormatType::FontSize);
@@ -52,7 +54,7 @@ public:
             if (c == L'\n')
                 endLine();
             else
-                line_ += size * kEmuPerPoint * (c < kFirstWide ? kCharacterWidth : kWideCharacterWidth);
+                line_ += size * kEmuPerPoint * getLetterWidth(c);
         }
     }
     Need finish() {
@@ -140,31 +142,66 @@ void reportFit(const ShapeImpl& textBox) {
         report(ppt_finding::textTooLong(toPercent(need.height / cy)), textBox);
 }
 
-void reportFit(const TableImpl& table, double slideHeight) {
-    const PlaceText* place = findPlace(table);
-    const double cx = findLength(table.getGeometry().cx, place, &PlaceText::cx);
-    const double y = findLength(table.getGeometry().y, place, &PlaceText::y);
-    double room = findLength(table.getGeometry().cy, place, &PlaceText::cy);
-    if (room <= 0)
-        room = slideHeight - y;
-    const double column = table.getNCols() > 0 ? cx / table.getNCols() - 2 * kMarginX : 0;
-    if (room <= 0 || column <= 0)
-        return;
-    const double size = findSizeAbove(table);
-    double height = 0;
-    for (const auto& child : table.getChildren()) {
-        const ElementImpl* row = implOf<PPTNodeImpl>(*child)->asElement();
-        double highest = kDefaultSize * kEmuPerPoint * kLineHeight;
-        for (const auto& cell : row ? row->getChildren() : PPTNode::Children()) {
-            const ElementImpl* entry = implOf<PPTNodeImpl>(*cell)->asElement();
-            const double own = entry ? findSize(*entry, findSize(*row, size)) : size;
-            highest = std::max(highest,
-                               measureParagraphs(*implOf<PPTNodeImpl>(*cell), nullptr, own, column).height);
-        }
-        height += highest + 2 * kMarginY;
+TableRoom findTableRoom(const ShapeImpl& shape, double slideHeight) {
+    const PlaceText* place = findPlace(shape);
+    TableRoom room;
+    room.width = findLength(shape.getGeometry().cx, place, &PlaceText::cx);
+    room.height = findLength(shape.getGeometry().cy, place, &PlaceText::cy);
+    if (room.height <= 0)
+        room.height = std::max(0.0, slideHeight - findLength(shape.getGeometry().y, place, &PlaceText::y));
+    return room;
+}
+
+namespace {
+
+// Above and below the text, of what has margins set or stands in what has.
+double findMargins(const ElementImpl& element, double inherited) {
+    const auto format = element.getStyle().getFormat(FormatType::CellMargins);
+    if (!format)
+        return inherited;
+    const auto& margins = *implOf<CellMarginsImpl>(*format);
+    const auto& top = margins.getMargin(CellMargins::Top);
+    const auto& bottom = margins.getMargin(CellMargins::Bottom);
+    return (top ? *top : inherited / 2) + (bottom ? *bottom : inherited / 2);
+}
+
+double measureRow(const TableRowImpl& row, double size, double margins, double column) {
+    const double own = findSize(row, size), around = findMargins(row, margins);
+    double highest = (own > 0 ? own : kDefaultSize) * kEmuPerPoint * kLineHeight + around;
+    for (const auto& cell : row.getChildren()) {
+        const auto* entry = implAs<TableEntryImpl>(*cell);
+        if (entry)
+            highest =
+                std::max(highest, measureParagraphs(*entry, nullptr, findSize(*entry, own), column).height +
+                                      findMargins(*entry, around));
     }
-    if (height > room * kTolerance)
-        report(ppt_finding::tableTooLong(toPercent(height / room)), table);
+    return highest;
+}
+
+} // namespace
+
+std::vector<double> estimateRowHeights(const TableImpl& table, double width) {
+    const double column = width / std::max(1u, table.getNCols()) - 2 * kMarginX;
+    const double size = findSizeAbove(table), margins = findMargins(table, 2 * kMarginY);
+    const double least = table.getRowHeight().isSet() ? table.getRowHeight().get().getEMUNumber() : 0;
+    std::vector<double> heights;
+    for (const auto& child : table.getChildren()) {
+        const auto* row = implAs<TableRowImpl>(*child);
+        const double told = row && row->getHeight().isSet() ? row->getHeight().get().getEMUNumber() : least;
+        heights.push_back(
+            std::max(told, row ? measureRow(*row, size, margins, std::max(column, kMarginX)) : 0));
+    }
+    return heights;
+}
+
+void reportFit(const TableImpl& table, double slideHeight) {
+    const TableRoom room = findTableRoom(table, slideHeight);
+    if (room.height <= 0 || table.getNCols() == 0 || room.width / table.getNCols() <= 2 * kMarginX)
+        return;
+    const std::vector<double> heights = estimateRowHeights(table, room.width);
+    const double height = std::accumulate(heights.begin(), heights.end(), 0.0);
+    if (height > room.height * kTolerance)
+        report(ppt_finding::tableTooLong(toPercent(height / room.height)), table);
 }
 
 } // namespace vellox::ppt

@@ -5,6 +5,8 @@
 #ifndef VELLOX_PPT_WRITERS_FITREPORTS_H
 #define VELLOX_PPT_WRITERS_FITREPORTS_H
 
+#include <vector>
+
 namespace vellox::ppt {
 
 class ShapeImpl;
@@ -15,6 +17,16 @@ void reportFit(const ShapeImpl& textBox);
 /// Reports a table that takes more height than its box has, or than is left on its slide where it has none.
 /// @param slideHeight in EMU; 0 where it isn't known
 void reportFit(const TableImpl& table, double slideHeight);
+
+/// The width of the box that a table stands in or comes into, and the height that there is for it, in EMU; 0 where one
+/// isn't known.
+struct TableRoom {
+    double width = 0, height = 0;
+};
+TableRoom findTableRoom(const ShapeImpl& shape, double slideHeight);
+
+/// About how high the rows of a table are that is so wide, in EMU.
+std::vector<double> estimateRowHeights(const TableImpl& table, double width);
 
 } // namespace vellox::ppt
 

@@ -12,11 +12,13 @@
 #include "vellox/ppt/writers/InheritedTexts.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
+#include "vellox/ppt/writers/PartReports.h"
 #include "vellox/ppt/writers/SlideCopies.h"
 #include "vellox/ppt/writers/SlideList.h"
 #include "vellox/ppt/writers/SlideRemoval.h"
 #include "vellox/ppt/writers/SvgPictures.h"
 #include "vellox/ppt/writers/TableStylesPart.h"
+#include "vellox/ppt/writers/ValueTexts.h"
 
 #include <boost/make_shared.hpp>
 
@@ -32,9 +34,21 @@ PPTWriter::PPTWriter(boost::shared_ptr<PresentationModel> model, boost::shared_p
 
 PPTWriter::~PPTWriter() = default;
 
+void PPTWriter::setDeckValues(const DeckValues& values) {
+    deckValues_ = &values;
+    marks_ = values.getMarks();
+}
+
 void PPTWriter::report(const MsgID& finding) const {
     if (reporter_)
         ppt::report(finding, *reporter_);
+}
+
+void PPTWriter::setCheck(const boost::shared_ptr<check::MarkupCheck>& check) {
+    partWriter_->setWatcher([this, check](const opc::Part& part, std::string_view markup) {
+        if (reporter_)
+            reportOnPart(part, markup, *check, *reporter_);
+    });
 }
 
 InheritedTexts& PPTWriter::getInheritedTexts() {

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "vellox/opc/MarkupBuffer.h"
+#include "vellox/ppt/formats/NumberForm.h"
 #include "vellox/ppt/object/DomForward.h"
 #include "vellox/ppt/template/TemplateRecords.h"
 
@@ -24,6 +25,10 @@ namespace vellox {
 class FontBook;
 class MsgID;
 } // namespace vellox
+
+namespace vellox::check {
+class MarkupCheck;
+}
 
 namespace vellox::ppt {
 
@@ -51,6 +56,7 @@ class TextBoxPlaceholderImpl;
 class TextImpl;
 class TextLook;
 struct ParagraphLook;
+struct DeckValues;
 struct DocumentProperties;
 struct PageFields;
 struct TableContext;
@@ -123,6 +129,11 @@ public:
     void writeTextBoxPlaceholder(const TextBoxPlaceholderImpl& placeholder, xercesc::DOMNode* parent);
     /// @}
 
+    /// @{ How values are shown in all of the deck. What is given has to live as long as the writer.
+    void setDeckValues(const DeckValues& values);
+    const DeckValues* getDeckValues() const { return deckValues_; }
+    const NumberMarks& getNumberMarks() const { return marks_; }
+    /// @}
     /// Those of the deck, which have to stay; null for none.
     void setPageFields(const PageFields& fields) { pageFields_ = &fields; }
     const PageFields* getPageFields() const { return pageFields_; }
@@ -136,7 +147,9 @@ public:
 
     /// Reports about the shape being written. Paragraphs and texts needn't know the way up.
     void report(const MsgID& finding) const;
-    /// Null between shapes, but the presentation while the writing is ended.
+    /// Has all that is written checked. What is found is reported about whatever is being written.
+    void setCheck(const boost::shared_ptr<check::MarkupCheck>& check);
+    /// Null between slides, but the presentation while the writing is ended.
     void setReporter(const PPTNodeImpl* shape) { reporter_ = shape; }
 
     ChartParts& getChartParts();
@@ -180,6 +193,8 @@ private:
 
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
+    const DeckValues* deckValues_ = nullptr; // null if nothing is set
+    NumberMarks marks_;
     boost::shared_ptr<PPTPartWriter> partWriter_;
     boost::shared_ptr<ChartParts> chartParts_; // made for the first chart
     boost::shared_ptr<InheritedTexts> texts_;  // made when they are asked for, as the fonts are

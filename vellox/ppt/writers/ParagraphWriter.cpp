@@ -16,6 +16,7 @@
 #include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/writers/TextLook.h"
 #include "vellox/ppt/writers/TextWriter.h"
+#include "vellox/ppt/writers/ValueTexts.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ unsigned int ParagraphWriter::getLevel() const {
 void ParagraphWriter::write() {
     preparePPr();
     if (const TextImpl* text = isWholeContent() ? findOnlyText(paragraph_) : nullptr) {
-        const TextLines lines = getRules().textOf({text->getTextContent(), text->getGiven()});
+        const TextLines lines = showText(*text, getWriter());
         if (lines.size() > 1)
             return writeLines(*text, lines);
     }
@@ -55,8 +56,8 @@ void ParagraphWriter::write() {
     pPr_.writeTo(out);
     const std::size_t content = out.getLength();
     writeChildren(makeRunFrame());
-    if (paragraph_.getTruthValue() && paragraph_.getChildren().empty() && getRules().showsTruth())
-        writeTruth();
+    if (paragraph_.getChildren().empty())
+        writeValue();
     writeEnd(out.getLength() > content);
     out.closeElement("a:p", start);
     getWriter().countParagraph();
@@ -185,9 +186,17 @@ void ParagraphWriter::writeLine(const TextImpl& text, const std::wstring& line) 
 }
 
 // There is no run for it in the tree.
-void ParagraphWriter::writeTruth() const {
-    const PPTNodeImpl::Child run =
-        (new TextImpl(TextImpl::Given(*paragraph_.getTruthValue())))->makeInterface();
+void ParagraphWriter::writeValue() const {
+    const TableContext* table = getWriter().getFrame().table;
+    const std::optional<bool>& truth = paragraph_.getTruthValue();
+    if (truth && (getRules().showsTruth() || (table && table->values.findTruth(*truth))))
+        return writeRun((new TextImpl(TextImpl::Given(*truth)))->makeInterface());
+    const PPTNodeImpl* parent = paragraph_.getParent();
+    if (!truth && table && table->values.missing && parent && parent->getChildren().size() == 1)
+        writeRun(Text(*table->values.missing).makeInterface());
+}
+
+void ParagraphWriter::writeRun(const boost::shared_ptr<PPTNode>& run) const {
     const PPTWriter::FrameScope scope(getWriter(), makeRunFrame());
     TextWriter writer(*implOf<TextImpl>(*run), getWriter(), getParentNode());
     writer.setFormatsAround(getFormatsInForce());

@@ -53,7 +53,8 @@ private:
     bool isAmongNumbers() const;
     void writeLines(const TextImpl& text, const std::vector<std::wstring>& lines) const;
     void writeLine(const TextImpl& text, const std::wstring& line) const;
-    void writeTruth() const;
+    void writeValue() const;
+    void writeRun(const boost::shared_ptr<PPTNode>& run) const;
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;

@@ -209,8 +209,9 @@ void PictureWriter::writeLink(DOMElement* shape) const {
 
 // Nothing has been saved yet: the output is as it was.
 void PictureWriter::refuseMissing() const {
+    const std::wstring name = picture_.getName();
     raise(ppt_error::missingPictureFile(std::to_wstring(getWriter().getCurrentSlideNumber()),
-                                        picture_.getName(), picture_.getPath()));
+                                        name.empty() ? L"a shape without a name" : name, picture_.getPath()));
 }
 
 void PictureWriter::refuseSvg(const std::string& reason) const {

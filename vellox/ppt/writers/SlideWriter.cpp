@@ -47,9 +47,11 @@ void SlideWriter::write() {
     writeFields(fields, document);
     writeShapes(document, shapes, taken);
     arrange(document.getShapeTree());
+    getWriter().setReporter(&slide_);
     opc::MarkupBuffer text;
     document.writeTo(text);
     getPartWriter().writeMarkup(partName, text.get());
+    getWriter().setReporter(nullptr);
     for (const auto& [name, chart] : slide_.getCharts())
         if (chart.data)
             getWriter().getChartParts().add(partName, getWriter().getCurrentSlideNumber(), chart);

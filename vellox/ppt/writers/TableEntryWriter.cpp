@@ -1,11 +1,15 @@
 #include "vellox/ppt/writers/TableEntryWriter.h"
 
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/CellFormatsImpl.h"
 #include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/SlideDocument.h"
+#include "vellox/ppt/tree/MergedCells.h"
+#include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
 #include "vellox/ppt/tree/TableEntryImpl.h"
+#include "vellox/ppt/tree/TableImpl.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/ParagraphWriter.h"
@@ -14,6 +18,8 @@
 #include "vellox/ppt/writers/TextWriter.h"
 #include "vellox/ppt/xml/BodyText.h"
 #include "vellox/ppt/xml/XmlNames.h"
+
+#include <array>
 
 namespace vellox::ppt {
 
@@ -26,10 +32,18 @@ TableEntryWriter::TableEntryWriter(const ElementImpl& entry, PPTWriter& writer, 
       tcPr_(xml::kATcPr) {}
 
 void TableEntryWriter::write() {
+    const std::optional<CellRange> merged = table_ ? table_->findMerged() : std::nullopt;
+    if (merged && (table_->row != merged->row || table_->col != merged->column))
+        return writeCovered(*merged);
     PPTWriter::Frame frame = makeFrame();
     frame.texts = look_ ? &look_->text : nullptr;
+    findValues();
     writeCell([&] {
-        if (writeChildren(frame) == 0)
+        if (writeChildren(frame) > 0)
+            return;
+        if (table_ && table_->values.missing)
+            writeMissing(frame);
+        else
             writeEmpty();
     });
 }
@@ -51,10 +65,59 @@ void TableEntryWriter::writeEmpty() const {
     writeEmptyParagraph(getMarkup(), &sized);
 }
 
-template <class Content> void TableEntryWriter::writeCell(Content content) {
-    applyFormats();
+// Of an entry without paragraphs.
+void TableEntryWriter::writeMissing(const PPTWriter::Frame& frame) const {
+    const PPTNodeImpl::Child paragraph = Paragraph(*table_->values.missing).makeInterface();
+    const PPTWriter::FrameScope scope(getWriter(), frame);
+    ParagraphWriter writer(*implOf<ParagraphImpl>(*paragraph), getWriter(), getParentNode());
+    writer.setFormatsAround(getFormatsInForce());
+    writer.write();
+}
+
+// What a merged cell covers looks as that does, for readers that draw the lines of each cell.
+void TableEntryWriter::writeCovered(const CellRange& merged) const {
+    if (!readParagraphs(getElement()).empty())
+        getWriter().report(
+            ppt_finding::coveredCell(std::to_wstring(table_->row + 1), std::to_wstring(table_->col + 1)));
+    const boost::shared_ptr<TableRow> row = table_->table->row(merged.row);
+    const PPTNode::Children shown = row ? row->getChildren() : PPTNode::Children();
+    const bool isThere = merged.column < shown.size(); // rows may have lost entries since
+    const auto* entry = isThere ? implAs<TableEntryImpl>(*shown[merged.column]) : nullptr;
+    TableEntryWriter(entry ? static_cast<const ElementImpl&>(*entry) : getElement(), getWriter(),
+                     getParentNode())
+        .writeBlank();
+}
+
+void TableEntryWriter::writeSpans(const CellRange& merged) const {
     opc::MarkupBuffer& out = getMarkup();
-    out.append("<a:tc><a:txBody><a:bodyPr/>");
+    const auto write = [&](const char* name, unsigned int value) {
+        out.append(std::string(name) + std::to_string(value) + "\"");
+    };
+    const unsigned int columns = merged.lastColumn - merged.column + 1,
+                       rows = merged.lastRow - merged.row + 1;
+    const bool isFirstColumn = table_->col == merged.column, isFirstRow = table_->row == merged.row;
+    if (isFirstColumn && columns > 1)
+        write(" gridSpan=\"", columns);
+    if (!isFirstColumn)
+        write(" hMerge=\"", 1);
+    if (isFirstRow && rows > 1)
+        write(" rowSpan=\"", rows);
+    if (!isFirstRow)
+        write(" vMerge=\"", 1);
+}
+
+template <class Content> void TableEntryWriter::writeCell(Content content) {
+    applyLines();
+    applyMargins();
+    opc::MarkupBuffer& out = getMarkup();
+    out.append("<a:tc");
+    const std::optional<CellRange> merged = table_ ? table_->findMerged() : std::nullopt;
+    if (merged)
+        writeSpans(*merged);
+    if (table_)
+        table_->isWide = merged && merged->lastColumn > merged->column;
+    applyFormats();
+    out.append("><a:txBody><a:bodyPr/>");
     content();
     out.append("</a:txBody>");
     if (look_)
@@ -68,6 +131,8 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
     DOMElement* body = findChild(cell, xml::kATxBody);
     if (!body)
         return getWriter().report(ppt_finding::noTextBody());
+    applyLines();
+    applyMargins();
     applyFormats();
     arrange(tcPr_);
     if (!tcPr_.isEmpty()) {
@@ -116,6 +181,113 @@ void TableEntryWriter::applyToText(DOMElement* properties) const {
     writer.applyTo(properties);
 }
 
+// Those of a kind that are around the cell, the nearest first, with the kind of node that has each.
+template <class F, class Take> void TableEntryWriter::visitFormats(FormatType type, Take take) const {
+    const auto visit = [&](const Formats& formats, NodeType owner) {
+        if (const boost::shared_ptr<Format> format = formats.getFormat(type))
+            take(*implOf<F>(*format), owner);
+    };
+    for (const PPTNodeImpl* node = &getElement(); node && node->asElement(); node = node->getParent()) {
+        visit(node->asElement()->getStyle(), node->getNodeType());
+        if (table_ && node->getNodeType() == NodeType::TableRow)
+            visit(table_->getColumnFormats(), NodeType::ColSpec);
+    }
+}
+
+// What columns and tables say is for what stands below their headers.
+void TableEntryWriter::findValues() const {
+    if (!table_)
+        return;
+    ValueLook& look = table_->values;
+    look = ValueLook();
+    const DeckValues* deck = getWriter().getDeckValues();
+    if (findFormat(FormatType::ValueFormat))
+        visitFormats<ValueFormatImpl>(FormatType::ValueFormat, [&](const auto& format, NodeType owner) {
+            if (!table_->isInHeader() || owner == NodeType::TableEntry || owner == NodeType::TableRow)
+                look.complete(format);
+        });
+    if (deck && deck->format && !table_->isInHeader())
+        look.complete(*implOf<ValueFormatImpl>(*deck->format));
+}
+
+namespace {
+
+constexpr std::size_t kSideCount = 4; // numbered as the facets are
+constexpr const XMLCh* kLineNames[kSideCount] = {xml::kALnL, xml::kALnR, xml::kALnT, xml::kALnB};
+constexpr const XMLCh* kMarginNames[kSideCount] = {xml::kMarL, xml::kMarR, xml::kMarT, xml::kMarB};
+
+/// For each side of a cell whether it is inside of what has the lines.
+class Insides {
+public:
+    Insides(const TableContext& table, const CellRange& cell)
+        : inRow_{cell.column > 0, cell.lastColumn + 1 < table.colCount, false, false},
+          inColumn_{false, false, cell.row > 0, cell.lastRow + 1 < table.rowCount} {}
+
+    unsigned int facetOf(std::size_t side, NodeType owner) const {
+        const bool isRow = owner == NodeType::TableRow, isColumn = owner == NodeType::ColSpec;
+        if (!isColumn && owner != NodeType::TableEntry && inRow_[side])
+            return CellBorders::InsideV;
+        if (!isRow && owner != NodeType::TableEntry && inColumn_[side])
+            return CellBorders::InsideH;
+        return static_cast<unsigned int>(side);
+    }
+
+private:
+    std::array<bool, kSideCount> inRow_, inColumn_;
+};
+
+void writeLine(PropertyElement& element, const BorderLine& line) {
+    element.setAttribute(xml::kW, std::to_wstring(line.widthEmu));
+    if (!line.isThere) {
+        element.addChild(xml::kANoFill);
+        return;
+    }
+    element.setAttribute(xml::kCap, xml::kFlat);
+    element.setAttribute(xml::kCmpd, line.compound);
+    element.setAttribute(xml::kAlgn, xml::kCentered);
+    element.addChild(xml::kASolidFill).addChild(xml::kASrgbClr).setAttribute(xml::kVal, line.color);
+    element.addChild(xml::kAPrstDash).setAttribute(xml::kVal, line.dash);
+}
+
+} // namespace
+
+// Ahead of the fill, as the format has them.
+void TableEntryWriter::applyLines() {
+    if (!findFormat(FormatType::CellBorders))
+        return;
+    CellRange cell;
+    TableContext none;
+    const TableContext& table = table_ ? *table_ : none;
+    if (const auto merged = table.findMerged())
+        cell = *merged;
+    else
+        cell = {table.row, table.col, table.row, table.col};
+    const Insides insides(table, cell);
+    std::array<const BorderLine*, kSideCount> lines{};
+    visitFormats<CellBordersImpl>(FormatType::CellBorders, [&](const auto& borders, NodeType owner) {
+        for (std::size_t side = 0; side < kSideCount; ++side) {
+            const auto& line = borders.getLine(insides.facetOf(side, owner));
+            if (!lines[side] && line)
+                lines[side] = &*line;
+        }
+    });
+    for (std::size_t side = 0; side < kSideCount; ++side)
+        if (lines[side])
+            writeLine(addTcPrChild(kLineNames[side]), *lines[side]);
+}
+
+void TableEntryWriter::applyMargins() {
+    if (!findFormat(FormatType::CellMargins))
+        return;
+    visitFormats<CellMarginsImpl>(FormatType::CellMargins, [&](const auto& margins, NodeType) {
+        for (std::size_t side = 0; side < kSideCount; ++side) {
+            const auto& margin = margins.getMargin(static_cast<unsigned int>(side));
+            if (margin && !tcPr_.hasAttribute(kMarginNames[side]))
+                tcPr_.setAttribute(kMarginNames[side], std::to_wstring(*margin));
+        }
+    });
+}
+
 void TableEntryWriter::applyFormat(const Format& format) {
     implOf<FormatImpl>(format)->applyToTableEntry(*this);
 }
@@ -138,7 +310,7 @@ PropertyElement& TableEntryWriter::addTcPrChild(const XMLCh* name) {
 }
 
 void TableEntryWriter::setColumnWidth(int widthEmu) {
-    if (table_)
+    if (table_ && !table_->isWide)
         table_->setColumnWidth(widthEmu);
 }
 

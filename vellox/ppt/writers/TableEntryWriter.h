@@ -11,6 +11,7 @@
 namespace vellox::ppt {
 
 struct CellLook;
+struct CellRange;
 struct TableContext;
 
 class TableEntryWriter : public ElementWriter {
@@ -41,6 +42,13 @@ private:
 
     template <class Content> void writeCell(Content content);
     void writeEmpty() const;
+    void writeMissing(const PPTWriter::Frame& frame) const;
+    void writeCovered(const CellRange& merged) const;
+    void writeSpans(const CellRange& merged) const;
+    template <class F, class Take> void visitFormats(FormatType type, Take take) const;
+    void findValues() const;
+    void applyLines();
+    void applyMargins();
 
     TableContext* table_;
     const CellLook* look_; // of the cell in whose stead it comes; null if there is none

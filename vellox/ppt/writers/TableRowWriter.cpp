@@ -18,7 +18,7 @@ void TableRowWriter::write() {
     TableContext* around = getWriter().getFrame().table;
     TableContext& table = around ? *around : none;
     opc::MarkupBuffer& out = getMarkup();
-    out.append(R"(<a:tr h=")" + std::to_string(table.getRowHeight()) + R"(">)");
+    out.append(R"(<a:tr h=")" + std::to_string(table.getRowHeight(row_)) + R"(">)");
     const std::size_t start = out.getLength();
     const FormatsInForce above = getFormatsAbove();
     const auto writeNext = [&](const auto& writeEntry) {

@@ -3,11 +3,11 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/formats/FormatImpl.h"
-#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/tree/TextImpl.h"
 #include "vellox/ppt/writers/PPTWriter.h"
 #include "vellox/ppt/writers/TableContext.h"
 #include "vellox/ppt/writers/TextLook.h"
+#include "vellox/ppt/writers/ValueTexts.h"
 #include "vellox/ppt/xml/XmlNames.h"
 
 namespace vellox::ppt {
@@ -21,7 +21,7 @@ TextWriter::TextWriter(const TextImpl& text, PPTWriter& writer, DOMNode* parentN
 
 void TextWriter::write() {
     prepare();
-    const TextLines lines = getRules().textOf({text_.getTextContent(), text_.getGiven()});
+    const TextLines lines = showText(text_, getWriter());
     for (const std::wstring& line : lines) {
         if (&line != &lines.front())
             writeBreak();
@@ -50,7 +50,7 @@ void TextWriter::prepare() {
 
 void TextWriter::measure(const std::wstring& line) const {
     TableContext* table = getWriter().getFrame().table;
-    if (table && table->meter)
+    if (table && table->meter && !table->isWide)
         table->meter->add(table->col, line, findFontPoints().value_or(ColumnMeter::kUsualPoints));
 }
 
