@@ -98,6 +98,14 @@ bool sendAll(int socket, const std::string& bytes) {
     return true;
 }
 
+// Ctrl-C interrupts the call, and nothing is known of the process then.
+int waitFor(int pid) {
+    int status = 0;
+    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+    }
+    return status;
+}
+
 std::string describeDeath(int status) {
     if (WIFSIGNALED(status))
         return std::string("its process has died: ") + strsignal(WTERMSIG(status));
@@ -213,8 +221,7 @@ void Batch::hear(Worker& worker) {
         give(worker);
         return;
     }
-    int status = 0;
-    ::waitpid(worker.pid, &status, 0);
+    const int status = waitFor(worker.pid);
     ::close(worker.socket);
     worker.pid = worker.socket = -1;
     take(worker, {false, describeDeath(status), {}, {}});
@@ -233,8 +240,7 @@ void Batch::bury(Worker& worker) {
     if (worker.pid < 0)
         return;
     ::close(worker.socket); // which tells it to end
-    while (::waitpid(worker.pid, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    waitFor(worker.pid);
     worker.pid = -1;
 }
 

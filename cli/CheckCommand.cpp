@@ -58,10 +58,12 @@ private:
         }
         int status = kDone;
         Json rows = Json::array();
-        for (const ppt::Finding& finding : ppt::checkPackage(fromUtf8(deck))) {
-            if (finding.severity == ppt::Severity::Error ||
-                (isStrict_ && finding.severity == ppt::Severity::Warning))
-                status = kFound;
+        for (const ppt::Finding& finding : ppt::checkPackage(toPath(deck))) {
+            if (finding.code == "cannotOpen")
+                status = kFailed;
+            else if (finding.severity == ppt::Severity::Error ||
+                     (isStrict_ && finding.severity == ppt::Severity::Warning))
+                status = std::max<int>(status, kFound);
             if (isJson_)
                 rows.push_back(toJson(finding));
             else if (finding.severity != ppt::Severity::Info || console.isVerbose())

@@ -4,6 +4,7 @@
 #include "cli/Files.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace vellox::cli {
 
@@ -36,7 +37,7 @@ private:
                 isQuoted = !isQuoted;
             if (isQuoted)
                 continue;
-            if (c == '\n')
+            if (c == '\n' || c == '\r')
                 break;
             for (std::size_t i = 0; i < 3; ++i)
                 if (c == kSeparators[i])
@@ -51,8 +52,7 @@ private:
         do
             row.cells.push_back(readCell());
         while (takes(separator_));
-        takes('\r');
-        if (at_ < text_.size() && !takes('\n'))
+        if (at_ < text_.size() && !takesLineEnd())
             fail("there is text behind a cell in quotation marks");
         ++line_;
         return row;
@@ -62,10 +62,8 @@ private:
         if (takes('"'))
             return readQuotedCell();
         std::string cell;
-        while (at_ < text_.size() && text_[at_] != separator_ && text_[at_] != '\n')
+        while (at_ < text_.size() && text_[at_] != separator_ && text_[at_] != '\n' && text_[at_] != '\r')
             cell += text_[at_++];
-        if (!cell.empty() && cell.back() == '\r')
-            cell.pop_back();
         return cell;
     }
 
@@ -83,6 +81,12 @@ private:
         }
         line_ = line;
         fail("a quotation mark has no end");
+    }
+
+    /// "\n", "\r\n", or "\r" alone.
+    bool takesLineEnd() {
+        const bool isReturn = takes('\r');
+        return takes('\n') || isReturn;
     }
 
     /// Goes past a character if it stands here. With no step it only looks.
@@ -103,11 +107,11 @@ private:
 };
 
 void checkRecords(const CsvFile& csv, const std::string& file) {
+    std::unordered_set<std::string> names;
     for (std::size_t i = 0; i < csv.names.size(); ++i) {
         if (csv.names[i].empty())
             throw DataFailure({file, {}, 1}, "column " + std::to_string(i + 1) + " has no name");
-        if (std::find(csv.names.begin(), csv.names.begin() + static_cast<std::ptrdiff_t>(i), csv.names[i]) !=
-            csv.names.begin() + static_cast<std::ptrdiff_t>(i))
+        if (!names.insert(csv.names[i]).second)
             throw DataFailure({file, {}, 1}, "two columns have the name \"" + csv.names[i] + "\"");
     }
     for (const CsvRow& row : csv.rows)

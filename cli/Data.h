@@ -46,9 +46,22 @@ public:
 };
 std::string describe(const DataPlace& place);
 
-/// How deep values may stand in one another, and how many there may be: far above any honest file.
+/// How deep values may stand in one another: far above any honest file.
 constexpr unsigned kMaxDataDepth = 100;
-constexpr std::size_t kMaxDataValues = 10000000;
+
+/// What all values of a file take together, which is far above any honest file at the most. With aliases, a short text
+/// can be a huge tree.
+class DataSize {
+public:
+    /// A value, or a name, with a text of so many bytes.
+    /// @return false if that is too much
+    bool add(std::size_t bytes) { return (size_ += sizeof(Data) + bytes) <= kMost; }
+
+private:
+    static constexpr std::size_t kMost = std::size_t(256) << 20;
+
+    std::size_t size_ = 0;
+};
 
 /// @{ @throws Failure for what can't be parsed, with file, line and reason
 Data parseJson(const std::string& text, const std::string& file);

@@ -90,7 +90,7 @@ private:
             if (value.kind == Data::Kind::Nothing)
                 return; // stays empty
             if (value.isScalar())
-                putText(slide, name, textOf_(value.text, place));
+                slide.replace(name, trimEnd(textOf_(value.text, place))); // each line is a paragraph
             else if (value.kind == Data::Kind::List)
                 slide.replace(name, makeList(value, place, textOf_));
             else
@@ -102,22 +102,15 @@ private:
         reportNews(place);
     }
 
-    /// Each line is a paragraph.
-    static void putText(ppt::Slide& slide, const std::wstring& name, const std::wstring& text) {
-        std::size_t begin = 0, end = 0;
-        const std::size_t size =
-            text.find_last_not_of(L"\r\n") + 1; // block texts of YAML end with a line end
-        for (bool isFirst = true; isFirst || begin < size; isFirst = false, begin = end + 1) {
-            end = std::min(text.find(L'\n', begin), size);
-            const std::wstring line = text.substr(begin, end - begin);
-            isFirst ? slide.replace(name, line) : slide.add(name, line);
-        }
+    /// Block texts of YAML end with a line end.
+    static std::wstring trimEnd(const std::wstring& text) {
+        return text.substr(0, text.find_last_not_of(L"\r\n") + 1);
     }
 
     HvContentPtr makePicture(const Data& value, const DataPlace& place) const {
         const Data& path = *value.find("picture");
         const std::string file = findFile(path, place.member("picture", path));
-        ppt::Picture picture(fromUtf8(file));
+        ppt::Picture picture(toPath(file));
         setOption(value, "alt", place, [&](const std::wstring& text) { picture.setAltText(text); });
         setOption(value, "fit", place, [&](const std::wstring& word) { picture.setFit(word); });
         return boost::make_shared<ObjectContent>(picture);

@@ -153,7 +153,7 @@ public:
 private:
     static DeckContents read(const std::string& path, Console& console) {
         requireFile(path);
-        DeckContents contents = readDeck(fromUtf8(path));
+        DeckContents contents = readDeck(toPath(path));
         for (const Finding& finding : contents.findings)
             console.printError({path + ": " + describe(finding), finding.code});
         return contents;

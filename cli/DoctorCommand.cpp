@@ -2,6 +2,7 @@
 #include "cli/Files.h"
 
 #include <nlohmann/json.hpp>
+#include <optional>
 
 namespace vellox::cli {
 
@@ -80,8 +81,10 @@ public:
     }
 
     int run(Console& console) override {
-        if (!healed_.empty() && templates_.size() > 1)
+        if (healed_ && templates_.size() > 1)
             throw Failure("--heal mends one template at a time");
+        if (healed_)
+            healed_ = makeOutput(*healed_, kTemplateOutput, {findTemplate(templates_[0])});
         int status = kDone;
         Json all = Json::array();
         for (const std::string& file : templates_) {
@@ -99,10 +102,10 @@ public:
 
 private:
     int inspect(const std::string& file, Console& console, Json& all) {
-        const std::wstring path = fromUtf8(findTemplate(file));
+        const std::wstring path = toPath(findTemplate(file));
         const std::vector<Finding> findings = inspectTemplate(path).findings;
         const std::vector<Finding> changes =
-            healed_.empty() ? std::vector<Finding>() : healTemplate(path, fromUtf8(healed_));
+            healed_ ? healTemplate(path, toPath(*healed_)) : std::vector<Finding>();
         int status = kDone;
         Json rows = Json::array(), mended = Json::array();
         for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Info})
@@ -119,7 +122,7 @@ private:
         for (const Finding& change : changes) {
             mended.push_back(toJson(change));
             if (!isJson_)
-                console.print(makePrintable(healed_) + ": mended: " + describe(change));
+                console.print(makePrintable(*healed_) + ": mended: " + describe(change));
         }
         all.push_back({{"template", file}, {"findings", std::move(rows)}, {"changes", std::move(mended)}});
         return status;
@@ -133,7 +136,7 @@ private:
     }
 
     std::vector<std::string> templates_;
-    std::string healed_;
+    std::optional<std::string> healed_;
     bool isStrict_ = false;
     bool isJson_ = false;
 };

@@ -1,8 +1,8 @@
 #include "cli/Files.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -15,7 +15,15 @@ namespace vellox::cli {
 
 namespace fs = std::filesystem;
 
+std::wstring toPath(const std::string& path) {
+    std::wstring wide = fromUtf8(path);
+    if (toUtf8(wide) != path)
+        throw Failure(path + ": the name of the file isn't in UTF-8");
+    return wide;
+}
+
 void requireFile(const std::string& path) {
+    toPath(path);
     if (::access(path.c_str(), R_OK) != 0)
         throw Failure(path + ": " + std::strerror(errno));
 }
@@ -49,55 +57,77 @@ std::string findTemplate(const std::string& name) {
 
 namespace {
 
-/// A file that becomes another one once it is complete.
+/// A file among the system's temporary ones.
 class Draft {
 public:
-    explicit Draft(std::string target)
-        : target_(std::move(target)),
-          path_(target_ + "." + std::to_string(::getpid()) + ".tmp") {}
+    Draft() = default;
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;
     ~Draft() {
         std::error_code ignored;
-        fs::remove(path_, ignored);
+        fs::remove(toUtf8(path_), ignored);
     }
-
-    const std::string& getPath() const { return path_; }
-    void finish() const {
-        std::error_code failure;
-        fs::rename(path_, target_, failure);
-        check(failure);
-    }
-    void check(const std::error_code& failure) const {
-        if (failure)
-            throw Failure(target_ + ": " + failure.message());
-    }
+    const std::wstring& getPath() const { return path_; }
 
 private:
-    std::string target_, path_;
+    const std::wstring path_ = FileUtils::getTempName();
 };
+
+std::string lowerExtension(const fs::path& path) {
+    std::string extension = path.extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
+    return extension;
+}
+
+std::string listExtensions(const OutputKind& kind) {
+    std::string text;
+    for (std::size_t i = 0; i < kind.extensions.size() && kind.extensions[i]; ++i)
+        text += (i == 0 ? "" : " or ") + std::string(kind.extensions[i]);
+    return text;
+}
 
 } // namespace
 
-void writeWhole(const std::string& path, const std::string& bytes) {
-    const Draft draft(path);
+std::string makeOutput(const std::string& path, const OutputKind& kind,
+                       const std::vector<std::string>& inputs) {
+    fs::path output(path);
+    const fs::path name = output.filename();
+    std::error_code ignored;
+    if (path.empty())
+        throw Failure("the output has no name");
+    if (name.empty() || name == "." || name == ".." || fs::is_directory(output, ignored))
+        throw Failure(path + ": " + std::strerror(EISDIR));
+    if (!output.has_extension())
+        output += kind.addition;
+    const std::string extension = lowerExtension(output);
+    const auto isExtension = [&](const char* known) { return known && extension == known; };
+    if (std::none_of(kind.extensions.begin(), kind.extensions.end(), isExtension))
+        throw Failure(path + ": " + kind.name + " is " + listExtensions(kind));
+    for (const std::string& input : inputs)
+        if (fs::equivalent(input, output, ignored))
+            throw Failure(path + ": the output would replace what it is made of");
+    toPath(output.string());
+    return output.string();
+}
+
+void writeFile(const std::string& path, const std::string& bytes) {
+    const Draft draft;
     errno = 0;
-    std::ofstream file(draft.getPath(), std::ios::binary);
+    std::ofstream file(toUtf8(draft.getPath()), std::ios::binary);
     file << bytes;
     file.close();
     if (!file)
-        draft.check(std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
-    draft.finish();
+        throw Failure(path + ": " + std::strerror(errno != 0 ? errno : EIO));
+    copyFile(draft.getPath(), path);
 }
 
-void copyWhole(const std::string& from, const std::string& to) {
-    const Draft draft(to);
-    std::error_code failure;
-    fs::copy_file(from, draft.getPath(), failure);
-    draft.check(failure);
-    fs::permissions(draft.getPath(), fs::perms::owner_write, fs::perm_options::add, failure);
-    draft.check(failure);
-    draft.finish();
+void copyFile(const std::wstring& source, const std::string& path) {
+    try {
+        FileUtils::replaceFile(source, toPath(path));
+    } catch (const hostfx::except::IUserException& failure) {
+        throw Failure(path + ": " + failure.what(), failure.getErrorID());
+    }
 }
 
 std::string resolve(const std::string& path, const std::string& fromFile) {

@@ -5,6 +5,8 @@
 #include "cli/Files.h"
 #include "cli/Progress.h"
 
+#include <filesystem>
+
 namespace vellox::cli {
 
 namespace {
@@ -64,9 +66,9 @@ public:
             throw Failure("fill needs data: a description, or --each with rows");
         const Data data = data_.empty() ? Data{Data::Kind::Record, {}, {}, {}, 0} : readDataFile(data_);
         const DeckDescription description(data, data_);
-        const std::vector<Task> tasks = listTasks(readTokens(data), data.find("tokens") != nullptr);
-        const ppt::Template source = ppt::Template::forOffice(fromUtf8(findTemplate(template_)));
-        return makeDecks(tasks, description, source, console);
+        const std::string source = findTemplate(template_);
+        const std::vector<Task> tasks = listTasks(readTokens(data), data.find("tokens") != nullptr, source);
+        return makeDecks(tasks, description, ppt::Template::forOffice(toPath(source)), console);
     }
 
 private:
@@ -80,19 +82,20 @@ private:
         return record;
     }
 
-    std::vector<Task> listTasks(const Record& tokens, bool hasTokens) const {
+    std::vector<Task> listTasks(const Record& tokens, bool hasTokens, const std::string& source) const {
         if (each_.empty())
-            return {{output_, tokens, hasTokens}};
+            return {{makeOutput(output_, kDeckOutput, {source}), tokens, hasTokens}};
         const CsvFile csv = readCsvFile(each_);
         std::vector<Task> tasks;
-        std::map<std::string, unsigned> lines; // of the rows that have an output
+        std::map<std::string, unsigned> lines; // of the rows that have an output, however its path is spelled
         for (const CsvRow& row : csv.rows) {
             const DataPlace place{each_, {}, row.line};
             Task task{{}, tokens, true};
             for (std::size_t i = 0; i < csv.names.size(); ++i)
                 task.record[csv.names[i]] = row.cells[i];
-            task.output = makeOutput(task.record, place);
-            const auto former = lines.emplace(task.output, row.line);
+            task.output = makeRowOutput(task.record, source, place);
+            const std::string path = std::filesystem::path(task.output).lexically_normal().string();
+            const auto former = lines.emplace(path, row.line);
             if (!former.second)
                 throw DataFailure(place, "the row's deck is " + task.output + ", and so is that of line " +
                                              std::to_string(former.first->second));
@@ -103,19 +106,31 @@ private:
         return tasks;
     }
 
+    std::string makeRowOutput(const Record& record, const std::string& source, const DataPlace& place) const {
+        const std::string output = fillIn(output_, makeSafe(record), place);
+        if (output.find(kUnsafe) != output.npos)
+            for (const auto& entry : record)
+                if (!isPartOfName(entry.second) && output_.find("{" + entry.first + "}") != output_.npos)
+                    throw DataFailure(place, entry.first + ": \"" + entry.second +
+                                                 "\" can't be part of a file's name");
+        try {
+            return makeOutput(output, kDeckOutput, {source});
+        } catch (const Failure& failure) {
+            throw DataFailure(place, failure.what());
+        }
+    }
+
     /// A value is part of a name, and no way to elsewhere.
-    std::string makeOutput(const Record& record, const DataPlace& place) const {
-        Record safe = record;
-        for (auto& entry : safe)
-            if (entry.second.find_first_of(std::string("/\\\0", 3)) != std::string::npos)
-                entry.second.clear();
-        const std::string output = fillIn(output_, safe, place);
-        for (const auto& entry : record)
-            if (entry.second.find_first_of(std::string("/\\\0", 3)) != std::string::npos &&
-                output_.find("{" + entry.first + "}") != std::string::npos)
-                throw DataFailure(place,
-                                  entry.first + ": \"" + entry.second + "\" can't be part of a file's name");
-        return output;
+    static bool isPartOfName(const std::string& value) {
+        return value != "." && value != ".." && value.find_first_of(std::string("/\\\0", 3)) == value.npos;
+    }
+
+    static constexpr char kUnsafe = '\0';
+    static Record makeSafe(Record record) {
+        for (auto& entry : record)
+            if (!isPartOfName(entry.second))
+                entry.second = kUnsafe;
+        return record;
     }
 
     int makeDecks(const std::vector<Task>& tasks, const DeckDescription& description,
@@ -150,7 +165,7 @@ private:
     JobResult makeDeck(const Task& task, const DeckDescription& description,
                        const ppt::Template& source) const {
         JobResult result;
-        ppt::Presentation deck(fromUtf8(task.output), source);
+        ppt::Presentation deck(toPath(task.output), source);
         deck.setProfile(L"office");
         deck.setStrict(isStrict_);
         const auto report = [&](const DataPlace& place, const ppt::Finding& finding) {

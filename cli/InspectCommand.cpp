@@ -3,6 +3,7 @@
 #include "cli/TemplatePage.h"
 
 #include <cstdio>
+#include <optional>
 
 namespace vellox::cli {
 
@@ -45,12 +46,14 @@ public:
     }
 
     int run(Console& console) override {
-        const TemplateReport report = inspectTemplate(fromUtf8(findTemplate(template_)));
-        if (!html_.empty())
-            writeWhole(html_, makeTemplatePage(report));
+        const std::string source = findTemplate(template_);
+        const std::string page = html_ ? makeOutput(*html_, kPageOutput, {source}) : std::string();
+        const TemplateReport report = inspectTemplate(toPath(source));
+        if (html_)
+            writeFile(page, makeTemplatePage(report));
         if (isJson_)
             console.print(toJson(report));
-        else if (html_.empty())
+        else if (!html_)
             write(report, console);
         return kDone;
     }
@@ -70,7 +73,8 @@ private:
         }
     }
 
-    std::string template_, html_;
+    std::string template_;
+    std::optional<std::string> html_;
     bool isJson_ = false;
 };
 

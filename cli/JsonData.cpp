@@ -1,6 +1,7 @@
 #include "cli/Data.h"
 
 #include <nlohmann/json.hpp>
+#include <unordered_set>
 
 namespace vellox::cli {
 
@@ -53,10 +54,10 @@ public:
     bool binary(binary_t&) override { return false; } // which a text doesn't have
     bool start_object(std::size_t) override { return begin(Data::Kind::Record); }
     bool key(string_t& name) override {
-        Data& record = *open_.back();
-        if (record.find(name))
+        count(name.size());
+        if (!names_.back().insert(name).second)
             fail("there are two values for \"" + name + "\"");
-        record.members.emplace_back(name, Data());
+        open_.back()->members.emplace_back(name, Data());
         return true;
     }
     bool end_object() override { return end(); }
@@ -74,9 +75,13 @@ private:
         throw Failure(file_ + ":" + std::to_string(line_) + ": " + text);
     }
 
-    Data& place(Data::Kind kind) {
-        if (++count_ > kMaxDataValues)
-            fail("it has too many values");
+    void count(std::size_t bytes) {
+        if (!size_.add(bytes))
+            fail("it is too much data");
+    }
+
+    Data& place(Data::Kind kind, std::size_t bytes) {
+        count(bytes);
         Data* value = &root_;
         if (!open_.empty() && open_.back()->kind == Data::Kind::List)
             value = &open_.back()->items.emplace_back();
@@ -88,19 +93,21 @@ private:
     }
 
     bool add(Data::Kind kind, const std::string& text) {
-        place(kind).text = text;
+        place(kind, text.size()).text = text;
         return true;
     }
 
     bool begin(Data::Kind kind) {
         if (open_.size() >= kMaxDataDepth)
             fail("its values stand too deep in one another");
-        open_.push_back(&place(kind));
+        open_.push_back(&place(kind, 0));
+        names_.emplace_back();
         return true;
     }
 
     bool end() {
         open_.pop_back();
+        names_.pop_back();
         return true;
     }
 
@@ -108,7 +115,8 @@ private:
     const unsigned& line_;
     Data root_;
     std::vector<Data*> open_; // what is being read, each within the one before, which doesn't grow meanwhile
-    std::size_t count_ = 0;
+    std::vector<std::unordered_set<std::string>> names_; // of each of those
+    DataSize size_;
 };
 
 } // namespace

@@ -34,7 +34,7 @@ public:
         std::error_code ignored;
         if (!isForced_ && fs::exists(fs::symlink_status(file, ignored)))
             throw Failure(file.string() + ": there is a file of that name; --force replaces it");
-        copyWhole(toUtf8(ppt::Template().getPath()), file.string());
+        copyFile(ppt::Template().getPath(), file.string());
         return kDone;
     }
 

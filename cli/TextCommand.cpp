@@ -160,7 +160,7 @@ public:
 
     int run(Console& console) override {
         requireFile(deck_);
-        const DeckContents contents = readDeck(fromUtf8(deck_));
+        const DeckContents contents = readDeck(toPath(deck_));
         if (isJson_) {
             Json slides = Json::array();
             for (const DeckSlide& slide : contents.slides)

@@ -1,5 +1,6 @@
 #include "cli/Data.h"
 
+#include <yaml-cpp/depthguard.h>
 #include <yaml-cpp/yaml.h>
 
 #include <set>
@@ -42,7 +43,7 @@ Data::Kind judge(const std::string& word) {
     return isNumber(word) ? Data::Kind::Number : Data::Kind::Text;
 }
 
-/// An alias stands for all of its anchor again, so that a short text can be a huge tree: values are counted.
+/// An alias stands for all of its anchor again, so that a short text can be a huge tree: its size is counted.
 class TreeBuilder {
 public:
     explicit TreeBuilder(const std::string& file) : file_(file) {}
@@ -50,8 +51,8 @@ public:
     Data build(const YAML::Node& node, unsigned depth) {
         Data value;
         value.line = getLine(node);
-        if (++count_ > kMaxDataValues)
-            fail(node, "it has too many values");
+        if (!size_.add(node.IsScalar() ? node.Scalar().size() : 0))
+            fail(node, "it is too much data");
         if (depth > kMaxDataDepth)
             fail(node, "its values stand too deep in one another");
         switch (node.Type()) {
@@ -74,6 +75,10 @@ public:
         return value;
     }
 
+    static unsigned getLine(const YAML::Node& node) {
+        return node.Mark().is_null() ? 0 : static_cast<unsigned>(node.Mark().line) + 1;
+    }
+
 private:
     void buildRecord(const YAML::Node& node, Data& value, unsigned depth) {
         value.kind = Data::Kind::Record;
@@ -82,6 +87,8 @@ private:
                 fail(entry.first, "a name is no text");
             if (!names_.emplace(depth, entry.first.Scalar()).second)
                 fail(entry.first, "there are two values for \"" + entry.first.Scalar() + "\"");
+            if (!size_.add(entry.first.Scalar().size()))
+                fail(entry.first, "it is too much data");
             value.members.emplace_back(entry.first.Scalar(), Data());
         }
         names_.erase(names_.lower_bound({depth, {}}), names_.lower_bound({depth + 1, {}}));
@@ -90,27 +97,32 @@ private:
             value.members[i++].second = build(entry.second, depth + 1);
     }
 
-    static unsigned getLine(const YAML::Node& node) {
-        return node.Mark().is_null() ? 0 : static_cast<unsigned>(node.Mark().line) + 1;
-    }
-
     [[noreturn]] void fail(const YAML::Node& node, const std::string& text) const {
         throw DataFailure({file_, {}, getLine(node)}, text);
     }
 
     const std::string& file_;
     std::set<std::pair<unsigned, std::string>> names_; // of the record that is being read
-    std::size_t count_ = 0;
+    DataSize size_;
 };
+
+DataPlace getPlace(const YAML::Exception& error, const std::string& file) {
+    return {file, {}, error.mark.is_null() ? 0 : static_cast<unsigned>(error.mark.line) + 1};
+}
 
 } // namespace
 
 Data parseYaml(const std::string& text, const std::string& file) {
     try {
-        return TreeBuilder(file).build(YAML::Load(text), 0);
+        const std::vector<YAML::Node> documents = YAML::LoadAll(text);
+        if (documents.size() > 1)
+            throw DataFailure({file, {}, TreeBuilder::getLine(documents[1])},
+                              "a second document begins here, and one is all that a file may have");
+        return TreeBuilder(file).build(documents.empty() ? YAML::Node() : documents[0], 0);
+    } catch (const YAML::DeepRecursion& error) {
+        throw DataFailure(getPlace(error, file), "its values stand too deep in one another");
     } catch (const YAML::Exception& error) {
-        const unsigned line = error.mark.is_null() ? 0 : static_cast<unsigned>(error.mark.line) + 1;
-        throw DataFailure({file, {}, line}, "it is no YAML: " + error.msg);
+        throw DataFailure(getPlace(error, file), "it is no YAML: " + error.msg);
     }
 }
 

@@ -18,11 +18,13 @@ octave_value draw(const octave_value& value, const PPTObject& self, const std::s
     return interpreter.feval("__vellox_figure__", ovl(value, room.width, room.height), 1)(0);
 }
 
+/// Handles are numbers, and most shapes show a number as a text: in a field it is a figure where only a picture goes.
 octave_value drawFields(const octave_value& value, const PPTObject& self) {
     octave_scalar_map fields = value.scalar_map_value();
     const string_vector names = fields.fieldnames();
     for (octave_idx_type i = 0; i < names.numel(); ++i)
-        fields.setfield(names(i), draw(fields.getfield(names(i)), self, names(i)));
+        if (hostbind::isForPictures(self, fromUtf8(names(i))))
+            fields.setfield(names(i), draw(fields.getfield(names(i)), self, names(i)));
     return octave_value(fields);
 }
 

@@ -65,6 +65,7 @@ OctValue::~OctValue() = default;
 void OctValue::read() {
     if (value_.is_string()) {
         code_ = HvCharClass;
+        requireUtf8();
     } else if (value_.iscell()) {
         readCells(value_.cell_value());
     } else if (value_.islogical()) {
@@ -242,10 +243,24 @@ int OctValue::getInteger() const {
 }
 
 std::wstring OctValue::getString() const {
-    if (code_ != HvCharClass)
-        return {};
+    return code_ == HvCharClass ? fromUtf8(getBytes()) : std::wstring();
+}
+
+/// Characters of Octave are bytes, which need not be a text.
+void OctValue::requireUtf8() const {
+    const charNDArray characters = value_.char_array_value();
+    const auto isOther = [](char c) { return (c & 0x80) != 0; };
+    if (std::none_of(characters.data(), characters.data() + characters.numel(), isOther))
+        return;
+    const std::string bytes = getBytes();
+    if (toUtf8(fromUtf8(bytes)) != bytes)
+        raiseError("vellox:encoding",
+                   "a text isn't in UTF-8; unicode2native and native2unicode convert texts");
+}
+
+std::string OctValue::getBytes() const {
     if (value_.rows() == 1 && value_.dims().ndims() == 2)
-        return fromUtf8(value_.string_value());
+        return value_.string_value();
     std::string lines;
     if (value_.dims().ndims() == 2) {
         const string_vector rows = value_.string_vector_value();
@@ -255,7 +270,7 @@ std::wstring OctValue::getString() const {
         const charNDArray all = value_.char_array_value();
         lines.assign(all.data(), static_cast<std::size_t>(all.numel()));
     }
-    return fromUtf8(lines);
+    return lines;
 }
 
 const bool* OctValue::getLogicals() const {

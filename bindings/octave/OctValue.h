@@ -69,6 +69,8 @@ public:
 
 private:
     void read();
+    void requireUtf8() const;
+    std::string getBytes() const;
     void readNumbers();
     void readArray();
     void readCells(const Cell& cells);

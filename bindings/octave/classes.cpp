@@ -85,7 +85,7 @@ private:
         file_ << "    function self = " << bound_.name << " (varargin)\n"
               << indent(formatConstructors(bound_), "      ##");
         if (!superclass.isAbstract && superclass.getSuperclass())
-            file_ << "      self@" << superclass.getFullName() << " (\"\\001\");\n";
+            file_ << "      self@" << superclass.getFullName() << " (\"\\001vellox: made by a subclass\");\n";
         file_ << "      __vellox__ (\"make\", " << number_ << ", self, varargin{:});\n    endfunction\n\n";
     }
 

@@ -20,7 +20,7 @@ using namespace hostbind;
 using Values = octave_value_list;
 
 /// What a class file hands to the constructor of a superclass, so that only one of them makes an object.
-constexpr char kMadeBySubclass[] = "\001";
+constexpr char kMadeBySubclass[] = "\001vellox: made by a subclass";
 
 Values getRest(const Values& values, octave_idx_type start) {
     return values.slice(start, values.length() - start);

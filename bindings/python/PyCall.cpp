@@ -18,10 +18,26 @@ PyCall::PyCall(PyObject* const* objects, std::size_t count, const Reading& readi
     }
 }
 
+namespace {
+
+bool hasKeyword(const std::vector<const hostbind::Signature*>& signatures, const std::string& name) {
+    for (const hostbind::Signature* signature : signatures)
+        for (const hostbind::Parameter& parameter : *signature)
+            if (parameter.isKeyword && parameter.name == name)
+                return true;
+    return false;
+}
+
+} // namespace
+
 std::size_t PyCall::select(const std::vector<const hostbind::Signature*>& signatures, const std::string& name,
                            const std::string& takes) const {
     const int found =
         count_ > kMostArguments ? -1 : hostbind::findOverload(signatures, getArguments(), named_);
+    for (const hostbind::NamedArgument& argument : named_)
+        if (found < 0 && !hasKeyword(signatures, argument.name))
+            throw PythonError(PyExc_TypeError, name + " takes no keyword argument '" + argument.name +
+                                                   "'. It takes:\n\n" + takes);
     if (found < 0)
         throw PythonError(PyExc_TypeError, name + " doesn't take (" + describeValues(objects_, count_) +
                                                "). It takes:\n\n" + takes);

@@ -237,7 +237,7 @@ std::string describeValues(PyObject* const* values, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         PyErr_Clear(); // a value that fails to say what it is
         const PyRef text =
-            PyRef::take(module ? PyObject_CallMethod(module.get(), "repr", "O", values[i]) : nullptr);
+            PyRef::take(module ? PyObject_CallMethod(module.get(), "repr", "(O)", values[i]) : nullptr);
         const char* utf8 = text && PyUnicode_Check(text.get()) ? PyUnicode_AsUTF8(text.get()) : nullptr;
         words += (i == 0 ? "" : ", ") + std::string(utf8 ? utf8 : Py_TYPE(values[i])->tp_name);
     }

@@ -46,7 +46,7 @@ bool isMasked(PyObject* object) {
 /// What a function of the package's own makes of an object of another library.
 PyRef readForeign(const char* moduleName, const char* function, PyObject* object) {
     const PyRef module = checked(PyImport_ImportModule(moduleName));
-    return checked(PyObject_CallMethod(module.get(), function, "O", object));
+    return checked(PyObject_CallMethod(module.get(), function, "(O)", object));
 }
 
 } // namespace

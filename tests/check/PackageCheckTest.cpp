@@ -7,6 +7,7 @@
 #include "tests/support/Mutations.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <fstream>
@@ -108,6 +109,19 @@ TEST_F(PackageCheck, LooksIntoTheArchive) {
     EXPECT_EQ(describe(checkPackage(folder / L"none.pptx")).substr(0, 16), "error cannotOpen");
     test::writeFile(path, "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1 and so on");
     EXPECT_NE(describe(checkPackage(path)).find("encrypted"), std::string::npos);
+}
+
+// One part after another that is modest by itself would take all memory together; and nobody may ever write to a pipe.
+TEST_F(PackageCheck, EndsWhateverItIsGiven) {
+    Parts parts = sound;
+    const std::string bulk = "<a x='" + std::string(4 << 20, 'x') + "'/>";
+    for (int i = 0; i < 8; ++i)
+        parts["ppt/slides/bulk" + std::to_string(i) + ".xml"] = bulk;
+    EXPECT_NE(describe(check(parts)).find("far too much"), std::string::npos);
+    const std::wstring pipe = folder / L"pipe.pptx";
+    ASSERT_EQ(::mkfifo(toUtf8(pipe).c_str(), 0600), 0);
+    EXPECT_EQ(describe(checkPackage(pipe)),
+              "error cannotOpen  0 : the package can't be opened: it is no regular file\n");
 }
 
 // A folder is a package too, and the strict form is told once.

@@ -233,7 +233,7 @@ def test_broken_files(work):
         pathlib.Path(f"{name}.pptx").write_bytes(contents)
         assert f"{name}.pptx" in fail("text", f"{name}.pptx")
         assert f"{name}.pptx" in fail("diff", "deck.pptx", f"{name}.pptx")
-        assert f"{name}.pptx: error: " in run("check", f"{name}.pptx", status=1).stdout
+        assert f"{name}.pptx: error: " in run("check", f"{name}.pptx", status=2).stdout
         assert f"{name}.pptx" in fail("fill", f"{name}.pptx", "deck.yaml", "-o", "out.pptx")
     # What can be read of a deck is shown, without anything that a terminal would obey.
     with zipfile.ZipFile("deck.pptx") as source, zipfile.ZipFile("bad.pptx", "w") as target:
@@ -295,6 +295,65 @@ def test_outputs_that_cannot_be_written(work):
         os.chmod(".", 0o500)
         assert "deck.pptx" in fail("fill", "default", "deck.yaml", "-o", "deck.pptx")
         os.chmod(".", 0o700)
+
+
+def test_outputs_replace_what_they_may_alone(work):
+    pathlib.Path("rows.csv").write_text("id,part\r..,a\ra,b\ra.pptx,c\r")
+    pathlib.Path("keep.png").write_bytes(PICTURE.read_bytes())
+    run("new", "mine.pptx")
+    os.mkdir("folder")
+    before = {path: path.stat().st_mtime_ns for path in pathlib.Path().iterdir()}
+    for words in (["fill", "mine.pptx", "deck.yaml", "-o", output] for output in
+                  ("", ".", "..", "folder", "folder/", "deck.yaml", "deck.odp", "mine.pptx", "./mine", "folder/../mine.pptx")):
+        fail(*words)
+    for words in (["inspect", "default", "--html", output] for output in ("", "keep.png", "page", "folder")):
+        fail(*words)
+    for words in (["doctor", "mine.pptx", "--heal", output] for output in ("", "keep.png", "mine.pptx", "folder")):
+        fail(*words)
+    each = ["fill", "default", "deck.yaml", "--each", "rows.csv", "-o"]
+    assert ":2: id: \"..\" can't be part of a file's name" in fail(*each, "{id}/deck.pptx")
+    pathlib.Path("rows.csv").write_text("id,part\na,b\na.pptx,c\n")
+    assert ":3: the row's deck is d-a.pptx, and so is that of line 2" in fail(*each, "d-{id}")
+    del before[pathlib.Path("rows.csv")]
+    assert all(path.stat().st_mtime_ns == time for path, time in before.items())
+    assert sorted(path for path in pathlib.Path().iterdir()) == sorted([*before, pathlib.Path("rows.csv")])
+    # Modes and links stay, and what is read-only is meant to.
+    run("inspect", "default", "--html", "page.html")
+    os.chmod("page.html", 0o640)
+    os.symlink("page.html", "link.html")
+    run("inspect", "mine.pptx", "--html", "link.html")
+    assert os.path.islink("link.html") and os.stat("page.html").st_mode & 0o777 == 0o640
+    os.chmod("page.html", 0o440)
+    os.chmod("mine.pptx", 0o440)
+    assert "read-only" in fail("inspect", "mine.pptx", "--html", "page.html")
+    assert "read-only" in fail("new", "mine.pptx", "--force")
+    os.mkfifo("pipe.pptx")
+    for command in "text", "inspect", "doctor":
+        assert "regular file" in fail(command, "pipe.pptx")
+    assert "regular file" in run("check", "pipe.pptx", status=2).stdout
+    name = os.fsdecode(b"d\xe4ck.pptx")
+    done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "-o", name], capture_output=True)
+    assert done.returncode == 2 and b"UTF-8" in done.stderr and len(list_files("d*.pptx")) == 0
+
+
+def test_data_of_any_kind_ends_soon(work):
+    """Files that took minutes, or were read by half."""
+    lines = [f"a{i}: &a{i} [{', '.join([f'*a{i - 1}' if i else 'x'] * 10)}]" for i in range(9)]
+    keys = "\n".join(f"  k{i}: 1" for i in range(20000))
+    for name, text, words in (
+            ("laugh.yaml", "\n".join(lines), "too much data"), ("deep.yaml", "[" * 5000, "too deep"),
+            ("two.yaml", DECK + "---\n" + DECK, ":18: a second document"),
+            ("keys.json", json.dumps({f"k{i}": 1 for i in range(20000)}), "nothing is known of that name"),
+            ("keys.yaml", "tokens:\n" + keys + "\nslides: []\nslide: 1", "nothing is known of that name")):
+        pathlib.Path(name).write_text(text)
+        assert words in fail("fill", "default", name, "-o", "deck.pptx")
+    pathlib.Path("lines.json").write_text(json.dumps({"slides": [
+        {"layout": "Title and Content", "contents": {"Content": "a\r\nb\rc\n"}}]}))
+    run("fill", "default", "lines.json", "-o", "lines.pptx")
+    assert "Content:\n    a\n    b\n    c\n" in run("text", "lines.pptx").stdout
+    pathlib.Path("mac.csv").write_text("id,name\r1,Ada\r2,Bob\r")
+    run("fill", "default", "deck.yaml", "--each", "mac.csv", "-o", "mac-{id}.pptx")
+    assert list_files("mac-*") == ["mac-1.pptx", "mac-2.pptx"]
 
 
 def test_a_pipe_that_closes_ends_it_silently(work):

@@ -23,13 +23,13 @@ constexpr char kRun[] = "<a:t>prompt</a:t>";
 
 /// A series of a chart, with what it keeps of its data.
 std::string series(const std::string& name, const std::string& first, const std::string& second) {
-    const auto point = [](const std::string& value) {
-        return "<c:pt idx='0'><c:v>" + value + "</c:v></c:pt>";
+    const auto point = [](const std::string& value, int index = 0) {
+        return "<c:pt idx='" + std::to_string(index) + "'><c:v>" + value + "</c:v></c:pt>";
     };
     return "<c:ser><c:tx><c:strRef><c:strCache>" + point(name) +
-           "</c:strCache></c:strRef></c:tx><c:cat><c:strRef>" + "<c:strCache>" + point("Q1") + point("Q2") +
-           "</c:strCache></c:strRef></c:cat><c:val><c:numRef><c:numCache>" + point(first) + point(second) +
-           "</c:numCache></c:numRef></c:val></c:ser>";
+           "</c:strCache></c:strRef></c:tx><c:cat><c:strRef>" + "<c:strCache>" + point("Q1") +
+           point("Q2", 1) + "</c:strCache></c:strRef></c:cat><c:val><c:numRef><c:numCache>" + point(first) +
+           point(second, 1) + "</c:numCache></c:numRef></c:val></c:ser>";
 }
 
 class DeckReader : public testing::Test {
@@ -52,7 +52,7 @@ protected:
                 "<mc:Choice Requires='p14'>" +
                 test::shape(6, "New") + "</mc:Choice><mc:Fallback>" + test::shape(6, "Old") +
                 "</mc:Fallback></mc:AlternateContent>" + test::tableShape(8, "Table", 1, 2));
-        first.attributes = " show='0'";
+        first.attributes = " show='0' xmlns:p14='http://schemas.microsoft.com/office/powerpoint/2010/main'";
         test::Page& second = builder.addSlide(
             "", layout,
             test::pictureShape(2, "Picture", "rId7", "<p:spPr/>") +
@@ -90,7 +90,7 @@ TEST_F(DeckReader, ShowsWhatIsOnSlides) {
     EXPECT_TRUE(first.isHidden);
     EXPECT_FALSE(second.isHidden);
 
-    // Groups are entered, and of alternatives the first one counts.
+    // Groups are entered, and of alternatives the first one counts that is known.
     std::wstring names;
     for (const DeckShape& shape : first.shapes)
         names += shape.name + L" ";
@@ -111,6 +111,31 @@ TEST_F(DeckReader, ShowsWhatIsOnSlides) {
     EXPECT_EQ(second.shapes[1].altText, L"Growth");
     ASSERT_EQ(second.notes.size(), 1U);
     EXPECT_EQ(second.notes[0].text, L"prompt");
+}
+
+TEST_F(DeckReader, PutsPointsWhereTheyBelong) {
+    Parts parts = makeDeck();
+    std::string& slide = parts["ppt/slides/slide2.xml"];
+    const std::size_t start = slide.find("<p:graphicFrame>");
+    slide.insert(start, slide.substr(start, slide.find("</p:graphicFrame>") + 17 - start));
+    std::string& chart = parts["ppt/charts/chart1.xml"];
+    const std::string gap = "<c:ptCount val='4'/><c:pt idx='2'>", huge = "<c:pt idx='4294967295'>";
+    chart.replace(chart.find("<c:pt idx='1'><c:v>2<"), 14, gap);
+    chart.replace(chart.find("<c:pt idx='1'><c:v>4<"), 14, huge);
+    for (std::size_t at = 0; (at = chart.find("<c:cat>", at)) != std::string::npos; at += 7)
+        chart.replace(at, chart.find("</c:cat>", at) - at,
+                      "<c:cat><c:multiLvlStrRef><c:multiLvlStrCache><c:lvl><c:pt idx='0'><c:v>Q1</c:v></c:pt>"
+                      "<c:pt idx='1'><c:v>Q2</c:v></c:pt></c:lvl><c:lvl><c:pt idx='0'><c:v>2026</c:v></c:pt>"
+                      "</c:lvl></c:multiLvlStrCache></c:multiLvlStrRef>");
+    const DeckContents contents = read(parts);
+    ASSERT_EQ(contents.slides.at(1).shapes.size(), 3U);
+    const std::vector<std::vector<std::wstring>> values = {
+        {L"", L"2026 Q1", L"2026 Q2"}, {L"North", L"1", L"", L"2", L""}, {L"South", L"3"}};
+    EXPECT_EQ(contents.slides[1].shapes[1].rows, values);
+    EXPECT_EQ(contents.slides[1].shapes[2].rows, values) << "of a second frame of the chart";
+    const DeckContents unknown = read(
+        test::withChange(makeDeck(), "ppt/slides/slide1.xml", "schemas.microsoft.com/office", "example.org"));
+    EXPECT_EQ(unknown.slides.at(0).shapes.at(2).name, L"Old");
 }
 
 TEST_F(DeckReader, TellsDecksApart) {

@@ -16,7 +16,10 @@ namespace {
 /// The steps in their order.
 class PackageCheck {
 public:
-    PackageCheck(const std::wstring& path, Report& report) : path_(path), report_(report), xml_(report) {}
+    PackageCheck(const std::wstring& path, Report& report)
+        : path_(path),
+          report_(report),
+          xml_(path, report) {}
 
     void run() {
         PackageReader reader(path_, xml_, report_);

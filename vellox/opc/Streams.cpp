@@ -4,6 +4,7 @@
 #include "vellox/opc/Exception.h"
 
 #include <boost/make_shared.hpp>
+#include <filesystem>
 #include <fstream>
 
 namespace opc {
@@ -72,6 +73,9 @@ std::ios::openmode toOpenMode(int mode) {
 } // namespace
 
 boost::shared_ptr<std::istream> LocalFileSystemOps::createInputStream(const std::wstring& path, int mode) {
+    std::error_code ignored;
+    if (std::filesystem::is_other(vellox::toUtf8(path), ignored))
+        throw Exception("it is no regular file"); // a pipe might never answer
     return boost::make_shared<std::ifstream>(vellox::toUtf8(path), toOpenMode(mode));
 }
 

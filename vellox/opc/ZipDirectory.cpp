@@ -5,6 +5,7 @@
 
 #include <zip.h>
 
+#include <filesystem>
 #include <memory>
 
 namespace opc {
@@ -12,6 +13,9 @@ namespace opc {
 std::vector<ZipEntryFacts> listZipEntries(const std::wstring& path) {
     std::vector<ZipEntryFacts> entries;
     int failure = 0;
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(vellox::toUtf8(path), ignored))
+        return entries; // a pipe might never answer
     const std::unique_ptr<zip_t, decltype(&zip_discard)> archive(
         zip_open(vellox::toUtf8(path).c_str(), ZIP_RDONLY, &failure), zip_discard);
     const zip_int64_t count = archive ? zip_get_num_entries(archive.get(), 0) : 0;

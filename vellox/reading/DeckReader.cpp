@@ -11,7 +11,7 @@
 #include "vellox/reading/ShapeContents.h"
 
 #include <algorithm>
-#include <filesystem>
+#include <set>
 
 namespace vellox::reading {
 
@@ -19,12 +19,6 @@ using namespace check;
 using xercesc::DOMElement;
 
 namespace {
-
-std::uint64_t getFileSize(const std::wstring& path) {
-    std::error_code failure;
-    const std::uintmax_t size = std::filesystem::file_size(toUtf8(path), failure);
-    return failure ? 0 : size; // of a folder
-}
 
 class DeckReader {
 public:
@@ -34,7 +28,7 @@ public:
           shapes_(markup_, parts_) {}
 
     std::vector<ppt::DeckSlide> run() {
-        const opc::DocumentScope main = parts_.take(index_.mainPart);
+        const opc::DocumentScope main = parts_.read(index_.mainPart);
         if (!main || !markup_.is(*main->getDocumentElement(), kPresentation, u"presentation"))
             throw opc::Exception("it is no presentation");
         std::vector<ppt::DeckSlide> slides;
@@ -52,9 +46,11 @@ public:
     }
 
 private:
-    // A slide that can't be read has its number all the same.
+    // A slide that can't be read has its number all the same, and so has one that is listed again, which no program does.
     void readSlide(const PartKey& key, std::vector<ppt::DeckSlide>& slides) {
-        const opc::DocumentScope document = parts_.take(key);
+        if (!listed_.insert(key).second)
+            return;
+        const opc::DocumentScope document = parts_.read(key);
         if (!document)
             return;
         const DOMElement& root = *document->getDocumentElement();
@@ -75,7 +71,7 @@ private:
         const auto place = layouts_.emplace(layouts.front(), std::wstring());
         if (!place.second)
             return place.first->second;
-        if (const opc::DocumentScope document = parts_.take(layouts.front()))
+        if (const opc::DocumentScope document = parts_.read(layouts.front()))
             if (const DOMElement* data =
                     markup_.find(*document->getDocumentElement(), kPresentation, u"cSld"))
                 place.first->second = shorten(markup_.get(*data, u"name"));
@@ -84,7 +80,7 @@ private:
 
     std::vector<ppt::DeckParagraph> readNotes(const PartKey& slide) {
         for (const PartKey& page : index_.getTargets(slide, L"notesSlide"))
-            if (const opc::DocumentScope document = parts_.take(page))
+            if (const opc::DocumentScope document = parts_.read(page))
                 return shapes_.readNotes(*document->getDocumentElement(), page);
         return {};
     }
@@ -95,12 +91,13 @@ private:
     ShapeContents shapes_;
     unsigned number_ = 0;
     std::map<PartKey, std::wstring> layouts_;
+    std::set<PartKey> listed_;
 };
 
 std::vector<ppt::DeckSlide> readSlides(const std::wstring& path, std::vector<ppt::Finding>& findings) {
     Report report(findings);
     PackageIndex index;
-    XmlReader xml(report);
+    XmlReader xml(path, report);
     PackageReader reader(path, xml, report); // whose container the parts are read from
     if (reader.read(index))
         findMainPart(index, path, report);

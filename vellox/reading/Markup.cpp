@@ -2,6 +2,9 @@
 
 #include "vellox/opc/XercesString.h"
 
+#include <sstream>
+#include <string_view>
+
 namespace vellox::reading {
 
 using xercesc::DOMElement;
@@ -19,6 +22,31 @@ const DOMElement* Markup::find(const DOMElement& parent, check::Namespace space,
     while (child && !is(*child, space, name))
         child = child->getNextElementSibling();
     return child;
+}
+
+const DOMElement* Markup::choose(const DOMElement& alternatives) {
+    const DOMElement* child = alternatives.getFirstElementChild();
+    while (child && !is(*child, check::kCompatibility, u"Fallback") &&
+           !(is(*child, check::kCompatibility, u"Choice") && isUnderstood(*child)))
+        child = child->getNextElementSibling();
+    return child;
+}
+
+// Whether current readers know all namespaces that the choice needs: those of the format, and the extensions that the
+// years have brought, which share the beginning of their names.
+bool Markup::isUnderstood(const DOMElement& choice) {
+    constexpr std::wstring_view kExtensions = L"http://schemas.microsoft.com/office/";
+    std::wistringstream prefixes(get(choice, u"Requires"));
+    std::wstring prefix;
+    bool isKnown = false;
+    while (prefixes >> prefix) {
+        const XMLCh* uri = choice.lookupNamespaceURI(opc::XercesString(prefix));
+        isKnown = uri && (names_.findNamespace(uri) < check::kFirstOther ||
+                          opc::toWideString(uri).compare(0, kExtensions.size(), kExtensions) == 0);
+        if (!isKnown)
+            break;
+    }
+    return isKnown;
 }
 
 std::wstring Markup::get(const DOMElement& element, const XMLCh* name) const {

@@ -26,12 +26,12 @@ public:
         return child ? find(*child, space, path...) : nullptr;
     }
 
-    /// Each child in order. Of alternatives it is the first that counts, which is what current readers show.
+    /// Each child in order. Of alternatives the first counts that current readers understand.
     template <class Visit> void forEach(const xercesc::DOMElement& parent, Visit visit) {
         for (const xercesc::DOMElement* child = parent.getFirstElementChild(); child;
              child = child->getNextElementSibling()) {
             if (is(*child, check::kCompatibility, u"AlternateContent")) {
-                if (const xercesc::DOMElement* choice = child->getFirstElementChild())
+                if (const xercesc::DOMElement* choice = choose(*child))
                     forEach(*choice, visit);
             } else {
                 visit(*child);
@@ -55,6 +55,8 @@ public:
     std::wstring getReference(const xercesc::DOMElement& element, const XMLCh* name);
 
 private:
+    const xercesc::DOMElement* choose(const xercesc::DOMElement& alternatives);
+    bool isUnderstood(const xercesc::DOMElement& choice);
     bool isIn(const XMLCh* uri, check::Namespace space);
 
     check::Names names_;

@@ -13,18 +13,20 @@ using check::Code;
 PartSource::PartSource(const check::PackageIndex& index, std::uint64_t containerBytes, check::Report& report)
     : index_(index),
       report_(report),
-      parser_(boost::make_shared<opc::XmlBudget>(containerBytes)) {
+      budget_(boost::make_shared<opc::XmlBudget>(containerBytes)),
+      parser_(budget_) {
     parser_.setNamespaceAware(true);
 }
 
-opc::DocumentScope PartSource::take(const check::PartKey& key) {
+opc::DocumentScope PartSource::read(const check::PartKey& key) {
     const check::PartRecord* part = index_.find(key);
-    if (!part || !taken_.insert(key).second)
+    if (!part || unreadable_.count(key) > 0)
         return {};
     try {
         const auto stream = part->physical->openInput();
         return opc::DocumentScope(parser_.readDocument(*stream));
     } catch (const std::exception& failure) {
+        unreadable_.insert(key);
         report_.add(Code::unreadablePart, {part->name, 0}, L"it can't be read: " + fromUtf8(failure.what()));
         return {};
     }

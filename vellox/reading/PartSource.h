@@ -1,5 +1,5 @@
 /// @file
-/// The parts of one package, each read once. Internal.
+/// The parts of one package, read whenever they are referred to. Internal.
 
 #ifndef VELLOX_READING_PARTSOURCE_H
 #define VELLOX_READING_PARTSOURCE_H
@@ -27,9 +27,13 @@ public:
     PartSource(const check::PackageIndex& index, std::uint64_t containerBytes, check::Report& report);
 
     const check::PackageIndex& getIndex() const { return index_; }
-    /// The part's document, the first time that it is asked for.
-    /// @return null afterwards, and if the part doesn't exist or can't be read, which is reported
-    opc::DocumentScope take(const check::PartKey& key);
+    /// The part's document, which is charged each time: what several frames show is there for all of them, and a small
+    /// package is no huge deck for that.
+    /// @return null if the part doesn't exist or can't be read, which is reported once
+    opc::DocumentScope read(const check::PartKey& key);
+    /// Charges what becomes of a part beyond what stands in it.
+    /// @throws opc::Exception if that is too much for the package
+    void charge(std::uint64_t cost) { budget_->take(cost); }
     /// What is to be known of a picture, whoever asks.
     const PictureFacts& readPicture(const check::PartKey& key);
 
@@ -39,8 +43,9 @@ private:
     const check::PackageIndex& index_;
     check::Report& report_;
     opc::XercesProcess xerces_;
+    boost::shared_ptr<opc::XmlBudget> budget_;
     opc::BoundedParser parser_;
-    std::set<check::PartKey> taken_;
+    std::set<check::PartKey> unreadable_;
     std::map<check::PartKey, PictureFacts> pictures_;
 };
 

@@ -1,6 +1,7 @@
 #include "vellox/reading/ShapeContents.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/Limits.h"
 #include "vellox/opc/XercesString.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@ using xercesc::DOMElement;
 namespace {
 
 constexpr unsigned kMaxLevel = 8;
+constexpr std::size_t kMaxPoints = 1000000; // of a series
 
 std::wstring getContent(const DOMElement& element) {
     return opc::toWideString(element.getTextContent());
@@ -175,7 +177,7 @@ void ShapeContents::readTable(const DOMElement& table, DeckShape& shape) {
 /// From what the chart keeps of its data, so that no workbook is opened.
 void ShapeContents::readChart(const PartKey& chart, DeckShape& shape) {
     shape.kind = DeckShape::Kind::Chart;
-    const opc::DocumentScope document = parts_.take(chart);
+    const opc::DocumentScope document = parts_.read(chart);
     if (!document)
         return;
     std::vector<std::wstring> categories;
@@ -197,17 +199,56 @@ void ShapeContents::readChart(const PartKey& chart, DeckShape& shape) {
     });
 }
 
-std::vector<std::wstring> ShapeContents::readValues(const DOMElement& series, const XMLCh* name) {
-    std::vector<std::wstring> values;
-    if (const DOMElement* holder = markup_.find(series, kChart, name))
-        markup_.forEachWithin(*holder, kChart, u"v",
+// Names may have several levels, the innermost first. A name of an outer one stands for all up to the next.
+ShapeContents::Texts ShapeContents::readValues(const DOMElement& series, const XMLCh* name) {
+    const DOMElement* holder = markup_.find(series, kChart, name);
+    if (!holder)
+        return {};
+    std::vector<Texts> levels;
+    markup_.forEachWithin(*holder, kChart, u"lvl",
+                          [&](const DOMElement& level) { levels.push_back(readPoints(level)); });
+    Texts values = levels.empty() ? readPoints(*holder) : levels.front();
+    markup_.forEachWithin(*holder, kChart, u"ptCount", [&](const DOMElement& count) {
+        const std::size_t given = str2uint(markup_.get(count, u"val"));
+        resize(values, std::max(values.size(), std::min(given, kMaxPoints)));
+    });
+    for (std::size_t i = 1; i < levels.size(); ++i) {
+        std::wstring outer;
+        for (std::size_t at = 0; at < values.size(); ++at) {
+            if (at < levels[i].size() && !levels[i][at].empty())
+                outer = levels[i][at];
+            parts_.charge(opc::kXmlTextCharacterCost * outer.size());
+            values[at] = outer + (outer.empty() ? L"" : L" ") + values[at];
+        }
+    }
+    return values;
+}
+
+ShapeContents::Texts ShapeContents::readPoints(const DOMElement& cache) {
+    Texts values;
+    markup_.forEachWithin(cache, kChart, u"pt", [&](const DOMElement& point) {
+        const std::size_t index = str2uint(markup_.get(point, u"idx"));
+        if (index >= kMaxPoints)
+            return;
+        resize(values, std::max(values.size(), index + 1));
+        if (const DOMElement* value = markup_.find(point, kChart, u"v"))
+            values[index] = getContent(*value);
+    });
+    if (values.empty()) // a name that stands there by itself
+        markup_.forEachWithin(cache, kChart, u"v",
                               [&](const DOMElement& value) { values.push_back(getContent(value)); });
     return values;
 }
 
+// An index is a number that anybody can write.
+void ShapeContents::resize(Texts& values, std::size_t count) {
+    parts_.charge(opc::kXmlNodeCost * (count - values.size()));
+    values.resize(count);
+}
+
 void ShapeContents::readDiagram(const PartKey& data, DeckShape& shape) {
     shape.kind = DeckShape::Kind::Diagram;
-    const opc::DocumentScope document = parts_.take(data);
+    const opc::DocumentScope document = parts_.read(data);
     if (!document)
         return;
     markup_.forEachWithin(*document->getDocumentElement(), kDrawing, u"p", [&](const DOMElement& paragraph) {

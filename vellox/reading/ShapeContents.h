@@ -32,7 +32,11 @@ private:
     void readTable(const xercesc::DOMElement& table, ppt::DeckShape& shape);
     void readChart(const check::PartKey& chart, ppt::DeckShape& shape);
     void readDiagram(const check::PartKey& data, ppt::DeckShape& shape);
-    std::vector<std::wstring> readValues(const xercesc::DOMElement& series, const XMLCh* name);
+    using Texts = std::vector<std::wstring>;
+    Texts readValues(const xercesc::DOMElement& series, const XMLCh* name);
+    /// Each point at its index: those that a series lacks are empty texts.
+    Texts readPoints(const xercesc::DOMElement& cache);
+    void resize(Texts& values, std::size_t count);
     /// What a reference of this slide leads to; empty if it is no part.
     check::PartKey follow(const std::wstring& reference) const;
 

@@ -1,5 +1,4 @@
 ## Octave is about to end: the library lets go of listeners and of what a filter holds.
 function __vellox_exit__ ()
   __vellox__ ("end");
-  __vellox_figure__ ();
 endfunction

@@ -4,10 +4,13 @@ from __future__ import annotations
 import multiprocessing
 import os
 import signal
+import string
 import sys
+from collections import deque
 from collections.abc import Callable, Iterable, Mapping
 from dataclasses import dataclass, field
 from multiprocessing.connection import Connection, wait
+from multiprocessing.reduction import ForkingPickler
 from typing import TYPE_CHECKING, Any
 
 from ._findings import Finding
@@ -49,15 +52,18 @@ def batch(template: str | os.PathLike[str] | None, records: Iterable[Record], ou
     result as it comes; what is returned has the order of the records. Progress is shown by tqdm where that is installed and
     somebody looks, unless it is said otherwise. Ctrl-C lets the decks end that have been begun: none is left half.
 
-    Raises ValueError if two records have one output, or a value can't be part of a file's name.
+    The processes are forked, so that the function may be any, unless multiprocessing.set_start_method() says otherwise.
+
+    Raises ValueError if two records have one output, or that of the template, if a value can't be part of a file's name, and
+    for less than one job; TypeError for a function that can't go to processes that aren't forked.
     """
+    if jobs is not None and jobs < 1:
+        raise ValueError(f"there can't be {jobs} jobs")
     rows = _read_records(records)
-    outputs = [output(row) if callable(output) else _fill_in(output, row) for row in rows]
-    if len(set(outputs)) < len(outputs):
-        twice = next(name for name in outputs if outputs.count(name) > 1)
-        raise ValueError(f"several records have the output {twice!r}")
-    results: list[Result | None] = [None] * len(rows)
+    outputs = [os.fspath(output(row)) if callable(output) else _fill_in(os.fspath(output), row) for row in rows]
     source = None if template is None else os.fspath(template)
+    _check_outputs(outputs, source)
+    results: list[Result | None] = [None] * len(rows)
     with _Pool(min(jobs or len(os.sched_getaffinity(0)), len(rows)), (source, make, strict)) as pool, \
             _Progress(len(rows), progress) as bar:
         for number, result in pool.run(list(zip(rows, outputs))):
@@ -75,11 +81,39 @@ def _read_records(records: Any) -> list[Record]:
     return list(records)
 
 
+def _check_outputs(outputs: list[str], template: str | None) -> None:
+    """Compares files, however their paths are spelled."""
+    own = None if template is None else _find_place(template)
+    taken = set()
+    for output in outputs:
+        place = _find_place(output)
+        if place in taken:
+            raise ValueError(f"several records have the output {output!r}")
+        if place == own:
+            raise ValueError(f"the output {output!r} is the template")
+        taken.add(place)
+
+
+def _find_place(path: str) -> str:
+    return os.path.abspath(path if os.path.splitext(path)[1] else path + ".pptx")
+
+
+class _NameFormatter(string.Formatter):
+    """Lets values be part of a name, and no way to elsewhere."""
+
+    def get_field(self, field_name: str, args: Any, kwargs: Any) -> Any:
+        self.field = field_name
+        return super().get_field(field_name, args, kwargs)
+
+    def format_field(self, value: Any, format_spec: str) -> Any:
+        text = super().format_field(value, format_spec)
+        if text in (".", "..") or any(c in text for c in "/\\\0"):
+            raise ValueError(f"{self.field}: {text!r} can't be part of a file's name")
+        return text
+
+
 def _fill_in(output: str, record: Record) -> str:
-    for name, value in record.items():
-        if f"{{{name}" in output and any(c in str(value) for c in "/\\\0"):
-            raise ValueError(f"{name}: {value!r} can't be part of a file's name")
-    return output.format_map(record)
+    return _NameFormatter().vformat(output, (), record)
 
 
 class _Progress:
@@ -92,7 +126,9 @@ class _Progress:
                 from tqdm import tqdm
             except ImportError:
                 return
-            self.bar = tqdm(total=count, unit="deck")
+            # It has a thread otherwise, which stays, and what is forked beside threads may wait for ever.
+            quiet: Any = type("Bar", (tqdm,), {"monitor_interval": 0})
+            self.bar = quiet(total=count, unit="deck")
 
     def __enter__(self) -> _Progress:
         return self
@@ -136,7 +172,13 @@ def _serve(connection: Connection, template: str | None, make: Make | None, stri
         while not connection.poll(5):
             if os.getppid() != parent:  # others hold the far end, too, so that it doesn't tell
                 return
-        task = connection.recv()
+        try:
+            task = connection.recv()
+        except EOFError:
+            return
+        except Exception as error:  # pickle calls what the record's classes have for it
+            connection.send(Result({}, "", f"the record can't be read in another process: {error}"))
+            continue
         if task is None:
             return
         record, output = task
@@ -161,6 +203,7 @@ class _Worker:
         self.process.start()
         far.close()
         self.number: int | None = None
+        self.is_new = True
 
     def end(self) -> None:
         try:
@@ -177,7 +220,10 @@ class _Pool:
     def __init__(self, jobs: int, arguments: tuple[Any, ...]) -> None:
         self.jobs = jobs
         self.arguments = arguments
-        self.context = multiprocessing.get_context("forkserver" if _is_threaded() else "fork")
+        method = multiprocessing.get_start_method(allow_none=True) or "fork"
+        self.context = multiprocessing.get_context(method)
+        if method != "fork":
+            _check_pickles(arguments, method)
         self.workers: list[_Worker] = []
 
     def __enter__(self) -> _Pool:
@@ -189,9 +235,9 @@ class _Pool:
 
     def run(self, tasks: list[tuple[Record, str]]) -> Iterable[tuple[int, Result]]:
         """Number and result of each task, as they come."""
-        waiting = iter(range(len(tasks)))
+        waiting = deque(range(len(tasks)))
         for _ in range(self.jobs):
-            self._start(waiting, tasks)
+            yield from self._start(waiting, tasks)
         interruption: KeyboardInterrupt | None = None
         while busy := {worker.connection: worker for worker in self.workers if worker.number is not None}:
             try:
@@ -199,46 +245,66 @@ class _Pool:
             except KeyboardInterrupt as error:
                 if interruption:
                     raise
-                interruption, waiting = error, iter(())
+                interruption = error
+                waiting.clear()
                 continue
             for connection in ready:
                 worker = busy[connection]
-                number = worker.number
-                assert number is not None
-                try:
-                    result: Result = worker.connection.recv()
-                    result.record = tasks[number][0]
-                    self._give(worker, waiting, tasks)
-                except (EOFError, ConnectionError):
-                    result = self._bury(worker, tasks[number])
-                    self._start(waiting, tasks)
-                yield number, result
+                yield self._take(worker, tasks)
+                yield from self._give(worker, waiting, tasks) if worker in self.workers else self._start(waiting, tasks)
         if interruption:
             raise interruption
 
-    def _start(self, waiting: Any, tasks: list[tuple[Record, str]]) -> None:
-        number = next(waiting, None)
-        if number is None:
+    def _start(self, waiting: deque[int], tasks: list[tuple[Record, str]]) -> Iterable[tuple[int, Result]]:
+        if waiting:
+            self.workers.append(_Worker(self.context, self.arguments))
+            yield from self._give(self.workers[-1], waiting, tasks)
+
+    def _give(self, worker: _Worker, waiting: deque[int],
+              tasks: list[tuple[Record, str]]) -> Iterable[tuple[int, Result]]:
+        """Hands out the next record that can be sent. The results are those of records that can't."""
+        while waiting:
+            number = waiting.popleft()
+            try:
+                worker.connection.send(tasks[number])
+            except OSError:
+                if not worker.is_new:  # it has died after its last deck
+                    waiting.appendleft(number)
+                    self._end(worker)
+                    yield from self._start(waiting, tasks)
+                    return
+            except Exception as error:  # pickle calls what the record's classes have for it
+                yield number, Result(*tasks[number], f"the record can't be sent to another process: {error}")
+                continue
+            worker.number = number
+            worker.is_new = False
             return
-        worker = _Worker(self.context, self.arguments)
-        self.workers.append(worker)
-        worker.number = number
-        worker.connection.send(tasks[number])
 
-    def _give(self, worker: _Worker, waiting: Any, tasks: list[tuple[Record, str]]) -> None:
-        worker.number = next(waiting, None)
-        if worker.number is not None:
-            worker.connection.send(tasks[worker.number])
+    def _take(self, worker: _Worker, tasks: list[tuple[Record, str]]) -> tuple[int, Result]:
+        number = worker.number
+        assert number is not None
+        worker.number = None
+        try:
+            result: Result = worker.connection.recv()
+        except (EOFError, ConnectionError):
+            return number, self._bury(worker, tasks[number])
+        result.record, result.output = tasks[number]
+        return number, result
 
-    def _bury(self, worker: _Worker, task: tuple[Record, str]) -> Result:
+    def _end(self, worker: _Worker) -> None:
         self.workers.remove(worker)
         worker.end()
+
+    def _bury(self, worker: _Worker, task: tuple[Record, str]) -> Result:
+        self._end(worker)
         code = worker.process.exitcode
         reason = signal.strsignal(-code) if code is not None and code < 0 else f"status {code}"
         return Result(*task, f"its process has died: {reason}")
 
 
-def _is_threaded() -> bool:
-    import threading
-
-    return threading.active_count() > 1
+def _check_pickles(arguments: tuple[Any, ...], method: str) -> None:
+    try:
+        ForkingPickler.dumps(arguments)
+    except Exception as error:
+        raise TypeError(f"processes that are started by {method!r} take functions at the top of a module only: {error}"
+                        ) from error

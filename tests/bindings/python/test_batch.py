@@ -1,4 +1,5 @@
 """Many decks in several processes."""
+import multiprocessing
 import os
 import pathlib
 import signal
@@ -51,6 +52,44 @@ def test_failures_cost_one_deck(folder):
     assert [finding.code for finding in result.findings if finding.severity == "error"] == ["unknownName"]
 
 
+def test_records_that_cannot_travel_cost_one_deck(folder):
+    class Local:
+        pass
+
+    records = [{"id": 1, "name": "a"}, {"id": 2, "name": Local()}, {"id": 3, "name": lambda: 0}, {"id": 4, "name": "b"}]
+    results = vellox.batch(None, records, "{id}.pptx", make, jobs=1)
+    assert [bool(result.error) for result in results] == [False, True, True, False]
+    assert "can't be sent" in results[1].error and [result.output for result in results][1] == "2.pptx"
+
+
+def test_a_second_batch_runs_like_the_first(folder):
+    pathlib.Path("tqdm.py").write_text(  # of which a bar leaves a thread behind
+        "import threading\n"
+        "class tqdm:\n"
+        "    monitor_interval = 10\n"
+        "    def __init__(self, **_):\n"
+        "        if self.monitor_interval:\n"
+        "            threading.Thread(target=threading.Event().wait, daemon=True).start()\n"
+        "    def update(self): pass\n"
+        "    def close(self): pass\n")
+    pathlib.Path("twice.py").write_text(
+        "import threading, vellox\n"
+        "print('run')\n"
+        "threading.Thread(target=threading.Event().wait, daemon=True).start()\n"
+        "for name in 'ab':\n"
+        "    [result] = vellox.batch(None, [{'id': 1}], name + '{id}.pptx', lambda deck, _: deck.add('Blank'), progress=True)\n"
+        "    assert result.error is None, result.error\n"
+        "assert threading.active_count() == 2\n")
+    done = subprocess.run([sys.executable, "-W", "ignore", "twice.py"], capture_output=True, text=True, timeout=120)
+    assert (done.stdout, done.returncode) == ("run\n", 0), done.stderr
+    with pytest.raises(TypeError, match="top of a module"):
+        multiprocessing.set_start_method("spawn", force=True)
+        try:
+            vellox.batch(None, RECORDS, "{id}.pptx", lambda deck, _: None)
+        finally:
+            multiprocessing.set_start_method(None, force=True)
+
+
 def test_records_fill_tokens_by_themselves(folder):
     with vellox.deck("letter.pptx") as deck:
         deck.add("Title Slide").replace("Title", "Dear {name}, {city}")
@@ -64,6 +103,17 @@ def test_records_fill_tokens_by_themselves(folder):
 
 
 def test_outputs_are_names_of_their_own(folder):
+    for jobs in 0, -1:
+        with pytest.raises(ValueError, match="jobs"):
+            vellox.batch(None, RECORDS, "{id}.pptx", make, jobs=jobs)
+    for output, records in (("{id}/x.pptx", [{"id": ".."}]), ("{id}", [{"id": "1"}, {"id": "1.pptx"}]),
+                            (lambda record: record["id"], [{"id": "1.pptx"}, {"id": "./1.pptx"}])):
+        with pytest.raises(ValueError):
+            vellox.batch(None, [dict(record, name="a") for record in records], output, make)
+    with pytest.raises(ValueError, match="is the template"):
+        vellox.batch("letter.pptx", RECORDS[:1], "letter.pptx", make)
+    [result] = vellox.batch(None, [{"i": "a/b", "id": 3, "name": "x"}], "of-{id:02}.pptx", make)
+    assert (result.output, result.error) == ("of-03.pptx", None)
     with pytest.raises(ValueError, match="several records"):
         vellox.batch(None, RECORDS, "deck.pptx", make)
     with pytest.raises(ValueError, match="can't be part"):

@@ -144,7 +144,7 @@ def test_slides_are_filled_by_name_or_not_at_all(tmp_path):
             slide.fill({"Title": "lost", "Titel": "x"})
         with pytest.raises(ppt.BadTypeError):
             deck.add("Title Only", {"Title": ppt.Table([["a"]])})
-        with pytest.raises(TypeError):
+        with pytest.raises(TypeError, match="'position'"):
             deck.add("Title Only", position=1)
         with pytest.raises(TypeError, match="keyword"):
             slide.replace("Title", text="x")

@@ -79,6 +79,11 @@ TEST_F(FillTest, NothingIsFilledByHalf) {
         {L"Figures", L"x", "ppt_error:shapeRefusesContent Figures a text"},
         {L"Left", tableOf({{L"a"}}), "ppt_error:shapeRefusesContent Left a table"},
         {L"Left", slide, "ppt_error:shapeRefusesContent Left an object of another class"},
+        {L"Left", list({L"a", list({L"b", plot})}),
+         "ppt_error:shapeRefusesContent Left a list with a picture"},
+        {L"Left", list({record({{L"a", 1}})}), "ppt_error:shapeRefusesContent Left a list with a record"},
+        {L"Left", record({{L"a", 1}}), "ppt_error:shapeRefusesContent Left a record"},
+        {L"Figures", Content(), "ppt_error:shapeRefusesContent Figures nothing"},
         {L"type:title", L"x", "ppt_error:shapeFilledTwice Title type:title"},
     };
     for (const auto& row : rows) {
@@ -91,6 +96,46 @@ TEST_F(FillTest, NothingIsFilledByHalf) {
     } catch (const IHintedError& error) {
         EXPECT_EQ(error.getHint().names.front(), L"Title");
     }
+}
+
+// A fill that broke off at a picture on a picture had filled the title before.
+TEST_F(FillTest, WhatIsFilledCanBeFilledAgain) {
+    const Picture plot(folder / L"plot.png");
+    Picture own(folder / L"plot.png");
+    own.setName(L"Own");
+    slide.add(own);
+    const std::vector<std::vector<std::wstring>> rows{{L"a", L"b"}, {L"c"}};
+    for (const wchar_t* title : {L"One", L"Two"})
+        slide.fill({{L"Title", title},
+                    {L"Left", list({L"a", 1})},
+                    {L"Right", true},
+                    {L"Anything", plot},
+                    {L"Own", plot},
+                    {L"Figures", rows}});
+    slide.fill({{L"Figures", tableOf({{L"d"}})}, {L"Left", L"alone"}});
+    close();
+    EXPECT_EQ(textsOf(shapeXml(2, "Title"), "a:t"), Texts{"Two"});
+    EXPECT_EQ(textsOf(shapeXml(2, "Left"), "a:t"), Texts{"alone"});
+    EXPECT_EQ(textsOf(shapeXml(2, "Figures"), "a:t"), Texts{"d"});
+    EXPECT_EQ(findAll(slideXml(2), "a:blip").size(), 2u);
+}
+
+// Numbers had 17 digits there, and a truth value went with what is empty.
+TEST_F(FillTest, TextsAreWhatTheProfileShows) {
+    EXPECT_EQ(BaseTextBox::cast(slide.shape(L"Title"))->getText(), L"");
+    slide.fill({{L"Title", 1.1}});
+    EXPECT_EQ(BaseTextBox::cast(slide.shape(L"Title"))->getText(), L"1.1000000000000001");
+    Presentation modern(folder / L"modern.pptx", folder / L"template.pptx");
+    modern.setProfile(L"office");
+    modern.open();
+    Slide shown = modern.add(L"Report");
+    shown.fill({{L"Title", 1.1}, {L"Left", true}, {L"Right", list({L"a\r\nb", 0.9, false})}}, true);
+    const auto textOf = [&](const wchar_t* name) { return BaseTextBox::cast(shown.shape(name))->getText(); };
+    EXPECT_EQ(textOf(L"Title"), L"1.1");
+    EXPECT_EQ(textOf(L"Left"), L"true");
+    EXPECT_EQ(textOf(L"Right"), L"a\nb\n0.9\nfalse");
+    EXPECT_EQ(shown.getNChildren(), 3u);
+    modern.close();
 }
 
 TEST_F(FillTest, WhatStaysEmptyIsToldOrGoes) {

@@ -110,6 +110,19 @@ TEST_F(FillTokensTest, AListRepeatsItsParagraph) {
     EXPECT_EQ(findAll(shapeXml(1, "Empty"), "a:p").size(), 1u);
 }
 
+// Only one token of such a row was told, and none filled.
+TEST_F(FillTokensTest, AMergedRowIsFilledButNotRepeated) {
+    std::string table = tableShape(4, "Sheet", 1, 3);
+    for (const char* text : {"{rows.a}", "{rows.b}", "{week}"})
+        table.replace(table.find(">cell<") + 1, 4, text);
+    table.replace(table.find("<a:tc>"), 6, "<a:tc rowSpan='2'>");
+    useSlide(table);
+    EXPECT_EQ(deck.fillTokens({{L"rows", list({record({{L"a", 1}, {L"b", 2}})})}, {L"week", 47}}), 1u);
+    EXPECT_EQ(codes(), (Texts{"tokenRefusesValue Sheet", "tokenRefusesValue Sheet"}));
+    close();
+    EXPECT_EQ(textsOf(slideXml(1), "a:t"), (Texts{"{rows.a}", "{rows.b}", "47"}));
+}
+
 TEST_F(FillTokensTest, ARowIsRepeatedForEachRecord) {
     std::string table = tableShape(4, "Sheet", 2, 2);
     const auto put = [&](const std::string& text) { // into the next cell that is as it was

@@ -33,6 +33,9 @@ TEST(NumberFormTest, NumbersComeInTheirForms) {
         {0.00012, L".1e", L"1.2e-04"},
         {12.5, L"d", L"-"},
         {999, L",", L"999"},
+        {1e6, L",", L"1,000,000"},
+        {1e-4, L"+", L"+0.0001"},
+        {1e16, L"+", L"+1e+16"},
         {1e300, L".1g", L"1e+300"},
         {1, L".2x", L"no form"},
         {1, L".999f", L"no form"},
@@ -59,7 +62,7 @@ TEST(NumberFormTest, DatesComeInTheirForms) {
     EXPECT_EQ(show(L"2026-11-21", L"%d.%m.%Y"), L"21.11.2026");
     EXPECT_EQ(show(L"2026-11-21 09:30:00", L"%a %H:%M %%"), L"Sat 09:30 %");
     EXPECT_EQ(show(L"2026-11-21", L"week of {:%d %b}"), L"week of 21 Nov");
-    for (const wchar_t* date : {L"", L"week 47", L"2026-13-01", L"2026-02-31"})
+    for (const wchar_t* date : {L"", L"week 47", L"2026-13-01", L"2026-02-31", L"2026-11-21xyz"})
         EXPECT_EQ(show(date, L"%d"), L"-") << toUtf8(date);
     for (const wchar_t* form : {L"%Q", L"d %", L"day"})
         EXPECT_EQ(show(L"2026-11-21", form), L"no form") << toUtf8(form);

@@ -42,4 +42,11 @@ Room getRoom(const PPTObject& owner, const std::wstring& name) {
     return {toInches(geometry.cx, place ? place->cx : L""), toInches(geometry.cy, place ? place->cy : L"")};
 }
 
+bool isForPictures(const PPTObject& slide, const std::wstring& name) {
+    const PPTNode::Children found = findShapes(slide, name);
+    const auto* shape = found.empty() ? nullptr : implAs<ShapeImpl>(*found.front());
+    return shape && (shape->getNodeType() == NodeType::Picture ||
+                     shape->getNodeType() == NodeType::PicturePlaceholder);
+}
+
 } // namespace vellox::ppt::hostbind

@@ -24,6 +24,9 @@ struct Room {
 /// @param owner a shape; or a slide or a presentation, whose first shape of a name is meant
 VELLOX_API Room getRoom(const PPTObject& owner, const std::wstring& name);
 
+/// Whether the first shape of a name on a slide is a picture, or a placeholder for nothing else.
+VELLOX_API bool isForPictures(const PPTObject& slide, const std::wstring& name);
+
 } // namespace vellox::ppt::hostbind
 
 #endif

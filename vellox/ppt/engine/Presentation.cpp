@@ -130,6 +130,8 @@ void PresentationImpl::appendChild(const Child& child) {
     open();
     if (state_ != PresentationState::Parsed && state_ != PresentationState::Open)
         return report(ppt_finding::slideAfterClose(), *this);
+    if (auto* slide = implAs<SlideImpl>(*child))
+        slide->setRules(profile_.rules);
     PPTNodeImpl::appendChild(child);
     if (getClient() && wantsProgress()) {
         const ppt_progress::appendChildMsg id(child->getTag());
@@ -150,6 +152,7 @@ boost::shared_ptr<Slide> PresentationImpl::makeSlide(const std::wstring& layoutN
     const boost::shared_ptr<TemplateSlide> record = model_->createSlide(layout);
     auto* slide = new SlideImpl(record);
     const Child handle = slide->makeInterface();
+    slide->setRules(profile_.rules);
     TemplateParser::buildChildren(*slide, *record->shapes);
     return Slide::cast(handle);
 }

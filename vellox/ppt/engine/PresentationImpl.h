@@ -151,8 +151,7 @@ private:
     boost::shared_ptr<Report> report_;
     std::wstring tempTemplatePath_;            // empty when there is no working copy
     boost::shared_ptr<OutputFile> outputFile_; // empty in a copy, which writes nothing
-    Children removed_; // findings know slides by where they are in memory: no other may come there
-    boost::shared_ptr<OutputReader> reader_; // empty until something is read of the open presentation
+    boost::shared_ptr<OutputReader> reader_;   // empty until something is read of the open presentation
     boost::shared_ptr<PartDOMBuilder> partBuilder_;
     boost::shared_ptr<PresentationModel> model_; // empty before parsing
     Presentation::NamePairs tableStyleNames_;

@@ -55,7 +55,8 @@ void PresentationImpl::moveSlide(const Slide& slide, unsigned int index) {
 void PresentationImpl::removeSlide(const Slide& slide) {
     requireOwn(slide);
     const Children taken = takeOut([&](const PPTNode& child) { return child == slide; });
-    removed_.insert(removed_.end(), taken.begin(), taken.end());
+    for (const Child& gone : taken)
+        findings_.forget(*implOf<PPTNodeImpl>(*gone));
 }
 
 void PresentationImpl::clearSlides() {
@@ -65,7 +66,8 @@ void PresentationImpl::clearSlides() {
         const auto record = impl ? impl->getTemplateSlide() : nullptr;
         return record && record->source && record->originName.empty();
     });
-    removed_.insert(removed_.end(), taken.begin(), taken.end());
+    for (const Child& gone : taken)
+        findings_.forget(*implOf<PPTNodeImpl>(*gone));
 }
 
 void PresentationImpl::requireNotes(TemplateSlide& record) {

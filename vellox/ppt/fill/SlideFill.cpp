@@ -99,13 +99,33 @@ PPTNodeImpl::Child toParagraph(const HvContentPtr& content) {
 }
 
 const wchar_t* describe(const HvContentPtr& content) {
+    if (!content || content->getContentType() == HvContent::Empty)
+        return L"nothing";
     if (getObjectImpl<PictureImpl>(content))
         return L"a picture";
     if (getObjectImpl<TableImpl>(content) || TableContent::cast(content))
         return L"a table";
     if (ListContent::cast(content))
         return L"a list";
+    if (RecordContent::cast(content))
+        return L"a record";
     return toParagraph(content) ? L"a text" : L"an object of another class";
+}
+
+// Of what stands in a list, however deep, the first that is no paragraph: a text box would describe it, or be silent.
+void checkItems(const std::wstring& key, const HvContentPtr& content) {
+    std::vector<boost::shared_ptr<HvList>> waiting{ListContent::getValue(content)};
+    while (!waiting.empty()) {
+        const boost::shared_ptr<HvList> list = waiting.back();
+        waiting.pop_back();
+        for (unsigned int i = 0; i < list->getSize(); ++i) {
+            const HvContentPtr item = list->getItem(i);
+            if (const boost::shared_ptr<HvList> inner = ListContent::getValue(item))
+                waiting.push_back(inner);
+            else if (!toParagraph(item))
+                raise(ppt_error::shapeRefusesContent(key, std::wstring(L"a list with ") + describe(item)));
+        }
+    }
 }
 
 Filling prepare(const boost::intrusive_ptr<ShapeImpl>& shape, const std::wstring& key,
@@ -118,20 +138,27 @@ Filling prepare(const boost::intrusive_ptr<ShapeImpl>& shape, const std::wstring
         filling.content = toTable(content, !takesText(*shape));
     }
     if (!filling.content && takesText(*shape)) {
-        if (ListContent::cast(content))
+        if (ListContent::cast(content)) {
+            checkItems(key, content);
             filling.content = content;
-        else
+        } else {
             filling.paragraph = toParagraph(content);
+        }
     }
     if (!filling.content && !filling.paragraph)
         raise(ppt_error::shapeRefusesContent(key, describe(content)));
     return filling;
 }
 
+// Each operation is the one that the class of the shape has for it.
 void put(const Filling& filling) {
     if (filling.paragraph)
         static_cast<BaseTextBoxImpl&>(*filling.shape)
             .replace(static_cast<const Paragraph&>(*filling.paragraph));
+    else if (filling.shape->getNodeType() == NodeType::Picture)
+        static_cast<PictureImpl&>(*filling.shape)
+            .replace(
+                static_cast<const Picture&>(*getObjectImpl<PictureImpl>(filling.content)->makeInterface()));
     else
         filling.shape->replace(filling.content);
 }

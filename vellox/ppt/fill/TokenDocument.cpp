@@ -89,7 +89,7 @@ void TokenDocument::visit(DOMElement& element, const TokenScope* scope) {
         uid_ = uid;
     }
     if (hasName(element, xml::kAP)) {
-        if (scope || !repeat(element))
+        if (scope || isInMergedRow_ || !repeat(element))
             fillParagraph(element, scope);
     } else if (hasName(element, xml::kATbl)) {
         fillTable(element, scope);
@@ -127,10 +127,6 @@ bool TokenDocument::repeat(DOMElement& element) {
             const std::vector<Contents>* records = values_.findRecords(token);
             if (!records)
                 continue;
-            if (isMerged(element)) {
-                report(Fault::Refused, token);
-                return true;
-            }
             for (const Contents& record : *records) {
                 auto* copy = static_cast<DOMElement*>(element.cloneNode(true));
                 if (hasName(element, kRow) && findChild(copy, u"a:extLst"))
@@ -154,10 +150,12 @@ bool TokenDocument::repeat(DOMElement& element) {
 void TokenDocument::fillTable(DOMElement& table, const TokenScope* scope) {
     bool isRepeated = false;
     for (DOMElement* child : getChildElements(&table)) {
-        if (!scope && hasName(*child, kRow) && repeat(*child))
+        isInMergedRow_ = hasName(*child, kRow) && isMerged(*child);
+        if (!scope && !isInMergedRow_ && hasName(*child, kRow) && repeat(*child))
             isRepeated = true;
         else
             visit(*child, scope);
+        isInMergedRow_ = false;
     }
     DOMNode* frame = &table;
     while (frame && !hasName(*frame, xml::kGraphicFrame))
@@ -209,6 +207,13 @@ bool collectItems(const HvList& list, const std::wstring& form, const NumberMark
     return true;
 }
 
+bool hasSibling(const DOMElement& paragraph) {
+    for (const DOMElement* child : getChildElements(paragraph.getParentNode()))
+        if (child != &paragraph && hasName(*child, xml::kAP))
+            return true;
+    return false;
+}
+
 void setLevel(DOMElement& paragraph, unsigned int level) {
     DOMElement* properties = findChild(&paragraph, xml::kAPPr);
     const unsigned int present = str2uint(getAttribute(properties, xml::kLvl));
@@ -224,8 +229,7 @@ void TokenDocument::fillList(DOMElement& paragraph, const Token& token, const Hv
     if (!collectItems(list, token.form, values_.getMarks(), 0, items))
         return report(Fault::Refused, token);
     ++count_;
-    const bool isOnly = findBelow(*static_cast<DOMElement*>(paragraph.getParentNode()), xml::kAP).size() == 1;
-    if (items.empty() && isOnly)
+    if (items.empty() && !hasSibling(paragraph))
         items.push_back({});
     for (const Item& item : items) {
         auto* copy = static_cast<DOMElement*>(paragraph.cloneNode(true));
@@ -248,8 +252,8 @@ void TokenDocument::fillRuns(DOMElement& paragraph, const std::vector<Token>& to
         }
         const Content* value = values_.find(token, scope);
         const auto text = value ? toText(value->get(), token.form, values_.getMarks()) : std::nullopt;
-        if (!value)
-            report(Fault::NoValue, token);
+        if (!value) // of one for rows, there are values that can't stand here
+            report(!scope && values_.findRecords(token) ? Fault::Refused : Fault::NoValue, token);
         else if (!text)
             report(Fault::Refused, token);
         else

@@ -59,7 +59,8 @@ private:
     OwnedDocument document_;
     TokenValues& values_;
     IsShown isShown_;
-    std::wstring uid_; // of the shape that is being visited
+    std::wstring uid_;           // of the shape that is being visited
+    bool isInMergedRow_ = false; // whose paragraphs aren't repeated either
     unsigned int count_ = 0;
     std::size_t dropped_ = 0;
     std::vector<Successor> successors_;

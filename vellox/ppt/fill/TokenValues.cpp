@@ -100,9 +100,13 @@ std::vector<std::wstring> TokenValues::getUnused() const {
 
 namespace {
 
-std::wstring showShortest(const TextImpl::Given& given) {
+const Rules& getShownBy() {
     static const auto& rules = *new const OfficeRules;
-    return rules.textOf({std::wstring(), given}).front();
+    return rules;
+}
+
+std::wstring showShortest(const TextImpl::Given& given) {
+    return getShownBy().textOf({std::wstring(), given}).front();
 }
 
 std::optional<std::wstring> showNumber(const TextImpl::Given& given, double number, const std::wstring& form,
@@ -115,9 +119,10 @@ std::optional<std::wstring> showNumber(const TextImpl::Given& given, double numb
 
 std::optional<std::wstring> showObject(const HvContentPtr& content) {
     if (const auto* run = getObjectImpl<TextImpl>(content))
-        return run->getTextContent();
+        return run->isNumContent() ? showShortest(run->getGiven()) : run->getTextContent();
     const PPTNodeImpl::Child paragraph = getParagraphObject(content);
-    return paragraph ? std::optional(readRuns(*implOf<PPTNodeImpl>(*paragraph))) : std::nullopt;
+    return paragraph ? std::optional(readRuns(*implOf<PPTNodeImpl>(*paragraph), &getShownBy()))
+                     : std::nullopt;
 }
 
 /// Tables in files have numbers as texts, and these may have the form of a number, too.

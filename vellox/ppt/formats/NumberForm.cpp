@@ -143,9 +143,14 @@ std::string NumberForm::print(double number, const Number& form) {
         return format(std::chars_format::general);
     case L'd':
         return finish(std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::fixed, 0));
-    case 0:
+    case 0: {
+        constexpr double kLeastPlain = 1e-4, kGreatestPlain = 1e16;
+        const bool isTiny = number > 0 && number < kLeastPlain;
+        const auto how =
+            isTiny || number >= kGreatestPlain ? std::chars_format::scientific : std::chars_format::fixed;
         return form.digits ? format(std::chars_format::general)
-                           : finish(std::to_chars(buffer.begin(), buffer.end(), number));
+                           : finish(std::to_chars(buffer.begin(), buffer.end(), number, how));
+    }
     default:
         return format(std::chars_format::fixed);
     }
@@ -186,6 +191,8 @@ std::optional<std::wstring> NumberForm::showDate(const std::wstring& date, const
     const wchar_t mark = stream.eof() ? L'\0' : static_cast<wchar_t>(stream.get());
     if (mark == L' ' || mark == L'T')
         stream >> std::get_time(&time, L"%H:%M:%S");
+    else if (mark != L'\0') // more digits, or another text
+        return std::nullopt;
     const std::tm given = time;
     if (!stream || timegm(&time) == -1 || time.tm_mday != given.tm_mday) // which finds the day of the week
         return std::nullopt;

@@ -72,6 +72,12 @@ std::vector<Finding> FindingList::get(const PPTNode::Children& slides) const {
     return findings;
 }
 
+void FindingList::forget(const PPTNodeImpl& slide) {
+    for (Entry& entry : entries_)
+        if (entry.slide == &slide)
+            entry.slide = nullptr;
+}
+
 Finding FindingList::describe(const MsgID& id, const ReportPlace& place, const PPTNode::Children& slides) {
     unsigned int number = 0;
     for (std::size_t i = 0; i < slides.size() && number == 0; ++i)

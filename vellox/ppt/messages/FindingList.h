@@ -50,6 +50,8 @@ public:
     bool isOpen() const;
     /// With the numbers that the slides have by now among these: those that are added ahead of others shift them.
     std::vector<Finding> get(const PPTNode::Children& slides) const;
+    /// Lets findings be about no slide that were about this one: another may come to where it is in memory.
+    void forget(const PPTNodeImpl& slide);
     /// One finding in words, whether it is kept or not.
     static Finding describe(const MsgID& id, const ReportPlace& place, const PPTNode::Children& slides);
 

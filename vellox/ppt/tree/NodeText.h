@@ -12,10 +12,13 @@
 
 namespace vellox::ppt {
 
-/// The text of a paragraph.
-std::wstring readRuns(const PPTNodeImpl& paragraph);
+class Rules;
 
-/// The texts of the paragraphs that a node holds, one below the other.
+/// The text of a paragraph.
+/// @param rules by which numbers and truth values are shown; without any, as the classic ones do
+std::wstring readRuns(const PPTNodeImpl& paragraph, const Rules* rules);
+
+/// The texts of the paragraphs that a node holds, one below the other, as its presentation shows them.
 std::wstring readParagraphs(const PPTNodeImpl& node);
 
 /// Two texts, one below the other; an empty one takes no line.

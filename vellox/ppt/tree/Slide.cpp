@@ -35,6 +35,7 @@ SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSli
       WithPageFields(other),
       charts_(other.charts_),
       isHidden_(other.isHidden_),
+      rules_(other.rules_),
       dropped_(other.dropped_),
       slideMasterName_(other.slideMasterName_),
       layoutName_(other.layoutName_),

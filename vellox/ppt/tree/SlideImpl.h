@@ -13,6 +13,8 @@
 
 namespace vellox::ppt {
 
+class Rules;
+
 class SlideImpl : public NodeOf<NodeType::Slide, SlideImpl, Slide, ElementImpl>, public WithPageFields {
 public:
     SlideImpl();
@@ -28,6 +30,9 @@ public:
     const std::wstring& getLayoutName() const { return layoutName_; }
     const std::wstring& getSlideMasterName() const { return slideMasterName_; }
     const boost::shared_ptr<TemplateSlide>& getTemplateSlide() const { return templateSlide_; }
+    /// Those of the presentation that the slide is for; null before it is for any.
+    const Rules* getRules() const { return rules_.get(); }
+    void setRules(const boost::shared_ptr<const Rules>& rules) { rules_ = rules; }
     bool isHidden() const { return isHidden_; }
     void setHidden(bool isHidden) { isHidden_ = isHidden; }
     /// Takes a shape off the slide. One of the template's is off in the file, too.
@@ -46,6 +51,7 @@ public:
 private:
     std::map<std::wstring, ChartRecord> charts_;
     bool isHidden_ = false;
+    boost::shared_ptr<const Rules> rules_; // the slide may outlive its presentation
     std::vector<std::wstring> dropped_;
     std::wstring slideMasterName_;
     std::wstring layoutName_;
