@@ -29,7 +29,7 @@ std::vector<ppt::Finding> MarkupCheck::check(std::string_view markup, const Plac
     Report report(findings);
     ByteArray bytes{std::string(markup)};
     ByteArrayInputStream stream(&bytes);
-    const opc::DocumentScope document = XmlReader(std::wstring(), report).read(stream, place);
+    const opc::DocumentScope document = XmlReader(report).read(stream, place);
     const RelationshipKinds kinds = getKinds();
     if (document)
         documents_->check(*document, place, &kinds, report);

@@ -64,6 +64,10 @@ XmlReader::XmlReader(const std::wstring& path, Report& report)
     parser_.setNamespaceAware(true);
 }
 
+XmlReader::XmlReader(Report& report) : report_(report) {
+    parser_.setNamespaceAware(true);
+}
+
 opc::DocumentScope XmlReader::read(const opc::PhysicalPart& part, const Place& place) {
     try {
         const auto stream = part.openInput();

@@ -19,6 +19,8 @@ class XmlReader {
 public:
     /// @param path of the package, whose size bounds what reading it may cost
     XmlReader(const std::wstring& path, Report& report);
+    /// Of documents that the library has made itself, which may cost what they do.
+    explicit XmlReader(Report& report);
 
     /// @return null if the part can't be read, which is reported
     opc::DocumentScope read(const opc::PhysicalPart& part, const Place& place);
