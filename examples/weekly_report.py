@@ -43,6 +43,15 @@ def find_best_points(runs):
     return best
 
 
+def make_table(frame, forms):
+    """A frame whose columns show their numbers and dates in forms; None stands for as they are."""
+    table = ppt.Table(frame)
+    table.ColSpecs = [ppt.ColSpec() for _ in forms]
+    for column, form in zip(table.ColSpecs, forms):
+        column.NumberFormat = form
+    return table
+
+
 def plot(runs, template):
     """Head over flow in the colours of the template, on no background: a grey that is read on light and on dark pages."""
     if Figure is None:
@@ -72,9 +81,15 @@ def add_slides(deck, template, week, runs):
     for bench, group in tqdm(list(runs.groupby("bench")), disable=None):
         deck.add("Two Content", {"Title": f"Bench {bench}", "Left Content": plot(group, template),
                                  "Right Content": describe(group)})
-    best = find_best_points(runs).round({"flow": 1, "head": 1, "efficiency": 3})
+    best = find_best_points(runs)
     best.columns = ["Impeller", "Runs", "Flow in m³/h", "Head in m", "Efficiency"]
-    deck.add("Title and Table", {"Title": "Points of best efficiency", "Table": best})
+    deck.add("Title and Table", {"Title": "Points of best efficiency",
+                                 "Table": make_table(best, [None, "d", ".1f", ".1f", ".1%"])})
+    all_runs = runs[["date", "bench", "impeller", "flow", "head", "passed"]]
+    all_runs.columns = ["Day", "Bench", "Impeller", "Flow in m³/h", "Head in m", "Within limits"]
+    table = make_table(all_runs, ["%a %d.%m.", "d", None, ".1f", ".1f", None])
+    table.TrueText, table.FalseText = "yes", "no"
+    deck.addPages("Title and Table", "Table", table, title="All runs")
 
 
 def fill_samples(deck, template, week, runs):

@@ -40,7 +40,7 @@ def test_the_weekly_report_is_made_on_any_template(tmp_path, monkeypatch):
     monkeypatch.setattr(sys, "argv", ["make_templates.py", str(tmp_path)])
     runpy.run_path(str(EXAMPLES / "templates/make_templates.py"), run_name="__main__")
     report = runpy.run_path(str(EXAMPLES / "weekly_report.py"))
-    for name, slides in (("dark", 6), ("art", 6), ("samples", 7)):
+    for name, slides in (("dark", 10), ("art", 10), ("samples", 7)):
         template, output = tmp_path / f"{name}.pptx", tmp_path / f"report-{name}.pptx"
         monkeypatch.setattr(sys, "argv", ["weekly_report.py", str(template), str(output)])
         report["main"]()

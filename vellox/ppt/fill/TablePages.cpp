@@ -4,6 +4,7 @@
 #include "vellox/foundation/Identifiers.h"
 #include "vellox/ppt/engine/PresentationImpl.h"
 #include "vellox/ppt/fill/ShapeKeys.h"
+#include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/writers/FitReports.h"
 
 #include <algorithm>
@@ -131,7 +132,8 @@ std::wstring makeTitle(const std::wstring& title, std::size_t page, std::size_t 
     return made + L" (" + std::to_wstring(page) + L"/" + std::to_wstring(pages) + L")";
 }
 
-TablePages split(const Table& table, const PageOptions& options, const ShapeImpl& place, double slideHeight) {
+TablePages split(const Table& table, const PageOptions& options, const ShapeImpl& place, double slideHeight,
+                 bool sharesWidth) {
     TablePages pages(table);
     if (options.rows > 0) {
         pages.splitByCount(options.rows);
@@ -141,7 +143,8 @@ TablePages split(const Table& table, const PageOptions& options, const ShapeImpl
     if (!options.height.empty())
         room.height = readRoom(options.height);
     if (room.width > 0 && room.height > 0)
-        pages.splitByHeight(estimateRowHeights(*heldImplOf<TableImpl>(table), room.width), room.height);
+        pages.splitByHeight(estimateRowHeights(*heldImplOf<TableImpl>(table), room.width, sharesWidth),
+                            room.height);
     return pages;
 }
 
@@ -174,8 +177,9 @@ std::vector<Slide> Presentation::addPages(const std::wstring& layoutName, const 
     std::vector<Slide> slides;
     try {
         slides.push_back(add(layoutName));
-        const TablePages pages = split(table, options, *requireShape(*heldImplOf<SlideImpl>(slides[0]), name),
-                                       deck->getSlideHeight());
+        const boost::intrusive_ptr<SlideImpl> first = heldImplOf<SlideImpl>(slides[0]);
+        const TablePages pages = split(table, options, *requireShape(*first, name), deck->getSlideHeight(),
+                                       first->getRules() && first->getRules()->measuresColumns());
         for (std::size_t page = 0; page < pages.getCount(); ++page) {
             if (page > 0)
                 slides.push_back(add(layoutName));

@@ -2,6 +2,7 @@
 
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/foundation/NumberText.h"
 #include "vellox/ppt/formats/CellFormatsImpl.h"
 #include "vellox/ppt/formats/CharacterFormats.h"
 #include "vellox/ppt/messages/Announce.h"
@@ -72,12 +73,39 @@ private:
     double line_ = 0, lines_ = 0;
 };
 
+// Fractions are hardly shown with all digits, but in forms that aren't known here.
+std::wstring guessShown(const TextImpl& text) {
+    constexpr std::size_t kLongestNumber = 8;
+    const auto* number = std::get_if<double>(&text.getGiven());
+    return number ? toShortest(*number).substr(0, kLongestNumber) : text.getTextContent();
+}
+
+double measureLine(const ParagraphImpl& paragraph, double size) {
+    double width = 0;
+    for (const auto& child : paragraph.getChildren())
+        if (const auto* text = implAs<TextImpl>(*child))
+            for (const wchar_t c : guessShown(*text))
+                width += findSize(*text, size) * kEmuPerPoint * getLetterWidth(c);
+    return width;
+}
+
 Need measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
     ParagraphMeasure measure(size, width);
     for (const auto& child : paragraph.getChildren())
         if (const auto* text = implAs<TextImpl>(*child))
-            measure.add(text->getTextContent(), findSize(*text, size));
+            measure.add(guessShown(*text), findSize(*text, size));
     return measure.finish();
+}
+
+// The longest paragraph of an entry, if no line were broken.
+double measureLongest(const PPTNodeImpl& entry, double size) {
+    double longest = 0;
+    for (const auto& child : entry.getChildren())
+        if (const auto* paragraph = implAs<ParagraphImpl>(*child)) {
+            const double own = findSize(*paragraph, size);
+            longest = std::max(longest, measureLine(*paragraph, own > 0 ? own : kDefaultSize));
+        }
+    return longest;
 }
 
 // @param sizes of the template, by level; null where it has none
@@ -165,40 +193,56 @@ double findMargins(const ElementImpl& element, double inherited) {
     return (top ? *top : inherited / 2) + (bottom ? *bottom : inherited / 2);
 }
 
-double measureRow(const TableRowImpl& row, double size, double margins, double column) {
+// The room for texts in each column. Where columns share the width by their texts, each has its part of it.
+std::vector<double> estimateColumns(const TableImpl& table, double size, double width, bool sharesWidth) {
+    std::vector<double> columns(table.getNCols(), kMarginX);
+    for (const auto& child : table.getChildren()) {
+        const auto* row = implAs<TableRowImpl>(*child);
+        for (std::size_t i = 0; sharesWidth && row && i < row->getChildren().size() && i < columns.size();
+             ++i)
+            if (const auto* entry = implAs<TableEntryImpl>(*row->getChildren()[i]))
+                columns[i] =
+                    std::max(columns[i], measureLongest(*entry, findSize(*entry, findSize(*row, size))));
+    }
+    const double room = std::max(width - 2 * kMarginX * columns.size(), kMarginX * columns.size());
+    const double sum = std::accumulate(columns.begin(), columns.end(), 0.0);
+    for (double& column : columns)
+        column *= room / sum;
+    return columns;
+}
+
+double measureRow(const TableRowImpl& row, double size, double margins, const std::vector<double>& columns) {
     const double own = findSize(row, size), around = findMargins(row, margins);
     double highest = (own > 0 ? own : kDefaultSize) * kEmuPerPoint * kLineHeight + around;
-    for (const auto& cell : row.getChildren()) {
-        const auto* entry = implAs<TableEntryImpl>(*cell);
-        if (entry)
-            highest =
-                std::max(highest, measureParagraphs(*entry, nullptr, findSize(*entry, own), column).height +
-                                      findMargins(*entry, around));
-    }
+    const PPTNode::Children& cells = row.getChildren();
+    for (std::size_t i = 0; i < cells.size() && i < columns.size(); ++i)
+        if (const auto* entry = implAs<TableEntryImpl>(*cells[i]))
+            highest = std::max(highest,
+                               measureParagraphs(*entry, nullptr, findSize(*entry, own), columns[i]).height +
+                                   findMargins(*entry, around));
     return highest;
 }
 
 } // namespace
 
-std::vector<double> estimateRowHeights(const TableImpl& table, double width) {
-    const double column = width / std::max(1u, table.getNCols()) - 2 * kMarginX;
+std::vector<double> estimateRowHeights(const TableImpl& table, double width, bool sharesWidth) {
     const double size = findSizeAbove(table), margins = findMargins(table, 2 * kMarginY);
+    const std::vector<double> columns = estimateColumns(table, size, width, sharesWidth);
     const double least = table.getRowHeight().isSet() ? table.getRowHeight().get().getEMUNumber() : 0;
     std::vector<double> heights;
     for (const auto& child : table.getChildren()) {
         const auto* row = implAs<TableRowImpl>(*child);
         const double told = row && row->getHeight().isSet() ? row->getHeight().get().getEMUNumber() : least;
-        heights.push_back(
-            std::max(told, row ? measureRow(*row, size, margins, std::max(column, kMarginX)) : 0));
+        heights.push_back(std::max(told, row ? measureRow(*row, size, margins, columns) : 0));
     }
     return heights;
 }
 
-void reportFit(const TableImpl& table, double slideHeight) {
+void reportFit(const TableImpl& table, double slideHeight, bool sharesWidth) {
     const TableRoom room = findTableRoom(table, slideHeight);
     if (room.height <= 0 || table.getNCols() == 0 || room.width / table.getNCols() <= 2 * kMarginX)
         return;
-    const std::vector<double> heights = estimateRowHeights(table, room.width);
+    const std::vector<double> heights = estimateRowHeights(table, room.width, sharesWidth);
     const double height = std::accumulate(heights.begin(), heights.end(), 0.0);
     if (height > room.height * kTolerance)
         report(ppt_finding::tableTooLong(toPercent(height / room.height)), table);

@@ -16,7 +16,8 @@ class TableImpl;
 void reportFit(const ShapeImpl& textBox);
 /// Reports a table that takes more height than its box has, or than is left on its slide where it has none.
 /// @param slideHeight in EMU; 0 where it isn't known
-void reportFit(const TableImpl& table, double slideHeight);
+/// @param sharesWidth whether columns share the width by their texts
+void reportFit(const TableImpl& table, double slideHeight, bool sharesWidth);
 
 /// The width of the box that a table stands in or comes into, and the height that there is for it, in EMU; 0 where one
 /// isn't known.
@@ -26,7 +27,8 @@ struct TableRoom {
 TableRoom findTableRoom(const ShapeImpl& shape, double slideHeight);
 
 /// About how high the rows of a table are that is so wide, in EMU.
-std::vector<double> estimateRowHeights(const TableImpl& table, double width);
+/// @param sharesWidth as above
+std::vector<double> estimateRowHeights(const TableImpl& table, double width, bool sharesWidth);
 
 } // namespace vellox::ppt
 

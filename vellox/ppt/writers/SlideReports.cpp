@@ -44,16 +44,16 @@ bool fits(const ShapeImpl& shape) {
 }
 
 // What stands on a slide of the template has contents that nobody here knows.
-void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, bool isMeasured, double slideHeight) {
+void reportRoom(const ShapeImpl& shape, bool isOnNewSlide, const Rules& rules, double slideHeight) {
     if (shape.getTemplateShape() && !isOnNewSlide)
         return;
     const NodeType type = shape.getNodeType();
     if (type == NodeType::Table)
-        return reportFit(static_cast<const TableImpl&>(shape), slideHeight);
+        return reportFit(static_cast<const TableImpl&>(shape), slideHeight, rules.measuresColumns());
     const bool isPlaceholder = isKindOf(type, NodeType::TextBoxPlaceholder);
     if (isPlaceholder && shape.getChildren().empty() && !shape.isContentReplaced())
         report(ppt_finding::emptyPlaceholder(), shape);
-    else if ((isPlaceholder || type == NodeType::TextBox) && !(isMeasured && fits(shape)))
+    else if ((isPlaceholder || type == NodeType::TextBox) && !(rules.measuresTexts() && fits(shape)))
         reportFit(shape);
 }
 
@@ -72,7 +72,7 @@ void reportOnSlide(const SlideImpl& slide, const PPTNode::Children& shapes, cons
         if (shape->getNodeType() == NodeType::Group && !model.getRules().reachesIntoGroups())
             reportGrouped(*shape);
         if (const auto* placed = implAs<ShapeImpl>(*child))
-            reportRoom(*placed, isNew, model.getRules().measuresTexts(), height);
+            reportRoom(*placed, isNew, model.getRules(), height);
     }
 }
 
