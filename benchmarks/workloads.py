@@ -90,6 +90,16 @@ class Bench:
               f"{seconds / least:8.1f}{peak / 1024:8.0f} MB{from_others}", flush=True)
         return seconds, peak
 
+    def profiles(self):
+        """The same calls by the rules of each profile."""
+        print(f"\n{'':52}{'classic':>12}{'office':>12}{'times':>8}")
+        for title, kind, count, decks, _ in WORKLOADS:
+            if kind == "chart" or count < 10:
+                continue
+            (classic, _), (office, _) = self.measure([self.deck(kind, count), self.deck(f"office-{kind}", count)])
+            print(f"{title:52}{1000 * classic / decks:9.1f} ms{1000 * office / decks:9.1f} ms{office / classic:8.2f}",
+                  flush=True)
+
     def openings(self):
         """What reading a template costs: by its slides, and by what its master holds."""
         template = self.path("template.pptx")
@@ -119,6 +129,7 @@ def main():
                    for title, kind, count, decks, with_others in WORKLOADS}
         more = results["text", 5000][1] - results["text", 1000][1]
         print(f"\nMemory for each further slide of text: {more / 4000:.1f} kB")
+        bench.profiles()
         bench.openings()
         if options.no_growth:
             return
