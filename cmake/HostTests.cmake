@@ -2,7 +2,7 @@
 
 # Appends to a list of environment variables what lets a host load modules with sanitizers: their runtime has to be there
 # first. Hosts keep memory until their process ends, so that leaks aren't looked for.
-function(vellox_prepare_host environment)
+function(vellox_prepare_host variable)
     if(NOT VELLOX_SANITIZE)
         return()
     endif()
@@ -14,5 +14,5 @@ function(vellox_prepare_host environment)
         list(APPEND preload ${file})
     endforeach()
     list(JOIN preload " " preload)
-    set(${environment} ${${environment}} "LD_PRELOAD=${preload}" ASAN_OPTIONS=detect_leaks=0 PARENT_SCOPE)
+    set(${variable} ${${variable}} "LD_PRELOAD=${preload}" ASAN_OPTIONS=detect_leaks=0 PARENT_SCOPE)
 endfunction()

@@ -87,7 +87,8 @@ void OctSlot::hold(const BoundClass& bound, ObjectPtr proxy) {
 void OctSlot::drop() {
     if (!proxy_)
         return;
-    warnOfLoss(*class_, proxy_);
+    const ObjectPtr held = proxy_; // a handle beside the slot's own
+    warnOfLoss(*class_, held);
     BindingRegistry::remove(proxy_, *this);
     ObjectPtr dropped;
     dropped.swap(proxy_);

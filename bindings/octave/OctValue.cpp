@@ -243,7 +243,7 @@ int OctValue::getInteger() const {
 }
 
 std::wstring OctValue::getString() const {
-    return code_ == HvCharClass ? fromUtf8(getBytes()) : std::wstring();
+    return code_ == HvCharClass ? fromUtf8(getChars()) : std::wstring();
 }
 
 /// Characters of Octave are bytes, which need not be a text.
@@ -252,13 +252,13 @@ void OctValue::requireUtf8() const {
     const auto isOther = [](char c) { return (c & 0x80) != 0; };
     if (std::none_of(characters.data(), characters.data() + characters.numel(), isOther))
         return;
-    const std::string bytes = getBytes();
+    const std::string bytes = getChars();
     if (toUtf8(fromUtf8(bytes)) != bytes)
         raiseError("vellox:encoding",
                    "a text isn't in UTF-8; unicode2native and native2unicode convert texts");
 }
 
-std::string OctValue::getBytes() const {
+std::string OctValue::getChars() const {
     if (value_.rows() == 1 && value_.dims().ndims() == 2)
         return value_.string_value();
     std::string lines;

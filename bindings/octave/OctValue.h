@@ -70,7 +70,7 @@ public:
 private:
     void read();
     void requireUtf8() const;
-    std::string getBytes() const;
+    std::string getChars() const;
     void readNumbers();
     void readArray();
     void readCells(const Cell& cells);

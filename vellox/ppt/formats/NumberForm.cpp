@@ -79,7 +79,7 @@ bool NumberForm::parseBraces(const std::wstring& text) {
                 return false;
             const std::wstring field = text.substr(at + 1, end - at - 1);
             if (field.empty() || field == L":")
-                number_.emplace();
+                number_ = Number();
             else if (field[0] != L':' || !parseBare(field.substr(1)))
                 return false;
             hasField = true;
