@@ -94,7 +94,9 @@ private:
             for (std::size_t i = 0; i < csv.names.size(); ++i)
                 task.record[csv.names[i]] = row.cells[i];
             task.output = makeRowOutput(task.record, source, place);
-            const std::string path = std::filesystem::path(task.output).lexically_normal().string();
+            std::error_code failure; // of a path that leads nowhere, which is told when it is written to
+            const auto whole = std::filesystem::weakly_canonical(task.output, failure);
+            const std::string path = failure ? task.output : whole.string();
             const auto former = lines.emplace(path, row.line);
             if (!former.second)
                 throw DataFailure(place, "the row's deck is " + task.output + ", and so is that of line " +

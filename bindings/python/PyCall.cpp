@@ -36,8 +36,11 @@ std::size_t PyCall::select(const std::vector<const hostbind::Signature*>& signat
         count_ > kMostArguments ? -1 : hostbind::findOverload(signatures, getArguments(), named_);
     for (const hostbind::NamedArgument& argument : named_)
         if (found < 0 && !hasKeyword(signatures, argument.name))
-            throw PythonError(PyExc_TypeError, name + " takes no keyword argument '" + argument.name +
-                                                   "'. It takes:\n\n" + takes);
+            throw PythonError(PyExc_TypeError, std::string(name)
+                                                   .append(" takes no keyword argument '")
+                                                   .append(argument.name)
+                                                   .append("'. It takes:\n\n")
+                                                   .append(takes));
     if (found < 0)
         throw PythonError(PyExc_TypeError, name + " doesn't take (" + describeValues(objects_, count_) +
                                                "). It takes:\n\n" + takes);

@@ -374,14 +374,19 @@ TEST(Package, RefusesEntriesThatLieOverOneAnother) {
 
 TEST(Package, BoundsNamespacesAndTypes) {
     const TempFolder folder;
-    std::string declarations, types;
+    std::string declarations, types, repeated;
     for (unsigned i = 0; i < kMaxNamespaces; ++i)
         declarations += " xmlns:n" + std::to_string(i) + "='urn:n'";
+    for (unsigned i = 0; i < 2 * kMaxNamespaces; ++i)
+        repeated += "<Default xmlns:n='urn:n' Extension='e" + std::to_string(i) + "' ContentType='a/b'/>";
     for (unsigned i = 0; i < kMaxEntries; ++i)
         types += "<Default/>";
     test::writeParts(folder / L"a.zip",
                      test::withChange(makeParts(), "[Content_Types].xml", "<Types", "<Types" + declarations));
     EXPECT_NE(failureOf(folder / L"a.zip").find("namespaces"), std::string::npos);
+    test::writeParts(folder / L"a.zip",
+                     test::withChange(makeParts(), "[Content_Types].xml", "</Types>", repeated + "</Types>"));
+    EXPECT_EQ(failureOf(folder / L"a.zip"), "none");
     test::writeParts(folder / L"a.zip",
                      test::withChange(makeParts(), "[Content_Types].xml", "</Types>", types + "</Types>"));
     EXPECT_NE(failureOf(folder / L"a.zip").find("types"), std::string::npos);

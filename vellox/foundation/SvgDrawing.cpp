@@ -6,11 +6,14 @@
 #include <librsvg/rsvg.h>
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -80,8 +83,8 @@ cairo_status_t sendPng(void* pipe, const unsigned char* data, unsigned int lengt
 }
 
 void refuse(int pipe, const char* reason) {
-    const std::string text = kRefused + std::string(reason);
-    send(pipe, text.data(), text.size());
+    if (send(pipe, &kRefused, 1))
+        send(pipe, reason, std::strlen(reason));
 }
 
 // Beyond what the process has already.
@@ -98,8 +101,9 @@ void limitChild(const DrawingLimits& limits) {
         setrlimit(RLIMIT_DATA, &data);
     setrlimit(RLIMIT_CPU, &time);
     setrlimit(RLIMIT_CORE, &core);
-    std::signal(SIGXCPU, SIG_DFL);
-    std::signal(SIGPIPE, SIG_DFL);
+    for (const int deadly : {SIGXCPU, SIGPIPE, SIGABRT, SIGSEGV, SIGBUS, SIGILL, SIGFPE})
+        std::signal(deadly, SIG_DFL); // whoever reports a crash of the host isn't concerned
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
     const int nowhere = ::open("/dev/null", O_WRONLY); // for what its libraries say
     if (nowhere >= 0)
         dup2(nowhere, STDERR_FILENO);
@@ -126,6 +130,15 @@ bool draw(int pipe, const std::string& svg, int width, int height) {
         return true;
     }
     return send(pipe, &kDrawn, 1) && library.writePng(surface, sendPng, &pipe) == CAIRO_STATUS_SUCCESS;
+}
+
+// Nothing may be thrown into what the parent was doing.
+[[noreturn]] void beChild(int pipe, const std::string& svg, int width, int height,
+                          const DrawingLimits& limits) noexcept {
+    const int kept =
+        fcntl(pipe, F_DUPFD_CLOEXEC, STDERR_FILENO + 1); // the pipe may be what stands for errors
+    limitChild(limits);
+    _exit(kept >= 0 && draw(kept, svg, width, height) ? 0 : 1);
 }
 
 // The parent's side.
@@ -177,14 +190,17 @@ private:
 
 // All that comes until the other end is closed; nothing if that takes too long.
 std::string receive(int pipe, const Child& child, const DrawingLimits& limits) {
-    constexpr int kWaits = 12; // a process needn't have the processor for itself
+    constexpr unsigned int kWaits = 3; // a process needn't have the processor for itself
     constexpr std::size_t kGreatestDrawn = 256 << 20;
     std::string bytes;
     char block[1 << 16];
-    for (unsigned int waited = 0; waited < limits.seconds * kWaits && bytes.size() < kGreatestDrawn;) {
+    using Clock = std::chrono::steady_clock; // the host's signals may end each wait
+    const Clock::time_point end = Clock::now() + std::chrono::seconds(limits.seconds * kWaits);
+    while (Clock::now() < end && bytes.size() < kGreatestDrawn) {
         pollfd wanted{pipe, POLLIN, 0};
         const int ready = poll(&wanted, 1, 1000);
-        waited += ready == 0 ? 1 : 0;
+        if (ready < 0 && errno != EINTR)
+            break;
         if (ready <= 0)
             continue;
         const ssize_t count = read(pipe, block, sizeof(block));
@@ -219,10 +235,8 @@ std::string drawSvg(const std::string& svg, unsigned int width, unsigned int hei
     const pid_t id = fork();
     if (id < 0)
         throw SvgFault("no process can be had");
-    if (id == 0) {
-        limitChild(limits);
-        _exit(draw(writing.get(), svg, limit(width), limit(height)) ? 0 : 1);
-    }
+    if (id == 0)
+        beChild(writing.get(), svg, limit(width), limit(height), limits);
     Child child(id);
     writing.close();
     std::string sent = receive(reading.get(), child, limits);

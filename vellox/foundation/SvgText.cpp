@@ -131,8 +131,8 @@ std::string_view findAttribute(std::string_view tag, std::string_view name) {
         const std::size_t sign = tag.find_first_not_of(kBlanks, at + name.size());
         const bool isWhole =
             at > 0 && kBlanks.find(tag[at - 1]) != kNowhere && sign != kNowhere && tag[sign] == '=';
-        const std::size_t quote = isWhole ? tag.find_first_of("\"'", sign) : kNowhere;
-        if (quote != kNowhere)
+        const std::size_t quote = isWhole ? tag.find_first_not_of(kBlanks, sign + 1) : kNowhere;
+        if (quote != kNowhere && (tag[quote] == '"' || tag[quote] == '\''))
             return tag.substr(quote + 1, tag.find(tag[quote], quote + 1) - quote - 1);
     }
     return {};

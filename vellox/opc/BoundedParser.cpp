@@ -101,7 +101,8 @@ void BoundedParser::setNamespaceAware(bool aware) {
 }
 
 DOMDocument* BoundedParser::readDocument(InputStream& stream) {
-    depth_ = namespaces_ = 0;
+    depth_ = 0;
+    namespaces_.clear();
     nodes_ = 0;
     names_.clear();
     error_.clear();
@@ -150,7 +151,9 @@ void BoundedParser::countNamespace(const XMLAttr& attribute) {
     static constexpr XMLCh kXmlns[] = u"xmlns";
     const bool declares =
         XMLString::equals(attribute.getPrefix(), kXmlns) || XMLString::equals(attribute.getName(), kXmlns);
-    if (declares && ++namespaces_ > kMaxNamespaces)
+    if (declares)
+        namespaces_.insert(hashName(attribute.getName()) * 31 + hashName(attribute.getValue()));
+    if (namespaces_.size() > kMaxNamespaces)
         throw Exception("it declares more than " + std::to_string(kMaxNamespaces) + " namespaces");
 }
 

@@ -55,7 +55,7 @@ private:
     std::string error_; // the first; empty if there is none
     bool isNamespaceAware_ = false;
     unsigned depth_ = 0;
-    unsigned namespaces_ = 0;
+    std::unordered_set<std::size_t> namespaces_; // likewise, with the prefixes that stand for them
     std::uint64_t nodes_ = 0;
     std::unordered_set<std::size_t> names_; // by their hashes: two that share one count once
 };

@@ -50,6 +50,16 @@ def test_the_weekly_report_is_made_on_any_template(tmp_path, monkeypatch):
         assert b"Bench 3" in text and b"{" not in text.replace(b'id="{', b"").replace(b"Id>{", b"")
 
 
+def test_a_slide_has_no_footer_where_it_wants_none(tmp_path):
+    with vellox.deck(tmp_path / "deck.pptx") as deck:
+        deck.Footer = "of the deck"
+        with_footer, without = deck.add("Blank"), deck.add("Blank")
+        without.Footer = ""
+        assert (with_footer.Footer, without.Footer) == (None, "")
+    parts = read_parts(tmp_path / "deck.pptx")
+    assert [b"of the deck" in parts[b"ppt/slides/slide%d.xml" % number] for number in (1, 2)] == [True, False]
+
+
 def get_rows(xml):
     return [re.findall("<a:t>([^<]*)</a:t>", row) for row in re.findall("<a:tr .*?</a:tr>", xml, re.DOTALL)]
 

@@ -56,6 +56,14 @@ TEST(NumberFormTest, NumbersComeInTheirForms) {
     EXPECT_EQ(show(1234.5, L",.1f", {L",", L""}), L"1234,5");
     EXPECT_EQ(show(L"1234.5", L",.0f"), L"1,234");
     EXPECT_EQ(show(L"12 m", L".1f"), L"-");
+    EXPECT_EQ(show(L"9007199254740993", L",d"), L"9,007,199,254,740,993"); // no double is that number
+    EXPECT_EQ(show(L"-9007199254740993", L".1f"), L"-9007199254740993.0");
+    EXPECT_EQ(show(1e308, L".0%"), L"-");
+    for (const wchar_t* text : {L"2026-11-21", L"2026-11-21T09:30:00", L"2026-11-21 09:30:00.5"})
+        EXPECT_EQ(show(text, L"%d.%m.%Y"), L"21.11.2026") << toUtf8(text);
+    for (const wchar_t* text :
+         {L"10-11-12", L" 2026-11-21", L"2026-11-21 at noon", L"2026-11-21 09:30:00+01:00"})
+        EXPECT_EQ(show(text, L"%d.%m.%Y"), L"-") << toUtf8(text);
 }
 
 TEST(NumberFormTest, DatesComeInTheirForms) {

@@ -159,15 +159,28 @@ BoundMethod describeAddParagraph(BoundMethod row) {
     return row;
 }
 
+/// A text that may be unset, and of which the empty text is one.
+template <class C, auto kGet, auto kSet, auto kUnset>
+BoundProperty pageTextProperty(const char* name, const char* doc) {
+    BoundProperty row = optionalProperty<C, kGet, kSet, kUnset>(name, doc);
+    row.set = [](PPTObject& self, const hvArray& value) {
+        if (value.getClassCode() == HvCharClass)
+            (static_cast<C&>(self).*kSet)(value.getNElements() > 0 ? value.getString() : std::wstring());
+        else
+            UnsettingClassSetter<C, kSet, kUnset>::set(self, value);
+    };
+    return row;
+}
+
 /// Of slides and presentations.
 template <class C> std::vector<BoundProperty> makePageFieldRows() {
     // The one that refuses no texts.
     constexpr void (PageFieldProperties<C>::*kShow)(bool) = &PageFieldProperties<C>::setSlideNumbers;
     return {
-        optionalProperty<C, &C::getDate, &C::setDate, &C::unsetDate>(
+        pageTextProperty<C, &C::getDate, &C::setDate, &C::unsetDate>(
             "Date",
             "The date shown: a text, \"auto\" for one that programs bring up to date, or \"\" for none."),
-        optionalProperty<C, &C::getFooter, &C::setFooter, &C::unsetFooter>(
+        pageTextProperty<C, &C::getFooter, &C::setFooter, &C::unsetFooter>(
             "Footer", "The text at the foot, or \"\" for none."),
         optionalProperty<C, &C::getSlideNumbers, kShow, &C::unsetSlideNumbers>(
             "SlideNumbers", "Whether slide numbers are shown."),

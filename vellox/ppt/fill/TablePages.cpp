@@ -15,7 +15,9 @@ namespace vellox::ppt {
 
 TablePages::TablePages(const Table& table)
     : table_(heldImplOf<TableImpl>(table)),
+      bare_(new TableImpl(*table_)),
       header_(std::min<std::size_t>(table_->countHeaderRows(), table_->getChildren().size())) {
+    bare_->setMerged({});
     if (!table_->getChildren().empty())
         ends_ = {table_->getChildren().size()};
     findMerged();
@@ -68,7 +70,7 @@ void TablePages::findMerged() {
 }
 
 Table TablePages::makePage(std::size_t page) const {
-    const PPTNodeImpl::Child child = (new TableImpl(*table_))->makeInterface();
+    const PPTNodeImpl::Child child = (new TableImpl(*bare_))->makeInterface();
     TableImpl& made = *implOf<TableImpl>(*child);
     const PPTNodeImpl::Children& rows = table_->getChildren();
     for (std::size_t row = 0; row < header_; ++row)

@@ -36,10 +36,10 @@ private:
     void findMerged();
     void takeMerged(TableImpl& made, std::size_t page) const;
 
-    boost::intrusive_ptr<TableImpl> table_;
-    std::size_t header_;                         // rows of it
-    std::vector<std::size_t> ends_;              // for each part the row behind its last
-    std::vector<std::vector<CellRange>> merged_; // for each part those of the table that reach into it
+    boost::intrusive_ptr<TableImpl> table_, bare_; // which has no merged cells
+    std::size_t header_;                           // rows of it
+    std::vector<std::size_t> ends_;                // for each part the row behind its last
+    std::vector<std::vector<CellRange>> merged_;   // for each part those of the table that reach into it
 };
 
 } // namespace vellox::ppt

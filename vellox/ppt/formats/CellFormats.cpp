@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/predicate.hpp>
 #include <boost/algorithm/string/split.hpp>
 #include <boost/algorithm/string/trim.hpp>
 #include <vector>
@@ -118,7 +119,8 @@ LineWords readLine(const std::wstring& text) {
 }
 
 int requireLength(const std::wstring& text, const std::wstring& named) {
-    const int emu = Dimension::isValid(text) ? Dimension(text).getEMUNumber() : -1;
+    const bool isShare = text.find_first_of(L"%*") != std::wstring::npos; // of what, nobody knows here
+    const int emu = !isShare && Dimension::isValid(text) ? Dimension(text).getEMUNumber() : -1;
     if (emu < 0)
         raise(ppt_error::invalidPropertyValue(named));
     return emu;
@@ -128,7 +130,7 @@ int requireLength(const std::wstring& text, const std::wstring& named) {
 
 std::wstring CellBordersImpl::read(unsigned int facet, const std::wstring& text) {
     BorderLine line;
-    if (boost::algorithm::trim_copy(text) == kNoLine) {
+    if (boost::algorithm::iequals(boost::algorithm::trim_copy(text), kNoLine)) {
         line.isThere = false;
         lines_.at(facet) = line;
         return kNoLine;

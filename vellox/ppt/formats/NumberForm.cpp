@@ -26,12 +26,25 @@ void setOffThousands(std::wstring& digits, const std::wstring& mark) {
 }
 
 /// The number that a text is from its beginning to its end.
-std::optional<double> readNumber(const std::wstring& text) {
+template <class Number> std::optional<Number> readNumber(const std::wstring& text) {
     const std::string bytes = toUtf8(text);
-    double number = 0;
+    Number number = 0;
     const auto end = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
     const bool isWhole = end.ec == std::errc() && end.ptr == bytes.data() + bytes.size();
-    return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
+    return isWhole ? std::optional(number) : std::nullopt;
+}
+
+/// Whether it is written as 2026-11-21, with or without a time and its fraction behind; other texts may be anything.
+bool isDate(const std::wstring& text) {
+    constexpr wchar_t kShape[] = L"0000-00-00 00:00:00.";
+    constexpr std::size_t kDay = 10, kTime = 19;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const wchar_t wanted = i < kTime + 1 ? kShape[i] : L'0';
+        const bool isDigit = text[i] >= L'0' && text[i] <= L'9';
+        if (wanted == L'0' ? !isDigit : text[i] != wanted && !(i == kDay && text[i] == L'T'))
+            return false;
+    }
+    return text.size() == kDay || text.size() == kTime || text.size() > kTime + 1;
 }
 
 bool isDateForm(const std::wstring& form) {
@@ -157,42 +170,60 @@ std::string NumberForm::print(double number, const Number& form) {
 }
 
 std::optional<std::wstring> NumberForm::show(double number, const NumberMarks& marks) const {
-    const bool isWhole = std::isfinite(number) && std::floor(number) == number;
-    if (!number_ || (number_->type == L'd' && !isWhole))
+    const double shown = number_ && number_->type == L'%' ? number * 100 : number;
+    if (!number_ || !std::isfinite(shown) || (number_->type == L'd' && std::floor(number) != number))
         return std::nullopt;
-    const double shown = number_->type == L'%' ? number * 100 : number;
-    std::string digits = print(std::fabs(shown), *number_);
+    return finish(print(std::fabs(shown), *number_), std::signbit(shown), marks);
+}
+
+std::optional<std::wstring> NumberForm::showWhole(long long number, const NumberMarks& marks) const {
+    constexpr long long kExact = 1LL << 53; // up to which a double has all digits
+    constexpr wchar_t kPlain[] = {L'd', L'f', L'F', 0};
+    const bool isPlain =
+        number_ && std::find(std::begin(kPlain), std::end(kPlain), number_->type) != std::end(kPlain);
+    if (!isPlain || (number_->type == 0 && number_->digits) || (number < kExact && number > -kExact))
+        return show(static_cast<double>(number), marks);
+    std::string digits = std::to_string(number);
+    if (number < 0)
+        digits.erase(0, 1);
+    const int fraction =
+        number_->type == L'd' || number_->type == 0 ? 0 : number_->digits.value_or(kUsualDigits);
+    if (fraction > 0)
+        digits += "." + std::string(static_cast<std::size_t>(fraction), '0');
+    return finish(digits, number < 0, marks);
+}
+
+std::wstring NumberForm::finish(std::string digits, bool isNegative, const NumberMarks& marks) const {
     if (number_->type == L'E' || number_->type == L'G')
         std::transform(digits.begin(), digits.end(), digits.begin(),
                        [](char c) { return c == 'e' ? 'E' : c; });
     std::wstring text = marks.mark(std::wstring(digits.begin(), digits.end()));
     if (number_->hasGroups)
         setOffThousands(text, marks.thousands);
-    const wchar_t* sign = std::signbit(shown) ? L"-" : number_->hasSign ? L"+" : L"";
+    const wchar_t* sign = isNegative ? L"-" : number_->hasSign ? L"+" : L"";
     return before_ + sign + text + (number_->type == L'%' ? L"%" : L"") + after_;
 }
 
 std::optional<std::wstring> NumberForm::show(const std::wstring& text, const NumberMarks& marks) const {
     if (number_) {
-        const std::optional<double> number = readNumber(text);
-        return number ? show(*number, marks) : std::nullopt;
+        if (const auto whole = readNumber<long long>(text))
+            return showWhole(*whole, marks);
+        const auto number = readNumber<double>(text);
+        return number && std::isfinite(*number) ? show(*number, marks) : std::nullopt;
     }
     const std::optional<std::wstring> date = showDate(text, date_);
     return date ? std::optional(before_ + *date + after_) : std::nullopt;
 }
 
 std::optional<std::wstring> NumberForm::showDate(const std::wstring& date, const std::wstring& form) {
+    if (!isDate(date))
+        return std::nullopt;
     std::tm time = {};
     std::wistringstream stream(date);
     stream.imbue(std::locale::classic());
     stream >> std::get_time(&time, L"%Y-%m-%d");
-    if (!stream)
-        return std::nullopt;
-    const wchar_t mark = stream.eof() ? L'\0' : static_cast<wchar_t>(stream.get());
-    if (mark == L' ' || mark == L'T')
+    if (stream && !stream.eof() && stream.ignore())
         stream >> std::get_time(&time, L"%H:%M:%S");
-    else if (mark != L'\0') // more digits, or another text
-        return std::nullopt;
     const std::tm given = time;
     if (!stream || timegm(&time) == -1 || time.tm_mday != given.tm_mday) // which finds the day of the week
         return std::nullopt;

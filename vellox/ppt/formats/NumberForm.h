@@ -31,6 +31,8 @@ public:
 
     /// @return nothing if the form is one of dates, or of whole numbers and this is none
     std::optional<std::wstring> show(double number, const NumberMarks& marks = {}) const;
+    /// A whole number, with all its digits.
+    std::optional<std::wstring> showWhole(long long number, const NumberMarks& marks = {}) const;
     /// A text that is a number as a whole, or a date such as "2026-11-21" or "2026-11-21 09:30:00".
     /// @return nothing if it isn't what the form is for
     std::optional<std::wstring> show(const std::wstring& text, const NumberMarks& marks = {}) const;
@@ -46,6 +48,7 @@ private:
     bool parseBraces(const std::wstring& text);
     bool parseBare(const std::wstring& text);
     static std::string print(double number, const Number& form);
+    std::wstring finish(std::string digits, bool isNegative, const NumberMarks& marks) const;
     static std::optional<std::wstring> showDate(const std::wstring& date, const std::wstring& form);
 
     std::optional<Number> number_;

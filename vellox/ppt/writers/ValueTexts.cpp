@@ -27,15 +27,17 @@ NumberMarks DeckValues::getMarks() const {
         marks.thousands = L".";
     if (thousandsMark)
         marks.thousands = *thousandsMark;
+    if (!decimalMark && marks.decimal == marks.thousands)
+        marks.decimal = L",";
     return marks;
 }
 
 void ValueLook::complete(const ValueFormatImpl& format) {
-    if (!form && format.getForm())
-        form = &*format.getForm();
-    const auto take = [&](const std::wstring*& place, ValueFormat::Facet facet) {
+    if (!form)
+        form = format.getForm();
+    const auto take = [&](std::optional<std::wstring>& place, ValueFormat::Facet facet) {
         if (!place && format.getFacet(facet).isSet())
-            place = &format.getFacet(facet).get();
+            place = format.getFacet(facet).get();
     };
     take(missing, ValueFormat::MissingText);
     take(trueText, ValueFormat::TrueText);
@@ -60,10 +62,10 @@ struct ShowValue {
 
     Shown operator()(std::monostate) const {
         const std::wstring& text = run.getTextContent();
-        if (look.missing && isMissing(text))
-            return *look.missing;
         const PPTNodeImpl* paragraph = run.getParent();
         const bool isAlone = paragraph && paragraph->getChildren().size() == 1;
+        if (look.missing && isAlone && isMissing(text))
+            return *look.missing;
         return look.form && isAlone ? look.form->show(text, marks) : Shown();
     }
     Shown operator()(double number) const {
@@ -72,12 +74,9 @@ struct ShowValue {
         return look.form ? look.form->show(number, marks) : Shown();
     }
     Shown operator()(long long number) const {
-        return look.form ? look.form->show(static_cast<double>(number), marks) : Shown();
+        return look.form ? look.form->showWhole(number, marks) : Shown();
     }
-    Shown operator()(bool value) const {
-        const std::wstring* text = look.findTruth(value);
-        return text ? Shown(*text) : Shown();
-    }
+    Shown operator()(bool value) const { return look.findTruth(value); }
 };
 
 } // namespace

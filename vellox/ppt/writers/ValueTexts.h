@@ -24,21 +24,19 @@ struct DeckValues {
     std::optional<std::wstring> decimalMark, thousandsMark;
 
     DeckValues copy() const;
-    /// Where only the decimal mark is set, thousands are set off by that of the two which is left.
+    /// Where only one mark is set, the other is that of the two which is left.
     NumberMarks getMarks() const;
 };
 
-/// How values are shown in one cell: what isn't said is null.
+/// How values are shown in one cell, as far as that is said. Of its own: listeners may change formats meanwhile.
 struct ValueLook {
-    const NumberForm* form = nullptr;
-    const std::wstring* missing = nullptr;
-    const std::wstring* trueText = nullptr;
-    const std::wstring* falseText = nullptr;
+    std::optional<NumberForm> form;
+    std::optional<std::wstring> missing, trueText, falseText;
 
     bool isEmpty() const { return !form && !missing && !trueText && !falseText; }
     /// Takes what is still open from a format.
     void complete(const ValueFormatImpl& format);
-    const std::wstring* findTruth(bool value) const { return value ? trueText : falseText; }
+    const std::optional<std::wstring>& findTruth(bool value) const { return value ? trueText : falseText; }
 };
 
 /// Whether a text is what data frames show for a missing value.
