@@ -27,6 +27,8 @@ public:
         rows_.push_back(std::move(row));
     }
     HvContentPtr getEntry(unsigned int r, unsigned int c) const override {
+        if (isEmptyEntry(r, c))
+            return {};
         return boost::make_shared<StringContent>(rows_[r][c]);
     }
     bool isEmptyEntry(unsigned int r, unsigned int c) const override {

@@ -3,6 +3,7 @@
 #include "cli/Contents.h"
 #include "cli/DescriptionForm.h"
 #include "cli/Files.h"
+#include "cli/Properties.h"
 
 namespace vellox::cli {
 
@@ -45,8 +46,13 @@ public:
         reportNews(place, "valueWithoutToken");
     }
 
+    void setUp(const Data& description, const DataPlace& place) {
+        setProperties(deck_, Described::Deck, description, place, textOf_);
+    }
+
     void add(const Data& data, const DataPlace& place) {
         ppt::Slide slide = makeSlide(data, place);
+        setProperties(slide, Described::Slide, data, place, textOf_);
         if (const Data* contents = data.find("contents"))
             for (const Data::Member& member : contents->members)
                 put(slide, member.first, member.second,
@@ -87,19 +93,29 @@ private:
     void put(ppt::Slide& slide, const std::string& key, const Data& value, const DataPlace& place) {
         const std::wstring name = textOf_(key, place);
         try {
-            if (value.kind == Data::Kind::Nothing)
-                return; // stays empty
-            if (value.isScalar())
-                slide.replace(name, trimEnd(textOf_(value.text, place))); // each line is a paragraph
-            else if (value.kind == Data::Kind::List)
-                slide.replace(name, makeList(value, place, textOf_));
+            if (value.find("picture"))
+                slide.replace(name, makePicture(value, place));
+            else if (value.find("table"))
+                slide.replace(name, makeTableContent(value, place));
+            else if (const Data* text = value.find("text"))
+                putText(slide, name, *text, place.member("text", *text));
             else
-                slide.replace(name, value.find("picture") ? makePicture(value, place)
-                                                          : makeTableContent(value, place));
+                putText(slide, name, value, place);
+            if (value.find("text"))
+                for (const auto& shape : slide.find(name))
+                    if (const auto box = ppt::BaseTextBox::cast(shape))
+                        setProperties(*box, Described::Text, value, place, textOf_);
         } catch (const hostfx::except::IUserException& error) {
             throw DataFailure(place, error.what(), error.getErrorID());
         }
         reportNews(place);
+    }
+
+    void putText(ppt::Slide& slide, const std::wstring& name, const Data& text, const DataPlace& place) {
+        if (text.kind == Data::Kind::List)
+            slide.replace(name, makeList(text, place, textOf_));
+        else if (text.kind != Data::Kind::Nothing)                   // which leaves it empty
+            slide.replace(name, trimEnd(textOf_(text.text, place))); // each line is a paragraph
     }
 
     /// Block texts of YAML end with a line end.
@@ -111,8 +127,7 @@ private:
         const Data& path = *value.find("picture");
         const std::string file = findFile(path, place.member("picture", path));
         ppt::Picture picture(toPath(file));
-        setOption(value, "alt", place, [&](const std::wstring& text) { picture.setAltText(text); });
-        setOption(value, "fit", place, [&](const std::wstring& word) { picture.setFit(word); });
+        setProperties(picture, Described::Picture, value, place, textOf_);
         return boost::make_shared<ObjectContent>(picture);
     }
 
@@ -121,21 +136,70 @@ private:
         const DataPlace at = place.member("table", rows);
         ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_)
                                                          : readFile<ppt::Table>(rows, at, makeTable);
-        setOption(value, "alt", place, [&](const std::wstring& text) { table.setAltText(text); });
-        setOption(value, "style", place, [&](const std::wstring& name) { table.setStyleName(name); });
+        setProperties(table, Described::Table, value, place, textOf_);
+        setUpColumns(table, value, place);
+        setUpRows(table, value, place);
+        setUpCells(table, value, place);
+        mergeCells(table, value, place);
         return boost::make_shared<ObjectContent>(table);
     }
 
-    template <class Set>
-    void setOption(const Data& value, const char* name, const DataPlace& place, const Set& set) const {
-        const Data* option = value.find(name);
-        if (!option)
-            return;
-        const DataPlace at = place.member(name, *option);
+    /// The items of a list that a record may have, with their places.
+    template <class Take>
+    static void eachItem(const Data& value, const char* name, const DataPlace& place, Take take) {
+        const Data* list = value.find(name);
+        for (std::size_t i = 0; list && i < list->items.size(); ++i)
+            take(i, list->items[i], place.member(name, *list).item(i, list->items[i]));
+    }
+
+    void setUpColumns(ppt::Table& table, const Data& value, const DataPlace& place) const {
+        ppt::Table::ColSpecs columns;
+        eachItem(value, "columns", place, [&](std::size_t, const Data& column, const DataPlace& at) {
+            columns.push_back(boost::make_shared<ppt::ColSpec>());
+            setProperties(*columns.back(), Described::Column, column, at, textOf_);
+        });
+        if (!columns.empty())
+            table.setColSpecs(columns);
+    }
+
+    void setUpRows(ppt::Table& table, const Data& value, const DataPlace& place) const {
+        eachItem(value, "rows", place, [&](std::size_t i, const Data& row, const DataPlace& at) {
+            const auto found = table.row(static_cast<unsigned>(i));
+            if (!found)
+                throw DataFailure(at, "the table has no such row");
+            setProperties(*found, Described::Row, row, at, textOf_);
+        });
+    }
+
+    void setUpCells(ppt::Table& table, const Data& value, const DataPlace& place) const {
+        eachItem(value, "cells", place, [&](std::size_t, const Data& cell, const DataPlace& at) {
+            const auto found = atPlace(
+                at, [&] { return table.entry(toIndex(*cell.find("row")), toIndex(*cell.find("column"))); });
+            if (!found)
+                throw DataFailure(at, "the table has no such cell");
+            setProperties(*found, Described::Cell, cell, at, textOf_);
+        });
+    }
+
+    void mergeCells(ppt::Table& table, const Data& value, const DataPlace& place) const {
+        eachItem(value, "merge", place, [&](std::size_t, const Data& range, const DataPlace& at) {
+            const std::vector<Data>& numbers = range.items;
+            atPlace(at, [&] {
+                table.merge(toIndex(numbers[0]), toIndex(numbers[1]), toIndex(numbers[2]),
+                            toIndex(numbers[3]));
+            });
+        });
+    }
+
+    /// From 1 in descriptions.
+    static unsigned toIndex(const Data& number) { return static_cast<unsigned>(std::stoul(number.text)) - 1; }
+
+    /// What goes wrong is told with a place.
+    template <class Act> static auto atPlace(const DataPlace& place, Act act) -> decltype(act()) {
         try {
-            set(textOf_(option->text, at));
+            return act();
         } catch (const hostfx::except::IUserException& error) {
-            throw DataFailure(at, error.what(), error.getErrorID());
+            throw DataFailure(place, error.what(), error.getErrorID());
         }
     }
 
@@ -212,6 +276,7 @@ void DeckDescription::make(ppt::Presentation& deck, const Record* record, const 
     const Data* slides = data_.find("slides");
     const Data* tokens = data_.find("tokens");
     DeckMaker maker(deck, record, report);
+    maker.setUp(data_, root_);
     if (record)
         maker.fillTokens(tokens, tokens ? root_.member("tokens", *tokens) : root_);
     if (!slides)

@@ -409,6 +409,90 @@ def test_completions_and_manual(work):
         assert (done.returncode, done.stderr) == (0, "")
 
 
+LOOKS = """\
+title: Weekly report
+decimalMark: ","
+footer: "{name}\\nInternal"
+slides:
+  - layout: Title and Table
+    notes: Say hello
+    contents:
+      Title: {text: Flow, fontColor: "#c00000"}
+      Table:
+        table: [[Site, Flow, Share], [North, 1014.567, 0.25], [South, ~, 1], [Total]]
+        style: Medium Style 2 - Accent 1
+        alt: Flow by site
+        missingText: "-"
+        totalRow: true
+        headerRows: 1
+        columns: [~, {numberFormat: "{:.1f} m"}, {numberFormat: .0%}]
+        rows: [{height: 1cm}]
+        cells: [{row: 2, column: 3, border: 2pt dash red}]
+        merge: [[4, 2, 4, 3]]
+  - layout: Title and Content
+    footer: ""
+    hidden: true
+    contents:
+      Title: {text: ~}
+      Content: {text: [One, [deeper]], bullet: "1. a)", alt: A list}
+tokens: {name: Pumps}
+"""
+
+
+def test_descriptions_set_properties(work):
+    pathlib.Path("looks.yaml").write_text(LOOKS)
+    assert run("fill", "default", "looks.yaml", "-o", "deck.pptx").stderr == ""
+    run("check", "deck.pptx", "--strict")
+    text = run("text", "deck.pptx").stdout
+    for line in ("| North | 1014,6 m | 25% |", "| South | - | 100% |", "Notes: Say hello", "Footer: Pumps\\nInternal",
+                 "Table: (table) Flow by site", "Content: (empty)"):
+        assert (line in text) == (line != "Content: (empty)"), text
+    assert text.count("Footer") == 1
+    with zipfile.ZipFile("deck.pptx") as package:
+        first, second = (package.read(f"ppt/slides/slide{i}.xml").decode() for i in (1, 2))
+        assert "Weekly report" in package.read("docProps/core.xml").decode()
+    for words in ('h="359999"', 'prstDash val="dash"', 'gridSpan="2"', 'lastRow="1"', '"C00000"'):
+        assert words in first, words
+    assert 'type="alphaLcParenR"' in second and 'show="0"' in second and 'descr="A list"' in second
+
+
+@pytest.mark.parametrize("wrong, right, words", [
+    ("totalRow: true", "totalRow: 3", ":14: slides[1].contents.Table.totalRow: it is a number, and must be a truth value"),
+    ("headerRows: 1", "headerRows: 1.5", ".headerRows: it is a number, and must be a whole number"),
+    ("headerRows: 1", "rowHeigth: 1cm", ".rowHeigth: nothing is known of that name; there is \"rowHeight\""),
+    ("height: 1cm", "height: tall", ":17: slides[1].contents.Table.rows[1].height: \"tall\" isn't a value"),
+    ("row: 2, ", "row: 9, ", ".cells[1]: the table has no such cell"),
+    ("row: 2, ", "row: 0, ", ".cells[1]: the row \"0\" doesn't count from 1"),
+    ("row: 2, ", "", ".cells[1]: it has no row"),
+    ("[[4, 2, 4, 3]]", "[[4, 2, 4, 4]]", ":19: slides[1].contents.Table.merge[1]: The cells from row 4, column 2"),
+    ("[[4, 2, 4, 3]]", "[[4, 2]]", ".merge[1]: it must be a row, a column, and the last of each"),
+    ("hidden: true", "hidden: yes", ":22: slides[2].hidden: it is a text, and must be a truth value"),
+    ("{text: ~}", "{text: a, table: [[1]]}", "slides[2].contents.Title: it must have either"),
+    ("title: ", "Title: ", ":1: Title: nothing is known of that name; there is \"title\""),
+])
+def test_properties_are_told_with_their_place(work, wrong, right, words):
+    pathlib.Path("looks.yaml").write_text(LOOKS.replace(wrong, right, 1))
+    assert words in fail("fill", "default", "looks.yaml", "-o", "deck.pptx")
+
+
+def test_all_properties_of_the_schema_are_known(work):
+    definitions = json.loads((pathlib.Path(__file__).parents[2] / "cli/deck.schema.json").read_text())["definitions"]
+    samples = {"boolean": True, "integer": 1}
+
+    def sample(kind):
+        known = definitions["property"]
+        return {name: samples.get(str(known[name].get("type")), "x") for name in definitions[kind]["properties"]
+                if name in known and "text" not in name}
+
+    table = {"table": [["a"]], **sample("table"), "columns": [sample("column")], "rows": [sample("row")],
+             "cells": [{"row": 1, "column": 1, **sample("cell")}]}
+    contents = {"A": table, "B": {"text": "a", **sample("text")}, "C": {"picture": str(PICTURE), **sample("picture")}}
+    deck = {"slides": [{"layout": "Title Slide", **sample("slide"), "contents": contents}]}
+    pathlib.Path("all.json").write_text(json.dumps(deck))
+    words = fail("fill", "default", "all.json", "-o", "deck.pptx")
+    assert "isn't a value that this property can have" in words, "the form of all is right"
+
+
 def test_the_schema_says_what_the_program_says(work):
     jsonschema = pytest.importorskip("jsonschema")
     yaml = pytest.importorskip("yaml")
@@ -420,3 +504,6 @@ def test_the_schema_says_what_the_program_says(work):
         pathlib.Path("deck.yaml").write_text(text)
         done = subprocess.run([COMMAND, "fill", "default", "deck.yaml", "-o", "x.pptx"], capture_output=True)
         assert jsonschema.Draft7Validator(schema).is_valid(yaml.safe_load(text)) == (done.returncode == 0), text
+    for wrong, right in [("", ""), ("totalRow: true", "totalRow: 3"), ("row: 2, ", ""), ("height:", "hieght:")]:
+        text = LOOKS.replace(wrong, right, 1) if wrong else LOOKS
+        assert jsonschema.Draft7Validator(schema).is_valid(yaml.safe_load(text)) == (not wrong), text
