@@ -161,10 +161,11 @@ private:
     }
 
     void reportNews(const DataPlace& place, const char* except = "") {
-        const std::vector<ppt::Finding> findings = deck_.getFindings();
-        for (; told_ < findings.size(); ++told_)
-            if (findings[told_].code != except)
-                report_(place, findings[told_]);
+        const std::vector<ppt::Finding> news = deck_.getFindings(told_);
+        told_ += news.size();
+        for (const ppt::Finding& finding : news)
+            if (finding.code != except)
+                report_(place, finding);
     }
 
     ppt::Presentation& deck_;

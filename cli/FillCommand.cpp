@@ -178,10 +178,9 @@ private:
         description.make(deck, task.hasRecord ? &task.record : nullptr, report);
         const std::size_t known = deck.getFindings().size();
         deck.close();
-        const std::vector<ppt::Finding> findings = deck.getFindings();
-        for (std::size_t i = known; i < findings.size(); ++i)
-            if (findings[i].severity != ppt::Severity::Info)
-                result.warnings.push_back(describe(findings[i]));
+        for (const ppt::Finding& finding : deck.getFindings(known))
+            if (finding.severity != ppt::Severity::Info)
+                result.warnings.push_back(describe(finding));
         result.isDone = true;
         return result;
     }

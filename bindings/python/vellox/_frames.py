@@ -19,6 +19,7 @@ class Grid(NamedTuple):
     rows: list[list[Any]]
     header: int  # rows of it
     spans: list[Span]  # labels that stand for several rows or columns: from one corner to the other, from 0
+    labels: int  # columns of labels of rows
 
 
 def read_frame(frame: Any) -> list[list[Any]]:
@@ -49,7 +50,7 @@ def read_grid(frame: Any, index: bool | None = None) -> Grid:
     spans += [(level, first + len(corner), level, last + len(corner)) for level, first, last in _find_runs(header)]
     rows = [[""] * len(corner) + level for level in _leave_out_repeats(header)]
     rows[-1][: len(corner)] = corner
-    return Grid(rows + [list(row) for row in zip(*columns)] if columns else [], len(header), spans)
+    return Grid(rows + [list(row) for row in zip(*columns)] if columns else [], len(header), spans, len(corner))
 
 
 def _exchange(frame: Any) -> Any:

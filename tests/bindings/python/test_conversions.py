@@ -6,6 +6,7 @@ import enum
 import fractions
 import io
 import pathlib
+import re
 import struct
 import uuid
 import zipfile
@@ -420,6 +421,13 @@ def test_frames_become_tables_with_labels_and_merged_headers(tmp_path):
     shown = vellox.table(plain, index=True)
     assert [[entry.Text for entry in row.Children] for row in shown.Children] == [["", "n"], ["r", "1"], ["s", "2"]] \
         or shown.entry(2, 1).Text == "r"
+    years = vellox.table(pd.DataFrame({"n": [1, 2]}, ["007", 2026]), index=True)
+    years.NumberFormat = ".1f"
+    with vellox.deck(tmp_path / "labels.pptx") as deck:
+        deck.add("Title and Table", {"Title": "x", "Table": years})
+    with zipfile.ZipFile(tmp_path / "labels.pptx") as package:
+        xml = package.read("ppt/slides/slide1.xml").decode()
+    assert re.findall("<a:t>([^<]*)", xml)[-5:-1] == ["007", "1.0", "2026", "2.0"], "labels are what they are"
     assert vellox.table(pd.DataFrame({"n": []})).NCols in (0, 1)
     assert cells(Exchanged(plain)) == cells(plain)
     assert vellox.table(Exchanged(plain)).NCols == 1

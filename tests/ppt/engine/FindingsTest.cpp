@@ -275,6 +275,8 @@ TEST_F(FindingsTest, AreLimited) {
     const std::vector<Finding> findings = deck.getFindings();
     ASSERT_EQ(findings.size(), FindingList::kMaxFindings + 1);
     EXPECT_EQ(findings.back().code, "moreFindings");
+    EXPECT_EQ(deck.getFindings(FindingList::kMaxFindings).size(), 1u);
+    EXPECT_EQ(deck.getFindings(findings.size() + 1).size(), 0u);
     EXPECT_EQ(findings.back().severity, Severity::Info);
 }
 

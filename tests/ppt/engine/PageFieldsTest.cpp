@@ -3,6 +3,7 @@
 #include "tests/support/DeckTest.h"
 #include "tests/support/TemplateBuilder.h"
 #include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/TextBox.h"
 
 using namespace vellox;
@@ -64,13 +65,15 @@ TEST_F(PageFieldsTest, WhatIsSetStandsWhereTheLayoutHasAPlaceForIt) {
     deck.add(L"All");
     Slide own = deck.add(L"All");
     own.setFooter(L"");
-    own.setDate(L"1 May");
+    own.setDate(L"1 May\r\n2026");
     own.setSlideNumbers(false);
     Slide bare = deck.add(L"None");
     bare.setFooter(L"wanted here");
     close();
     EXPECT_EQ(fieldsOf(1), (Texts{"sldNum[slidenum]:7", "dt[datetime1]:5/1/2019", "ftr:Tests"}));
     EXPECT_EQ(fieldsOf(2), Texts{"dt:1 May"});
+    EXPECT_EQ(textsOf(slideXml(2), "a:t").back(), "2026") << "on a line of its own";
+    EXPECT_EQ(findAll(slideXml(2), "a:br").size(), 1u);
     EXPECT_EQ(fieldsOf(3), Texts{});
     EXPECT_EQ(valuesOf(shapeXml(1, "Footer"), "p:ph", "sz"), Texts{"quarter"})
         << "place and looks are inherited";
@@ -109,16 +112,29 @@ TEST_F(PageFieldsTest, LinksLeadToSlidesWhereverTheyStandByTheEnd) {
     lead(contents);
     lead(gone);
     contents.add(box);
+    const std::string png = makePng(1, 1);
+    for (const Slide& to : {later, gone}) {
+        Picture picture(std::vector<unsigned char>(png.begin(), png.end()));
+        picture.setLink(L"https://example.org");
+        picture.setLink(to);
+        EXPECT_FALSE(picture.getLink().isSet());
+        contents.add(picture);
+    }
     deck.remove(gone);
     deck.move(later, 0);
     const Parts parts = close();
     const std::string xml = slideXml(1), moved = slideXml(2);
     const std::string& own = xml.find("there") != std::string::npos ? xml : moved;
-    EXPECT_EQ(valuesOf(own, "a:hlinkClick", "action"), (Texts(2, "ppaction://hlinksldjump")));
+    EXPECT_EQ(valuesOf(own, "a:hlinkClick", "action"), (Texts(3, "ppaction://hlinksldjump")))
+        << "two of texts, one of a picture";
     EXPECT_EQ(textsOf(own, "a:t").size(), 3u) << "a link that leads nowhere is a text";
     const std::string rels =
         parts.at(&own == &xml ? "ppt/slides/_rels/slide1.xml.rels" : "ppt/slides/_rels/slide2.xml.rels");
-    EXPECT_EQ(findAll(rels, "Relationship").size(), 3u);
+    EXPECT_EQ(findAll(rels, "Relationship").size(), 6u) << "layout, two images and three links";
+    const std::vector<Finding> findings = deck.getFindings();
+    EXPECT_EQ(std::count_if(findings.begin(), findings.end(),
+                            [](const Finding& finding) { return finding.code == "emptyLinkTarget"; }),
+              2);
     for (const char* target : {"slide1.xml", "slide2.xml"})
         EXPECT_NE(rels.find(target), std::string::npos) << target;
 }

@@ -2,6 +2,8 @@
 
 #include "tests/support/DeckTest.h"
 #include "tests/support/TemplateBuilder.h"
+#include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/Table.h"
 #include "vellox/ppt/tree/TextBox.h"
 
@@ -170,10 +172,29 @@ TEST_F(SlidesTest, CopiesOfNewSlidesHaveTheirShapes) {
     row.append(TableEntry(L"other"));
     table.append(row);
     original.add(table);
+    const std::string png = makePng(1, 1);
+    Picture picture(std::vector<unsigned char>(png.begin(), png.end()));
+    picture.setLink(original);
+    original.add(picture);
+    Paragraph line;
+    line.append(ExternalLink(original, L"self"));
+    line.append(ExternalLink(deck.add(L"Own"), L"third"));
+    original.add(L"Title", line);
     Slide copy = deck.copy(original);
     copy.add(L"Title", L"more");
-    EXPECT_EQ(textsOf(parts().at("ppt/slides/slide4.xml"), "a:t"), (Texts{"New", "more", "cell", "other"}));
-    EXPECT_EQ(textsOf(parts().at("ppt/slides/slide3.xml"), "a:t"), (Texts{"New", "cell", "other"}));
+    const auto targets = [&](const char* slide) {
+        Texts names;
+        for (const std::string& id : valuesOf(parts().at(slide), "a:hlinkClick", "r:id"))
+            names.push_back(target(slide, id));
+        return names;
+    };
+    EXPECT_EQ(targets("ppt/slides/slide3.xml"), (Texts{"slide3.xml", "slide4.xml", "slide3.xml"}));
+    EXPECT_EQ(targets("ppt/slides/slide5.xml"), (Texts{"slide5.xml", "slide4.xml", "slide5.xml"}))
+        << "what led to itself does so";
+    EXPECT_EQ(textsOf(parts().at("ppt/slides/slide5.xml"), "a:t"),
+              (Texts{"New", "self", "third", "more", "cell", "other"}));
+    EXPECT_EQ(textsOf(parts().at("ppt/slides/slide3.xml"), "a:t"),
+              (Texts{"New", "self", "third", "cell", "other"}));
 }
 
 TEST_F(SlidesTest, NotesAreReadChangedAndMade) {

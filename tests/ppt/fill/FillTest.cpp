@@ -188,6 +188,27 @@ TEST_F(FillTest, TextsOfTheTemplateAreReadAndCellsSet) {
     EXPECT_EQ(textsOf(findAll(shapeXml(3, "Sheet"), "a:tc")[3], "a:t"), Texts{"copied"});
 }
 
+TEST_F(FillTest, ValuesOfTheTemplatesCellsHaveTheirForms) {
+    deck.setNumberFormat(L".2f");
+    Table sheet = as<Table>(Slide::cast(deck.getChildren().front())->shape(L"Sheet"));
+    sheet.entry(0, 0)->setText(L"2026"); // in the header only what is the entry's own counts
+    sheet.entry(0, 1)->setText(L"nan");
+    sheet.entry(0, 1)->setMissingText(L"none yet");
+    sheet.entry(1, 0)->setText(L"1");
+    const auto last = sheet.entry(1, 1);
+    last->setNumberFormat(L"{:.1f} m");
+    last->setText(L"3.14159");
+    last->append(Paragraph(2));
+    last->append(L"3 and more");
+    close();
+    const Texts cells = findAll(shapeXml(1, "Sheet"), "a:tc");
+    EXPECT_EQ(textsOf(cells.at(0), "a:t"), Texts{"2026"});
+    EXPECT_EQ(textsOf(cells.at(1), "a:t"), Texts{"none yet"});
+    EXPECT_EQ(textsOf(cells.at(2), "a:t"), Texts{"1.00"});
+    EXPECT_EQ(textsOf(cells.at(3), "a:t"), (Texts{"3.1 m", "2.0 m", "3 and more"}));
+    EXPECT_EQ(valuesOf(cells.at(3), "a:pPr", "algn"), Texts{}) << "where the template has it";
+}
+
 TEST_F(FillTest, CastsTellWhatIsWrong) {
     EXPECT_EQ(errorOf([&] { as<Table>(boost::shared_ptr<PPTNode>()); }), "ppt_error:emptyHandle shape");
     EXPECT_EQ(errorOf([&] { as<Table>(slide.shape(L"Title")); }),

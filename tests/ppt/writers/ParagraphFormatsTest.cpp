@@ -62,6 +62,8 @@ TEST_F(ParagraphFormatsTest, BulletsAreCharactersOrCounts) {
         {L"Wingdings", nullptr},
         {L" ", nullptr},
         {L"1. words", nullptr},
+        {L"-\x01", "<a:buChar char='-'/>"},
+        {L"\xFFFE", nullptr},
     };
     TextBox box(L"Box");
     Texts expected;
@@ -79,6 +81,7 @@ TEST_F(ParagraphFormatsTest, BulletsAreCharactersOrCounts) {
     start(L"classic").add(box);
     close();
     EXPECT_EQ(propertiesOf("Box"), expected);
+    EXPECT_EQ(count("charactersDropped"), 1u);
 }
 
 TEST_F(ParagraphFormatsTest, ABoxSetsThemForTheLevelsOfItsList) {
@@ -115,6 +118,8 @@ TEST_F(ParagraphFormatsTest, LengthsComeInTheSequenceOfTheSchema) {
     EXPECT_EQ(errorOf([&] { paragraph.setLanguage(L"English!"); }),
               "ppt_error:invalidPropertyValue English!");
     EXPECT_EQ(errorOf([&] { paragraph.setSpaceAfter(L"much"); }), "ppt_error:invalidPropertyValue much");
+    EXPECT_EQ(errorOf([&] { paragraph.setLeftIndent(L"10%"); }), "ppt_error:invalidPropertyValue 10%");
+    EXPECT_EQ(errorOf([&] { FirstLineIndent().setValue(L"1*"); }), "ppt_error:invalidPropertyValue 1*");
     start(L"classic").add(box);
     close();
     const Texts found = propertiesOf("Box");

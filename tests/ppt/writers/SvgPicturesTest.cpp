@@ -89,6 +89,8 @@ TEST_F(SvgPicturesTest, BothPicturesAreStoredOnce) {
     slide.add(free);
     Slide second = deck.add(L"Blank");
     second.add(Picture(path));
+    for (int i = 0; i < 2; ++i) // the same again, from elsewhere
+        second.add(Picture(std::vector<unsigned char>(kSvg.begin(), kSvg.end())));
     const Parts& parts = close();
     unsigned pngs = 0, svgs = 0;
     for (const auto& [name, bytes] : parts) {

@@ -56,6 +56,8 @@ BoundClass describePicture() {
         "Picture", "Shape", "An image from a file or from memory, in its own size unless told otherwise.");
     bound.constructors = {make<Picture>(), make<Picture, std::wstring>({"path"}),
                           make<Picture, std::vector<unsigned char>>({"image"})};
+    constexpr void (Picture::*kSetLink)(const std::wstring&) = &Picture::setLink;
+    constexpr void (Picture::*kLead)(const Slide&) = &Picture::setLink;
     bound.properties = {
         optionalProperty<Picture, &Picture::getFit, &Picture::setFit, &Picture::unsetFit>(
             "Fit", "How it goes into its box: \"contain\", \"enlarge\", \"cover\" or \"stretch\"."),
@@ -63,10 +65,14 @@ BoundClass describePicture() {
                          &Picture::unsetFitPosition>(
             "FitPosition", "Where it stands in its box, or what is kept of it: \"center\", \"top\", "
                            "\"topLeft\" and others."),
-        optionalProperty<Picture, &Picture::getLink, &Picture::setLink, &Picture::unsetLink>(
-            "Link", "Where a click on it leads, such as \"https://example.org/report\"."),
+        optionalProperty<Picture, &Picture::getLink, kSetLink, &Picture::unsetLink>(
+            "Link",
+            "Where a click on it leads, such as \"https://example.org/report\"; not set for a slide."),
     };
-    bound.methods = {makeReplaceRow<Picture, Picture>("picture")};
+    bound.methods = {
+        makeReplaceRow<Picture, Picture>("picture"),
+        Method<Picture, void(const Slide&)>::row<kLead>(
+            "leadTo", {"slide"}, "Makes a click on it lead to a slide of the same presentation.")};
     return bound;
 }
 

@@ -84,7 +84,8 @@ template <class C> std::vector<BoundProperty> makeParagraphFormatRows() {
             "SpaceAfter", "The room below: a length, or a share of a line."),
         formatProperty<C, &C::getLineSpacing, &LineSpacing::getValue, &C::setLineSpacing,
                        &C::unsetLineSpacing>("LineSpacing",
-                                             "How high a line is: a share such as \"90%\", or a length."),
+                                             "How high a line is: a share such as \"90%\", \"150%\" for one "
+                                             "and a half lines, or a length; \"1.5\" is 1.5 pixels."),
         formatProperty<C, &C::getLeftIndent, &LeftIndent::getValue, &C::setLeftIndent, &C::unsetLeftIndent>(
             "LeftIndent", "How far lines stand from the edge: a length."),
         formatProperty<C, &C::getFirstLineIndent, &FirstLineIndent::getValue, &C::setFirstLineIndent,
@@ -118,7 +119,7 @@ template <class C> std::vector<BoundProperty> makeValueRows() {
         optionalProperty<C, &C::getNumberFormat, &C::setNumberFormat, &C::unsetNumberFormat>(
             "NumberFormat",
             "The form of numbers, such as \",.1f\" or \"{:.0%} of all\", or of dates, such as "
-            "\"%d.%m.%Y\"."),
+            "\"%d.%m.%Y\"; \"none\" leaves values as they are."),
         optionalProperty<C, &C::getMissingText, &C::setMissingText, &C::unsetMissingText>(
             "MissingText", "What cells show that hold nothing, or a number that is none."),
         optionalProperty<C, &C::getTrueText, &C::setTrueText, &C::unsetTrueText>("TrueText",

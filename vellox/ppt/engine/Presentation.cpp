@@ -328,6 +328,10 @@ const std::vector<Finding> Presentation::getFindings() const {
     return pimpl()->getFindings();
 }
 
+std::vector<Finding> Presentation::getFindings(std::size_t first) const {
+    return pimpl()->getFindings(first);
+}
+
 bool Presentation::getStrict() const {
     return pimpl()->isStrict();
 }

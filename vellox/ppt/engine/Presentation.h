@@ -213,6 +213,8 @@ public:
     /// | tokenRefusesValue | error | a value can't stand where its token does, or not in the form that is asked for |
     /// | moreFindings | info | there are more of a severity than are kept, which is 1000 |
     const std::vector<Finding> getFindings() const;
+    /// All but the first ones, for whoever has read these before.
+    std::vector<Finding> getFindings(std::size_t first) const;
     /// @{ Whether the presentation refuses to be other than asked: the first finding that is an error is raised as
     /// notAsAsked, at once by the operation that it comes of, and by close() before the output is touched. What was
     /// raised isn't kept; what was found before is raised by close(). False by default.

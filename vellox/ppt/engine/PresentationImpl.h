@@ -110,7 +110,9 @@ public:
     /// In EMU; 0 as long as nothing of the template is known.
     double getSlideHeight() const;
 
-    std::vector<Finding> getFindings() const { return findings_.get(getChildren()); }
+    std::vector<Finding> getFindings(std::size_t first = 0) const {
+        return findings_.get(getChildren(), first);
+    }
     bool isStrict() const { return isStrict_; }
     void setStrict(bool strict) { isStrict_ = strict; }
 

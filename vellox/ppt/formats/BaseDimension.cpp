@@ -12,17 +12,22 @@ namespace {
 constexpr wchar_t kDefaultValue[] = L"0px";
 constexpr wchar_t kDefaultColWidth[] = L"0.25in";
 
-const std::wstring& requireLength(const std::wstring& value) {
-    if (!Dimension::isValid(value))
-        raise(ppt_error::invalidPropertyValue(value));
-    return value;
-}
-
 } // namespace
 
 // BaseDimensionImpl
 
-BaseDimensionImpl::BaseDimensionImpl(const std::wstring& value) : dimension_(requireLength(value)) {}
+BaseDimensionImpl::BaseDimensionImpl(const std::wstring& value, Shares shares)
+    : shares_(shares),
+      dimension_(requireLength(value, shares)) {}
+
+Dimension BaseDimensionImpl::requireLength(const std::wstring& value, Shares shares) {
+    if (!Dimension::isValid(value))
+        raise(ppt_error::invalidPropertyValue(value));
+    const Dimension length(value);
+    if (shares == Shares::Refused && (length.isPercentValue() || length.isProportionalValue()))
+        raise(ppt_error::invalidPropertyValue(value));
+    return length;
+}
 
 const char* BaseDimensionImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.BaseDimension";
@@ -34,7 +39,7 @@ boost::shared_ptr<Format> BaseDimensionImpl::makeInterface() {
 
 void BaseDimensionImpl::setValue(const std::wstring& value) {
     // Made first and assigned then: a text that is valid and still no length, "-", must change nothing.
-    dimension_ = Dimension(requireLength(value));
+    dimension_ = requireLength(value, shares_);
 }
 
 // BaseDimension

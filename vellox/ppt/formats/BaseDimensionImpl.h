@@ -13,8 +13,11 @@ namespace vellox::ppt {
 
 class BaseDimensionImpl : public FormatImpl {
 public:
+    enum class Shares { Taken, Refused };
+
+    /// @param shares whether it may be a share of something, such as "50%"
     /// @throws invalidPropertyValue for what isn't a length
-    explicit BaseDimensionImpl(const std::wstring& value);
+    explicit BaseDimensionImpl(const std::wstring& value, Shares shares = Shares::Taken);
     BaseDimensionImpl(const BaseDimensionImpl&) = default;
 
     const char* getFullyQualifiedHostTypeName() const override;
@@ -24,6 +27,9 @@ public:
     void setValue(const std::wstring& value);
 
 private:
+    static Dimension requireLength(const std::wstring& value, Shares shares);
+
+    Shares shares_;
     Dimension dimension_;
 };
 

@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/opc/XercesString.h"
 
 #include <algorithm>
 #include <optional>
@@ -101,7 +102,7 @@ std::optional<BulletForm> readForm(const std::wstring& word) {
             form.start = count->start;
             return form;
         }
-    if (word.size() > kLongestCharacter)
+    if (word.size() > kLongestCharacter || opc::dropForbiddenCharacters(word).empty())
         return {};
     form.character = word;
     return form;

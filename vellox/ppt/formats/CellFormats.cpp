@@ -185,7 +185,8 @@ boost::shared_ptr<CellMargins> CellMargins::clone() const {
 std::wstring ValueFormatImpl::read(unsigned int facet, const std::wstring& text) {
     if (facet != ValueFormat::NumberFormat)
         return text;
-    const std::optional<NumberForm> form = NumberForm::parse(text);
+    const bool isNone = text == L"none"; // which is a form that is for nothing
+    const std::optional<NumberForm> form = isNone ? NumberForm() : NumberForm::parse(text);
     if (!form)
         raise(ppt_error::invalidPropertyValue(text));
     form_ = form;

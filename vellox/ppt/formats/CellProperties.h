@@ -116,7 +116,7 @@ template <class Owner>
 class ValueProperties : public FacetProperties<Owner, ValueFormat, FormatType::ValueFormat> {
 public:
     /// @{ The form of numbers, such as L".1f", L",.0f", L".0%" or L"{:.1f} m", or of dates, such as L"%d.%m.%Y". Values
-    /// that it can't be for stay as they are.
+    /// that it can't be for stay as they are, and with "none" all do, whatever is said around.
     /// @throws invalidPropertyValue for what is no form
     BaseAttribute<std::wstring> getNumberFormat() const {
         return this->getFacetOf(ValueFormat::NumberFormat);

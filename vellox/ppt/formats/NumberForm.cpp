@@ -216,7 +216,7 @@ std::optional<std::wstring> NumberForm::show(const std::wstring& text, const Num
 }
 
 std::optional<std::wstring> NumberForm::showDate(const std::wstring& date, const std::wstring& form) {
-    if (!isDate(date))
+    if (form.empty() || !isDate(date))
         return std::nullopt;
     std::tm time = {};
     std::wistringstream stream(date);

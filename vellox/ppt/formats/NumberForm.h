@@ -18,7 +18,7 @@ struct NumberMarks {
     std::wstring mark(const std::wstring& number) const;
 };
 
-/// A form is one of
+/// A form is one of the following; without any, values stay as they are.
 ///
 /// - [+][,][.digits][f, F, e, E, g, G, d, %], as Python's format() has it; "," sets off thousands;
 /// - a date in terms of %d, %m, %y, %Y, %H, %M, %S, and the English names %a, %A, %b, %B, such as "%d.%m.%Y";

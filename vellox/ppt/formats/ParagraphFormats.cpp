@@ -51,22 +51,45 @@ struct LengthRow {
     const wchar_t* usual;
     void (ParagraphWriter::*apply)(const XMLCh* name, const Dimension& length);
     const XMLCh* name; // of an element or an attribute
+    BaseDimensionImpl::Shares shares;
 };
 
-constexpr LengthRow kSpaceBefore{"vellox.ppt.SpaceBefore", FormatType::SpaceBefore, L"0pt",
-                                 &ParagraphWriter::setSpacing, u"a:spcBef"};
-constexpr LengthRow kSpaceAfter{"vellox.ppt.SpaceAfter", FormatType::SpaceAfter, L"0pt",
-                                &ParagraphWriter::setSpacing, u"a:spcAft"};
-constexpr LengthRow kLineSpacing{"vellox.ppt.LineSpacing", FormatType::LineSpacing, L"100%",
-                                 &ParagraphWriter::setSpacing, u"a:lnSpc"};
-constexpr LengthRow kLeftIndent{"vellox.ppt.LeftIndent", FormatType::LeftIndent, L"0cm",
-                                &ParagraphWriter::setIndent, xml::kMarL};
-constexpr LengthRow kFirstLineIndent{"vellox.ppt.FirstLineIndent", FormatType::FirstLineIndent, L"0cm",
-                                     &ParagraphWriter::setIndent, xml::kIndent};
+constexpr auto kTaken = BaseDimensionImpl::Shares::Taken, kRefused = BaseDimensionImpl::Shares::Refused;
+
+constexpr LengthRow kSpaceBefore{"vellox.ppt.SpaceBefore",
+                                 FormatType::SpaceBefore,
+                                 L"0pt",
+                                 &ParagraphWriter::setSpacing,
+                                 u"a:spcBef",
+                                 kTaken};
+constexpr LengthRow kSpaceAfter{"vellox.ppt.SpaceAfter",
+                                FormatType::SpaceAfter,
+                                L"0pt",
+                                &ParagraphWriter::setSpacing,
+                                u"a:spcAft",
+                                kTaken};
+constexpr LengthRow kLineSpacing{"vellox.ppt.LineSpacing",
+                                 FormatType::LineSpacing,
+                                 L"100%",
+                                 &ParagraphWriter::setSpacing,
+                                 u"a:lnSpc",
+                                 kTaken};
+constexpr LengthRow kLeftIndent{"vellox.ppt.LeftIndent",
+                                FormatType::LeftIndent,
+                                L"0cm",
+                                &ParagraphWriter::setIndent,
+                                xml::kMarL,
+                                kRefused};
+constexpr LengthRow kFirstLineIndent{"vellox.ppt.FirstLineIndent",
+                                     FormatType::FirstLineIndent,
+                                     L"0cm",
+                                     &ParagraphWriter::setIndent,
+                                     xml::kIndent,
+                                     kRefused};
 
 template <class Facade, class Impl, const LengthRow& kRow> class LengthImpl : public BaseDimensionImpl {
 public:
-    using BaseDimensionImpl::BaseDimensionImpl;
+    explicit LengthImpl(const std::wstring& value) : BaseDimensionImpl(value, kRow.shares) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return kRow.hostTypeName; }
     boost::shared_ptr<Format> makeInterface() override {

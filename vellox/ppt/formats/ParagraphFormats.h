@@ -68,6 +68,7 @@ protected:
 };
 
 /// How high a line is: a share of what its font takes, "100%" by default, or a length, which holds whatever the font.
+/// One and a half lines are "150%" (or "1.5*"); "1.5" by itself is a length, as everywhere, of one and a half pixels.
 /// The limits are those of the room above.
 class VELLOX_API LineSpacing : public BaseDimension {
 public:
@@ -85,7 +86,7 @@ protected:
 class VELLOX_API LeftIndent : public BaseDimension {
 public:
     LeftIndent();
-    /// @throws invalidPropertyValue for what is no length
+    /// @throws invalidPropertyValue for what is no length, and for shares such as "10%"
     explicit LeftIndent(const std::wstring& value);
 
 protected:
@@ -98,7 +99,7 @@ protected:
 class VELLOX_API FirstLineIndent : public BaseDimension {
 public:
     FirstLineIndent();
-    /// @throws invalidPropertyValue for what is no length
+    /// @throws invalidPropertyValue for what is no length, and for shares such as "10%"
     explicit FirstLineIndent(const std::wstring& value);
 
 protected:

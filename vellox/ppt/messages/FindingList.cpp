@@ -57,15 +57,16 @@ bool FindingList::isOpen() const {
     return count_[static_cast<std::size_t>(Severity::Error)] <= kMaxFindings;
 }
 
-std::vector<Finding> FindingList::get(const PPTNode::Children& slides) const {
+std::vector<Finding> FindingList::get(const PPTNode::Children& slides, std::size_t first) const {
     std::vector<Finding> findings;
-    if (entries_.empty())
+    if (entries_.size() <= first)
         return findings;
     std::map<const PPTNodeImpl*, unsigned int> numbers;
     unsigned int number = 0;
     for (const boost::shared_ptr<PPTNode>& slide : slides)
         numbers[implOf<PPTNodeImpl>(*slide)] = ++number;
-    for (const Entry& entry : entries_) {
+    for (std::size_t i = first; i < entries_.size(); ++i) {
+        const Entry& entry = entries_[i];
         const auto found = numbers.find(entry.slide);
         findings.push_back(makeFinding(entry.id, entry.shape, found == numbers.end() ? 0 : found->second));
     }

@@ -49,7 +49,8 @@ public:
     /// Whether an error that comes now would be kept.
     bool isOpen() const;
     /// With the numbers that the slides have by now among these: those that are added ahead of others shift them.
-    std::vector<Finding> get(const PPTNode::Children& slides) const;
+    /// @param first how many to leave out
+    std::vector<Finding> get(const PPTNode::Children& slides, std::size_t first = 0) const;
     /// Lets findings be about no slide that were about this one: another may come to where it is in memory.
     void forget(const PPTNodeImpl& slide);
     /// One finding in words, whether it is kept or not.

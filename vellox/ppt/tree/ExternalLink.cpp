@@ -21,7 +21,6 @@ ExternalLinkImpl::ExternalLinkImpl(const std::wstring& target, const std::wstrin
 ExternalLinkImpl::ExternalLinkImpl(const ExternalLinkImpl& other)
     : NodeOf(other),
       target_(other.target_),
-      leadsToSlide_(other.leadsToSlide_),
       slide_(other.slide_) {
     announceCreated(*this);
 }

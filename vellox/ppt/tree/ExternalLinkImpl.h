@@ -4,15 +4,12 @@
 #ifndef VELLOX_PPT_TREE_EXTERNALLINKIMPL_H
 #define VELLOX_PPT_TREE_EXTERNALLINKIMPL_H
 
-#include <boost/weak_ptr.hpp>
-
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/ExternalLink.h"
+#include "vellox/ppt/tree/SlideTarget.h"
 #include "vellox/ppt/tree/TextImpl.h"
 
 namespace vellox::ppt {
-
-struct TemplateSlide;
 
 class ExternalLinkImpl : public NodeOf<NodeType::ExternalLink, ExternalLinkImpl, ExternalLink, TextImpl> {
 public:
@@ -26,22 +23,18 @@ public:
     const std::wstring& getTarget() const { return target_; }
     void setTarget(const std::wstring& target) {
         target_ = target;
-        leadsToSlide_ = false;
+        slide_.unset();
     }
-    /// @{ The slide by its record: a handle would keep alive the slide that the link itself may stand on.
-    bool leadsToSlide() const { return leadsToSlide_; }
-    boost::shared_ptr<TemplateSlide> getSlide() const { return slide_.lock(); }
+    const SlideTarget& getSlide() const { return slide_; }
+    SlideTarget& slide() { return slide_; }
     void setSlide(const boost::shared_ptr<TemplateSlide>& slide) {
         target_.clear();
-        slide_ = slide;
-        leadsToSlide_ = true;
+        slide_.set(slide);
     }
-    /// @}
 
 private:
     std::wstring target_;
-    bool leadsToSlide_ = false;
-    boost::weak_ptr<TemplateSlide> slide_;
+    SlideTarget slide_;
 };
 
 } // namespace vellox::ppt

@@ -6,6 +6,7 @@
 #include "vellox/ppt/formats/FitWords.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/tree/SlideImpl.h"
 
 namespace vellox::ppt {
 
@@ -127,10 +128,17 @@ const BaseAttribute<std::wstring>& Picture::getLink() const {
 
 void Picture::setLink(const std::wstring& target) {
     pimpl()->wishes().link.set(target);
+    pimpl()->wishes().slide.unset();
+}
+
+void Picture::setLink(const Slide& target) {
+    pimpl()->wishes().link.unset();
+    pimpl()->wishes().slide.set(implOf<SlideImpl>(target)->getTemplateSlide());
 }
 
 void Picture::unsetLink() {
     pimpl()->wishes().link.unset();
+    pimpl()->wishes().slide.unset();
 }
 
 Picture Picture::replace(const Picture& picture) {

@@ -12,6 +12,7 @@
 namespace vellox::ppt {
 
 class PictureImpl;
+class Slide;
 
 /// A shape that shows an image file. Only the size is read from the file at first; its bytes are copied into
 /// the presentation when that is closed. A handle: copies share one picture.
@@ -54,9 +55,12 @@ public:
     void setFitPosition(const std::wstring& position);
     void unsetFitPosition();
     /// @}
-    /// @{ Where a click on the picture leads, such as L"https://example.org/report".
+    /// @{ Where a click on the picture leads, such as L"https://example.org/report"; unset for a slide.
     const BaseAttribute<std::wstring>& getLink() const;
     void setLink(const std::wstring& target);
+    /// To a slide of the same presentation, wherever that stands by the end. If it isn't there then, the picture has no
+    /// link.
+    void setLink(const Slide& target);
     void unsetLink();
     /// @}
 

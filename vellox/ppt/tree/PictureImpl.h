@@ -8,6 +8,7 @@
 #include "vellox/ppt/object/NodeOf.h"
 #include "vellox/ppt/tree/Picture.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
+#include "vellox/ppt/tree/SlideTarget.h"
 
 namespace vellox::ppt {
 
@@ -31,6 +32,7 @@ public:
     /// What is asked for beside the shape's own.
     struct Wishes {
         BaseAttribute<std::wstring> fit, fitPosition, link;
+        SlideTarget slide; ///< where the link leads if it isn't set
     };
     const Wishes& getWishes() const { return wishes_; }
     Wishes& wishes() { return wishes_; }

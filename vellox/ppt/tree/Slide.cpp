@@ -5,8 +5,12 @@
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/ByName.h"
 #include "vellox/ppt/tree/ChartImpl.h"
+#include "vellox/ppt/tree/ExternalLinkImpl.h"
+#include "vellox/ppt/tree/PictureImpl.h"
 #include "vellox/ppt/tree/ShapeImpl.h"
 #include "vellox/ppt/tree/SlideImpl.h"
+#include "vellox/ppt/tree/TableEntry.h"
+#include "vellox/ppt/tree/TableImpl.h"
 
 namespace vellox::ppt {
 
@@ -80,6 +84,21 @@ void copyNames(const PPTNodeImpl& from, const PPTNodeImpl& to) {
     }
 }
 
+using RecordPtr = boost::shared_ptr<TemplateSlide>;
+
+// What led to the original from its own shapes and texts leads to the copy from there.
+void redirectLinks(PPTNodeImpl& node, const RecordPtr& from, const RecordPtr& to) {
+    if (auto* link = dynamic_cast<ExternalLinkImpl*>(&node))
+        link->slide().redirect(from, to);
+    else if (auto* picture = dynamic_cast<PictureImpl*>(&node))
+        picture->wishes().slide.redirect(from, to);
+    else if (const auto* table = dynamic_cast<const TableImpl*>(&node))
+        for (const auto& [place, cell] : table->getTemplateCells())
+            redirectLinks(*implOf<PPTNodeImpl>(*cell), from, to);
+    for (const auto& child : node.getChildren())
+        redirectLinks(*implOf<PPTNodeImpl>(*child), from, to);
+}
+
 } // namespace
 
 PPTNodeImpl::Child SlideImpl::copyOn(const boost::shared_ptr<TemplateSlide>& record) const {
@@ -88,6 +107,7 @@ PPTNodeImpl::Child SlideImpl::copyOn(const boost::shared_ptr<TemplateSlide>& rec
     impl->setName(getName());
     impl->appendClones(*this);
     copyNames(*this, *impl);
+    redirectLinks(*impl, templateSlide_, record);
     return copy;
 }
 

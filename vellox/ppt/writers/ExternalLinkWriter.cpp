@@ -15,26 +15,36 @@ ExternalLinkWriter::ExternalLinkWriter(const ExternalLinkImpl& link, PPTWriter& 
       link_(link) {}
 
 void ExternalLinkWriter::write() {
-    const std::wstring id = link_.leadsToSlide()
-                                ? addJump()
-                                : getPartWriter().addHyperlink(getCurrentSlidePartName(), link_.getTarget());
-    if (id.empty())
-        getWriter().report(ppt_finding::emptyLinkTarget());
+    const std::wstring id = addLink(*this, link_.getTarget(), link_.getSlide());
     // The rule of links: their element stands ahead of what the formats append.
     PropertyElement& click = addRPrChild(xml::kAHlinkClick);
     click.setAttribute(xml::kRId, id);
-    if (link_.leadsToSlide() && !id.empty())
-        click.setAttribute(u"action", u"ppaction://hlinksldjump");
+    if (link_.getSlide().isSet() && !id.empty())
+        click.setAttribute(u"action", kSlideJump);
     TextWriter::write();
 }
 
+namespace {
+
 // The slide may still have to be written, or not be in the deck any more.
-std::wstring ExternalLinkWriter::addJump() const {
-    const boost::shared_ptr<TemplateSlide> slide = link_.getSlide();
-    const std::wstring from = getCurrentSlidePartName();
-    if (!slide || from.empty() || !getWriter().isPlanned(*slide))
+std::wstring addJump(const ElementWriter& writer, const SlideTarget& target) {
+    const boost::shared_ptr<TemplateSlide> slide = target.get();
+    const std::wstring from = writer.getCurrentSlidePartName();
+    if (!slide || from.empty() || !writer.getWriter().isPlanned(*slide))
         return {};
-    return getPartWriter().addRelationship(from, relationship::kSlide, getWriter().requirePartName(*slide));
+    return writer.getPartWriter().addRelationship(from, relationship::kSlide,
+                                                  writer.getWriter().requirePartName(*slide));
+}
+
+} // namespace
+
+std::wstring addLink(const ElementWriter& writer, const std::wstring& target, const SlideTarget& slide) {
+    const std::wstring id =
+        slide.isSet() ? addJump(writer, slide)
+                      : writer.getPartWriter().addHyperlink(writer.getCurrentSlidePartName(), target);
+    if (id.empty())
+        writer.getWriter().report(ppt_finding::emptyLinkTarget());
+    return id;
 }
 
 } // namespace vellox::ppt

@@ -9,6 +9,14 @@
 namespace vellox::ppt {
 
 class ExternalLinkImpl;
+class SlideTarget;
+
+/// The relationship of a link from what a writer writes, to a slide if it leads to one.
+/// @return its id; empty for a link that leads nowhere, which is reported
+std::wstring addLink(const ElementWriter& writer, const std::wstring& target, const SlideTarget& slide);
+
+/// What a click on a link to a slide does.
+inline constexpr const XMLCh* kSlideJump = u"ppaction://hlinksldjump";
 
 class ExternalLinkWriter : public TextWriter {
 public:
@@ -16,9 +24,6 @@ public:
     void write() override;
 
 private:
-    /// The id of a relationship with the slide that the link leads to; empty if it isn't in the deck.
-    std::wstring addJump() const;
-
     const ExternalLinkImpl& link_;
 };
 

@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/PageFieldWriter.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/foundation/Lines.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/template/SlideDocument.h"
 #include "vellox/ppt/template/SlidePrototype.h"
@@ -56,6 +57,19 @@ DOMElement* findRunProperties(const DOMElement* paragraph) {
     return nullptr;
 }
 
+// The runs of a text, with a break wherever a line ends.
+template <class AppendRun> std::size_t appendLines(const std::wstring& text, const AppendRun& appendRun) {
+    std::size_t dropped = 0;
+    const std::vector<std::wstring> lines = splitLines(text);
+    for (const std::wstring& line : lines) {
+        if (&line != &lines.front())
+            appendRun(xml::kABr);
+        if (!line.empty())
+            dropped += appendText(appendElement(appendRun(xml::kAR), xml::kAT), line);
+    }
+    return dropped;
+}
+
 // Makes a text all that a shape says, in the looks that were there.
 std::size_t putText(DOMElement* shape, const std::wstring& text, const std::wstring& fieldType) {
     DOMElement* body = findChild(shape, xml::kTxBody);
@@ -72,14 +86,24 @@ std::size_t putText(DOMElement* shape, const std::wstring& text, const std::wstr
     DOMElement* paragraph = appendElement(body, xml::kAP);
     if (paragraphProperties)
         appendNode(paragraph, paragraphProperties);
-    DOMElement* run = appendElement(paragraph, fieldType.empty() ? xml::kAR : xml::kAFld);
-    if (!fieldType.empty()) {
-        setAttribute(run, xml::kId, kFieldId);
-        setAttribute(run, xml::kType, fieldType);
+    const auto appendRun = [&](const XMLCh* name) {
+        DOMElement* run = appendElement(paragraph, name);
+        if (runProperties)
+            appendNode(run, runProperties->cloneNode(true));
+        return run;
+    };
+    std::size_t dropped = 0;
+    if (fieldType.empty()) {
+        dropped = appendLines(text, appendRun);
+    } else {
+        DOMElement* field = appendRun(xml::kAFld);
+        setAttribute(field, xml::kId, kFieldId);
+        setAttribute(field, xml::kType, fieldType);
+        appendText(appendElement(field, xml::kAT), text);
     }
     if (runProperties)
-        appendNode(run, runProperties);
-    return appendText(appendElement(run, xml::kAT), text);
+        runProperties->release();
+    return dropped;
 }
 
 bool hasField(const DOMElement* shape) {

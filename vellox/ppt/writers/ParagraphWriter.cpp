@@ -136,7 +136,10 @@ void ParagraphWriter::putBullet() {
         if (bullet_->start > 1)
             number.setAttribute(u"startAt", num2str(bullet_->start));
     } else {
-        pPr_.putChild(xml::kABuChar).setAttribute(u"char", bullet_->character);
+        const opc::XercesString character(bullet_->character);
+        if (const std::size_t dropped = character.getDropped())
+            getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
+        pPr_.putChild(xml::kABuChar).setAttribute(u"char", character);
     }
     if (!pPr_.hasAttribute(xml::kMarL) && !pPr_.hasAttribute(xml::kIndent))
         hangBullet();

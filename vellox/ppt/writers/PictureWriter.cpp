@@ -10,6 +10,7 @@
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
 #include "vellox/ppt/tree/PictureImpl.h"
+#include "vellox/ppt/writers/ExternalLinkWriter.h"
 #include "vellox/ppt/writers/GroupSpace.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
 #include "vellox/ppt/writers/PPTWriter.h"
@@ -195,15 +196,18 @@ PicturePlacement PictureWriter::fitInBox(const Box& box, const PictureFacts& fac
 
 void PictureWriter::writeLink(DOMElement* shape) const {
     const BaseAttribute<std::wstring>& link = picture_.getWishes().link;
+    const SlideTarget& slide = picture_.getWishes().slide;
     DOMElement* properties = findChild(findNonVisual(*shape), xml::kCNvPr);
-    if (!link.isSet() || !properties)
+    if ((!link.isSet() && !slide.isSet()) || !properties)
         return;
-    const std::wstring id = getPartWriter().addHyperlink(getCurrentSlidePartName(), link.get());
+    const std::wstring id = addLink(*this, link.isSet() ? link.get() : std::wstring(), slide);
     if (id.empty())
-        return getWriter().report(ppt_finding::emptyLinkTarget());
+        return;
     removeChildElements(properties, xml::kAHlinkClick);
     DOMElement* click = createElement(xml::kAHlinkClick);
     setAttribute(click, xml::kRId, id);
+    if (slide.isSet())
+        click->setAttribute(u"action", kSlideJump);
     properties->insertBefore(click, properties->getFirstChild());
 }
 

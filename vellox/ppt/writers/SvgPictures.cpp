@@ -6,7 +6,9 @@
 #include "vellox/ppt/writers/PPTPartWriter.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 #include <cmath>
+#include <functional>
 #include <istream>
 
 namespace vellox::ppt {
@@ -61,18 +63,28 @@ SvgPictures::Ids SvgPictures::add(const std::wstring& slidePartName, const Image
 }
 
 SvgPictures::Entry& SvgPictures::require(const ImageSource& image) {
-    const Key key(image.getPath(), image.getBytes().get());
-    const auto known = entries_.find(key);
-    if (known != entries_.end())
-        return known->second;
+    const Key key(image.getPath(), image.getBytes());
+    const auto known = known_.find(key);
+    return *(known != known_.end() ? known->second : known_.emplace(key, read(image)).first->second);
+}
+
+boost::shared_ptr<SvgPictures::Entry> SvgPictures::read(const ImageSource& image) {
     const std::string svg = readAll(image);
     if (svg.size() > kGreatestSvg)
         throw SvgFault("it is larger than 32 MB");
     std::string cleaned = takeOffDoctype(svg);
-    Entry entry{image, readSvgSize(cleaned).value_or(kUsualSize), {}};
+    const std::size_t hash = std::hash<std::string>()(cleaned);
+    const auto [first, end] = entries_.equal_range(hash);
+    for (auto row = first; row != end; ++row)
+        if (readAll(row->second->cleaned) == cleaned)
+            return row->second;
+    const auto entry = boost::make_shared<Entry>();
+    entry->cleaned = image;
+    entry->size = readSvgSize(cleaned).value_or(kUsualSize);
     if (cleaned.size() != svg.size())
-        entry.cleaned = ImageSource(std::move(cleaned), L"svg");
-    return entries_.emplace(key, std::move(entry)).first->second;
+        entry->cleaned = ImageSource(std::move(cleaned), L"svg");
+    entries_.emplace(hash, entry);
+    return entry;
 }
 
 } // namespace vellox::ppt

@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_WRITERS_SVGPICTURES_H
 #define VELLOX_PPT_WRITERS_SVGPICTURES_H
 
+#include <boost/shared_ptr.hpp>
 #include <map>
 #include <string>
 #include <utility>
@@ -18,7 +19,7 @@ class PPTPartWriter;
 /// Whether an image is an SVG, by its extension.
 bool isSvg(const ImageSource& image);
 
-/// The SVGs of a deck. Each is read once, and drawn once for each size.
+/// The SVGs of a deck. Each is drawn once for each size, wherever it comes from.
 class SvgPictures {
 public:
     /// The ids of relationships of a slide.
@@ -37,7 +38,7 @@ public:
     Ids add(const std::wstring& slidePartName, const ImageSource& image, const SvgSize& box);
 
 private:
-    using Key = std::pair<std::wstring, const std::string*>; // path and bytes
+    using Key = std::pair<std::wstring, ImageSource::Bytes>; // of a file, or in memory
     using Pixels = std::pair<unsigned int, unsigned int>;
     struct Entry {
         ImageSource cleaned; ///< without a document type
@@ -46,9 +47,11 @@ private:
     };
 
     Entry& require(const ImageSource& image);
+    boost::shared_ptr<Entry> read(const ImageSource& image);
 
     PPTPartWriter& partWriter_;
-    std::map<Key, Entry> entries_;
+    std::map<Key, boost::shared_ptr<Entry>> known_;
+    std::multimap<std::size_t, boost::shared_ptr<Entry>> entries_; // by what they hold
 };
 
 } // namespace vellox::ppt

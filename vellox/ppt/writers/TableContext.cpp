@@ -127,6 +127,8 @@ bool TableContext::isLeftOut(const ParagraphImpl& paragraph) const {
 }
 
 bool TableContext::isAmongNumbers(const ParagraphImpl& paragraph) const {
+    if (rowCount == 0) // the template's cells are where they are
+        return false;
     const bool isOverNumbers = col < numberColumns.size() && numberColumns[col] && !isWide;
     if (row == 0 || isInHeader())
         return isOverNumbers;

@@ -131,6 +131,7 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
     DOMElement* body = findChild(cell, xml::kATxBody);
     if (!body)
         return getWriter().report(ppt_finding::noTextBody());
+    findValues();
     applyLines();
     applyMargins();
     applyFormats();
@@ -144,7 +145,7 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
         tcPr_.applyTo(properties);
         arrangeAnyway(properties);
     }
-    const std::size_t dropped = entry.getNewText() ? replaceBody(*body, *entry.getNewText()) : 0;
+    const std::size_t dropped = entry.getNewText() ? replaceBody(*body, showNew(*entry.getNewText())) : 0;
     if (dropped > 0)
         getWriter().report(ppt_finding::charactersDropped(std::to_wstring(dropped)));
     if (!entry.getStyle().getMap().empty())
@@ -154,6 +155,15 @@ void TableEntryWriter::writeOver(const TableEntryImpl& entry, DOMElement* cell) 
     PPTWriter::Frame frame = makeFrame();
     frame.markup = &getCurrentSlide()->getContent(body);
     writeChildren(frame);
+}
+
+// What a cell of the template got is a value as others are.
+std::wstring TableEntryWriter::showNew(const std::wstring& text) const {
+    if (!table_ || table_->values.isEmpty())
+        return text;
+    if (text.empty() && table_->values.missing)
+        return *table_->values.missing;
+    return table_->values.show(text, getWriter().getNumberMarks()).value_or(text);
 }
 
 // The formats of the cell, on all that the template has in it.
@@ -201,11 +211,15 @@ void TableEntryWriter::findValues() const {
     ValueLook& look = table_->values;
     look = ValueLook();
     const DeckValues* deck = getWriter().getDeckValues();
+    const bool isTemplates = !getElement().getParent() && table_->table;
     if (findFormat(FormatType::ValueFormat))
         visitFormats<ValueFormatImpl>(FormatType::ValueFormat, [&](const auto& format, NodeType owner) {
             if (!table_->isInHeader() || owner == NodeType::TableEntry || owner == NodeType::TableRow)
                 look.complete(format);
         });
+    if (isTemplates && !table_->isInHeader())
+        if (const auto format = table_->table->getStyle().getFormat(FormatType::ValueFormat))
+            look.complete(*implOf<ValueFormatImpl>(*format));
     if (deck && deck->format && !table_->isInHeader())
         look.complete(*implOf<ValueFormatImpl>(*deck->format));
 }

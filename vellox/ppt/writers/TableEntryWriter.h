@@ -41,6 +41,7 @@ private:
     void applyToText(xercesc::DOMElement* properties) const;
 
     template <class Content> void writeCell(Content content);
+    std::wstring showNew(const std::wstring& text) const;
     void writeEmpty() const;
     void writeMissing(const PPTWriter::Frame& frame) const;
     void writeCovered(const CellRange& merged) const;

@@ -19,6 +19,7 @@
 #include "vellox/ppt/xml/XmlNames.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace vellox::ppt {
 
@@ -58,7 +59,7 @@ void TableWriter::write() {
     if (table_.getChildren().empty()) {
         if (getShapeType() != NodeType::Picture)
             ensureParagraph(getSlideElement());
-        writeTemplateCells();
+        writeTemplateCells(context);
         return reportNoRows();
     }
     readFormer();
@@ -164,9 +165,13 @@ void TableWriter::writeStyle(DOMElement* properties, const std::wstring& id) con
     getWriter().useTableStyle(id);
 }
 
-void TableWriter::writeTemplateCells() const {
+void TableWriter::writeTemplateCells(TableContext& context) const {
+    PPTWriter::Frame frame = getWriter().getFrame();
+    frame.table = &context;
+    const PPTWriter::FrameScope scope(getWriter(), frame);
     for (const auto& [place, entry] : table_.getTemplateCells()) {
         const auto* impl = implOf<TableEntryImpl>(*entry);
+        std::tie(context.row, context.col) = place;
         DOMElement* cell =
             impl->isTouched() ? findCell(getSlideElement(), place.first, place.second) : nullptr;
         if (cell)

@@ -29,7 +29,7 @@ private:
     void showParts(xercesc::DOMElement* properties) const;
     TableStyle chooseStyle() const;
     void writeStyle(xercesc::DOMElement* properties, const std::wstring& id) const;
-    void writeTemplateCells() const;
+    void writeTemplateCells(TableContext& context) const;
     void reportNoRows() const;
     void reportMissingStyle(const std::wstring& name) const;
     const std::wstring* getStyleName() const;

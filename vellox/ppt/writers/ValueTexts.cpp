@@ -50,6 +50,12 @@ bool isMissing(const std::wstring& text) {
                        [&](const wchar_t* missing) { return text == missing; });
 }
 
+std::optional<std::wstring> ValueLook::show(const std::wstring& text, const NumberMarks& marks) const {
+    if (missing && isMissing(text))
+        return missing;
+    return form ? form->show(text, marks) : std::nullopt;
+}
+
 namespace {
 
 // What a run looks like by what tables, columns or decks say; nothing if they have nothing to say on it.
@@ -61,12 +67,9 @@ struct ShowValue {
     using Shown = std::optional<std::wstring>;
 
     Shown operator()(std::monostate) const {
-        const std::wstring& text = run.getTextContent();
         const PPTNodeImpl* paragraph = run.getParent();
         const bool isAlone = paragraph && paragraph->getChildren().size() == 1;
-        if (look.missing && isAlone && isMissing(text))
-            return *look.missing;
-        return look.form && isAlone ? look.form->show(text, marks) : Shown();
+        return isAlone ? look.show(run.getTextContent(), marks) : Shown();
     }
     Shown operator()(double number) const {
         if (look.missing && std::isnan(number))

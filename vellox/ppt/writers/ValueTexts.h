@@ -36,6 +36,8 @@ struct ValueLook {
     bool isEmpty() const { return !form && !missing && !trueText && !falseText; }
     /// Takes what is still open from a format.
     void complete(const ValueFormatImpl& format);
+    /// What a text looks like that is all there is; nothing if there is nothing to say on it.
+    std::optional<std::wstring> show(const std::wstring& text, const NumberMarks& marks) const;
     const std::optional<std::wstring>& findTruth(bool value) const { return value ? trueText : falseText; }
 };
 
