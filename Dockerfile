@@ -11,7 +11,7 @@ RUN for component in runtime tools python; do \
 
 FROM debian:12-slim
 RUN apt-get update && \
-    apt-get install -y --no-install-recommends libdeflate0 libfontconfig1 libfreetype6 librsvg2-2 libstb0 libtiff6 libxerces-c3.2 \
+    apt-get install -y --no-install-recommends libdeflate0 libfontconfig1 libfreetype6 libicu72 librsvg2-2 libstb0 libtiff6 \
         libxlsxwriter4 libyaml-cpp0.7 libzip4 python3 && \
     rm -rf /var/lib/apt/lists/*
 COPY --from=build /image /

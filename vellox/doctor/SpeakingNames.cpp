@@ -119,7 +119,8 @@ std::vector<std::wstring> describePlaces(const std::vector<BoxEmu>& boxes) {
         if (row == kMiddle && column == kMiddle)
             words.emplace_back(L"Center");
         else
-            words.push_back(row.empty() || column.empty() ? row + column : row + L" " + column);
+            words.push_back(
+                std::wstring(row).append(row.empty() || column.empty() ? L"" : L" ").append(column));
     }
     return words;
 }

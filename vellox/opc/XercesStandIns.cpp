@@ -32,10 +32,10 @@ XERCES_CPP_NAMESPACE_END
 
 // The tables that Xerces makes for schemas when it starts. Documents are read without, and the tables would take a quarter
 // of the time and the memory of a small deck. The linker's --wrap leads Xerces here.
-extern "C" {
+extern "C" { // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's
 void __wrap__ZN11xercesc_3_214XMLInitializer23initializeRangeTokenMapEv() {}
 void __wrap__ZN11xercesc_3_214XMLInitializer27initializeRegularExpressionEv() {}
 void __wrap__ZN11xercesc_3_214XMLInitializer34initializeDatatypeValidatorFactoryEv() {}
 void __wrap__ZN11xercesc_3_214XMLInitializer31initializeGeneralAttributeCheckEv() {}
 void __wrap__ZN11xercesc_3_214XMLInitializer25initializeComplexTypeInfoEv() {}
-}
+} // NOLINTEND(bugprone-reserved-identifier)

@@ -204,7 +204,8 @@ std::vector<double> estimateColumns(const TableImpl& table, double size, double 
                 columns[i] =
                     std::max(columns[i], measureLongest(*entry, findSize(*entry, findSize(*row, size))));
     }
-    const double room = std::max(width - 2 * kMarginX * columns.size(), kMarginX * columns.size());
+    const double margins = kMarginX * static_cast<double>(columns.size());
+    const double room = std::max(width - 2 * margins, margins);
     const double sum = std::accumulate(columns.begin(), columns.end(), 0.0);
     for (double& column : columns)
         column *= room / sum;

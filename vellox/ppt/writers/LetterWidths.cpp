@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string_view>
+#include <type_traits>
 
 namespace vellox::ppt {
 
@@ -44,10 +45,8 @@ bool isWideLetter(wchar_t c) {
 }
 
 double getLetterWidth(wchar_t c) {
-    const bool isPlain = c >= 0 && static_cast<std::size_t>(c) < kWidths.size();
-    const int width = isPlain           ? kWidths[static_cast<std::size_t>(c)]
-                      : isWideLetter(c) ? kFullWidth
-                                        : kUsualWidth;
+    const auto place = static_cast<std::make_unsigned_t<wchar_t>>(c);
+    const int width = place < kWidths.size() ? kWidths[place] : isWideLetter(c) ? kFullWidth : kUsualWidth;
     return width / 100.0;
 }
 
