@@ -237,6 +237,22 @@ TEST_F(TableFormatsTest, LinesAreThoseAroundAndBetween) {
                             line("lnB", "12710", "000000", "solid") + "</a:tcPr>");
 }
 
+TEST_F(TableFormatsTest, MergedCellsEndWithTheLastOfTheirRowsAndColumns) {
+    Table table = makeTable(3, 3);
+    table.merge(0, 0, 1, 1);
+    table.row(0)->setBorderBottom(L"#000001");
+    table.row(1)->setBorderBottom(L"#000002");
+    table.setColSpecs({boost::make_shared<ColSpec>(), boost::make_shared<ColSpec>()});
+    table.getColSpecs()[0]->setBorderRight(L"#000003");
+    table.getColSpecs()[1]->setBorderRight(L"#000004");
+    table.entry(0, 0)->setBorderTop(L"#000005");
+    const std::string xml = write(table);
+    for (const std::size_t part : {0u, 1u, 3u, 4u}) // whichever of them a program asks
+        EXPECT_EQ(valuesOf(findAll(xml, "a:tcPr").at(part), "a:srgbClr", "val"),
+                  (Texts{"000004", "000005", "000002"}));
+    EXPECT_EQ(valuesOf(findAll(xml, "a:tcPr").at(2), "a:srgbClr", "val"), (Texts{"000001"}));
+}
+
 TEST_F(TableFormatsTest, RowsAreAsHighAsTheyAreToldAtLeast) {
     Table table = makeTable(3, 1);
     table.setRowHeight(L"1in");

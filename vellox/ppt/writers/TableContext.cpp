@@ -86,9 +86,9 @@ void TableContext::nextRow() {
     col = 0;
 }
 
-const Formats& TableContext::getColumnFormats() const {
+const Formats& TableContext::getColumnFormats(unsigned int column) const {
     static const Formats& none = *new const Formats;
-    return col < colCount && col < colFormats.size() ? colFormats[col] : none;
+    return column < colCount && column < colFormats.size() ? colFormats[column] : none;
 }
 
 void TableContext::setColumnWidth(int widthEmu) {

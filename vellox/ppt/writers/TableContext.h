@@ -32,7 +32,8 @@ struct TableContext {
     void nextEntry() { ++col; }
     void nextRow();
     /// The formats of the column that the table is at; none for a column that it doesn't have.
-    const Formats& getColumnFormats() const;
+    const Formats& getColumnFormats() const { return getColumnFormats(col); }
+    const Formats& getColumnFormats(unsigned int column) const;
     /// Widens that column. A column that the table doesn't have is passed over.
     void setColumnWidth(int widthEmu);
     /// How the cell that the table is at is to look; null where nothing stood before.

@@ -265,26 +265,45 @@ void writeLine(PropertyElement& element, const BorderLine& line) {
 
 } // namespace
 
+// The formats of lines around a merged cell, for each side the nearest first. At its far sides it borders on the rest of
+// the table in its last row and column.
+template <class Take> void TableEntryWriter::visitMerged(const CellRange& cell, Take take) const {
+    const auto visit = [&](std::size_t side, const Formats& formats, NodeType owner) {
+        if (const boost::shared_ptr<Format> format = formats.getFormat(FormatType::CellBorders))
+            take(side, *implOf<CellBordersImpl>(*format), owner);
+    };
+    for (std::size_t side = 0; side < kSideCount; ++side) {
+        const bool isRight = kLineNames[side] == xml::kALnR, isBottom = kLineNames[side] == xml::kALnB;
+        if (getElement().getNodeType() == NodeType::TableEntry)
+            visit(side, getElement().getStyle(), NodeType::TableEntry);
+        if (const auto row = table_->table->row(isBottom ? cell.lastRow : cell.row))
+            visit(side, row->getStyle(), NodeType::TableRow);
+        visit(side, table_->getColumnFormats(isRight ? cell.lastColumn : cell.column), NodeType::ColSpec);
+        visit(side, table_->table->getStyle(), NodeType::Table);
+    }
+}
+
 // Ahead of the fill, as the format has them.
 void TableEntryWriter::applyLines() {
-    if (!findFormat(FormatType::CellBorders))
+    const std::optional<CellRange> merged = table_ ? table_->findMerged() : std::nullopt;
+    if (!merged && !findFormat(FormatType::CellBorders))
         return;
-    CellRange cell;
     TableContext none;
     const TableContext& table = table_ ? *table_ : none;
-    if (const auto merged = table.findMerged())
-        cell = *merged;
-    else
-        cell = {table.row, table.col, table.row, table.col};
-    const Insides insides(table, cell);
+    const Insides insides(table, merged.value_or(CellRange{table.row, table.col, table.row, table.col}));
     std::array<const BorderLine*, kSideCount> lines{};
-    visitFormats<CellBordersImpl>(FormatType::CellBorders, [&](const auto& borders, NodeType owner) {
-        for (std::size_t side = 0; side < kSideCount; ++side) {
-            const auto& line = borders.getLine(insides.facetOf(side, owner));
-            if (!lines[side] && line)
-                lines[side] = &*line;
-        }
-    });
+    const auto take = [&](std::size_t side, const CellBordersImpl& borders, NodeType owner) {
+        const auto& line = borders.getLine(insides.facetOf(side, owner));
+        if (!lines[side] && line)
+            lines[side] = &*line;
+    };
+    if (merged)
+        visitMerged(*merged, take);
+    else
+        visitFormats<CellBordersImpl>(FormatType::CellBorders, [&](const auto& borders, NodeType owner) {
+            for (std::size_t side = 0; side < kSideCount; ++side)
+                take(side, borders, owner);
+        });
     for (std::size_t side = 0; side < kSideCount; ++side)
         if (lines[side])
             writeLine(addTcPrChild(kLineNames[side]), *lines[side]);

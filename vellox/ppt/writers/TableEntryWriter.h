@@ -47,6 +47,7 @@ private:
     void writeCovered(const CellRange& merged) const;
     void writeSpans(const CellRange& merged) const;
     template <class F, class Take> void visitFormats(FormatType type, Take take) const;
+    template <class Take> void visitMerged(const CellRange& cell, Take take) const;
     void findValues() const;
     void applyLines();
     void applyMargins();
