@@ -8,7 +8,10 @@
 #include <vellox/vellox.h>
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
+#include <ctime>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <map>
 #include <sstream>
@@ -55,18 +58,47 @@ std::map<std::wstring, Runs> groupBy(const Runs& runs, std::wstring Run::*field)
     return groups;
 }
 
+std::wstring nameDay(const std::wstring& date) {
+    std::tm time{};
+    std::wistringstream(date) >> std::get_time(&time, L"%Y-%m-%d");
+    timegm(&time); // finds the day of the week
+    std::wostringstream name;
+    name << std::put_time(&time, L"%A");
+    return name.str();
+}
+
+std::wstring round(double number) {
+    std::wostringstream text;
+    text << std::fixed << std::setprecision(1) << number;
+    return text.str();
+}
+
+/// What is to be said of runs: a list, and what is below an item is a list in it.
 Content describe(const Runs& runs) {
     std::vector<Content> failed;
-    double best = 0;
+    double best = 0, highest = 0;
     for (const Run& run : runs) {
         if (!run.passed)
-            failed.push_back(run.day + L", impeller " + run.impeller);
+            failed.push_back(nameDay(run.day) + L", impeller " + run.impeller);
         best = std::max(best, run.getEfficiency());
+        highest = std::max(highest, run.head);
     }
-    const std::wstring percent = std::to_wstring(best * 100).substr(0, 4);
     return list(
         {std::to_wstring(runs.size()) + L" runs, " + std::to_wstring(failed.size()) + L" beyond the limits",
-         failed, L"Highest efficiency " + percent + L" %"});
+         failed, L"Highest efficiency " + round(best * 100) + L"%",
+         L"Highest head " + round(highest) + L" m"});
+}
+
+/// A table whose columns show their numbers and dates in forms.
+Table makeTable(const std::vector<std::vector<Content>>& rows, const std::vector<std::wstring>& forms) {
+    Table table = tableOf(rows);
+    Table::ColSpecs columns;
+    for (const std::wstring& form : forms) {
+        columns.push_back(boost::make_shared<ColSpec>());
+        columns.back()->setNumberFormat(form);
+    }
+    table.setColSpecs(columns);
+    return table;
 }
 
 /// The run of the highest efficiency of each impeller.
@@ -79,6 +111,11 @@ Runs findBestPoints(const Runs& runs) {
     return best;
 }
 
+std::size_t countOf(const Runs& runs, const std::wstring& impeller) {
+    return std::count_if(runs.begin(), runs.end(), [&](const Run& run) { return run.impeller == impeller; });
+}
+
+/// From layouts, which most templates have by these names.
 void addSlides(Presentation& deck, const Runs& runs) {
     deck.add(L"Title Slide").fill({{L"Title", L"Pump test benches"}, {L"Subtitle", L"Week 47"}});
     deck.add(L"Title and Content").fill({{L"Title", L"The week"}, {L"Content", describe(runs)}});
@@ -87,12 +124,26 @@ void addSlides(Presentation& deck, const Runs& runs) {
             .fill({{L"Title", L"Bench " + bench},
                    {L"Left Content", Picture(EXAMPLE_DATA L"pump-curve.png")},
                    {L"Right Content", describe(group)}});
-    std::vector<std::vector<Content>> rows{{L"Impeller", L"Flow in m\u00b3/h", L"Head in m", L"Power in kW"}};
+    std::vector<std::vector<Content>> best{
+        {L"Impeller", L"Runs", L"Flow in m\u00b3/h", L"Head in m", L"Efficiency"}};
     for (const Run& run : findBestPoints(runs))
-        rows.push_back({run.impeller, run.flow, run.head, run.power});
-    deck.add(L"Title and Table").fill({{L"Title", L"Points of best efficiency"}, {L"Table", tableOf(rows)}});
+        best.push_back({run.impeller, countOf(runs, run.impeller), run.flow, run.head, run.getEfficiency()});
+    deck.add(L"Title and Table")
+        .fill({{L"Title", L"Points of best efficiency"},
+               {L"Table", makeTable(best, {L"none", L"d", L".1f", L".1f", L".1%"})}});
+    std::vector<std::vector<Content>> all{
+        {L"Day", L"Bench", L"Impeller", L"Flow in m\u00b3/h", L"Head in m", L"Within limits"}};
+    for (const Run& run : runs)
+        all.push_back({run.day, std::stoi(run.bench), run.impeller, run.flow, run.head, run.passed});
+    Table table = makeTable(all, {L"%a %d.%m.", L"d", L"none", L".1f", L".1f", L"none"});
+    table.setTrueText(L"yes");
+    table.setFalseText(L"no");
+    PageOptions pages;
+    pages.title = L"All runs";
+    deck.addPages(L"Title and Table", L"Table", table, pages);
 }
 
+/// Slides that are finished but for their tokens. That of a bench is copied for each.
 void fillSamples(Presentation& deck, const Runs& runs) {
     const auto sample = as<Slide>(deck.find(L"Bench").front());
     unsigned int place = 3;
@@ -107,7 +158,7 @@ void fillSamples(Presentation& deck, const Runs& runs) {
     std::vector<Content> points;
     for (const Run& run : findBestPoints(runs))
         points.push_back(record({{L"impeller", run.impeller},
-                                 {L"runs", groupBy(runs, &Run::impeller)[run.impeller].size()},
+                                 {L"runs", countOf(runs, run.impeller)},
                                  {L"flow", run.flow},
                                  {L"head", run.head},
                                  {L"efficiency", run.getEfficiency()}}));
@@ -127,7 +178,7 @@ void setCharts(Presentation& deck, const Runs& runs) {
     std::vector<std::wstring> days;
     std::map<std::wstring, std::vector<double>> energy;
     for (const auto& [day, ofDay] : groupBy(runs, &Run::day)) {
-        days.push_back(day);
+        days.push_back(nameDay(day));
         for (const auto& [bench, ofBench] : groupBy(runs, &Run::bench))
             energy[L"Bench " + bench].push_back(0);
         for (const Run& run : ofDay)
@@ -140,10 +191,7 @@ void setCharts(Presentation& deck, const Runs& runs) {
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const std::wstring output = vellox::fromUtf8(argc > 1 ? argv[1] : "weekly-report.pptx");
+void makeReport(const std::wstring& output, int argc, char** argv) {
     auto deck = argc > 2 ? Presentation::forOffice(output, vellox::fromUtf8(argv[2]))
                          : Presentation::forOffice(output);
     const Runs runs = readWeek(EXAMPLE_DATA L"runs.csv");
@@ -156,4 +204,16 @@ int main(int argc, char** argv) {
     deck.close();
     for (const auto& finding : deck.getFindings())
         std::cerr << vellox::toUtf8(finding.text) << '\n';
+    std::cout << vellox::toUtf8(output) << ": " << deck.getNChildren() << " slides\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        makeReport(vellox::fromUtf8(argc > 1 ? argv[1] : "weekly-report.pptx"), argc, argv);
+    } catch (const hostfx::except::IException& error) {
+        std::cerr << "weekly_report: " << error.what() << '\n';
+        return 1;
+    }
 }
