@@ -3,6 +3,8 @@
 #include "cli/CsvFile.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 
 namespace vellox::cli {
 
@@ -103,6 +105,44 @@ ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& tex
         cells->append(std::move(texts));
     }
     return ppt::Table(cells);
+}
+
+namespace {
+
+bool isNumber(const std::wstring& text) {
+    const std::string digits = toUtf8(text);
+    double number = 0;
+    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return end.ec == std::errc() && end.ptr == digits.data() + digits.size() && std::isfinite(number);
+}
+
+bool hasOnlyNumbers(ppt::Table& table, unsigned column) {
+    const auto header = table.getHeaderRows();
+    bool hasNumber = false;
+    for (unsigned r = header.isSet() ? std::max(header.get(), 1U) : 1; r < table.getNChildren(); ++r) {
+        const std::wstring text = table.entry(r, column)->getText();
+        if (!text.empty() && !isNumber(text))
+            return false;
+        hasNumber = hasNumber || !text.empty();
+    }
+    return hasNumber;
+}
+
+} // namespace
+
+void alignNumbers(ppt::Table& table) {
+    if (table.getHAlign())
+        return;
+    ppt::Table::ColSpecs columns = table.getColSpecs();
+    columns.resize(std::max<std::size_t>(columns.size(), table.getNCols()));
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+        if (!columns[c])
+            columns[c] = boost::make_shared<ppt::ColSpec>();
+        if (c < table.getNCols() && !columns[c]->getHAlign() &&
+            hasOnlyNumbers(table, static_cast<unsigned>(c)))
+            columns[c]->setHAlign(L"right");
+    }
+    table.setColSpecs(columns);
 }
 
 ppt::Table makeTable(const std::string& file) {

@@ -82,7 +82,7 @@ private:
         if (value.find("picture"))
             return makePicture(value, place);
         if (value.find("table"))
-            return makeTableContent(value, place);
+            return boost::make_shared<ObjectContent>(makeTableOf(value, place));
         const Data* rows = value.find("rows");
         if (!rows || rows->kind != Data::Kind::Text)
             return makeValue(value);
@@ -96,7 +96,7 @@ private:
             if (value.find("picture"))
                 slide.replace(name, makePicture(value, place));
             else if (value.find("table"))
-                slide.replace(name, makeTableContent(value, place));
+                putTable(slide, name, value, place);
             else if (const Data* text = value.find("text"))
                 putText(slide, name, *text, place.member("text", *text));
             else
@@ -131,7 +131,13 @@ private:
         return boost::make_shared<ObjectContent>(picture);
     }
 
-    HvContentPtr makeTableContent(const Data& value, const DataPlace& place) const {
+    void putTable(ppt::Slide& slide, const std::wstring& name, const Data& value, const DataPlace& place) {
+        ppt::Table table = makeTableOf(value, place);
+        alignNumbers(table);
+        slide.replace(name, boost::make_shared<ObjectContent>(table));
+    }
+
+    ppt::Table makeTableOf(const Data& value, const DataPlace& place) const {
         const Data& rows = *value.find("table");
         const DataPlace at = place.member("table", rows);
         ppt::Table table = rows.kind == Data::Kind::List ? makeTable(rows, at, textOf_)
@@ -141,7 +147,7 @@ private:
         setUpRows(table, value, place);
         setUpCells(table, value, place);
         mergeCells(table, value, place);
-        return boost::make_shared<ObjectContent>(table);
+        return table;
     }
 
     /// The items of a list that a record may have, with their places.

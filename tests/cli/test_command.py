@@ -453,6 +453,7 @@ def test_descriptions_set_properties(work):
         assert "Weekly report" in package.read("docProps/core.xml").decode()
     for words in ('h="359999"', 'prstDash val="dash"', 'gridSpan="2"', 'lastRow="1"', '"C00000"'):
         assert words in first, words
+    assert first.count('algn="r"') == 7, "columns of numbers, the merged cell with them"
     assert 'type="alphaLcParenR"' in second and 'show="0"' in second and 'descr="A list"' in second
 
 
