@@ -5,7 +5,7 @@ find_package(XercesC 3.2 REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(libzip REQUIRED IMPORTED_TARGET libzip>=1.7)
 pkg_check_modules(libdeflate REQUIRED IMPORTED_TARGET libdeflate>=1.14)
-pkg_check_modules(tiff REQUIRED IMPORTED_TARGET libtiff-4>=4.5)
+pkg_check_modules(tiff REQUIRED libtiff-4>=4.5)
 pkg_check_modules(xlsxwriter REQUIRED IMPORTED_TARGET xlsxwriter>=1.1)
 pkg_check_modules(stb REQUIRED IMPORTED_TARGET stb)
 # Without these nobody can tell whether a template's fonts are installed, and how wide their letters are.

@@ -4,10 +4,12 @@
 
 #include "vellox/opc/Relationship.h"
 
+#include <boost/make_shared.hpp>
+
 using namespace vellox::fuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    opc::RelationshipTable table(L"/ppt/slides/");
+    opc::RelationshipTable table(L"/ppt/slides/", boost::make_shared<opc::RelationshipTypes>());
     try {
         readRows(table, toString(data, size));
     } catch (const opc::Exception&) {
@@ -18,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(table.find(added)->getTargetURI().toString() == image.toString(), "a target is found again");
     table.addExternal(L"link", table.getAll().front().getTarget(), {});
 
-    opc::RelationshipTable again(L"/ppt/slides/");
+    opc::RelationshipTable again(L"/ppt/slides/", boost::make_shared<opc::RelationshipTypes>());
     readRows(again, writeRows(table));
     require(again.getAll().size() == table.getAll().size(), "no row gets lost");
     for (std::size_t i = 0; i < table.getAll().size(); ++i)

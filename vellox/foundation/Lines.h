@@ -14,7 +14,7 @@ namespace vellox {
 bool endsLine(wchar_t c);
 
 /// The lines of a text, without their ends; "\r\n" is one end. There is at least one.
-std::vector<std::wstring> splitLines(const std::wstring& text);
+std::vector<std::wstring> splitLines(std::wstring text);
 
 } // namespace vellox
 

@@ -3,6 +3,8 @@
 #include "vellox/foundation/SvgText.h"
 
 #ifdef VELLOX_HAS_LIBRSVG
+#include "vellox/host/services/LateLibrary.h"
+
 #include <librsvg/rsvg.h>
 
 #include <cerrno>
@@ -10,7 +12,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/prctl.h>
@@ -28,23 +29,18 @@ namespace {
 // What is used of librsvg and of the libraries that it brings along.
 struct Library {
     Library() {
-        // It can't be taken out again: its own libraries keep what they register.
-        void* library = dlopen("librsvg-2.so.2", RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE);
-        const auto take = [&](auto& function, const char* name) {
-            function =
-                reinterpret_cast<std::decay_t<decltype(function)>>(library ? dlsym(library, name) : nullptr);
-            isWhole = isWhole && function;
-        };
-        take(newFromData, "rsvg_handle_new_from_data");
-        take(setDpi, "rsvg_handle_set_dpi");
-        take(render, "rsvg_handle_render_document");
-        take(createSurface, "cairo_image_surface_create");
-        take(createContext, "cairo_create");
-        take(getStatus, "cairo_surface_status");
-        take(writePng, "cairo_surface_write_to_png_stream");
+        host::LateLibrary library("librsvg-2.so.2");
+        library.take(newFromData, "rsvg_handle_new_from_data");
+        library.take(setDpi, "rsvg_handle_set_dpi");
+        library.take(render, "rsvg_handle_render_document");
+        library.take(createSurface, "cairo_image_surface_create");
+        library.take(createContext, "cairo_create");
+        library.take(getStatus, "cairo_surface_status");
+        library.take(writePng, "cairo_surface_write_to_png_stream");
+        isWhole = library.isWhole();
     }
 
-    bool isWhole = true;
+    bool isWhole;
     decltype(&rsvg_handle_new_from_data) newFromData;
     decltype(&rsvg_handle_set_dpi) setDpi;
     decltype(&rsvg_handle_render_document) render;

@@ -134,7 +134,8 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     // Relationships that some program has left behind under the name aren't those of the new part.
     const PartName leftBehind = name.getRelationshipPartName();
     if (findPart(leftBehind))
-        sources_.insert_or_assign(leftBehind, RelationshipTable::makeEmpty(name.getFolder()));
+        sources_.insert_or_assign(leftBehind,
+                                  RelationshipTable::makeEmpty(name.getFolder(), relationshipTypes_));
     return addPart(name, type, info);
 }
 
@@ -165,7 +166,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     const auto known = sources_.find(part);
     if (known != sources_.end())
         return known->second;
-    RelationshipTable table(source ? source->getFolder() : L"/");
+    RelationshipTable table(source ? source->getFolder() : L"/", relationshipTypes_);
     try {
         if (const auto stored = findPart(part))
             table.read(*parser_, *stored->openInput());

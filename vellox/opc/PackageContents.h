@@ -4,6 +4,7 @@
 #ifndef VELLOX_OPC_PACKAGECONTENTS_H
 #define VELLOX_OPC_PACKAGECONTENTS_H
 
+#include <boost/make_shared.hpp>
 #include <map>
 #include <string_view>
 #include <unordered_map>
@@ -43,6 +44,7 @@ private:
     ParserScope parser_; // from the opening on
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;
+    boost::shared_ptr<RelationshipTypes> relationshipTypes_ = boost::make_shared<RelationshipTypes>();
     std::unordered_map<std::string_view, boost::shared_ptr<PhysicalPart>>
         parts_; // by the keys of their names
     std::map<PartName, RelationshipTable>

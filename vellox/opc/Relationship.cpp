@@ -6,6 +6,7 @@
 #include "vellox/opc/XercesString.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 
 namespace opc {
 
@@ -19,7 +20,17 @@ std::wstring getAttribute(const DOMElement& element, const XMLCh* name) {
     return toWideString(element.getAttribute(name));
 }
 
+// Up to as many rows are looked through faster than an index is made.
+constexpr std::size_t kFewRows = 8;
+
 } // namespace
+
+RelationshipTypes::Type RelationshipTypes::share(const std::wstring& text) {
+    Type& type = types_[text];
+    if (!type)
+        type = boost::make_shared<const std::wstring>(text);
+    return type;
+}
 
 void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
     const DocumentScope document(XercesHelper::readDocumentFromStream(&parser, stream, false, {}, {}));
@@ -30,7 +41,7 @@ void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
     for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
         const std::wstring target = getAttribute(*row, u"Target");
         const bool isExternal = getAttribute(*row, u"TargetMode") == L"External";
-        rows_.emplace_back(getAttribute(*row, u"Id"), getAttribute(*row, u"Type"), target,
+        rows_.emplace_back(getAttribute(*row, u"Id"), types_->share(getAttribute(*row, u"Type")), target,
                            URI(isExternal ? target : resolveTarget(folder_, target)), isExternal);
         index(rows_.size() - 1);
     }
@@ -54,12 +65,21 @@ void RelationshipTable::write(OutputStream& stream) const {
 }
 
 const Relationship* RelationshipTable::find(const std::wstring& id) const {
+    if (rowByID_.empty()) {
+        const auto row = std::find_if(rows_.begin(), rows_.end(),
+                                      [&](const Relationship& each) { return each.getID() == id; });
+        return row == rows_.end() ? nullptr : &*row;
+    }
     const auto found = rowByID_.find(id);
     return found == rowByID_.end() ? nullptr : &rows_[found->second];
 }
 
-void RelationshipTable::index(std::size_t row) {
-    rowByID_.emplace(rows_[row].getID(), row);
+// Takes note of the rows from here on.
+void RelationshipTable::index(std::size_t firstRow) {
+    if (rows_.size() <= kFewRows)
+        return;
+    for (std::size_t row = rowByID_.empty() ? 0 : firstRow; row < rows_.size(); ++row)
+        rowByID_.emplace(rows_[row].getID(), row);
 }
 
 std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
@@ -67,7 +87,7 @@ std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
         return wanted;
     for (;; ++nextID_) {
         std::wstring id = L"rId" + vellox::num2str(nextID_);
-        if (rowByID_.count(id) == 0)
+        if (!find(id))
             return id;
     }
 }
@@ -84,13 +104,14 @@ const Relationship& RelationshipTable::add(Relationship row) {
 const Relationship& RelationshipTable::addInternal(const std::wstring& type, const URI& target,
                                                    const std::wstring& id) {
     const std::wstring name = resolveTarget(folder_, target.toString());
-    return add(Relationship(chooseID(id), type, makeRelativeTarget(folder_, name), URI(name), false));
+    return add(
+        Relationship(chooseID(id), types_->share(type), makeRelativeTarget(folder_, name), URI(name), false));
 }
 
 const Relationship& RelationshipTable::addExternal(const std::wstring& type, const std::wstring& target,
                                                    const std::wstring& id) {
     const std::wstring reference = makeExternalTarget(target);
-    return add(Relationship(chooseID(id), type, reference, URI(reference), true));
+    return add(Relationship(chooseID(id), types_->share(type), reference, URI(reference), true));
 }
 
 void RelationshipTable::remove(const std::set<std::wstring>& ids) {
@@ -106,8 +127,7 @@ template <class Condition> void RelationshipTable::removeIf(Condition isCondemne
     isChanged_ = isChanged_ || end != rows_.end();
     rows_.erase(end, rows_.end());
     rowByID_.clear();
-    for (std::size_t i = 0; i < rows_.size(); ++i)
-        index(i);
+    index(0);
     nextID_ = 1;
 }
 

@@ -4,6 +4,8 @@
 #ifndef VELLOX_OPC_RELATIONSHIP_H
 #define VELLOX_OPC_RELATIONSHIP_H
 
+#include <boost/shared_ptr.hpp>
+#include <map>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -15,10 +17,22 @@
 
 namespace opc {
 
+/// The types of the relationships of a package, each text once: they are long, few, and every slide has the same.
+class RelationshipTypes {
+public:
+    using Type = boost::shared_ptr<const std::wstring>;
+
+    Type share(const std::wstring& text);
+
+private:
+    std::map<std::wstring, Type> types_;
+};
+
 /// One reference. A value.
 class Relationship {
 public:
-    Relationship(std::wstring id, std::wstring type, std::wstring target, URI targetURI, bool isExternal)
+    Relationship(std::wstring id, RelationshipTypes::Type type, std::wstring target, URI targetURI,
+                 bool isExternal)
         : id_(std::move(id)),
           type_(std::move(type)),
           target_(std::move(target)),
@@ -26,7 +40,7 @@ public:
           isExternal_(isExternal) {}
 
     const std::wstring& getID() const { return id_; }
-    const std::wstring& getType() const { return type_; }
+    const std::wstring& getType() const { return *type_; }
     /// An absolute part name, or the target as it stands if that lies outside the package.
     const URI& getTargetURI() const { return targetURI_; }
     /// The target as the relationship part spells it.
@@ -35,7 +49,7 @@ public:
 
 private:
     std::wstring id_;
-    std::wstring type_;
+    RelationshipTypes::Type type_;
     std::wstring target_;
     URI targetURI_;
     bool isExternal_;
@@ -45,10 +59,14 @@ private:
 class RelationshipTable {
 public:
     /// @param folder the folder of the source, from which relative targets start
-    explicit RelationshipTable(std::wstring folder) : folder_(std::move(folder)) {}
+    /// @param types of the package
+    RelationshipTable(std::wstring folder, boost::shared_ptr<RelationshipTypes> types)
+        : types_(std::move(types)),
+          folder_(std::move(folder)) {}
     /// An empty table that counts as changed, and so takes the place of one that is stored.
-    static RelationshipTable makeEmpty(const std::wstring& folder) {
-        RelationshipTable table(folder);
+    static RelationshipTable makeEmpty(const std::wstring& folder,
+                                       const boost::shared_ptr<RelationshipTypes>& types) {
+        RelationshipTable table(folder, types);
         table.isChanged_ = true;
         return table;
     }
@@ -72,13 +90,14 @@ public:
 
 private:
     template <class Condition> void removeIf(Condition isCondemned);
-    void index(std::size_t row);
+    void index(std::size_t firstRow);
     std::wstring chooseID(const std::wstring& wanted);
     const Relationship& add(Relationship row);
 
+    boost::shared_ptr<RelationshipTypes> types_;
     std::wstring folder_;
     std::vector<Relationship> rows_;
-    std::unordered_map<std::wstring, std::size_t> rowByID_; // the first of each id
+    std::unordered_map<std::wstring, std::size_t> rowByID_; // the first of each id; empty while rows are few
     unsigned nextID_ = 1;                                   // no smaller number is free
     bool isChanged_ = false;
 };

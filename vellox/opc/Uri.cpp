@@ -65,6 +65,7 @@ std::wstring makeRelativeTarget(const std::wstring& folder, const std::wstring& 
     while (shared + 1 < from.size() && shared + 1 < to.size() && from[shared] == to[shared])
         ++shared;
     std::wstring target;
+    target.reserve(name.size());
     for (std::size_t i = shared; i + 1 < from.size(); ++i)
         target += L"../";
     for (std::size_t i = shared; i < to.size(); ++i)

@@ -115,7 +115,8 @@ public:
           entryName_(std::move(entryName)),
           index_(index) {}
 
-    const std::string& getEntryName() const { return entryName_; }
+    /// That of a new one follows from its part's.
+    std::string getEntryName() const { return entryName_.empty() ? getName().toEntryName() : entryName_; }
     /// The entry in the target as it is in its archive, still compressed.
     zip_source_t* makeSource(zip_t* target) const {
         return zip_source_zip(target, package_.archive_.get(), getIndex(), ZIP_FL_COMPRESSED, 0, -1);
@@ -256,7 +257,7 @@ void ZipPhysicalPackage::listEntries() {
 }
 
 boost::shared_ptr<PhysicalPart> ZipPhysicalPackage::createPart(const PartName& name, StandardPartInfo info) {
-    const auto part = boost::make_shared<Entry>(*this, name, info, name.toEntryName(), Entry::kNew);
+    const auto part = boost::make_shared<Entry>(*this, name, info, std::string(), Entry::kNew);
     part->startOutput();
     parts_.push_back(part);
     return part;

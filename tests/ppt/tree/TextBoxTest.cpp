@@ -80,4 +80,34 @@ TEST(Shape, HasAPlaceThatMayBeUnset) {
     EXPECT_THROW(box.getWidth().get(), std::bad_optional_access);
 }
 
+// What a shape doesn't have takes no room, but who asks for it may keep the answer.
+TEST(Shape, ShowsWhatIsSetLaterInWhatWasAskedForBefore) {
+    TextBox box;
+    const std::wstring& name = box.getName();
+    const BaseAttribute<Dimension>& width = box.getWidth();
+    const BaseAttribute<std::wstring>&altText = box.getAltText(), &autofit = box.getAutofit();
+    box.setName(L"Box");
+    box.setWidth(L"2cm");
+    box.setAltText(L"a box");
+    box.setAutofit(L"none");
+    EXPECT_EQ(name, L"Box");
+    EXPECT_EQ(width.get().getRawValue(), L"2cm");
+    EXPECT_EQ(altText.get(), L"a box");
+    EXPECT_EQ(autofit.get(), L"none");
+    EXPECT_EQ(TextBox(L"Other").getName(), L"Other"); // and nobody else's
+    EXPECT_FALSE(TextBox().getWidth().isSet());
+}
+
+// Copies have no name, and are still written with that of the original.
+TEST(Shape, IsWrittenWithTheNameOfItsOriginal) {
+    const TextBox box(L"Box");
+    const auto copy = TextBox::cast(box.clone());
+    EXPECT_EQ(copy->getName(), L"");
+    EXPECT_EQ(implOf<ShapeImpl>(*copy)->getWrittenName().get(), L"Box");
+    EXPECT_EQ(implOf<ShapeImpl>(*copy->clone())->getWrittenName().get(), L"Box");
+    copy->setName(L"");
+    EXPECT_EQ(implOf<ShapeImpl>(*copy)->getWrittenName().get(), L"");
+    EXPECT_FALSE(implOf<ShapeImpl>(TextBox())->getWrittenName().isSet());
+}
+
 } // namespace

@@ -1,5 +1,7 @@
 #include "vellox/host/services/ImageProbe.h"
 
+#include "vellox/host/services/LateLibrary.h"
+
 #include <stb/stb_image.h>
 #include <tiffio.h>
 
@@ -44,6 +46,32 @@ bool readRasterSize(std::istream& image, double& width, double& height) {
     return true;
 }
 
+// What is used of libtiff, which brings eight libraries along.
+struct TiffLibrary {
+    TiffLibrary() {
+        LateLibrary library("libtiff.so.6");
+        library.take(allocOptions, "TIFFOpenOptionsAlloc");
+        library.take(freeOptions, "TIFFOpenOptionsFree");
+        library.take(setMaxAllocation, "TIFFOpenOptionsSetMaxSingleMemAlloc");
+        library.take(setErrorHandler, "TIFFOpenOptionsSetErrorHandlerExtR");
+        library.take(setWarningHandler, "TIFFOpenOptionsSetWarningHandlerExtR");
+        library.take(open, "TIFFClientOpenExt");
+        library.take(getField, "TIFFGetField");
+        library.take(close, "TIFFClose");
+        isWhole = library.isWhole();
+    }
+
+    bool isWhole;
+    decltype(&TIFFOpenOptionsAlloc) allocOptions;
+    decltype(&TIFFOpenOptionsFree) freeOptions;
+    decltype(&TIFFOpenOptionsSetMaxSingleMemAlloc) setMaxAllocation;
+    decltype(&TIFFOpenOptionsSetErrorHandlerExtR) setErrorHandler;
+    decltype(&TIFFOpenOptionsSetWarningHandlerExtR) setWarningHandler;
+    decltype(&TIFFClientOpenExt) open;
+    decltype(&TIFFGetField) getField;
+    decltype(&TIFFClose) close;
+};
+
 // Returning 1 says that the message is dealt with and needn't go to the standard error stream.
 int dropMessage(TIFF*, void*, const char*, const char*, va_list) {
     return 1;
@@ -81,19 +109,22 @@ toff_t getTiffSize(thandle_t user) {
 /// @}
 
 bool readTiffSize(std::istream& image, double& width, double& height) {
-    const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
-                                                                                   TIFFOpenOptionsFree);
-    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxTiffAllocation);
-    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), dropMessage, nullptr);
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), dropMessage, nullptr);
+    static const TiffLibrary& library = *new const TiffLibrary;
+    if (!library.isWhole)
+        return false;
+    const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(library.allocOptions(),
+                                                                                   library.freeOptions);
+    library.setMaxAllocation(options.get(), kMaxTiffAllocation);
+    library.setErrorHandler(options.get(), dropMessage, nullptr);
+    library.setWarningHandler(options.get(), dropMessage, nullptr);
     const std::unique_ptr<TIFF, decltype(&TIFFClose)> tiff(
-        TIFFClientOpenExt("image", "rm", &image, readTiff, refuseToWrite, seekTiff, closeNothing, getTiffSize,
-                          nullptr, nullptr, options.get()),
-        TIFFClose);
+        library.open("image", "rm", &image, readTiff, refuseToWrite, seekTiff, closeNothing, getTiffSize,
+                     nullptr, nullptr, options.get()),
+        library.close);
     constexpr std::uint32_t kMost = std::numeric_limits<std::int32_t>::max();
     std::uint32_t w = 0, h = 0;
-    if (!tiff || !TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &w) ||
-        !TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &h) || w == 0 || h == 0 || w > kMost || h > kMost)
+    if (!tiff || !library.getField(tiff.get(), TIFFTAG_IMAGEWIDTH, &w) ||
+        !library.getField(tiff.get(), TIFFTAG_IMAGELENGTH, &h) || w == 0 || h == 0 || w > kMost || h > kMost)
         return false;
     width = w;
     height = h;

@@ -223,7 +223,7 @@ void PresentationImpl::writeSlides(const boost::shared_ptr<OPCPackage>& package)
     writer.setDeckValues(values_);
     FindingList::Attempt attempt(findings_);
     const Children slides = getChildren(); // those that a listener adds now come too late
-    writer.setPageFields(pageFields);
+    writer.setPageFields(pageFields.get());
     writer.prepare(slides);
     for (const Child& slide : slides)
         writer.write(*slide);

@@ -2,7 +2,7 @@
 
 #include "vellox/ppt/formats/Format.h"
 
-#include <boost/make_shared.hpp>
+#include <utility>
 
 namespace vellox::ppt {
 
@@ -10,12 +10,11 @@ Formats::Formats() = default;
 Formats::~Formats() = default;
 
 Formats::Formats(const Formats& other)
-    : formats_(other.getMap().empty() ? boost::shared_ptr<Map>() : boost::make_shared<Map>(*other.formats_)) {
-}
+    : formats_(other.getMap().empty() ? nullptr : std::make_unique<Map>(*other.formats_)) {}
 
 Formats& Formats::operator=(const Formats& other) {
     if (this != &other)
-        formats_ = Formats(other).formats_;
+        formats_ = std::move(Formats(other).formats_);
     return *this;
 }
 
@@ -23,7 +22,7 @@ void Formats::appendFormat(const boost::shared_ptr<Format>& format) {
     if (!format)
         return;
     if (!formats_)
-        formats_ = boost::make_shared<Map>();
+        formats_ = std::make_unique<Map>();
     (*formats_)[format->getFormatType()] = format;
 }
 

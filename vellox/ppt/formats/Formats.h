@@ -6,6 +6,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <map>
+#include <memory>
 
 #include "vellox/Api.h"
 #include "vellox/ppt/formats/FormatType.h"
@@ -35,7 +36,7 @@ public:
 
 private:
     // Made with the first format: most elements of a deck never have one.
-    boost::shared_ptr<Map> formats_;
+    std::unique_ptr<Map> formats_;
 };
 
 } // namespace vellox::ppt

@@ -13,7 +13,7 @@ namespace vellox::ppt {
 class ElementImpl : public PPTNodeImpl {
 public:
     ElementImpl() = default;
-    explicit ElementImpl(std::wstring name) : PPTNodeImpl(std::move(name)) {}
+    explicit ElementImpl(const std::wstring& name) : PPTNodeImpl(name) {}
     ElementImpl(const ElementImpl&) = default;
 
     const char* getFullyQualifiedHostTypeName() const override;

@@ -14,15 +14,23 @@ namespace vellox::ppt {
 // PPTNodeImpl
 
 PPTNodeImpl::~PPTNodeImpl() {
-    while (!linked_.empty())
-        linked_.front().setParent(nullptr);
+    while (firstLinked_)
+        firstLinked_->setParent(nullptr);
+    setParent(nullptr);
 }
 
 void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
-    link_.unlink();
+    if (linkedFrom_)
+        *linkedFrom_ = nextLinked_;
+    if (nextLinked_)
+        nextLinked_->linkedFrom_ = linkedFrom_;
     parent_ = parent;
-    if (parent_)
-        parent_->linked_.push_back(*this);
+    linkedFrom_ = parent ? &parent->firstLinked_ : nullptr;
+    nextLinked_ = parent ? parent->firstLinked_ : nullptr;
+    if (linkedFrom_)
+        *linkedFrom_ = this;
+    if (nextLinked_)
+        nextLinked_->linkedFrom_ = &nextLinked_;
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
@@ -38,7 +46,7 @@ bool PPTNodeImpl::isA(NodeType type) const {
 }
 
 void PPTNodeImpl::setName(const std::wstring& name) {
-    name_ = name;
+    name_.require() = name;
 }
 
 void PPTNodeImpl::requireFree(const PPTNode& child) const {
@@ -120,7 +128,7 @@ const PPTNodeImpl* PPTNode::pimpl() const {
 }
 
 const std::wstring& PPTNode::getName() const {
-    return pimpl()->getName();
+    return implOf<PPTNodeImpl>(*this)->requireName();
 }
 
 const PPTNode::Children& PPTNode::getChildren() const {

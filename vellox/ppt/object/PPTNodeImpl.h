@@ -4,10 +4,10 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
-#include <boost/intrusive/list.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
 
+#include "vellox/foundation/Lazy.h"
 #include "vellox/ppt/object/PPTNode.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 
@@ -35,7 +35,10 @@ public:
     using Children = PPTNode::Children;
 
     PPTNodeImpl() = default;
-    explicit PPTNodeImpl(std::wstring name) : name_(std::move(name)) {}
+    explicit PPTNodeImpl(const std::wstring& name) {
+        if (!name.empty())
+            name_.require() = name;
+    }
     /// Without name, parent and children: copyOf() makes the copies of these once the new node is whole.
     PPTNodeImpl(const PPTNodeImpl& other) : PPTObjectImpl(other) {}
     ~PPTNodeImpl() override;
@@ -68,7 +71,9 @@ public:
     /// Puts a child before the one that has an index without it, or at the end if there is none.
     void moveChild(const PPTNode& child, unsigned int index);
 
-    const std::wstring& getName() const { return name_; }
+    const std::wstring& getName() const { return name_.get(); }
+    /// The same for those who may keep it, and see in it what is set later.
+    const std::wstring& requireName() { return name_.require(); }
     const Children& getChildren() const { return children_; }
     PPTNodeImpl* getParent() const { return parent_; }
     /// Takes note of a report about a node below, or about this one; see report(). Const, since it changes nothing that
@@ -97,17 +102,13 @@ private:
     void requireFree(const PPTNode& child) const;
     void setParent(PPTNodeImpl* parent);
 
-    using Link =
-        boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::auto_unlink>>;
-
     PPTNodeImpl* parent_ = nullptr;
-    Link link_; // in the parent's list below
+    // Those whose parent this is, in no order and not owned, as a chain; and this one's place in its parent's.
+    PPTNodeImpl* firstLinked_ = nullptr;
+    PPTNodeImpl* nextLinked_ = nullptr;
+    PPTNodeImpl** linkedFrom_ = nullptr; // where the pointer to this one is; null without a parent
     Children children_;
-    std::wstring name_;
-    // Those whose parent this is, in no order and not owned.
-    boost::intrusive::list<PPTNodeImpl, boost::intrusive::member_hook<PPTNodeImpl, Link, &PPTNodeImpl::link_>,
-                           boost::intrusive::constant_time_size<false>>
-        linked_;
+    Lazy<std::wstring> name_;
 };
 
 template <class Wanted> PPTNodeImpl::Children PPTNodeImpl::takeOut(Wanted isWanted) {

@@ -53,7 +53,11 @@ PPTObjectImpl::Marks& PPTObjectImpl::requireMarks() {
 }
 
 std::wstring PPTObjectImpl::getId() const {
-    return marks_ && marks_->id ? *marks_->id : num2str(number_);
+    return marks_ && marks_->id ? *marks_->id : makeId();
+}
+
+std::wstring PPTObjectImpl::makeId() const {
+    return num2str(number_);
 }
 
 void PPTObjectImpl::setId(const std::wstring& id) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "vellox/host/services/Wrappable.h"
 #include "vellox/ppt/object/PPTObject.h"
@@ -59,6 +60,10 @@ public:
         PPTObjectImpl& object_;
     };
 
+protected:
+    /// The Id of an object that wasn't given another.
+    virtual std::wstring makeId() const;
+
 private:
     friend void intrusive_ptr_add_ref(PPTObjectImpl* object);
     friend void intrusive_ptr_release(PPTObjectImpl* object);
@@ -73,7 +78,7 @@ private:
     Marks& requireMarks();
 
     std::unique_ptr<Marks> marks_;
-    unsigned int number_; // the Id of an object that wasn't given another
+    unsigned int number_; // of which its Id is made
     int refCount_ = 0;
     Life life_ = Life::Whole;
 };
@@ -82,12 +87,26 @@ private:
 struct ObjectAccess {
     static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
     static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
-    /// A new facade of a class of nodes, around its implementation.
+    /// A new facade of a class of nodes, around its implementation. Facade and count of holders are one piece of memory,
+    /// as a deck has them by the hundred thousand.
     template <class Facade, class Impl> static boost::shared_ptr<Facade> makeFacade(Impl* impl) {
-        return boost::shared_ptr<Facade>(new Facade(impl));
+        boost::shared_ptr<Facade> piece(static_cast<Facade*>(nullptr), Kept<Facade>{Facade(impl)});
+        Facade& facade = boost::get_deleter<Kept<Facade>>(piece)->facade;
+        return boost::shared_ptr<Facade>(std::move(piece), &facade);
     }
     /// Makes a handle stand for nothing without releasing its object, which is ending already.
     static void abandon(PPTObject& handle) { handle.impl_ = nullptr; }
+
+private:
+    /// A facade where a count of holders keeps what is to be done at their end.
+    template <class Facade> struct Kept {
+        Facade facade;
+
+        void operator()(Facade*) {
+            const boost::intrusive_ptr<PPTObjectImpl> object(getImpl(facade), false);
+            abandon(facade);
+        }
+    };
 };
 
 /// The implementation behind a handle whose class is known.

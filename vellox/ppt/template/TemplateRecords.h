@@ -55,18 +55,17 @@ private:
     bool isFromFile_ = false;
 };
 
-/// Name, place and size as far as somebody has set them; a length that isn't set is inherited.
+/// Place and size as far as somebody has set them; a length that isn't set is inherited.
 struct ShapeGeometry {
-    BaseAttribute<std::wstring> shapeName;
     BaseAttribute<Dimension> x, y;
     Extent cx, cy;
 
     bool hasPlacement() const { return x.isSet() || y.isSet() || cx.isSet() || cy.isSet(); }
 };
 
-/// One shape element of a layout or a slide. Its geometry holds the name only: places are texts until somebody
-/// stands there.
-struct TemplateShape : ShapeGeometry {
+/// One shape element of a layout or a slide. Its places are texts until somebody stands there.
+struct TemplateShape {
+    BaseAttribute<std::wstring> shapeName;
     std::wstring id;                ///< the value of data-uid; counted for the process
     NodeType type = NodeType::None; ///< what the element is
     std::wstring xmlId;             ///< id of p:cNvPr

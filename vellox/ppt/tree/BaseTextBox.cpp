@@ -142,7 +142,7 @@ void BaseTextBoxImpl::setAutofit(const std::wstring& value) {
     constexpr const wchar_t* kWords[] = {autofit::kNone, autofit::kShrink, autofit::kResize};
     if (std::find(std::begin(kWords), std::end(kWords), word) == std::end(kWords))
         raise(ppt_error::invalidPropertyValue(value));
-    autofit_.set(word);
+    autofit_.require().set(word);
 }
 
 // BaseTextBox
@@ -184,7 +184,7 @@ void BaseTextBox::replace(const HvContentPtr& content) {
 }
 
 const BaseAttribute<std::wstring>& BaseTextBox::getAutofit() const {
-    return pimpl()->getAutofit();
+    return implOf<BaseTextBoxImpl>(*this)->requireAutofit();
 }
 
 void BaseTextBox::setAutofit(const std::wstring& autofit) {

@@ -29,10 +29,12 @@ public:
 
     void replace(const HvContentPtr& content) override;
     std::wstring getText() const;
-    const BaseAttribute<std::wstring>& getAutofit() const { return autofit_; }
+    const BaseAttribute<std::wstring>& getAutofit() const { return autofit_.get(); }
     /// @throws invalidPropertyValue
     void setAutofit(const std::wstring& value);
-    void unsetAutofit() { autofit_.unset(); }
+    void unsetAutofit() { autofit_.require().unset(); }
+    /// One's own, which shows what is set later.
+    const BaseAttribute<std::wstring>& requireAutofit() { return autofit_.require(); }
 
     /// Puts the items of a list behind the present paragraphs. Unlike all other ways in, this one doesn't
     /// tell the paragraphs of their parent.
@@ -45,7 +47,7 @@ public:
     virtual Paragraph replace(const std::wstring& text);
 
 private:
-    BaseAttribute<std::wstring> autofit_; // in lower case
+    Lazy<BaseAttribute<std::wstring>> autofit_; // in lower case
 };
 
 } // namespace vellox::ppt

@@ -11,9 +11,8 @@ BodyPlaceholderImpl::BodyPlaceholderImpl() {
     announceCreated(*this);
 }
 
-BodyPlaceholderImpl::BodyPlaceholderImpl(const std::wstring& name, const Record& record,
-                                         const std::wstring& placeholderType)
-    : NodeOf(name, record, placeholderType) {
+BodyPlaceholderImpl::BodyPlaceholderImpl(const std::wstring& name, const Record& record)
+    : NodeOf(name, record) {
     announceCreated(*this);
 }
 

@@ -14,7 +14,7 @@ class BodyPlaceholderImpl
     : public NodeOf<NodeType::BodyPlaceholder, BodyPlaceholderImpl, BodyPlaceholder, TextBoxPlaceholderImpl> {
 public:
     BodyPlaceholderImpl();
-    BodyPlaceholderImpl(const std::wstring& name, const Record& record, const std::wstring& placeholderType);
+    BodyPlaceholderImpl(const std::wstring& name, const Record& record);
     BodyPlaceholderImpl(const BodyPlaceholderImpl& other);
     ~BodyPlaceholderImpl() override;
 };

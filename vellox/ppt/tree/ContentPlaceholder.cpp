@@ -12,9 +12,8 @@ ContentPlaceholderImpl::ContentPlaceholderImpl() {
     announceCreated(*this);
 }
 
-ContentPlaceholderImpl::ContentPlaceholderImpl(const std::wstring& name, const Record& record,
-                                               const std::wstring& placeholderType)
-    : NodeOf(name, record, placeholderType) {
+ContentPlaceholderImpl::ContentPlaceholderImpl(const std::wstring& name, const Record& record)
+    : NodeOf(name, record) {
     announceCreated(*this);
 }
 

@@ -17,8 +17,7 @@ public:
     using PicturePlaceholderImpl::replace;
 
     ContentPlaceholderImpl();
-    ContentPlaceholderImpl(const std::wstring& name, const Record& record,
-                           const std::wstring& placeholderType);
+    ContentPlaceholderImpl(const std::wstring& name, const Record& record);
     ContentPlaceholderImpl(const ContentPlaceholderImpl& other);
     ~ContentPlaceholderImpl() override;
 

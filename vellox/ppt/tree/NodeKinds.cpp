@@ -24,7 +24,7 @@ template <class Impl> PPTNodeImpl::Child make(const Record& record, const std::w
 
 // Placeholders are told what they are for.
 template <class Impl> PPTNodeImpl::Child makeHolder(const Record& record, const std::wstring& name) {
-    return (new Impl(name, record, record->placeholderType))->makeInterface();
+    return (new Impl(name, record))->makeInterface();
 }
 
 using T = NodeType;

@@ -5,7 +5,8 @@
 namespace vellox::ppt::page_fields {
 
 PageFields& of(const PPTNode& node) {
-    return dynamic_cast<WithPageFields&>(*const_cast<PPTNodeImpl*>(implOf<PPTNodeImpl>(node))).pageFields;
+    return dynamic_cast<WithPageFields&>(*const_cast<PPTNodeImpl*>(implOf<PPTNodeImpl>(node)))
+        .pageFields.require();
 }
 
 } // namespace vellox::ppt::page_fields

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "vellox/Api.h"
+#include "vellox/foundation/Lazy.h"
 #include "vellox/ppt/object/Attribute.h"
 
 namespace vellox::ppt {
@@ -25,7 +26,7 @@ struct PageFields {
 struct WithPageFields {
     virtual ~WithPageFields() = default;
 
-    PageFields pageFields;
+    Lazy<PageFields> pageFields;
 };
 
 /// The way to a node's page fields. Not for direct use.

@@ -12,9 +12,8 @@ PicturePlaceholderImpl::PicturePlaceholderImpl() {
     announceCreated(*this);
 }
 
-PicturePlaceholderImpl::PicturePlaceholderImpl(const std::wstring& name, const Record& record,
-                                               const std::wstring& placeholderType)
-    : NodeOf(name, record, placeholderType) {
+PicturePlaceholderImpl::PicturePlaceholderImpl(const std::wstring& name, const Record& record)
+    : NodeOf(name, record) {
     announceCreated(*this);
 }
 

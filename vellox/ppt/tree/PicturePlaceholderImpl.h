@@ -17,8 +17,7 @@ public:
     using BodyPlaceholderImpl::replace;
 
     PicturePlaceholderImpl();
-    PicturePlaceholderImpl(const std::wstring& name, const Record& record,
-                           const std::wstring& placeholderType);
+    PicturePlaceholderImpl(const std::wstring& name, const Record& record);
     PicturePlaceholderImpl(const PicturePlaceholderImpl& other);
     ~PicturePlaceholderImpl() override;
 

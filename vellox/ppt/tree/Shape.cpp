@@ -23,34 +23,34 @@ ShapeImpl::ShapeImpl(const std::wstring& name) {
 }
 
 ShapeImpl::ShapeImpl(const std::wstring& name, const Record& record)
-    : templateUid_(record->id),
+    : isOfTemplate_(true),
       templateShape_(record) {
     ShapeImpl::setName(name);
-    extendId();
     announceCreated(*this);
 }
 
 ShapeImpl::ShapeImpl(const ShapeImpl& other)
     : NodeOf(other),
       contentReplaced_(other.contentReplaced_),
-      templateUid_(other.templateUid_),
       templateShape_(other.templateShape_),
       geometry_(other.geometry_),
       altText_(other.altText_) {
+    keepWrittenName(other);
     announceCreated(*this);
 }
 
 ShapeImpl::ShapeImpl(const ShapeImpl& former, TakeName takeName)
     : contentReplaced_(true),
-      templateUid_(former.templateUid_),
+      isOfTemplate_(true),
       templateShape_(former.templateShape_),
       geometry_(former.geometry_),
       altText_(former.altText_) {
-    if (takeName == TakeName::Always)
+    if (takeName == TakeName::Always) {
         PPTNodeImpl::setName(former.getName());
-    else if (geometry_.shapeName.isSet())
+        keepWrittenName(former);
+    } else if (former.written_ != Written::Nothing) {
         ShapeImpl::setName(former.getName());
-    extendId();
+    }
     announceCreated(*this);
 }
 
@@ -58,14 +58,35 @@ ShapeImpl::~ShapeImpl() {
     announceDestroyed(*this);
 }
 
-void ShapeImpl::extendId() {
-    if (!templateUid_.empty())
-        setId(getId() + L":" + templateUid_);
+std::wstring ShapeImpl::makeId() const {
+    const std::wstring& uid = getTemplateUid();
+    return NodeOf::makeId() + (isOfTemplate_ && !uid.empty() ? L":" + uid : std::wstring());
+}
+
+const std::wstring& ShapeImpl::getTemplateUid() const {
+    static const std::wstring& none = *new const std::wstring;
+    return templateShape_ ? templateShape_->id : none;
 }
 
 void ShapeImpl::setName(const std::wstring& name) {
-    geometry_.shapeName.set(name);
     PPTNodeImpl::setName(name);
+    written_ = Written::Name;
+}
+
+void ShapeImpl::keepWrittenName(const ShapeImpl& other) {
+    const BaseAttribute<std::wstring> name = other.getWrittenName();
+    if (!name.isSet())
+        return;
+    const bool isItsName = !getName().empty() && name.get() == getName();
+    written_ = isItsName ? Written::Name : Written::Own;
+    if (written_ == Written::Own)
+        ownWrittenName_.require() = name.get();
+}
+
+BaseAttribute<std::wstring> ShapeImpl::getWrittenName() const {
+    if (written_ == Written::Nothing)
+        return {};
+    return BaseAttribute<std::wstring>(written_ == Written::Name ? getName() : ownWrittenName_.get());
 }
 
 void ShapeImpl::replace(const HvContentPtr&) {
@@ -124,8 +145,17 @@ void Shape::setName(const std::wstring& name) {
     pimpl()->setName(name);
 }
 
+namespace {
+
+// Who reads an attribute may keep it, and see in it what is set later: it has to be the shape's own from here on.
+ShapeImpl& attributesOf(const Shape& shape) {
+    return *implOf<ShapeImpl>(shape);
+}
+
+} // namespace
+
 const BaseAttribute<Dimension>& Shape::getX() const {
-    return pimpl()->getGeometry().x;
+    return attributesOf(*this).geometry().x;
 }
 
 void Shape::setX(const std::wstring& length) {
@@ -137,7 +167,7 @@ void Shape::unsetX() {
 }
 
 const BaseAttribute<Dimension>& Shape::getY() const {
-    return pimpl()->getGeometry().y;
+    return attributesOf(*this).geometry().y;
 }
 
 void Shape::setY(const std::wstring& length) {
@@ -149,7 +179,7 @@ void Shape::unsetY() {
 }
 
 const BaseAttribute<Dimension>& Shape::getWidth() const {
-    return pimpl()->getGeometry().cx;
+    return attributesOf(*this).geometry().cx;
 }
 
 void Shape::setWidth(const std::wstring& length) {
@@ -161,7 +191,7 @@ void Shape::unsetWidth() {
 }
 
 const BaseAttribute<Dimension>& Shape::getHeight() const {
-    return pimpl()->getGeometry().cy;
+    return attributesOf(*this).geometry().cy;
 }
 
 void Shape::setHeight(const std::wstring& length) {
@@ -173,7 +203,7 @@ void Shape::unsetHeight() {
 }
 
 const BaseAttribute<std::wstring>& Shape::getAltText() const {
-    return pimpl()->getAltText();
+    return attributesOf(*this).altText();
 }
 
 void Shape::setAltText(const std::wstring& text) {

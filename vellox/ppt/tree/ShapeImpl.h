@@ -37,11 +37,14 @@ public:
     /// @return whether it does now
     bool giveWayTo(const HvContentPtr& content, const Place& place);
 
-    const ShapeGeometry& getGeometry() const { return geometry_; }
-    ShapeGeometry& geometry() { return geometry_; }
-    const BaseAttribute<std::wstring>& getAltText() const { return altText_; }
-    BaseAttribute<std::wstring>& altText() { return altText_; }
-    const std::wstring& getTemplateUid() const { return templateUid_; }
+    const ShapeGeometry& getGeometry() const { return geometry_.get(); }
+    ShapeGeometry& geometry() { return geometry_.require(); }
+    const BaseAttribute<std::wstring>& getAltText() const { return altText_.get(); }
+    BaseAttribute<std::wstring>& altText() { return altText_.require(); }
+    /// The name for an element of its own.
+    BaseAttribute<std::wstring> getWrittenName() const;
+    /// Empty for a shape made by a caller.
+    const std::wstring& getTemplateUid() const;
     const Record& getTemplateShape() const { return templateShape_; }
     bool isContentReplaced() const { return contentReplaced_; }
 
@@ -54,13 +57,20 @@ protected:
 private:
     PPTNodeImpl* findHolder(NodeType successor) const;
     void reportThatItStays() const;
-    void extendId();
+    std::wstring makeId() const override;
+    void keepWrittenName(const ShapeImpl& other);
+
+    /// Which name is written: none; the node's; or one of its own, as copies have no name and yet are written with
+    /// that of the original.
+    enum class Written : char { Nothing, Name, Own };
 
     bool contentReplaced_ = false; // what the template's shape brought along goes
-    std::wstring templateUid_;     // empty for a shape made by a caller
-    Record templateShape_;         // null for a shape made by a caller
-    ShapeGeometry geometry_;
-    BaseAttribute<std::wstring> altText_;
+    bool isOfTemplate_ = false;    // and no copy
+    Written written_ = Written::Nothing;
+    Lazy<std::wstring> ownWrittenName_;
+    Record templateShape_; // null for a shape made by a caller
+    Lazy<ShapeGeometry> geometry_;
+    Lazy<BaseAttribute<std::wstring>> altText_;
 };
 
 // The given handle comes by value: listeners may let the caller's stand for something else.

@@ -52,14 +52,15 @@ SlideImpl::~SlideImpl() {
 }
 
 ChartRecord& SlideImpl::requireChart(const std::wstring& name) {
-    const auto found = charts_.find(name);
-    if (found != charts_.end())
+    auto& charts = charts_.require();
+    const auto found = charts.find(name);
+    if (found != charts.end())
         return found->second;
     std::wstring names;
     for (const ChartRecord& chart :
          templateSlide_ ? findCharts(*templateSlide_) : std::vector<ChartRecord>()) {
         if (chart.name == name)
-            return charts_[name] = chart;
+            return charts[name] = chart;
         names += (names.empty() ? L"\"" : L", \"") + chart.name + L"\"";
     }
     raise(ppt_error::noSuchChart(name, names.empty() ? L"-" : names));

@@ -46,10 +46,10 @@ public:
     /// @throws noSuchChart
     ChartRecord& requireChart(const std::wstring& name);
     /// Those that have been asked for.
-    const std::map<std::wstring, ChartRecord>& getCharts() const { return charts_; }
+    const std::map<std::wstring, ChartRecord>& getCharts() const { return charts_.get(); }
 
 private:
-    std::map<std::wstring, ChartRecord> charts_;
+    Lazy<std::map<std::wstring, ChartRecord>> charts_;
     bool isHidden_ = false;
     boost::shared_ptr<const Rules> rules_; // the slide may outlive its presentation
     std::vector<std::wstring> dropped_;

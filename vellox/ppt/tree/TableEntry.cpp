@@ -14,11 +14,7 @@ TableEntryImpl::TableEntryImpl() {
     announceCreated(*this);
 }
 
-TableEntryImpl::TableEntryImpl(const TableEntryImpl& other)
-    : NodeOf(other),
-      source_(other.source_),
-      cell_(other.cell_),
-      newText_(other.newText_) {
+TableEntryImpl::TableEntryImpl(const TableEntryImpl& other) : NodeOf(other), given_(other.given_) {
     announceCreated(*this);
 }
 
@@ -28,19 +24,21 @@ TableEntryImpl::~TableEntryImpl() {
 
 void TableEntryImpl::setTemplateCell(const boost::shared_ptr<const SlideSource>& source,
                                      const xercesc::DOMElement& cell) {
-    source_ = source;
-    cell_ = &cell;
+    given_.require().source = source;
+    given_.require().cell = &cell;
 }
 
 std::wstring TableEntryImpl::getText() const {
-    const std::wstring text = newText_ ? *newText_ : readBody(findChild(cell_, xml::kATxBody));
+    const Given& given = given_.get();
+    const std::wstring text = given.newText ? *given.newText : readBody(findChild(given.cell, xml::kATxBody));
     return joinTexts(text, readParagraphs(*this));
 }
 
 void TableEntryImpl::setText(const std::wstring& text) {
-    if (source_)
-        newText_ = text;
-    setChildren(source_ ? Children() : Children{Paragraph(text).makeInterface()});
+    const bool isGiven = given_.get().source != nullptr;
+    if (isGiven)
+        given_.require().newText = text;
+    setChildren(isGiven ? Children() : Children{Paragraph(text).makeInterface()});
 }
 
 // TableEntry

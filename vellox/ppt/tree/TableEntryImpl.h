@@ -28,13 +28,18 @@ public:
     std::wstring getText() const;
     void setText(const std::wstring& text);
     /// What a cell of the template got; the children of its entry come behind that.
-    const std::optional<std::wstring>& getNewText() const { return newText_; }
-    bool isTouched() const { return newText_ || !getChildren().empty() || !getStyle().getMap().empty(); }
+    const std::optional<std::wstring>& getNewText() const { return given_.get().newText; }
+    bool isTouched() const { return getNewText() || !getChildren().empty() || !getStyle().getMap().empty(); }
 
 private:
-    boost::shared_ptr<const SlideSource> source_; // empty for an entry of somebody's own
-    const xercesc::DOMElement* cell_ = nullptr;
-    std::optional<std::wstring> newText_;
+    /// What an entry of somebody's own doesn't have.
+    struct Given {
+        boost::shared_ptr<const SlideSource> source;
+        const xercesc::DOMElement* cell = nullptr;
+        std::optional<std::wstring> newText;
+    };
+
+    Lazy<Given> given_;
 };
 
 } // namespace vellox::ppt

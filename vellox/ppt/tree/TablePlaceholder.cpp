@@ -12,9 +12,8 @@ TablePlaceholderImpl::TablePlaceholderImpl() {
     announceCreated(*this);
 }
 
-TablePlaceholderImpl::TablePlaceholderImpl(const std::wstring& name, const Record& record,
-                                           const std::wstring& placeholderType)
-    : NodeOf(name, record, placeholderType) {
+TablePlaceholderImpl::TablePlaceholderImpl(const std::wstring& name, const Record& record)
+    : NodeOf(name, record) {
     announceCreated(*this);
 }
 

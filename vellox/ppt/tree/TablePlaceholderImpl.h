@@ -17,7 +17,7 @@ public:
     using BodyPlaceholderImpl::replace;
 
     TablePlaceholderImpl();
-    TablePlaceholderImpl(const std::wstring& name, const Record& record, const std::wstring& placeholderType);
+    TablePlaceholderImpl(const std::wstring& name, const Record& record);
     TablePlaceholderImpl(const TablePlaceholderImpl& other);
     ~TablePlaceholderImpl() override;
 

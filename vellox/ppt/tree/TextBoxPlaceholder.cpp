@@ -13,16 +13,12 @@ TextBoxPlaceholderImpl::TextBoxPlaceholderImpl() {
     announceCreated(*this);
 }
 
-TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const std::wstring& name, const Record& record,
-                                               const std::wstring& placeholderType)
-    : NodeOf(name, record),
-      placeholderType_(placeholderType) {
+TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const std::wstring& name, const Record& record)
+    : NodeOf(name, record) {
     announceCreated(*this);
 }
 
-TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other)
-    : NodeOf(other),
-      placeholderType_(other.placeholderType_) {
+TextBoxPlaceholderImpl::TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other) : NodeOf(other) {
     announceCreated(*this);
 }
 

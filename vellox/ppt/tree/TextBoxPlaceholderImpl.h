@@ -17,8 +17,7 @@ public:
     using BaseTextBoxImpl::replace;
 
     TextBoxPlaceholderImpl();
-    TextBoxPlaceholderImpl(const std::wstring& name, const Record& record,
-                           const std::wstring& placeholderType);
+    TextBoxPlaceholderImpl(const std::wstring& name, const Record& record);
     TextBoxPlaceholderImpl(const TextBoxPlaceholderImpl& other);
     ~TextBoxPlaceholderImpl() override;
 
@@ -35,8 +34,6 @@ public:
 
 private:
     void checkNotReplaced() const;
-
-    std::wstring placeholderType_; // as the template has it; for layers above, nothing here reads it
 };
 
 } // namespace vellox::ppt

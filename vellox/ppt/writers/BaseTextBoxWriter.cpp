@@ -37,7 +37,7 @@ DOMElement* BaseTextBoxWriter::findOrMakeShape() {
     const ShapeGeometry& geometry = textBox_.getGeometry();
     DOMElement* shape = getSlideElement();
     if (!shape)
-        return makeFreeTextBox(*getCurrentSlide(), geometry.shapeName, geometry).sp;
+        return makeFreeTextBox(*getCurrentSlide(), textBox_.getWrittenName(), geometry).sp;
     placeExistingTextShape(shape, getTemplateShape()->textPlace.get(), geometry);
     shape->removeAttribute(xml::kDataUid);
     return shape;

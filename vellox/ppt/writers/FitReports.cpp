@@ -32,9 +32,26 @@ struct Room {
     double cx, cy;
 };
 
+// A node of a class, without a dynamic cast: tables have cells by the thousand. Null for others.
+template <class Impl> const Impl* as(const PPTNode& node, NodeType type) {
+    const auto* impl = implOf<PPTNodeImpl>(node);
+    return impl->getNodeType() == type ? static_cast<const Impl*>(impl) : nullptr;
+}
+
+const ParagraphImpl* asParagraph(const PPTNode& node) {
+    return as<ParagraphImpl>(node, NodeType::Paragraph);
+}
+
+const TextImpl* asText(const PPTNode& node) {
+    const auto* text = as<TextImpl>(node, NodeType::Text);
+    return text ? text : as<TextImpl>(node, NodeType::ExternalLink);
+}
+
 double findSize(const ElementImpl& element, double inherited) {
-    const auto format = element.getStyle().getFormat(FormatType::FontSize);
-    const auto* size = dynamic_cast<const FontSize*>(format.get());
+    const Formats::Map& formats = element.getStyle().getMap();
+    const auto format = formats.empty() ? formats.end() : formats.find(FormatType::FontSize);
+    const auto* size =
+        format == formats.end() ? nullptr : dynamic_cast<const FontSize*>(format->second.get());
     const double points = size ? size->getDimension().getPointNumber() : 0;
     return points > 0 ? points : inherited;
 }
@@ -83,16 +100,18 @@ std::wstring guessShown(const TextImpl& text) {
 double measureLine(const ParagraphImpl& paragraph, double size) {
     double width = 0;
     for (const auto& child : paragraph.getChildren())
-        if (const auto* text = implAs<TextImpl>(*child))
+        if (const TextImpl* text = asText(*child)) {
+            const double own = findSize(*text, size);
             for (const wchar_t c : guessShown(*text))
-                width += findSize(*text, size) * kEmuPerPoint * getLetterWidth(c);
+                width += own * kEmuPerPoint * getLetterWidth(c);
+        }
     return width;
 }
 
 Need measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
     ParagraphMeasure measure(size, width);
     for (const auto& child : paragraph.getChildren())
-        if (const auto* text = implAs<TextImpl>(*child))
+        if (const TextImpl* text = asText(*child))
             measure.add(guessShown(*text), findSize(*text, size));
     return measure.finish();
 }
@@ -101,7 +120,7 @@ Need measureParagraph(const ParagraphImpl& paragraph, double size, double width)
 double measureLongest(const PPTNodeImpl& entry, double size) {
     double longest = 0;
     for (const auto& child : entry.getChildren())
-        if (const auto* paragraph = implAs<ParagraphImpl>(*child)) {
+        if (const ParagraphImpl* paragraph = asParagraph(*child)) {
             const double own = findSize(*paragraph, size);
             longest = std::max(longest, measureLine(*paragraph, own > 0 ? own : kDefaultSize));
         }
@@ -113,7 +132,7 @@ double measureLongest(const PPTNodeImpl& entry, double size) {
 Need measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double size, double width) {
     Need whole;
     for (const auto& child : box.getChildren()) {
-        const auto* paragraph = implAs<ParagraphImpl>(*child);
+        const ParagraphImpl* paragraph = asParagraph(*child);
         if (!paragraph)
             continue;
         const unsigned int level = paragraph->getLevel().isSet() ? paragraph->getLevel().get() : 1;
@@ -200,7 +219,7 @@ std::vector<double> estimateColumns(const TableImpl& table, double size, double 
         const auto* row = implAs<TableRowImpl>(*child);
         for (std::size_t i = 0; sharesWidth && row && i < row->getChildren().size() && i < columns.size();
              ++i)
-            if (const auto* entry = implAs<TableEntryImpl>(*row->getChildren()[i]))
+            if (const auto* entry = as<TableEntryImpl>(*row->getChildren()[i], NodeType::TableEntry))
                 columns[i] =
                     std::max(columns[i], measureLongest(*entry, findSize(*entry, findSize(*row, size))));
     }
@@ -217,7 +236,7 @@ double measureRow(const TableRowImpl& row, double size, double margins, const st
     double highest = (own > 0 ? own : kDefaultSize) * kEmuPerPoint * kLineHeight + around;
     const PPTNode::Children& cells = row.getChildren();
     for (std::size_t i = 0; i < cells.size() && i < columns.size(); ++i)
-        if (const auto* entry = implAs<TableEntryImpl>(*cells[i]))
+        if (const auto* entry = as<TableEntryImpl>(*cells[i], NodeType::TableEntry))
             highest = std::max(highest,
                                measureParagraphs(*entry, nullptr, findSize(*entry, own), columns[i]).height +
                                    findMargins(*entry, around));

@@ -63,6 +63,7 @@ std::wstring PPTPartWriter::takeSlideName() {
     do {
         name = L"/ppt/slides/slide" + num2str(++slideCounter_) + L".xml";
     } while (hasPart(name));
+    name.shrink_to_fit(); // it stays for as long as the deck is written
     return name;
 }
 

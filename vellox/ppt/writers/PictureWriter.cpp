@@ -35,7 +35,7 @@ void PictureWriter::write() {
     const std::wstring id = isDrawn_ ? std::wstring() : addImage();
     if (!former) {
         const ShapeGeometry geometry = sizeFree();
-        const PictureElements made = makeFreePicture(*slide, id, geometry.shapeName, geometry);
+        const PictureElements made = makeFreePicture(*slide, id, picture_.getWrittenName(), geometry);
         if (const auto placement = fitFree(geometry))
             writePlacement(made, *placement, orientation_);
         writeSvg(made);

@@ -30,7 +30,7 @@ void SlideWriter::write() {
     if (!record || getWriter().hasWritten(*record))
         return report(ppt_finding::slideNotWritten(), slide_);
     const bool turnsHidden = slide_.isHidden() != record->isHidden;
-    const PageFieldWriter fields(slide_.pageFields, getWriter().getPageFields(), *record, getRules());
+    const PageFieldWriter fields(slide_.pageFields.get(), getWriter().getPageFields(), *record, getRules());
     SlideDocument document(*record, getModel().getRules(),
                            turnsHidden || fields.needNodes() ? SlideDocument::Form::Nodes
                                                              : SlideDocument::Form::Pieces);

@@ -96,7 +96,7 @@ GraphicFrameElements TableWriter::makeGraphicFrame() {
     const ShapeGeometry& geometry = table_.getGeometry();
     DOMElement* former = getSlideElement();
     if (!former)
-        return makeFreeTable(slide, geometry.shapeName, geometry, table_.getNCols());
+        return makeFreeTable(slide, table_.getWrittenName(), geometry, table_.getNCols());
     DOMNode* parent = former->getParentNode();
     const PlaceText* place = getTemplateShape()->successorPlace.get();
     const GraphicFrameElements made = makeTableInPlace(slide, former, place, table_.getNCols());

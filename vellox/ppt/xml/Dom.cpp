@@ -98,9 +98,14 @@ void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& va
 }
 
 void setAttribute(DOMElement* element, const XMLCh* name, const XMLCh* value) {
-    if (DOMAttr* present = element->getAttributeNode(name))
-        return present->setValue(value);
-    opc::addAttribute(static_cast<DOMElementImpl&>(*element), name, value);
+    DOMAttr* present = element->getAttributeNode(name);
+    if (!present)
+        return opc::addAttribute(static_cast<DOMElementImpl&>(*element), name, value);
+    // A text stays in its place and says something else: to take it out and put in another costs a dozen casts.
+    DOMNode* text = present->getFirstChild();
+    if (text && text->getNodeType() == DOMNode::TEXT_NODE && !text->getNextSibling())
+        return text->setNodeValue(value);
+    present->setValue(value);
 }
 
 void appendNode(DOMNode* parent, DOMNode* child) {
