@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string_view>
-#include <type_traits>
 
 namespace vellox::ppt {
 
@@ -45,7 +44,7 @@ bool isWideLetter(wchar_t c) {
 }
 
 double getLetterWidth(wchar_t c) {
-    const auto place = static_cast<std::make_unsigned_t<wchar_t>>(c);
+    const auto place = static_cast<char32_t>(c);
     const int width = place < kWidths.size() ? kWidths[place] : isWideLetter(c) ? kFullWidth : kUsualWidth;
     return width / 100.0;
 }
