@@ -13,6 +13,8 @@ namespace fsys = hostfx::filesystem;
 
 namespace {
 
+constexpr std::size_t kBeginning = 4 << 10; // holds more than a header, and is read at once
+
 std::wstring getExtension(const ImageSource& image) {
     return toLowerString(FileUtils::getFileNameExtension(image.getFileName()));
 }
@@ -26,6 +28,10 @@ bool haveSameBytes(const ImageSource& a, const ImageSource& b) {
                         : fsys::holds(fsys::Path(a.getPath()), *b.getBytes());
 }
 
+std::size_t hashBlock(const char* block, std::streamsize count) {
+    return std::hash<std::string_view>()({block, static_cast<std::size_t>(count)});
+}
+
 // Of what can't be read to its end, which equals nothing, as far as it goes.
 std::size_t hashBytes(const ImageSource& image) {
     std::size_t hash = 0;
@@ -33,8 +39,7 @@ std::size_t hashBytes(const ImageSource& image) {
     const auto stream = image.open();
     while (stream && *stream) {
         stream->read(block.data(), block.size());
-        const auto count = static_cast<std::size_t>(stream->gcount());
-        boost::hash_combine(hash, std::hash<std::string_view>()({block.data(), count}));
+        boost::hash_combine(hash, hashBlock(block.data(), stream->gcount()));
     }
     return hash;
 }
@@ -55,7 +60,9 @@ bool ImageIndex::look(const ImageSource& image, Look& look) {
     const auto stream = image.open();
     if (!stream || !*stream)
         return false;
-    stream->peek();
+    std::array<char, kBeginning> block;
+    stream->read(block.data(), block.size());
+    look.beginning = hashBlock(block.data(), stream->gcount());
     return !stream->bad();
 }
 
@@ -78,8 +85,12 @@ std::wstring ImageIndex::findSource(const ImageSource& image) const {
     return found == files_.end() ? std::wstring() : found->second;
 }
 
+ImageIndex::Group& ImageIndex::requireGroup(const Look& look) {
+    return groups_[{getExtension(look.image), look.size, look.beginning}];
+}
+
 std::wstring ImageIndex::findEqual(Look& look) {
-    Group& group = groups_[{getExtension(look.image), look.size}];
+    Group& group = requireGroup(look);
     if (group.unread) {
         group.read.emplace(hashBytes(group.unread->look.image), *group.unread);
         group.unread.reset();
@@ -99,7 +110,7 @@ std::wstring ImageIndex::findEqual(Look& look) {
 }
 
 void ImageIndex::add(const Look& look, const std::wstring& partName) {
-    Group& group = groups_[{getExtension(look.image), look.size}];
+    Group& group = requireGroup(look);
     if (look.hash)
         group.read.emplace(*look.hash, Entry{look, partName});
     else

@@ -15,7 +15,8 @@
 
 namespace vellox::ppt {
 
-/// What was put into a deck, by what it holds. A file is read here only where another of its size is in the deck.
+/// What was put into a deck, by what it holds. A file is read here only where another of its size and with its beginning
+/// is in the deck.
 class ImageIndex {
 public:
     /// What is known of an image before it is read.
@@ -23,6 +24,7 @@ public:
         ImageSource image;
         hostfx::filesystem::FileIdentity file; ///< of a file
         unsigned long long size = 0;
+        std::size_t beginning = 0;       ///< the hash of its first bytes
         std::optional<std::size_t> hash; ///< of its bytes, once they had to be compared
     };
 
@@ -40,7 +42,7 @@ private:
         Look look;
         std::wstring partName;
     };
-    /// Images of one kind and size: the first is read when a second comes.
+    /// Images of one kind, size and beginning: the first is read when a second comes.
     struct Group {
         std::optional<Entry> unread;
         std::multimap<std::size_t, Entry> read; // by the hash
@@ -48,12 +50,13 @@ private:
     using FileKey =
         std::tuple<std::wstring, unsigned long long, unsigned long long, long long, long long, long long>;
 
+    Group& requireGroup(const Look& look);
     static FileKey makeKey(const std::wstring& path, const hostfx::filesystem::FileIdentity& file);
     void remember(const Look& look, const std::wstring& partName);
 
     std::map<FileKey, std::wstring> files_;
     std::map<const std::string*, Entry> memory_;
-    std::map<std::pair<std::wstring, unsigned long long>, Group> groups_; // by extension and size
+    std::map<std::tuple<std::wstring, unsigned long long, std::size_t>, Group> groups_; // the extension first
 };
 
 } // namespace vellox::ppt
