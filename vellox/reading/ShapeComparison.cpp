@@ -35,6 +35,7 @@ std::wstring describePicture(const DeckShape& shape) {
 /// Levels and texts, as lines that tell both.
 std::vector<std::wstring> makeLines(const std::vector<DeckParagraph>& paragraphs) {
     std::vector<std::wstring> lines;
+    lines.reserve(paragraphs.size());
     for (const DeckParagraph& paragraph : paragraphs)
         lines.push_back(std::wstring(paragraph.level, L'\t') + paragraph.text);
     return lines;

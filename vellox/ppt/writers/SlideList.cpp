@@ -40,6 +40,7 @@ void updateSlideList(const ReadTemplate& source, const std::vector<boost::shared
     const OwnedDocument presentation = copyDocument(source.presentationDocument);
     declarePrefixes(presentation->getDocumentElement());
     std::vector<std::wstring> formerIds;
+    formerIds.reserve(slides.size());
     for (const auto& slide : slides)
         formerIds.push_back(slide->id);
     updateSections(*presentation.get(), formerIds, kFirstSlideId);
