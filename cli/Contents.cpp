@@ -109,6 +109,12 @@ ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& tex
 
 namespace {
 
+/// What data frames write where nothing was measured.
+bool isMissing(const std::wstring& text) {
+    constexpr const wchar_t* kTexts[] = {L"", L"nan", L"NaN", L"NaT", L"<NA>", L"None"};
+    return std::find(std::begin(kTexts), std::end(kTexts), text) != std::end(kTexts);
+}
+
 bool isNumber(const std::wstring& text) {
     const std::string digits = toUtf8(text);
     double number = 0;
@@ -121,9 +127,9 @@ bool hasOnlyNumbers(ppt::Table& table, unsigned column) {
     bool hasNumber = false;
     for (unsigned r = header.isSet() ? std::max(header.get(), 1U) : 1; r < table.getNChildren(); ++r) {
         const std::wstring text = table.entry(r, column)->getText();
-        if (!text.empty() && !isNumber(text))
+        if (!isMissing(text) && !isNumber(text))
             return false;
-        hasNumber = hasNumber || !text.empty();
+        hasNumber = hasNumber || !isMissing(text);
     }
     return hasNumber;
 }

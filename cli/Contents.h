@@ -25,7 +25,7 @@ ppt::Content makeRecords(const std::string& file);
 
 /// A table of a list of rows. Short ones are filled up with cells.
 ppt::Table makeTable(const Data& rows, const DataPlace& place, const TextOf& textOf);
-/// Lets columns of nothing but numbers and empty cells stand at the right, where nothing is said of that. Numbers are
+/// Lets columns of nothing but numbers and missing ones stand at the right, where nothing is said of that. Numbers are
 /// texts here, since these keep their digits.
 void alignNumbers(ppt::Table& table);
 /// A table of a CSV file, in which the names are the first row. Numbers keep the digits that they have there.

@@ -48,11 +48,13 @@ public:
 
     void setUp(const Data& description, const DataPlace& place) {
         setProperties(deck_, Described::Deck, description, place, textOf_);
+        reportNews(place); // what opening the deck found, too
     }
 
     void add(const Data& data, const DataPlace& place) {
         ppt::Slide slide = makeSlide(data, place);
         setProperties(slide, Described::Slide, data, place, textOf_);
+        reportNews(place);
         if (const Data* contents = data.find("contents"))
             for (const Data::Member& member : contents->members)
                 put(slide, member.first, member.second,
@@ -96,19 +98,30 @@ private:
             if (value.find("picture"))
                 slide.replace(name, makePicture(value, place));
             else if (value.find("table"))
-                putTable(slide, name, value, place);
+                slide.replace(name, boost::make_shared<ObjectContent>(makeTableOf(value, place)));
             else if (const Data* text = value.find("text"))
                 putText(slide, name, *text, place.member("text", *text));
             else
                 putText(slide, name, value, place);
             if (value.find("text"))
-                for (const auto& shape : slide.find(name))
-                    if (const auto box = ppt::BaseTextBox::cast(shape))
-                        setProperties(*box, Described::Text, value, place, textOf_);
+                setUpTexts(slide, name, value, place);
         } catch (const hostfx::except::IUserException& error) {
             throw DataFailure(place, error.what(), error.getErrorID());
         }
         reportNews(place);
+    }
+
+    void setUpTexts(ppt::Slide& slide, const std::wstring& name, const Data& value,
+                    const DataPlace& place) const {
+        bool isThere = false;
+        for (const auto& shape : slide.find(name))
+            if (const auto box = ppt::BaseTextBox::cast(shape)) {
+                setProperties(*box, Described::Text, value, place, textOf_);
+                isThere = true;
+            }
+        const Data& text = *value.find("text");
+        if (!isThere && text.kind == Data::Kind::Nothing) // or else the text itself was told of
+            throw DataFailure(place, "the slide has nothing of that name that takes a text");
     }
 
     void putText(ppt::Slide& slide, const std::wstring& name, const Data& text, const DataPlace& place) {
@@ -131,12 +144,6 @@ private:
         return boost::make_shared<ObjectContent>(picture);
     }
 
-    void putTable(ppt::Slide& slide, const std::wstring& name, const Data& value, const DataPlace& place) {
-        ppt::Table table = makeTableOf(value, place);
-        alignNumbers(table);
-        slide.replace(name, boost::make_shared<ObjectContent>(table));
-    }
-
     ppt::Table makeTableOf(const Data& value, const DataPlace& place) const {
         const Data& rows = *value.find("table");
         const DataPlace at = place.member("table", rows);
@@ -147,6 +154,7 @@ private:
         setUpRows(table, value, place);
         setUpCells(table, value, place);
         mergeCells(table, value, place);
+        alignNumbers(table);
         return table;
     }
 
@@ -160,7 +168,9 @@ private:
 
     void setUpColumns(ppt::Table& table, const Data& value, const DataPlace& place) const {
         ppt::Table::ColSpecs columns;
-        eachItem(value, "columns", place, [&](std::size_t, const Data& column, const DataPlace& at) {
+        eachItem(value, "columns", place, [&](std::size_t i, const Data& column, const DataPlace& at) {
+            if (i >= table.getNCols())
+                throw DataFailure(at, "the table has no such column");
             columns.push_back(boost::make_shared<ppt::ColSpec>());
             setProperties(*columns.back(), Described::Column, column, at, textOf_);
         });

@@ -465,6 +465,9 @@ def test_descriptions_set_properties(work):
     ("row: 2, ", "row: 9, ", ".cells[1]: the table has no such cell"),
     ("row: 2, ", "row: 0, ", ".cells[1]: the row \"0\" doesn't count from 1"),
     ("row: 2, ", "", ".cells[1]: it has no row"),
+    ("height: 1cm", "height: 50%", ".rows[1].height: \"50%\" isn't a value"),
+    ("columns: [~, ", "columns: [~, ~, ~, ", ".columns[4]: the table has no such column"),
+    ("Title: {text: ~}", "Titel: {text: ~, bold: true}", "slides[2].contents.Titel: the slide has nothing of that name"),
     ("[[4, 2, 4, 3]]", "[[4, 2, 4, 4]]", ":19: slides[1].contents.Table.merge[1]: The cells from row 4, column 2"),
     ("[[4, 2, 4, 3]]", "[[4, 2]]", ".merge[1]: it must be a row, a column, and the last of each"),
     ("hidden: true", "hidden: yes", ":22: slides[2].hidden: it is a text, and must be a truth value"),
@@ -474,6 +477,21 @@ def test_descriptions_set_properties(work):
 def test_properties_are_told_with_their_place(work, wrong, right, words):
     pathlib.Path("looks.yaml").write_text(LOOKS.replace(wrong, right, 1))
     assert words in fail("fill", "default", "looks.yaml", "-o", "deck.pptx")
+
+
+def test_what_is_found_is_told_where_it_is(work):
+    pathlib.Path("notes.json").write_text(json.dumps({"slides": [{"layout": "Title Only", "notes": "a\1b"}]}))
+    warnings = run("fill", "default", "notes.json", "-o", "aux.pptx").stderr
+    assert "slides[1]: slide 1: characters that a file can't hold" in warnings and "keeps this name" in warnings, warnings
+
+
+def test_columns_of_numbers_stand_at_the_right(work):
+    pathlib.Path("n.csv").write_text("a,b\nx,1\ny,nan\n")
+    pathlib.Path("n.json").write_text(json.dumps({"slides": [
+        {"layout": "Title and Table", "contents": {"Table": {"table": "n.csv", "missingText": "-"}}}]}))
+    run("fill", "default", "n.json", "-o", "n.pptx")
+    with zipfile.ZipFile("n.pptx") as package:
+        assert package.read("ppt/slides/slide1.xml").decode().count('algn="r"') == 3
 
 
 def test_all_properties_of_the_schema_are_known(work):

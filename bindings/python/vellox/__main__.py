@@ -96,18 +96,33 @@ def _heal(options: argparse.Namespace) -> int:
 
 
 def _batch(options: argparse.Namespace) -> int:
-    with open(options.rows, newline="", encoding="utf-8-sig") as file:
-        records = list(csv.DictReader(file))
+    records = _read_rows(options.rows)
     try:
-        results = vellox.batch(options.template, records, options.output, jobs=options.jobs, strict=options.strict)
-    except LookupError as error:
+        _ = [options.output.format_map(record) for record in records[:1]]  # all have the same names
+    except (AttributeError, LookupError, TypeError) as error:
         raise ValueError(f"{options.output}: a row has no such value: {error}") from error
+    results = vellox.batch(options.template, records, options.output, jobs=options.jobs, strict=options.strict)
     for result in results:
         if result.error:
             print(f"{result.output}: {result.error}", file=sys.stderr)
         else:
             _print_findings(result.output, result.findings)
     return int(any(result.error for result in results))
+
+
+def _read_rows(path: str) -> list[dict[str, str]]:
+    with open(path, newline="", encoding="utf-8-sig") as file:
+        rows = csv.reader(file)
+        names = next(rows, [])
+        if len(set(names)) < len(names):
+            raise ValueError(f"{path}: two columns have one name")
+        records = []
+        for row in rows:
+            if row and len(row) != len(names):
+                raise ValueError(f"{path}:{rows.line_num}: the row has {len(row)} cells, and there are {len(names)} columns")
+            if row:
+                records.append(dict(zip(names, row)))
+        return records
 
 
 def _print_findings(path: str, findings: Iterable[vellox.Finding]) -> None:

@@ -64,6 +64,20 @@ def get_rows(xml):
     return [re.findall("<a:t>([^<]*)</a:t>", row) for row in re.findall("<a:tr .*?</a:tr>", xml, re.DOTALL)]
 
 
+def test_a_picture_whose_slide_is_gone_has_no_link(tmp_path):
+    with vellox.deck(tmp_path / "linked.pptx") as deck:
+        picture = ppt.Picture(EXAMPLES / "data/pump-curve.png")
+        picture.Name, picture.Link = "Curve", "https://example.org"
+        deck.add("Title Only").add(picture)
+    with vellox.deck(tmp_path / "deck.pptx", tmp_path / "linked.pptx") as deck:
+        [slide] = deck
+        gone = deck.add("Title Only")
+        slide["Curve"].leadTo(gone)
+        deck.remove(gone)
+    assert "emptyLinkTarget" in {finding.code for finding in deck.Findings}
+    assert b"hlinkClick" not in read_parts(tmp_path / "deck.pptx")[b"ppt/slides/slide1.xml"]
+
+
 def test_tables_of_numpy_and_pandas(tmp_path):
     path = tmp_path / "deck.pptx"
     numbers = np.round(np.linspace(0, 1, 15).reshape(3, 5).T[::2], 3)

@@ -45,5 +45,10 @@ def test_a_table_becomes_decks(folder):
         assert slide["Title"].Text == "Dear Bób"
     status, _, words = run("batch", "none.pptx", "rows.csv", "new-{id}.pptx")
     assert status == 1 and words.count("none.pptx") == 2
-    assert run("batch", "letter.pptx", "rows.csv", "{nobody}.pptx")[0] == 2
+    for name in ("{nobody}.pptx", "{id.x}.pptx", "{id[x]}.pptx", "{}.pptx"):
+        assert run("batch", "letter.pptx", "rows.csv", name)[0] == 2
+    for rows in ("id,name\n1\n", "id,name\n1,Ada,x\n", "id,id\n1,2\n"):
+        (folder / "bad.csv").write_text(rows)
+        status, _, words = run("batch", "letter.pptx", "bad.csv", "new-{id}.pptx")
+        assert status == 2 and "bad.csv" in words
     assert not list(folder.glob("new-*"))

@@ -66,9 +66,12 @@ TableImpl::~TableImpl() {
 }
 
 Dimension requireHeight(const std::wstring& length) {
-    if (!Dimension::isValid(length) || Dimension(length).getEMUNumber() < 0)
+    if (!Dimension::isValid(length))
         raise(ppt_error::invalidPropertyValue(length));
-    return Dimension(length);
+    const Dimension height(length);
+    if (height.isPercentValue() || height.isProportionalValue() || height.getEMUNumber() < 0)
+        raise(ppt_error::invalidPropertyValue(length));
+    return height;
 }
 
 namespace {

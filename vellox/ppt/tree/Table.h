@@ -90,7 +90,7 @@ public:
     void unsetHeaderRows();
     /// @}
     /// @{ A length: the least height of rows that have none of their own.
-    /// @throws invalidPropertyValue for what isn't a length, or a negative one
+    /// @throws invalidPropertyValue for what isn't a length, a share, or a negative one
     const BaseAttribute<Dimension>& getRowHeight() const;
     void setRowHeight(const std::wstring& length);
     void unsetRowHeight();

@@ -22,7 +22,7 @@ public:
     TableRow();
 
     /// @{ A length: the least height of the row, which is as high as its text. Unset means that of the table.
-    /// @throws invalidPropertyValue for what isn't a length, or a negative one
+    /// @throws invalidPropertyValue for what isn't a length, a share, or a negative one
     const BaseAttribute<Dimension>& getHeight() const;
     void setHeight(const std::wstring& length);
     void unsetHeight();

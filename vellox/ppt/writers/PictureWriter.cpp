@@ -201,9 +201,10 @@ void PictureWriter::writeLink(DOMElement* shape) const {
     if ((!link.isSet() && !slide.isSet()) || !properties)
         return;
     const std::wstring id = addLink(*this, link.isSet() ? link.get() : std::wstring(), slide);
+    if (!id.empty() || slide.isSet()) // one to a slide that is gone isn't that of the template again
+        removeChildElements(properties, xml::kAHlinkClick);
     if (id.empty())
         return;
-    removeChildElements(properties, xml::kAHlinkClick);
     DOMElement* click = createElement(xml::kAHlinkClick);
     setAttribute(click, xml::kRId, id);
     if (slide.isSet())
