@@ -113,7 +113,7 @@ def _batch(options: argparse.Namespace) -> int:
 def _read_rows(path: str) -> list[dict[str, str]]:
     with open(path, newline="", encoding="utf-8-sig") as file:
         rows = csv.reader(file)
-        names = next(rows, [])
+        names: list[str] = next(rows, [])
         if len(set(names)) < len(names):
             raise ValueError(f"{path}: two columns have one name")
         records = []
