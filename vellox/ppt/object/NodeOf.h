@@ -16,6 +16,9 @@ namespace vellox::ppt {
 /// Each level of a class has one, so that an object which is announced level by level is of that level's class then.
 template <NodeType kType, class Impl, class Facade, class Base> class NodeOf : public Base {
 public:
+    using Level = Impl;
+    static constexpr NodeType kLevel = kType;
+
     using Base::Base;
 
     const char* getFullyQualifiedHostTypeName() const override { return getNodeKind(kType).hostName; }
@@ -24,6 +27,9 @@ public:
     }
     PPTNodeImpl::Child clone() const override { return Base::copyOf(static_cast<const Impl&>(*this)); }
     NodeType getNodeType() const override { return kType; }
+    void* findLevel(NodeType type) override {
+        return type == kType ? static_cast<Impl*>(this) : Base::findLevel(type);
+    }
 };
 
 } // namespace vellox::ppt

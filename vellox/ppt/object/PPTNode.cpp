@@ -14,23 +14,15 @@ namespace vellox::ppt {
 // PPTNodeImpl
 
 PPTNodeImpl::~PPTNodeImpl() {
-    while (firstLinked_)
-        firstLinked_->setParent(nullptr);
-    setParent(nullptr);
+    while (!linked_.empty())
+        linked_.front().setParent(nullptr);
 }
 
 void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
-    if (linkedFrom_)
-        *linkedFrom_ = nextLinked_;
-    if (nextLinked_)
-        nextLinked_->linkedFrom_ = linkedFrom_;
+    link_.unlink();
     parent_ = parent;
-    linkedFrom_ = parent ? &parent->firstLinked_ : nullptr;
-    nextLinked_ = parent ? parent->firstLinked_ : nullptr;
-    if (linkedFrom_)
-        *linkedFrom_ = this;
-    if (nextLinked_)
-        nextLinked_->linkedFrom_ = &nextLinked_;
+    if (parent_)
+        parent_->linked_.push_back(*this);
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {

@@ -4,8 +4,10 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
+#include <boost/intrusive/list.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
+#include <type_traits>
 
 #include "vellox/foundation/Lazy.h"
 #include "vellox/ppt/object/PPTNode.h"
@@ -51,6 +53,8 @@ public:
     virtual Child makeInterface() = 0;
     virtual Child clone() const = 0;
     virtual NodeType getNodeType() const = 0;
+    /// This node as the class that has the type, which it is of or derives from; null for another. See implAs().
+    virtual void* findLevel(NodeType) { return nullptr; }
     virtual bool isA(NodeType type) const;
     virtual void setName(const std::wstring& name);
     /// @{ @throws failedToAppendChild for a child that has a parent
@@ -102,14 +106,27 @@ private:
     void requireFree(const PPTNode& child) const;
     void setParent(PPTNodeImpl* parent);
 
+    using Link =
+        boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::auto_unlink>>;
+
     PPTNodeImpl* parent_ = nullptr;
-    // Those whose parent this is, in no order and not owned, as a chain; and this one's place in its parent's.
-    PPTNodeImpl* firstLinked_ = nullptr;
-    PPTNodeImpl* nextLinked_ = nullptr;
-    PPTNodeImpl** linkedFrom_ = nullptr; // where the pointer to this one is; null without a parent
+    Link link_; // in the parent's list below
     Children children_;
     Lazy<std::wstring> name_;
+    // Those whose parent this is, in no order and not owned.
+    boost::intrusive::list<PPTNodeImpl, boost::intrusive::member_hook<PPTNodeImpl, Link, &PPTNodeImpl::link_>,
+                           boost::intrusive::constant_time_size<false>>
+        linked_;
 };
+
+/// The implementation behind a node if it is of this class or derives from it, else null. Without a dynamic cast, as decks
+/// have nodes by the hundred thousand.
+template <class Impl>
+auto implAs(const PPTNode& node) -> decltype(void(Impl::kLevel), static_cast<Impl*>(nullptr)) {
+    static_assert(std::is_same_v<typename Impl::Level, Impl>, "a class of no type of its own");
+    auto* impl = implOf<PPTNodeImpl>(node);
+    return impl ? static_cast<Impl*>(impl->findLevel(Impl::kLevel)) : nullptr;
+}
 
 template <class Wanted> PPTNodeImpl::Children PPTNodeImpl::takeOut(Wanted isWanted) {
     Children taken, left;

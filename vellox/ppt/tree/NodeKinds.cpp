@@ -22,11 +22,6 @@ template <class Impl> PPTNodeImpl::Child make(const Record& record, const std::w
     return (new Impl(name, record))->makeInterface();
 }
 
-// Placeholders are told what they are for.
-template <class Impl> PPTNodeImpl::Child makeHolder(const Record& record, const std::wstring& name) {
-    return (new Impl(name, record))->makeInterface();
-}
-
 using T = NodeType;
 
 // In the order of the types. No kind but itself counts as a bare shape, which isn't found either; a placeholder for a
@@ -35,15 +30,15 @@ constexpr NodeKind kKinds[] = {
     {T::None, ""},
     {T::BaseTextBox, "vellox.ppt.BaseTextBox", T::None, Searched::Itself},
     {T::BodyPlaceholder, "vellox.ppt.BodyPlaceholder", T::TextBoxPlaceholder, Searched::Itself,
-     Takes::TextAndContent, makeHolder<BodyPlaceholderImpl>},
+     Takes::TextAndContent, make<BodyPlaceholderImpl>},
     {T::ColSpec, "vellox.ppt.ColSpec"},
     {T::ContentPlaceholder, "vellox.ppt.ContentPlaceholder", T::PicturePlaceholder, Searched::Itself,
-     Takes::TextAndContent, makeHolder<ContentPlaceholderImpl>},
+     Takes::TextAndContent, make<ContentPlaceholderImpl>},
     {T::ExternalLink, "vellox.ppt.ExternalLink"},
     {T::Group, "vellox.ppt.Group", T::None, Searched::ItselfAndBelow, Takes::Nothing, make<GroupImpl>},
     {T::Picture, "vellox.ppt.Picture", T::None, Searched::Itself, Takes::Nothing, make<PictureImpl>},
     {T::PicturePlaceholder, "vellox.ppt.PicturePlaceholder", T::BodyPlaceholder, Searched::Itself,
-     Takes::TextAndContent, makeHolder<PicturePlaceholderImpl>},
+     Takes::TextAndContent, make<PicturePlaceholderImpl>},
     {T::Paragraph, "vellox.ppt.Paragraph"},
     {T::Presentation, "vellox.ppt.Presentation"},
     {T::Shape, "vellox.ppt.Shape"},
@@ -51,13 +46,13 @@ constexpr NodeKind kKinds[] = {
     {T::Table, "vellox.ppt.Table", T::None, Searched::Itself, Takes::Content, make<TableImpl>},
     {T::TableEntry, "vellox.ppt.TableEntry"},
     {T::TablePlaceholder, "vellox.ppt.TablePlaceholder", T::BodyPlaceholder, Searched::Itself, Takes::Content,
-     makeHolder<TablePlaceholderImpl>},
+     make<TablePlaceholderImpl>},
     {T::TableRow, "vellox.ppt.TableRow"},
     {T::Text, "vellox.ppt.Text"},
     {T::TextBox, "vellox.ppt.TextBox", T::BaseTextBox, Searched::Itself, Takes::TextAndContent,
      make<TextBoxImpl>},
     {T::TextBoxPlaceholder, "vellox.ppt.TextBoxPlaceholder", T::BaseTextBox, Searched::Itself,
-     Takes::TextAndContent, makeHolder<TextBoxPlaceholderImpl>},
+     Takes::TextAndContent, make<TextBoxPlaceholderImpl>},
 };
 
 constexpr bool areInOrder() {

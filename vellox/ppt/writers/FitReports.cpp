@@ -32,21 +32,6 @@ struct Room {
     double cx, cy;
 };
 
-// A node of a class, without a dynamic cast: tables have cells by the thousand. Null for others.
-template <class Impl> const Impl* as(const PPTNode& node, NodeType type) {
-    const auto* impl = implOf<PPTNodeImpl>(node);
-    return impl->getNodeType() == type ? static_cast<const Impl*>(impl) : nullptr;
-}
-
-const ParagraphImpl* asParagraph(const PPTNode& node) {
-    return as<ParagraphImpl>(node, NodeType::Paragraph);
-}
-
-const TextImpl* asText(const PPTNode& node) {
-    const auto* text = as<TextImpl>(node, NodeType::Text);
-    return text ? text : as<TextImpl>(node, NodeType::ExternalLink);
-}
-
 double findSize(const ElementImpl& element, double inherited) {
     const Formats::Map& formats = element.getStyle().getMap();
     const auto format = formats.empty() ? formats.end() : formats.find(FormatType::FontSize);
@@ -100,7 +85,7 @@ std::wstring guessShown(const TextImpl& text) {
 double measureLine(const ParagraphImpl& paragraph, double size) {
     double width = 0;
     for (const auto& child : paragraph.getChildren())
-        if (const TextImpl* text = asText(*child)) {
+        if (const TextImpl* text = implAs<TextImpl>(*child)) {
             const double own = findSize(*text, size);
             for (const wchar_t c : guessShown(*text))
                 width += own * kEmuPerPoint * getLetterWidth(c);
@@ -111,7 +96,7 @@ double measureLine(const ParagraphImpl& paragraph, double size) {
 Need measureParagraph(const ParagraphImpl& paragraph, double size, double width) {
     ParagraphMeasure measure(size, width);
     for (const auto& child : paragraph.getChildren())
-        if (const TextImpl* text = asText(*child))
+        if (const TextImpl* text = implAs<TextImpl>(*child))
             measure.add(guessShown(*text), findSize(*text, size));
     return measure.finish();
 }
@@ -120,7 +105,7 @@ Need measureParagraph(const ParagraphImpl& paragraph, double size, double width)
 double measureLongest(const PPTNodeImpl& entry, double size) {
     double longest = 0;
     for (const auto& child : entry.getChildren())
-        if (const ParagraphImpl* paragraph = asParagraph(*child)) {
+        if (const ParagraphImpl* paragraph = implAs<ParagraphImpl>(*child)) {
             const double own = findSize(*paragraph, size);
             longest = std::max(longest, measureLine(*paragraph, own > 0 ? own : kDefaultSize));
         }
@@ -132,7 +117,7 @@ double measureLongest(const PPTNodeImpl& entry, double size) {
 Need measureParagraphs(const PPTNodeImpl& box, const TextSizes* sizes, double size, double width) {
     Need whole;
     for (const auto& child : box.getChildren()) {
-        const ParagraphImpl* paragraph = asParagraph(*child);
+        const ParagraphImpl* paragraph = implAs<ParagraphImpl>(*child);
         if (!paragraph)
             continue;
         const unsigned int level = paragraph->getLevel().isSet() ? paragraph->getLevel().get() : 1;
@@ -219,7 +204,7 @@ std::vector<double> estimateColumns(const TableImpl& table, double size, double 
         const auto* row = implAs<TableRowImpl>(*child);
         for (std::size_t i = 0; sharesWidth && row && i < row->getChildren().size() && i < columns.size();
              ++i)
-            if (const auto* entry = as<TableEntryImpl>(*row->getChildren()[i], NodeType::TableEntry))
+            if (const auto* entry = implAs<TableEntryImpl>(*row->getChildren()[i]))
                 columns[i] =
                     std::max(columns[i], measureLongest(*entry, findSize(*entry, findSize(*row, size))));
     }
@@ -236,7 +221,7 @@ double measureRow(const TableRowImpl& row, double size, double margins, const st
     double highest = (own > 0 ? own : kDefaultSize) * kEmuPerPoint * kLineHeight + around;
     const PPTNode::Children& cells = row.getChildren();
     for (std::size_t i = 0; i < cells.size() && i < columns.size(); ++i)
-        if (const auto* entry = as<TableEntryImpl>(*cells[i], NodeType::TableEntry))
+        if (const auto* entry = implAs<TableEntryImpl>(*cells[i]))
             highest = std::max(highest,
                                measureParagraphs(*entry, nullptr, findSize(*entry, own), columns[i]).height +
                                    findMargins(*entry, around));

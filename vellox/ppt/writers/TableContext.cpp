@@ -25,10 +25,9 @@ CellKind kindOf(const PPTNode& entry) {
     const auto& paragraphs = implOf<PPTNodeImpl>(entry)->getChildren();
     if (paragraphs.empty())
         return CellKind::Empty;
-    // No dynamic casts here and below: tables have cells by the thousand.
-    if (paragraphs.size() != 1 || paragraphs.front()->getNodeType() != NodeType::Paragraph)
+    const auto* paragraph = paragraphs.size() == 1 ? implAs<ParagraphImpl>(*paragraphs.front()) : nullptr;
+    if (!paragraph)
         return CellKind::Other;
-    const auto* paragraph = implOf<ParagraphImpl>(*paragraphs.front());
     const TextImpl* text = findOnlyText(*paragraph);
     const bool isEmpty = text ? text->getTextContent().empty() || isMissing(text->getTextContent())
                               : paragraph->getChildren().empty() && !paragraph->getTruthValue();
@@ -46,8 +45,8 @@ unsigned int countShownHeader(const TableImpl& table) {
 
 const TextImpl* findOnlyText(const ParagraphImpl& paragraph) {
     const auto& children = paragraph.getChildren();
-    const bool isOnlyText = children.size() == 1 && children.front()->getNodeType() == NodeType::Text;
-    return isOnlyText ? implOf<TextImpl>(*children.front()) : nullptr;
+    const auto* text = children.size() == 1 ? implAs<TextImpl>(*children.front()) : nullptr;
+    return text && text->getNodeType() == NodeType::Text ? text : nullptr;
 }
 
 std::vector<bool> findNumberColumns(const TableImpl& table) {
