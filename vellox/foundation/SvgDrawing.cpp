@@ -28,26 +28,14 @@ namespace {
 
 // What is used of librsvg and of the libraries that it brings along.
 struct Library {
-    Library() {
-        host::LateLibrary library("librsvg-2.so.2");
-        library.take(newFromData, "rsvg_handle_new_from_data");
-        library.take(setDpi, "rsvg_handle_set_dpi");
-        library.take(render, "rsvg_handle_render_document");
-        library.take(createSurface, "cairo_image_surface_create");
-        library.take(createContext, "cairo_create");
-        library.take(getStatus, "cairo_surface_status");
-        library.take(writePng, "cairo_surface_write_to_png_stream");
-        isWhole = library.isWhole();
-    }
-
-    bool isWhole;
-    decltype(&rsvg_handle_new_from_data) newFromData;
-    decltype(&rsvg_handle_set_dpi) setDpi;
-    decltype(&rsvg_handle_render_document) render;
-    decltype(&cairo_image_surface_create) createSurface;
-    decltype(&cairo_create) createContext;
-    decltype(&cairo_surface_status) getStatus;
-    decltype(&cairo_surface_write_to_png_stream) writePng;
+    host::LateLibrary file{"librsvg-2.so.2"};
+    decltype(&rsvg_handle_new_from_data) newFromData = file.find("rsvg_handle_new_from_data");
+    decltype(&rsvg_handle_set_dpi) setDpi = file.find("rsvg_handle_set_dpi");
+    decltype(&rsvg_handle_render_document) render = file.find("rsvg_handle_render_document");
+    decltype(&cairo_image_surface_create) createSurface = file.find("cairo_image_surface_create");
+    decltype(&cairo_create) createContext = file.find("cairo_create");
+    decltype(&cairo_surface_status) getStatus = file.find("cairo_surface_status");
+    decltype(&cairo_surface_write_to_png_stream) writePng = file.find("cairo_surface_write_to_png_stream");
 };
 
 const Library& getLibrary() {
@@ -212,7 +200,7 @@ std::string receive(int pipe, const Child& child, const DrawingLimits& limits) {
 } // namespace
 
 bool canDrawSvg() {
-    return getLibrary().isWhole;
+    return getLibrary().file.isWhole();
 }
 
 std::string drawSvg(const std::string& svg, unsigned int width, unsigned int height,

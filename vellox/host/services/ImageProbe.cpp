@@ -48,28 +48,18 @@ bool readRasterSize(std::istream& image, double& width, double& height) {
 
 // What is used of libtiff, which brings eight libraries along.
 struct TiffLibrary {
-    TiffLibrary() {
-        LateLibrary library("libtiff.so.6");
-        library.take(allocOptions, "TIFFOpenOptionsAlloc");
-        library.take(freeOptions, "TIFFOpenOptionsFree");
-        library.take(setMaxAllocation, "TIFFOpenOptionsSetMaxSingleMemAlloc");
-        library.take(setErrorHandler, "TIFFOpenOptionsSetErrorHandlerExtR");
-        library.take(setWarningHandler, "TIFFOpenOptionsSetWarningHandlerExtR");
-        library.take(open, "TIFFClientOpenExt");
-        library.take(getField, "TIFFGetField");
-        library.take(close, "TIFFClose");
-        isWhole = library.isWhole();
-    }
-
-    bool isWhole;
-    decltype(&TIFFOpenOptionsAlloc) allocOptions;
-    decltype(&TIFFOpenOptionsFree) freeOptions;
-    decltype(&TIFFOpenOptionsSetMaxSingleMemAlloc) setMaxAllocation;
-    decltype(&TIFFOpenOptionsSetErrorHandlerExtR) setErrorHandler;
-    decltype(&TIFFOpenOptionsSetWarningHandlerExtR) setWarningHandler;
-    decltype(&TIFFClientOpenExt) open;
-    decltype(&TIFFGetField) getField;
-    decltype(&TIFFClose) close;
+    LateLibrary file{"libtiff.so.6"};
+    decltype(&TIFFOpenOptionsAlloc) allocOptions = file.find("TIFFOpenOptionsAlloc");
+    decltype(&TIFFOpenOptionsFree) freeOptions = file.find("TIFFOpenOptionsFree");
+    decltype(&TIFFOpenOptionsSetMaxSingleMemAlloc) setMaxAllocation =
+        file.find("TIFFOpenOptionsSetMaxSingleMemAlloc");
+    decltype(&TIFFOpenOptionsSetErrorHandlerExtR) setErrorHandler =
+        file.find("TIFFOpenOptionsSetErrorHandlerExtR");
+    decltype(&TIFFOpenOptionsSetWarningHandlerExtR) setWarningHandler =
+        file.find("TIFFOpenOptionsSetWarningHandlerExtR");
+    decltype(&TIFFClientOpenExt) open = file.find("TIFFClientOpenExt");
+    decltype(&TIFFGetField) getField = file.find("TIFFGetField");
+    decltype(&TIFFClose) close = file.find("TIFFClose");
 };
 
 // Returning 1 says that the message is dealt with and needn't go to the standard error stream.
@@ -110,7 +100,7 @@ toff_t getTiffSize(thandle_t user) {
 
 bool readTiffSize(std::istream& image, double& width, double& height) {
     static const TiffLibrary& library = *new const TiffLibrary;
-    if (!library.isWhole)
+    if (!library.file.isWhole())
         return false;
     const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(library.allocOptions(),
                                                                                    library.freeOptions);

@@ -14,16 +14,22 @@ public:
     /// @param fileName as linkers know it: "libtiff.so.6"
     explicit LateLibrary(const char* fileName);
 
-    /// Finds a function, which is null if there is none.
-    template <class Function> void take(Function*& function, const char* name) {
-        function = reinterpret_cast<Function*>(find(name));
-    }
+    /// A function of any type; null if there is none.
+    class Found {
+    public:
+        template <class Function> operator Function*() const { return reinterpret_cast<Function*>(address_); }
+
+    private:
+        friend class LateLibrary;
+        explicit Found(void* address) : address_(address) {}
+
+        void* address_;
+    };
+    Found find(const char* name);
     /// Whether all that was asked for is there.
     bool isWhole() const { return isWhole_; }
 
 private:
-    void* find(const char* name);
-
     void* library_;
     bool isWhole_;
 };
