@@ -62,6 +62,8 @@ public:
     Units getUnits() const { return units_; }
     bool isPercentValue() const { return units_ == percent; }
     bool isProportionalValue() const { return units_ == proportional; }
+    /// Whether it is a share of something else: "50%" or "1.5*".
+    bool isShare() const { return isPercentValue() || isProportionalValue(); }
 
     /// English Metric Units, the fraction dropped; at the limits of an int beyond its range.
     int getEMUNumber() const;

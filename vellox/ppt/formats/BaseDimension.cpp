@@ -24,7 +24,7 @@ Dimension BaseDimensionImpl::requireLength(const std::wstring& value, Shares sha
     if (!Dimension::isValid(value))
         raise(ppt_error::invalidPropertyValue(value));
     const Dimension length(value);
-    if (shares == Shares::Refused && (length.isPercentValue() || length.isProportionalValue()))
+    if (shares == Shares::Refused && length.isShare())
         raise(ppt_error::invalidPropertyValue(value));
     return length;
 }
@@ -40,6 +40,15 @@ boost::shared_ptr<Format> BaseDimensionImpl::makeInterface() {
 void BaseDimensionImpl::setValue(const std::wstring& value) {
     // Made first and assigned then: a text that is valid and still no length, "-", must change nothing.
     dimension_ = requireLength(value, shares_);
+}
+
+Dimension requireExtent(const std::wstring& text, const std::wstring& named) {
+    if (!Dimension::isValid(text))
+        raise(ppt_error::invalidPropertyValue(named));
+    const Dimension extent(text);
+    if (extent.isShare() || extent.getEMUNumber() < 0)
+        raise(ppt_error::invalidPropertyValue(named));
+    return extent;
 }
 
 // BaseDimension

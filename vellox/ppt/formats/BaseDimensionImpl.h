@@ -33,6 +33,11 @@ private:
     Dimension dimension_;
 };
 
+/// A length that is no share of anything, and not negative.
+/// @param named what the error names: a text that the length may be a part of
+/// @throws invalidPropertyValue
+Dimension requireExtent(const std::wstring& text, const std::wstring& named);
+
 } // namespace vellox::ppt
 
 #endif

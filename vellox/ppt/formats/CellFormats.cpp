@@ -4,6 +4,7 @@
 #include "vellox/foundation/Dimension.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/BaseDimensionImpl.h"
 #include "vellox/ppt/formats/CellFormatsImpl.h"
 #include "vellox/ppt/formats/ColorTable.h"
 #include "vellox/ppt/formats/SpellingTable.h"
@@ -118,14 +119,6 @@ LineWords readLine(const std::wstring& text) {
     return words;
 }
 
-int requireLength(const std::wstring& text, const std::wstring& named) {
-    const bool isShare = text.find_first_of(L"%*") != std::wstring::npos; // of what, nobody knows here
-    const int emu = !isShare && Dimension::isValid(text) ? Dimension(text).getEMUNumber() : -1;
-    if (emu < 0)
-        raise(ppt_error::invalidPropertyValue(named));
-    return emu;
-}
-
 } // namespace
 
 std::wstring CellBordersImpl::read(unsigned int facet, const std::wstring& text) {
@@ -143,7 +136,7 @@ std::wstring CellBordersImpl::read(unsigned int facet, const std::wstring& text)
     fill(words.width, kUsualWidth);
     fill(words.kind, kUsualKind);
     fill(words.color, kUsualColor);
-    line.widthEmu = std::min(requireLength(words.width, text), kWidestLine);
+    line.widthEmu = std::min(requireExtent(words.width, text).getEMUNumber(), kWidestLine);
     line.dash = getLineKinds().lookup(words.kind).xmlValue;
     line.compound = words.kind == kDoubleLine ? u"dbl" : u"sng";
     line.color = toHex(words.color);
@@ -165,7 +158,7 @@ boost::shared_ptr<CellBorders> CellBorders::clone() const {
 // CellMargins
 
 std::wstring CellMarginsImpl::read(unsigned int facet, const std::wstring& text) {
-    margins_.at(facet) = requireLength(text, text);
+    margins_.at(facet) = requireExtent(text, text).getEMUNumber();
     return Dimension(text).getRawValue();
 }
 

@@ -3,6 +3,7 @@
 #include "vellox/foundation/Conversions.h"
 #include "vellox/foundation/IdentifiedException.h"
 #include "vellox/foundation/Identifiers.h"
+#include "vellox/ppt/formats/BaseDimensionImpl.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/NodeText.h"
 #include "vellox/ppt/tree/ParagraphImpl.h"
@@ -63,15 +64,6 @@ TableImpl::TableImpl(const TableImpl& other)
 
 TableImpl::~TableImpl() {
     announceDestroyed(*this);
-}
-
-Dimension requireHeight(const std::wstring& length) {
-    if (!Dimension::isValid(length))
-        raise(ppt_error::invalidPropertyValue(length));
-    const Dimension height(length);
-    if (height.isPercentValue() || height.isProportionalValue() || height.getEMUNumber() < 0)
-        raise(ppt_error::invalidPropertyValue(length));
-    return height;
 }
 
 namespace {
@@ -338,7 +330,7 @@ const BaseAttribute<Dimension>& Table::getRowHeight() const {
 }
 
 void Table::setRowHeight(const std::wstring& length) {
-    pimpl()->rowHeight().set(requireHeight(length));
+    pimpl()->rowHeight().set(requireExtent(length, length));
 }
 
 void Table::unsetRowHeight() {

@@ -16,10 +16,6 @@
 
 namespace vellox::ppt {
 
-/// A length of a row.
-/// @throws invalidPropertyValue for what isn't a length, or a negative one
-Dimension requireHeight(const std::wstring& length);
-
 class TableImpl : public NodeOf<NodeType::Table, TableImpl, Table, ShapeImpl> {
 public:
     TableImpl();

@@ -1,5 +1,6 @@
 #include "vellox/ppt/tree/TableRow.h"
 
+#include "vellox/ppt/formats/BaseDimensionImpl.h"
 #include "vellox/ppt/messages/Announce.h"
 #include "vellox/ppt/tree/TableEntry.h"
 #include "vellox/ppt/tree/TableImpl.h"
@@ -45,7 +46,7 @@ const BaseAttribute<Dimension>& TableRow::getHeight() const {
 }
 
 void TableRow::setHeight(const std::wstring& length) {
-    pimpl()->height().set(requireHeight(length));
+    pimpl()->height().set(requireExtent(length, length));
 }
 
 void TableRow::unsetHeight() {

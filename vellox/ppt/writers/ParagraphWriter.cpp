@@ -228,7 +228,7 @@ void ParagraphWriter::setSpacing(const XMLCh* name, const Dimension& spacing) {
     constexpr double kPerPercent = 1000, kPerLine = 100000, kPerPoint = 100;
     isArranged_ = false;
     PropertyElement& element = pPr_.putChild(name);
-    const bool isShare = spacing.isPercentValue() || spacing.isProportionalValue();
+    const bool isShare = spacing.isShare();
     const double value = isShare
                              ? spacing.getNumericValue() * (spacing.isPercentValue() ? kPerPercent : kPerLine)
                              : spacing.getPointNumber() * kPerPoint;
