@@ -72,10 +72,14 @@ std::ios::openmode toOpenMode(int mode) {
 
 } // namespace
 
-boost::shared_ptr<std::istream> LocalFileSystemOps::createInputStream(const std::wstring& path, int mode) {
+void refusePipe(const std::string& path) {
     std::error_code ignored;
-    if (std::filesystem::is_other(vellox::toUtf8(path), ignored))
-        throw Exception("it is no regular file"); // a pipe might never answer
+    if (std::filesystem::is_other(path, ignored))
+        throw Exception("it is no regular file");
+}
+
+boost::shared_ptr<std::istream> LocalFileSystemOps::createInputStream(const std::wstring& path, int mode) {
+    refusePipe(vellox::toUtf8(path));
     return boost::make_shared<std::ifstream>(vellox::toUtf8(path), toOpenMode(mode));
 }
 

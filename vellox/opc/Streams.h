@@ -96,6 +96,10 @@ public:
 constexpr int kReadBinary = 33;
 constexpr int kWriteBinary = 34;
 
+/// Of a pipe or a device, which might never answer, nothing is read. A file that isn't there is another's fault to tell.
+/// @throws opc::Exception
+void refusePipe(const std::string& path);
+
 } // namespace opc
 
 #endif

@@ -212,9 +212,8 @@ void ZipPhysicalPackage::open(OpenMode mode) {
         return;
     if (input_ && !input_->getStream().good())
         throw Exception("it doesn't exist or can't be read");
-    std::error_code ignored;
-    if (!input_ && std::filesystem::is_other(path_, ignored))
-        throw Exception("it is no regular file"); // a pipe might never answer
+    if (!input_)
+        refusePipe(path_);
     former_ = fsys::identify(fsys::Path(std::filesystem::path(path_)));
     archive_ = openForReading();
     size_ = measure();
