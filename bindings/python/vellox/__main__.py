@@ -97,10 +97,6 @@ def _heal(options: argparse.Namespace) -> int:
 
 def _batch(options: argparse.Namespace) -> int:
     records = _read_rows(options.rows)
-    try:
-        _ = [options.output.format_map(record) for record in records[:1]]  # all have the same names
-    except (AttributeError, LookupError, TypeError) as error:
-        raise ValueError(f"{options.output}: a row has no such value: {error}") from error
     results = vellox.batch(options.template, records, options.output, jobs=options.jobs, strict=options.strict)
     for result in results:
         if result.error:

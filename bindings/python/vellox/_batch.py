@@ -113,7 +113,10 @@ class _NameFormatter(string.Formatter):
 
 
 def _fill_in(output: str, record: Record) -> str:
-    return _NameFormatter().vformat(output, (), record)
+    try:
+        return _NameFormatter().vformat(output, (), record)
+    except (AttributeError, LookupError, TypeError) as error:
+        raise ValueError(f"{output}: a record has no such value: {error}") from error
 
 
 class _Progress:
