@@ -47,13 +47,13 @@ public:
     explicit HAlignImpl(const std::wstring& word) : SpelledFormatImpl(getHAligns(), word) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.HAlign"; }
-    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new HAlign(this)); }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<HAlign>(this); }
     FormatType getFormatType() const override { return FormatType::HAlign; }
     void applyToParagraph(ParagraphWriter& writer) const override {
         writer.setPPrAttribute(xml::kAlgn, getMapping());
     }
     virtual boost::shared_ptr<HAlign> clone() const {
-        return boost::shared_ptr<HAlign>(new HAlign(new HAlignImpl(*this)));
+        return ObjectAccess::makeFacade<HAlign>(new HAlignImpl(*this));
     }
 };
 
@@ -80,7 +80,7 @@ public:
     explicit VAlignImpl(const std::wstring& word) : SpelledFormatImpl(getVAligns(), word) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.VAlign"; }
-    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new VAlign(this)); }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<VAlign>(this); }
     FormatType getFormatType() const override { return FormatType::VAlign; }
     void applyToTextBox(BaseTextBoxWriter& writer) const override {
         writer.setBodyPrAttribute(xml::kAnchor, getMapping());
@@ -91,7 +91,7 @@ public:
         writer.setTcPrFlag(xml::kAnchorCtr, isCentered());
     }
     virtual boost::shared_ptr<VAlign> clone() const {
-        return boost::shared_ptr<VAlign>(new VAlign(new VAlignImpl(*this)));
+        return ObjectAccess::makeFacade<VAlign>(new VAlignImpl(*this));
     }
 
 private:

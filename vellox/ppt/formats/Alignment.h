@@ -29,7 +29,7 @@ public:
     boost::shared_ptr<HAlign> clone() const;
 
 protected:
-    friend class HAlignImpl;
+    friend struct ObjectAccess;
     explicit HAlign(HAlignImpl* impl);
 };
 
@@ -48,7 +48,7 @@ public:
     boost::shared_ptr<VAlign> clone() const;
 
 protected:
-    friend class VAlignImpl;
+    friend struct ObjectAccess;
     explicit VAlign(VAlignImpl* impl);
 };
 

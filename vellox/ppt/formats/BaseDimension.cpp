@@ -34,7 +34,7 @@ const char* BaseDimensionImpl::getFullyQualifiedHostTypeName() const {
 }
 
 boost::shared_ptr<Format> BaseDimensionImpl::makeInterface() {
-    return boost::shared_ptr<Format>(new BaseDimension(this));
+    return ObjectAccess::makeFacade<BaseDimension>(this);
 }
 
 void BaseDimensionImpl::setValue(const std::wstring& value) {
@@ -84,16 +84,14 @@ public:
     using BaseDimensionImpl::BaseDimensionImpl;
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.ColWidth"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new ColWidth(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<ColWidth>(this); }
     FormatType getFormatType() const override { return FormatType::ColWidth; }
     /// Writes nothing itself: the width goes into the table's grid when the whole table is done.
     void applyToTableEntry(TableEntryWriter& writer) const override {
         writer.setColumnWidth(getDimension().getEMUNumber());
     }
     virtual boost::shared_ptr<ColWidth> clone() const {
-        return boost::shared_ptr<ColWidth>(new ColWidth(new ColWidthImpl(*this)));
+        return ObjectAccess::makeFacade<ColWidth>(new ColWidthImpl(*this));
     }
 };
 

@@ -28,7 +28,7 @@ public:
     const Dimension& getDimension() const;
 
 protected:
-    friend class BaseDimensionImpl;
+    friend struct ObjectAccess;
     explicit BaseDimension(BaseDimensionImpl* impl);
     BaseDimensionImpl* pimpl();
     const BaseDimensionImpl* pimpl() const;
@@ -45,7 +45,7 @@ public:
     boost::shared_ptr<ColWidth> clone() const;
 
 protected:
-    friend class ColWidthImpl;
+    friend struct ObjectAccess;
     explicit ColWidth(ColWidthImpl* impl);
 };
 

@@ -145,7 +145,7 @@ std::wstring CellBordersImpl::read(unsigned int facet, const std::wstring& text)
 }
 
 boost::shared_ptr<CellBorders> CellBordersImpl::clone() const {
-    return boost::shared_ptr<CellBorders>(new CellBorders(new CellBordersImpl(*this)));
+    return ObjectAccess::makeFacade<CellBorders>(new CellBordersImpl(*this));
 }
 
 CellBorders::CellBorders() : CellBorders(new CellBordersImpl) {}
@@ -163,7 +163,7 @@ std::wstring CellMarginsImpl::read(unsigned int facet, const std::wstring& text)
 }
 
 boost::shared_ptr<CellMargins> CellMarginsImpl::clone() const {
-    return boost::shared_ptr<CellMargins>(new CellMargins(new CellMarginsImpl(*this)));
+    return ObjectAccess::makeFacade<CellMargins>(new CellMarginsImpl(*this));
 }
 
 CellMargins::CellMargins() : CellMargins(new CellMarginsImpl) {}
@@ -192,7 +192,7 @@ void ValueFormatImpl::forget(unsigned int facet) {
 }
 
 boost::shared_ptr<ValueFormat> ValueFormatImpl::clone() const {
-    return boost::shared_ptr<ValueFormat>(new ValueFormat(new ValueFormatImpl(*this)));
+    return ObjectAccess::makeFacade<ValueFormat>(new ValueFormatImpl(*this));
 }
 
 ValueFormat::ValueFormat() : ValueFormat(new ValueFormatImpl) {}

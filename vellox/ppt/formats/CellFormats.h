@@ -50,7 +50,7 @@ public:
     boost::shared_ptr<CellBorders> clone() const;
 
 protected:
-    friend class CellBordersImpl;
+    friend struct ObjectAccess;
     explicit CellBorders(CellBordersImpl* impl);
 };
 
@@ -65,7 +65,7 @@ public:
     boost::shared_ptr<CellMargins> clone() const;
 
 protected:
-    friend class CellMarginsImpl;
+    friend struct ObjectAccess;
     explicit CellMargins(CellMarginsImpl* impl);
 };
 
@@ -79,7 +79,7 @@ public:
     boost::shared_ptr<ValueFormat> clone() const;
 
 protected:
-    friend class ValueFormatImpl;
+    friend struct ObjectAccess;
     explicit ValueFormat(ValueFormatImpl* impl);
 };
 

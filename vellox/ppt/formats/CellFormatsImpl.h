@@ -47,9 +47,7 @@ struct BorderLine {
 class CellBordersImpl : public FacetFormatImpl {
 public:
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.CellBorders"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new CellBorders(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<CellBorders>(this); }
     FormatType getFormatType() const override { return FormatType::CellBorders; }
     virtual boost::shared_ptr<CellBorders> clone() const;
     const std::optional<BorderLine>& getLine(unsigned int facet) const { return lines_.at(facet); }
@@ -65,9 +63,7 @@ private:
 class CellMarginsImpl : public FacetFormatImpl {
 public:
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.CellMargins"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new CellMargins(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<CellMargins>(this); }
     FormatType getFormatType() const override { return FormatType::CellMargins; }
     virtual boost::shared_ptr<CellMargins> clone() const;
     /// In EMU.
@@ -84,9 +80,7 @@ private:
 class ValueFormatImpl : public FacetFormatImpl {
 public:
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.ValueFormat"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new ValueFormat(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<ValueFormat>(this); }
     FormatType getFormatType() const override { return FormatType::ValueFormat; }
     virtual boost::shared_ptr<ValueFormat> clone() const;
     const std::optional<NumberForm>& getForm() const { return form_; }

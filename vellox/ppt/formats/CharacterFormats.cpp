@@ -37,7 +37,7 @@ public:
 
     const char* getFullyQualifiedHostTypeName() const override { return kRow.hostTypeName; }
     boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(Impl::makeFacade(static_cast<Impl*>(this)));
+        return ObjectAccess::makeFacade<Facade>(static_cast<Impl*>(this));
     }
     FormatType getFormatType() const override { return kRow.type; }
     void applyToText(TextWriter& writer) const override {
@@ -55,25 +55,21 @@ private:
 class BoldImpl : public FlagImpl<Bold, BoldImpl, kBold> {
 public:
     using FlagImpl::FlagImpl;
-    static Bold* makeFacade(BoldImpl* impl) { return new Bold(impl); }
 };
 
 class ItalicImpl : public FlagImpl<Italic, ItalicImpl, kItalic> {
 public:
     using FlagImpl::FlagImpl;
-    static Italic* makeFacade(ItalicImpl* impl) { return new Italic(impl); }
 };
 
 class SubscriptImpl : public FlagImpl<Subscript, SubscriptImpl, kSubscript> {
 public:
     using FlagImpl::FlagImpl;
-    static Subscript* makeFacade(SubscriptImpl* impl) { return new Subscript(impl); }
 };
 
 class SuperscriptImpl : public FlagImpl<Superscript, SuperscriptImpl, kSuperscript> {
 public:
     using FlagImpl::FlagImpl;
-    static Superscript* makeFacade(SuperscriptImpl* impl) { return new Superscript(impl); }
 };
 
 Bold::Bold() : Bold(true) {}
@@ -165,13 +161,13 @@ public:
     explicit StrikeImpl(const std::wstring& word) : SpelledFormatImpl(getStrikes(), word) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Strike"; }
-    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new Strike(this)); }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<Strike>(this); }
     FormatType getFormatType() const override { return FormatType::Strike; }
     void applyToText(TextWriter& writer) const override {
         writer.setRPrAttribute(xml::kStrike, getMapping());
     }
     virtual boost::shared_ptr<Strike> clone() const {
-        return boost::shared_ptr<Strike>(new Strike(new StrikeImpl(*this)));
+        return ObjectAccess::makeFacade<Strike>(new StrikeImpl(*this));
     }
 };
 
@@ -196,13 +192,11 @@ public:
     explicit UnderlineImpl(const std::wstring& word) : SpelledFormatImpl(getUnderlines(), word) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Underline"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new Underline(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<Underline>(this); }
     FormatType getFormatType() const override { return FormatType::Underline; }
     void applyToText(TextWriter& writer) const override { writer.setRPrAttribute(xml::kU, getMapping()); }
     virtual boost::shared_ptr<Underline> clone() const {
-        return boost::shared_ptr<Underline>(new Underline(new UnderlineImpl(*this)));
+        return ObjectAccess::makeFacade<Underline>(new UnderlineImpl(*this));
     }
 };
 
@@ -229,16 +223,14 @@ public:
     using BaseDimensionImpl::BaseDimensionImpl;
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.FontSize"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new FontSize(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<FontSize>(this); }
     FormatType getFormatType() const override { return FormatType::FontSize; }
     void applyToText(TextWriter& writer) const override {
         const int hundredths = truncateToInt(getDimension().getPointNumber() * 100.0);
         writer.setRPrAttribute(xml::kSz, opc::XercesString(num2str(hundredths)));
     }
     virtual boost::shared_ptr<FontSize> clone() const {
-        return boost::shared_ptr<FontSize>(new FontSize(new FontSizeImpl(*this)));
+        return ObjectAccess::makeFacade<FontSize>(new FontSizeImpl(*this));
     }
 };
 
@@ -259,16 +251,14 @@ public:
           complexScriptFont_(complexScriptFont) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.FontFamily"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new FontFamily(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<FontFamily>(this); }
     FormatType getFormatType() const override { return FormatType::FontFamily; }
     void applyToText(TextWriter& writer) const override {
         write(writer, xml::kALatin, font_);
         write(writer, xml::kACs, complexScriptFont_);
     }
     virtual boost::shared_ptr<FontFamily> clone() const {
-        return boost::shared_ptr<FontFamily>(new FontFamily(new FontFamilyImpl(*this)));
+        return ObjectAccess::makeFacade<FontFamily>(new FontFamilyImpl(*this));
     }
 
     const std::wstring& getFont() const { return font_; }
@@ -351,9 +341,7 @@ public:
     explicit LanguageImpl(const std::wstring& tag) : tag_(requireTag(tag)) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Language"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new Language(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<Language>(this); }
     FormatType getFormatType() const override { return FormatType::Language; }
     void applyToText(TextWriter& writer) const override {
         writer.setRPrAttribute(xml::kLang, opc::XercesString(tag_));

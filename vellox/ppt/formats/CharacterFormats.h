@@ -34,7 +34,7 @@ public:
     template <class T> void setValue(const T*) = delete;
 
 protected:
-    friend class BoldImpl;
+    friend struct ObjectAccess;
     explicit Bold(BoldImpl* impl);
 };
 
@@ -49,7 +49,7 @@ public:
     template <class T> void setValue(const T*) = delete;
 
 protected:
-    friend class ItalicImpl;
+    friend struct ObjectAccess;
     explicit Italic(ItalicImpl* impl);
 };
 
@@ -65,7 +65,7 @@ public:
     template <class T> void setValue(const T*) = delete;
 
 protected:
-    friend class SubscriptImpl;
+    friend struct ObjectAccess;
     explicit Subscript(SubscriptImpl* impl);
 };
 
@@ -80,7 +80,7 @@ public:
     template <class T> void setValue(const T*) = delete;
 
 protected:
-    friend class SuperscriptImpl;
+    friend struct ObjectAccess;
     explicit Superscript(SuperscriptImpl* impl);
 };
 
@@ -98,7 +98,7 @@ public:
     boost::shared_ptr<Strike> clone() const;
 
 protected:
-    friend class StrikeImpl;
+    friend struct ObjectAccess;
     explicit Strike(StrikeImpl* impl);
 };
 
@@ -118,7 +118,7 @@ public:
     boost::shared_ptr<Underline> clone() const;
 
 protected:
-    friend class UnderlineImpl;
+    friend struct ObjectAccess;
     explicit Underline(UnderlineImpl* impl);
 };
 
@@ -132,7 +132,7 @@ public:
     boost::shared_ptr<FontSize> clone() const;
 
 protected:
-    friend class FontSizeImpl;
+    friend struct ObjectAccess;
     explicit FontSize(FontSizeImpl* impl);
 };
 
@@ -152,7 +152,7 @@ public:
     boost::shared_ptr<FontFamily> clone() const;
 
 protected:
-    friend class FontFamilyImpl;
+    friend struct ObjectAccess;
     explicit FontFamily(FontFamilyImpl* impl);
     FontFamilyImpl* pimpl();
     const FontFamilyImpl* pimpl() const;
@@ -170,7 +170,7 @@ public:
     void setValue(const std::wstring& tag);
 
 protected:
-    friend class LanguageImpl;
+    friend struct ObjectAccess;
     explicit Language(LanguageImpl* impl);
 };
 

@@ -21,7 +21,7 @@ public:
     explicit ColorImpl(const std::wstring& value) { setValue(value); }
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Color"; }
-    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new Color(this)); }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<Color>(this); }
 
     const std::wstring& getValue() const { return value_; }
     void setValue(const std::wstring& value);
@@ -62,9 +62,7 @@ public:
     using ColorImpl::ColorImpl;
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.FontColor"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new FontColor(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<FontColor>(this); }
     FormatType getFormatType() const override { return FormatType::FontColor; }
     void applyToText(TextWriter& writer) const override { writeTo(writer.addRPrChild(xml::kASolidFill)); }
 };
@@ -81,7 +79,7 @@ public:
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.BackgroundColor"; }
     boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new BackgroundColor(this));
+        return ObjectAccess::makeFacade<BackgroundColor>(this);
     }
     FormatType getFormatType() const override { return FormatType::BackgroundColor; }
     void applyToTextBox(BaseTextBoxWriter& writer) const override {

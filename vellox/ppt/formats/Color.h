@@ -28,7 +28,7 @@ public:
     void setValue(const std::wstring& value);
 
 protected:
-    friend class ColorImpl;
+    friend struct ObjectAccess;
     explicit Color(ColorImpl* impl);
 };
 
@@ -40,7 +40,7 @@ public:
     explicit FontColor(const std::wstring& value);
 
 protected:
-    friend class FontColorImpl;
+    friend struct ObjectAccess;
     explicit FontColor(FontColorImpl* impl);
 };
 
@@ -52,7 +52,7 @@ public:
     explicit BackgroundColor(const std::wstring& value);
 
 protected:
-    friend class BackgroundColorImpl;
+    friend struct ObjectAccess;
     explicit BackgroundColor(BackgroundColorImpl* impl);
 };
 

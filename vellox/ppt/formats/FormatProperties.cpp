@@ -13,6 +13,10 @@ void append(Element& element, const boost::shared_ptr<Format>& format) {
     implOf<ElementImpl>(element)->style().appendFormat(format);
 }
 
+void append(Element& element, const Format& format) {
+    append(element, format.makeInterface());
+}
+
 void unset(Element& element, FormatType type) {
     implOf<ElementImpl>(element)->style().unsetFormat(type);
 }

@@ -40,6 +40,7 @@ namespace element_style {
 /// A new handle on the element's own format of a kind; empty if there is none.
 VELLOX_API boost::shared_ptr<Format> find(const Element& element, FormatType type);
 VELLOX_API void append(Element& element, const boost::shared_ptr<Format>& format);
+VELLOX_API void append(Element& element, const Format& format);
 VELLOX_API void unset(Element& element, FormatType type);
 
 template <class F> boost::shared_ptr<F> find(const Element& element, FormatType type) {
@@ -65,7 +66,7 @@ protected:
         return element_style::find<F>(static_cast<const Owner&>(*this), kType);
     }
     template <class Value> void setProperty(const Value& value) {
-        element_style::append(static_cast<Owner&>(*this), boost::make_shared<F>(value));
+        element_style::append(static_cast<Owner&>(*this), F(value));
     }
     void unsetProperty() { element_style::unset(static_cast<Owner&>(*this), kType); }
 };

@@ -4,8 +4,9 @@
 #ifndef VELLOX_PPT_FORMATS_FORMATS_H
 #define VELLOX_PPT_FORMATS_FORMATS_H
 
+#include <boost/container/flat_map.hpp>
+#include <boost/container/small_vector.hpp>
 #include <boost/shared_ptr.hpp>
-#include <map>
 #include <memory>
 
 #include "vellox/Api.h"
@@ -18,7 +19,8 @@ class Format;
 /// At most one format of each kind. A value: a copy is another set, of the same format objects.
 class VELLOX_API Formats {
 public:
-    using Map = std::map<FormatType, boost::shared_ptr<Format>>;
+    /// In the order of the kinds. Most elements that have a format have one.
+    using Map = boost::container::small_flat_map<FormatType, boost::shared_ptr<Format>, 1>;
 
     Formats();
     Formats(const Formats& other);
@@ -36,7 +38,8 @@ public:
 
 private:
     // Made with the first format: most elements of a deck never have one.
-    std::unique_ptr<Map> formats_;
+    struct Own;
+    std::unique_ptr<Own> own_;
 };
 
 } // namespace vellox::ppt

@@ -14,7 +14,7 @@ public:
     explicit BulletImpl(const std::wstring& value) : value_(value), forms_(parseBullets(value)) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.Bullet"; }
-    boost::shared_ptr<Format> makeInterface() override { return boost::shared_ptr<Format>(new Bullet(this)); }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<Bullet>(this); }
     FormatType getFormatType() const override { return FormatType::Bullet; }
     void applyToParagraph(ParagraphWriter& writer) const override { writer.setBullet(forms_); }
 
@@ -93,7 +93,7 @@ public:
 
     const char* getFullyQualifiedHostTypeName() const override { return kRow.hostTypeName; }
     boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(Impl::makeFacade(static_cast<Impl*>(this)));
+        return ObjectAccess::makeFacade<Facade>(static_cast<Impl*>(this));
     }
     FormatType getFormatType() const override { return kRow.type; }
     void applyToParagraph(ParagraphWriter& writer) const override {
@@ -106,31 +106,26 @@ public:
 class SpaceBeforeImpl : public LengthImpl<SpaceBefore, SpaceBeforeImpl, kSpaceBefore> {
 public:
     using LengthImpl::LengthImpl;
-    static SpaceBefore* makeFacade(SpaceBeforeImpl* impl) { return new SpaceBefore(impl); }
 };
 
 class SpaceAfterImpl : public LengthImpl<SpaceAfter, SpaceAfterImpl, kSpaceAfter> {
 public:
     using LengthImpl::LengthImpl;
-    static SpaceAfter* makeFacade(SpaceAfterImpl* impl) { return new SpaceAfter(impl); }
 };
 
 class LineSpacingImpl : public LengthImpl<LineSpacing, LineSpacingImpl, kLineSpacing> {
 public:
     using LengthImpl::LengthImpl;
-    static LineSpacing* makeFacade(LineSpacingImpl* impl) { return new LineSpacing(impl); }
 };
 
 class LeftIndentImpl : public LengthImpl<LeftIndent, LeftIndentImpl, kLeftIndent> {
 public:
     using LengthImpl::LengthImpl;
-    static LeftIndent* makeFacade(LeftIndentImpl* impl) { return new LeftIndent(impl); }
 };
 
 class FirstLineIndentImpl : public LengthImpl<FirstLineIndent, FirstLineIndentImpl, kFirstLineIndent> {
 public:
     using LengthImpl::LengthImpl;
-    static FirstLineIndent* makeFacade(FirstLineIndentImpl* impl) { return new FirstLineIndent(impl); }
 };
 
 SpaceBefore::SpaceBefore() : SpaceBefore(kSpaceBefore.usual) {}
@@ -161,9 +156,7 @@ public:
     explicit RightToLeftImpl(bool value) : value_(value) {}
 
     const char* getFullyQualifiedHostTypeName() const override { return "vellox.ppt.RightToLeft"; }
-    boost::shared_ptr<Format> makeInterface() override {
-        return boost::shared_ptr<Format>(new RightToLeft(this));
-    }
+    boost::shared_ptr<Format> makeInterface() override { return ObjectAccess::makeFacade<RightToLeft>(this); }
     FormatType getFormatType() const override { return FormatType::RightToLeft; }
     void applyToParagraph(ParagraphWriter& writer) const override { writer.setRightToLeft(value_); }
 

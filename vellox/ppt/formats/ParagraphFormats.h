@@ -37,7 +37,7 @@ public:
     void setValue(const std::wstring& value);
 
 protected:
-    friend class BulletImpl;
+    friend struct ObjectAccess;
     explicit Bullet(BulletImpl* impl);
 };
 
@@ -51,7 +51,7 @@ public:
     explicit SpaceBefore(const std::wstring& value);
 
 protected:
-    friend class SpaceBeforeImpl;
+    friend struct ObjectAccess;
     explicit SpaceBefore(SpaceBeforeImpl* impl);
 };
 
@@ -63,7 +63,7 @@ public:
     explicit SpaceAfter(const std::wstring& value);
 
 protected:
-    friend class SpaceAfterImpl;
+    friend struct ObjectAccess;
     explicit SpaceAfter(SpaceAfterImpl* impl);
 };
 
@@ -77,7 +77,7 @@ public:
     explicit LineSpacing(const std::wstring& value);
 
 protected:
-    friend class LineSpacingImpl;
+    friend struct ObjectAccess;
     explicit LineSpacing(LineSpacingImpl* impl);
 };
 
@@ -90,7 +90,7 @@ public:
     explicit LeftIndent(const std::wstring& value);
 
 protected:
-    friend class LeftIndentImpl;
+    friend struct ObjectAccess;
     explicit LeftIndent(LeftIndentImpl* impl);
 };
 
@@ -103,7 +103,7 @@ public:
     explicit FirstLineIndent(const std::wstring& value);
 
 protected:
-    friend class FirstLineIndentImpl;
+    friend struct ObjectAccess;
     explicit FirstLineIndent(FirstLineIndentImpl* impl);
 };
 
@@ -119,7 +119,7 @@ public:
     template <class T> void setValue(const T*) = delete;
 
 protected:
-    friend class RightToLeftImpl;
+    friend struct ObjectAccess;
     explicit RightToLeft(RightToLeftImpl* impl);
 };
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <boost/intrusive_ptr.hpp>
+#include <boost/make_shared.hpp>
 #include <utility>
 
 namespace vellox::ppt {
@@ -14,15 +15,33 @@ namespace vellox::ppt {
 // PPTNodeImpl
 
 PPTNodeImpl::~PPTNodeImpl() {
-    while (!linked_.empty())
-        linked_.front().setParent(nullptr);
+    for (const Child& child : children_) {
+        PPTNodeImpl* node = child ? implOf<PPTNodeImpl>(*child) : nullptr;
+        if (node && node->parent_ == this)
+            node->parent_ = nullptr;
+    }
+    if (const auto& own = getMarks().ties.get().own)
+        *own = nullptr;
 }
 
 void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
-    link_.unlink();
     parent_ = parent;
-    if (parent_)
-        parent_->linked_.push_back(*this);
+    if (getMarks().ties.get().parent)
+        requireMarks().ties.require().parent.reset();
+}
+
+// Out of its parent's list, where this isn't found when the parent ends: so the parent has to be found from here.
+void PPTNodeImpl::dropOut() {
+    auto& own = parent_->requireMarks().ties.require().own;
+    if (!own)
+        own = boost::make_shared<PPTObjectImpl*>(parent_);
+    requireMarks().ties.require().parent = own;
+    parent_ = nullptr;
+}
+
+PPTNodeImpl* PPTNodeImpl::findFormerParent() const {
+    const auto& former = getMarks().ties.get().parent;
+    return former ? static_cast<PPTNodeImpl*>(*former) : nullptr;
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
@@ -38,11 +57,11 @@ bool PPTNodeImpl::isA(NodeType type) const {
 }
 
 void PPTNodeImpl::setName(const std::wstring& name) {
-    name_.require() = name;
+    requireMarks().name = name;
 }
 
 void PPTNodeImpl::requireFree(const PPTNode& child) const {
-    if (implOf<PPTNodeImpl>(child)->parent_)
+    if (implOf<PPTNodeImpl>(child)->getParent())
         raise(ppt_error::failedToAppendChild());
 }
 
@@ -99,9 +118,14 @@ void PPTNodeImpl::moveChild(const PPTNode& child, unsigned int index) {
 }
 
 void PPTNodeImpl::setChildren(const Children& children) {
+    for (const Child& child : children_) {
+        PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
+        if (node->parent_ == this)
+            node->dropOut();
+    }
     for (const Child& child : children) {
         PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
-        if (!node->parent_)
+        if (!node->getParent() || node->getParent() == this)
             node->setParent(this);
     }
     const Children former = std::exchange(children_, children); // ends when all is in order

@@ -4,7 +4,6 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
-#include <boost/intrusive/list.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
 #include <type_traits>
@@ -29,8 +28,7 @@ struct ReportPlace;
 ///
 /// A child's link is set when it comes in and cleared when it is replaced or its parent ends. The one
 /// asymmetry: setChildren() doesn't clear the links of those that fall out of the list. So a node may link to a
-/// parent that doesn't list it, and stand in the list of one that it doesn't link to; a parent knows the nodes that
-/// link to it apart from its list, and clears their links when it ends.
+/// parent that doesn't list it, and stand in the list of one that it doesn't link to.
 class PPTNodeImpl : public PPTObjectImpl {
 public:
     using Child = boost::shared_ptr<PPTNode>;
@@ -39,7 +37,7 @@ public:
     PPTNodeImpl() = default;
     explicit PPTNodeImpl(const std::wstring& name) {
         if (!name.empty())
-            name_.require() = name;
+            requireMarks().name = name;
     }
     /// Without name, parent and children: copyOf() makes the copies of these once the new node is whole.
     PPTNodeImpl(const PPTNodeImpl& other) : PPTObjectImpl(other) {}
@@ -75,11 +73,11 @@ public:
     /// Puts a child before the one that has an index without it, or at the end if there is none.
     void moveChild(const PPTNode& child, unsigned int index);
 
-    const std::wstring& getName() const { return name_.get(); }
+    const std::wstring& getName() const { return getMarks().name; }
     /// The same for those who may keep it, and see in it what is set later.
-    const std::wstring& requireName() { return name_.require(); }
+    const std::wstring& requireName() { return requireMarks().name; }
     const Children& getChildren() const { return children_; }
-    PPTNodeImpl* getParent() const { return parent_; }
+    PPTNodeImpl* getParent() const { return parent_ ? parent_ : findFormerParent(); }
     /// Takes note of a report about a node below, or about this one; see report(). Const, since it changes nothing that
     /// the node is or holds. Presentations do; other nodes forget it.
     virtual void hear(const MsgID& finding, const ReportPlace& place) const;
@@ -104,19 +102,12 @@ protected:
 private:
     Children::iterator findPlaceOf(const PPTNode& node);
     void requireFree(const PPTNode& child) const;
+    PPTNodeImpl* findFormerParent() const;
     void setParent(PPTNodeImpl* parent);
+    void dropOut();
 
-    using Link =
-        boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::auto_unlink>>;
-
-    PPTNodeImpl* parent_ = nullptr;
-    Link link_; // in the parent's list below
+    PPTNodeImpl* parent_ = nullptr; // one that lists this; see dropOut() for one that doesn't any more
     Children children_;
-    Lazy<std::wstring> name_;
-    // Those whose parent this is, in no order and not owned.
-    boost::intrusive::list<PPTNodeImpl, boost::intrusive::member_hook<PPTNodeImpl, Link, &PPTNodeImpl::link_>,
-                           boost::intrusive::constant_time_size<false>>
-        linked_;
 };
 
 /// The implementation behind a node if it is of this class or derives from it, else null. Without a dynamic cast, as decks

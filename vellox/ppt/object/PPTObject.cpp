@@ -27,9 +27,13 @@ unsigned int takeNumber() {
 
 } // namespace
 
-PPTObjectImpl::PPTObjectImpl() : number_(takeNumber()) {}
+PPTObjectImpl::PPTObjectImpl() : number_(takeNumber()), refCount_(0), life_(Life::Whole) {}
 
-PPTObjectImpl::PPTObjectImpl(const PPTObjectImpl& other) : Wrappable(other), number_(takeNumber()) {
+PPTObjectImpl::PPTObjectImpl(const PPTObjectImpl& other)
+    : Wrappable(other),
+      number_(takeNumber()),
+      refCount_(0),
+      life_(Life::Whole) {
     if (const auto client = other.getClient())
         setClient(client->clone());
 }
@@ -46,14 +50,9 @@ boost::shared_ptr<PPTObject> PPTObjectImpl::makeHandle() {
     return boost::shared_ptr<PPTObject>(new PPTObject(ObjectAccess::makeHandle(this)));
 }
 
-PPTObjectImpl::Marks& PPTObjectImpl::requireMarks() {
-    if (!marks_)
-        marks_ = std::make_unique<Marks>();
-    return *marks_;
-}
-
 std::wstring PPTObjectImpl::getId() const {
-    return marks_ && marks_->id ? *marks_->id : makeId();
+    const auto& given = getMarks().labels.get().id;
+    return given ? *given : makeId();
 }
 
 std::wstring PPTObjectImpl::makeId() const {
@@ -61,28 +60,28 @@ std::wstring PPTObjectImpl::makeId() const {
 }
 
 void PPTObjectImpl::setId(const std::wstring& id) {
-    requireMarks().id = id;
+    requireMarks().labels.require().id = id;
 }
 
 void PPTObjectImpl::setTag(const std::wstring& tag) {
-    requireMarks().tag = tag;
+    requireMarks().labels.require().tag = tag;
 }
 
 std::wstring PPTObjectImpl::getTag() const {
-    if (marks_ && !marks_->tag.empty())
-        return marks_->tag;
+    if (const std::wstring& given = getMarks().labels.get().tag; !given.empty())
+        return given;
     const std::wstring name = toStringFromASCIIStringLiteral(getFullyQualifiedHostTypeName());
     return name.substr(name.find(L'.') + 1) + L":" + getId();
 }
 
 boost::shared_ptr<PPTClientImpl> PPTObjectImpl::getClient() const {
-    return marks_ ? marks_->client : boost::shared_ptr<PPTClientImpl>();
+    return getMarks().client;
 }
 
 void PPTObjectImpl::setClient(const boost::shared_ptr<PPTClientImpl>& client) {
-    if (!client && !marks_)
-        return;
     const boost::shared_ptr<PPTClientImpl> former = getClient(); // somebody may hold it longer
+    if (!client && !former)
+        return;
     if (former && former->object_ == this)
         former->object_ = nullptr;
     requireMarks().client = client;

@@ -11,13 +11,15 @@
 #include <string>
 #include <utility>
 
+#include "vellox/foundation/Lazy.h"
+#include "vellox/foundation/SmallPieces.h"
 #include "vellox/host/services/Wrappable.h"
 #include "vellox/ppt/object/PPTObject.h"
 
 namespace vellox::ppt {
 
 /// A counted object with an identity. The count is a plain integer: the library is used from one thread.
-class PPTObjectImpl : public objreg::factory::full::Wrappable {
+class PPTObjectImpl : public objreg::factory::full::Wrappable, public InPieces {
 public:
     PPTObjectImpl();
     /// A new object: another id, no tag, no holders; its client is what the other's client gives for it.
@@ -37,7 +39,7 @@ public:
     int getRefCount() const { return refCount_; }
 
     /// What listeners may be told of: an object that isn't whole yet, or not any more.
-    enum class Life : char { Whole, UnderConstruction, Ending };
+    enum class Life : unsigned char { Whole, UnderConstruction, Ending };
     Life getLife() const { return life_; }
 
     /// Lets handles on an object come and go while it is under construction or ending, when its count is 0
@@ -61,36 +63,47 @@ public:
     };
 
 protected:
+    struct Labels {
+        std::optional<std::wstring> id; // one that was set
+        std::wstring tag;
+    };
+    /// How nodes find each other that have fallen out of a list: each shows where a node is until it ends.
+    struct Ties {
+        boost::shared_ptr<PPTObjectImpl*> own;    // for those that have fallen out of this one's list
+        boost::shared_ptr<PPTObjectImpl*> parent; // of the node whose list this one has fallen out of
+    };
+    /// What few objects have; a deck has objects by the hundred thousand, which are as small as can be for that.
+    struct Marks {
+        boost::shared_ptr<PPTClientImpl> client;
+        Lazy<Labels> labels;
+        std::wstring name; // nodes have these two
+        Lazy<Ties> ties;
+    };
+
     /// The Id of an object that wasn't given another.
     virtual std::wstring makeId() const;
+    const Marks& getMarks() const { return marks_.get(); }
+    Marks& requireMarks() { return marks_.require(); }
 
 private:
     friend void intrusive_ptr_add_ref(PPTObjectImpl* object);
     friend void intrusive_ptr_release(PPTObjectImpl* object);
 
-    /// What few objects have; a deck has objects by the hundred thousand.
-    struct Marks {
-        boost::shared_ptr<PPTClientImpl> client;
-        std::optional<std::wstring> id; // one that was set
-        std::wstring tag;
-    };
-
-    Marks& requireMarks();
-
-    std::unique_ptr<Marks> marks_;
+    Lazy<Marks> marks_;
     unsigned int number_; // of which its Id is made
-    int refCount_ = 0;
-    Life life_ = Life::Whole;
+    int refCount_ : 30;
+    Life life_ : 2;
 };
 
 /// The way from a facade to its implementation and back, for code inside the library.
 struct ObjectAccess {
     static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
     static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
-    /// A new facade of a class of nodes, around its implementation. Facade and count of holders are one piece of memory,
+    /// A new facade around an implementation. Facade and count of holders are one piece of memory,
     /// as a deck has them by the hundred thousand.
     template <class Facade, class Impl> static boost::shared_ptr<Facade> makeFacade(Impl* impl) {
-        boost::shared_ptr<Facade> piece(static_cast<Facade*>(nullptr), Kept<Facade>{Facade(impl)});
+        boost::shared_ptr<Facade> piece(static_cast<Facade*>(nullptr), Kept<Facade>{Facade(impl)},
+                                        PieceAllocator<Facade>());
         Facade& facade = boost::get_deleter<Kept<Facade>>(piece)->facade;
         return boost::shared_ptr<Facade>(std::move(piece), &facade);
     }
