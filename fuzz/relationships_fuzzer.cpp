@@ -9,7 +9,7 @@
 using namespace vellox::fuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    opc::RelationshipTable table(L"/ppt/slides/", boost::make_shared<opc::RelationshipTypes>());
+    opc::RelationshipTable table(L"/ppt/slides/", boost::make_shared<opc::RelationshipTexts>());
     try {
         readRows(table, toString(data, size));
     } catch (const opc::Exception&) {
@@ -18,9 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const opc::URI image(L"/ppt/media/image1.png");
     const std::wstring added = table.addInternal(L"image", image, {}).getID();
     require(table.find(added)->getTargetURI().toString() == image.toString(), "a target is found again");
-    table.addExternal(L"link", table.getAll().front().getTarget(), {});
+    table.addExternal(L"link", table.getAll().front().getTargetURI().toString(), {});
 
-    opc::RelationshipTable again(L"/ppt/slides/", boost::make_shared<opc::RelationshipTypes>());
+    opc::RelationshipTable again(L"/ppt/slides/", boost::make_shared<opc::RelationshipTexts>());
     readRows(again, writeRows(table));
     require(again.getAll().size() == table.getAll().size(), "no row gets lost");
     for (std::size_t i = 0; i < table.getAll().size(); ++i)

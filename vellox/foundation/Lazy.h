@@ -13,7 +13,10 @@ template <class T> class Lazy {
 public:
     Lazy() = default;
     Lazy(const Lazy& other) : value_(other.value_ ? std::make_unique<T>(*other.value_) : nullptr) {}
-    Lazy& operator=(const Lazy&) = delete;
+    Lazy& operator=(Lazy other) noexcept {
+        value_.swap(other.value_);
+        return *this;
+    }
 
     /// To be read: that of all who have none yet, or one's own. It isn't where a change will show.
     const T& get() const {

@@ -62,10 +62,10 @@ void ContentTypes::read(DOMLSParser& parser, InputStream& stream) {
 void ContentTypes::write(OutputStream& stream) const {
     MarkupBuffer out;
     const std::size_t start = out.openDocument("Types", kNamespace);
-    for (const Row& row : defaults_)
-        appendRow(out, "<Default", u"Extension", row.key, *row.type);
-    for (const Row& row : overrides_)
-        appendRow(out, "<Override", u"PartName", row.key, *row.type);
+    for (const Default& row : defaults_)
+        appendRow(out, "<Default", u"Extension", row.extension, *row.type);
+    for (const Override& row : overrides_)
+        appendRow(out, "<Override", u"PartName", row.name.toString(), *row.type);
     out.closeElement("Types", start);
     stream.write(reinterpret_cast<const unsigned char*>(out.get().data()), out.getLength());
     stream.close();
@@ -100,11 +100,11 @@ void ContentTypes::change(const PartName& name, const ContentType& type) {
 }
 
 void ContentTypes::remove(const std::set<PartName>& names) {
-    const std::vector<Row> former = std::exchange(overrides_, {});
+    const std::vector<Override> former = std::exchange(overrides_, {});
     overrideByName_.clear();
-    for (const Row& row : former)
-        if (names.count(PartName(row.key)) == 0)
-            setOverride(PartName(row.key), *row.type);
+    for (const Override& row : former)
+        if (names.count(row.name) == 0)
+            setOverride(row.name, *row.type);
     isChanged_ = isChanged_ || overrides_.size() != former.size();
 }
 
@@ -117,7 +117,7 @@ void ContentTypes::setDefault(const std::wstring& extension, const std::wstring&
 void ContentTypes::setOverride(const PartName& name, const std::wstring& type) {
     const auto entry = overrideByName_.emplace(name.getKey(), overrides_.size());
     if (entry.second)
-        overrides_.push_back({name.toString(), hold(type)});
+        overrides_.push_back({name, hold(type)});
     else
         overrides_[entry.first->second].type = hold(type);
 }

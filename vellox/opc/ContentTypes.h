@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -60,9 +61,13 @@ public:
     bool isChanged() const { return isChanged_; }
 
 private:
-    /// An extension or a part's name, and the type, which is one of types_.
-    struct Row {
-        std::wstring key;
+    /// The types of which are of types_.
+    struct Default {
+        std::wstring extension;
+        const std::wstring* type;
+    };
+    struct Override {
+        PartName name;
         const std::wstring* type;
     };
 
@@ -72,10 +77,10 @@ private:
 
     std::unordered_set<std::wstring> types_; // they are few and long, the parts many
     // Rows in the order of the stream, and where to find them.
-    std::vector<Row> defaults_;
-    std::vector<Row> overrides_;
+    std::vector<Default> defaults_;
+    std::vector<Override> overrides_;
     std::map<std::wstring, std::size_t> defaultByExtension_;
-    std::unordered_map<std::string, std::size_t> overrideByName_; // by the keys of the names
+    std::unordered_map<std::string_view, std::size_t> overrideByName_; // by the keys of their names
     bool isChanged_ = false;
     bool hasPrefix_ = false;
 };

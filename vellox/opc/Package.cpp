@@ -135,7 +135,7 @@ boost::shared_ptr<PhysicalPart> PackageContents::createPart(const PartName& name
     const PartName leftBehind = name.getRelationshipPartName();
     if (findPart(leftBehind))
         sources_.insert_or_assign(leftBehind,
-                                  RelationshipTable::makeEmpty(name.getFolder(), relationshipTypes_));
+                                  RelationshipTable::makeEmpty(name.getFolder(), relationshipTexts_));
     return addPart(name, type, info);
 }
 
@@ -166,7 +166,7 @@ RelationshipTable& PackageContents::getRelationships(const PartName* source) {
     const auto known = sources_.find(part);
     if (known != sources_.end())
         return known->second;
-    RelationshipTable table(source ? source->getFolder() : L"/", relationshipTypes_);
+    RelationshipTable table(source ? source->getFolder() : L"/", relationshipTexts_);
     try {
         if (const auto stored = findPart(part))
             table.read(*parser_, *stored->openInput());

@@ -44,7 +44,7 @@ private:
     ParserScope parser_; // from the opening on
     boost::shared_ptr<PhysicalPackage> physical_;
     ContentTypes types_;
-    boost::shared_ptr<RelationshipTypes> relationshipTypes_ = boost::make_shared<RelationshipTypes>();
+    boost::shared_ptr<RelationshipTexts> relationshipTexts_ = boost::make_shared<RelationshipTexts>();
     std::unordered_map<std::string_view, boost::shared_ptr<PhysicalPart>>
         parts_; // by the keys of their names
     std::map<PartName, RelationshipTable>

@@ -72,45 +72,49 @@ void checkName(const std::string& name) {
 
 } // namespace
 
-PartName::PartName(const std::wstring& name) : name_(name) {
-    const std::size_t last = name_.find_last_not_of(L'.');
-    if (last != std::wstring::npos && name_[last] != L'/')
-        name_.erase(last + 1);
-    const std::string bytes = vellox::toUtf8(name_);
+PartName::PartName(const std::wstring& name) : PartName(makeText(name)) {}
+
+PartName::Text PartName::makeText(const std::wstring& name) {
+    const std::size_t last = name.find_last_not_of(L'.');
+    const bool isDotted = last != std::wstring::npos && name[last] != L'/';
+    Text text{isDotted ? name.substr(0, last + 1) : name, {}};
+    const std::string bytes = vellox::toUtf8(text.name);
     checkName(bytes);
-    key_ = fold(bytes);
+    text.key = fold(bytes);
+    return text;
 }
 
 std::wstring PartName::getFolder() const {
-    return name_.substr(0, name_.rfind(L'/') + 1);
+    return toString().substr(0, toString().rfind(L'/') + 1);
 }
 
 std::wstring PartName::getExtension() const {
-    const std::size_t slash = key_.rfind('/');
-    const std::size_t dot = key_.rfind('.');
+    const std::string& key = getKey();
+    const std::size_t slash = key.rfind('/');
+    const std::size_t dot = key.rfind('.');
     if (dot == std::string::npos || dot < slash)
         return {};
-    return vellox::fromUtf8(key_.substr(dot + 1));
+    return vellox::fromUtf8(key.substr(dot + 1));
 }
 
 // A name that is one stays one: it needn't be checked again. There are as many of these as there are slides.
 PartName PartName::getRelationshipPartName() const {
-    PartName part(*this);
-    part.name_.insert(name_.rfind(L'/') + 1, L"_rels/").append(L".rels");
-    part.key_.insert(key_.rfind('/') + 1, "_rels/").append(".rels");
-    return part;
+    Text part(*text_);
+    part.name.insert(part.name.rfind(L'/') + 1, L"_rels/").append(L".rels");
+    part.key.insert(part.key.rfind('/') + 1, "_rels/").append(".rels");
+    return PartName(part);
 }
 
 URI PartName::toURI() const {
-    if (name_.find_first_of(L" \"<>^`{|}#?%") == std::wstring::npos)
-        return URI(name_);
+    if (toString().find_first_of(L" \"<>^`{|}#?%") == std::wstring::npos)
+        return URI(toString());
     return URI(L"/" + vellox::fromUtf8(toEntryName()));
 }
 
 std::string PartName::toEntryName() const {
     constexpr std::string_view kEncoded = " \"<>^`{|}#?";
     std::string entry;
-    const std::string bytes = vellox::toUtf8(name_);
+    const std::string bytes = vellox::toUtf8(toString());
     entry.reserve(bytes.size());
     for (std::size_t i = 1; i < bytes.size(); ++i) {
         const auto byte = static_cast<unsigned char>(bytes[i]);

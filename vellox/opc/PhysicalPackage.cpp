@@ -21,7 +21,7 @@ boost::shared_ptr<InputStream> PhysicalPart::openInput() const {
         return openOriginal();
     if (content_ == Content::Bytes)
         return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>(readBytes()));
-    return boost::make_shared<StdIStreamAdaptor>(LocalFileSystemOps().createInputStream(file_, kReadBinary));
+    return boost::make_shared<StdIStreamAdaptor>(LocalFileSystemOps().createInputStream(getContentFile(), kReadBinary));
 }
 
 OutputStream& PhysicalPart::startOutput() {
@@ -33,7 +33,7 @@ OutputStream& PhysicalPart::startOutput() {
 
 void PhysicalPart::setContentFile(const std::wstring& path) {
     content_ = Content::File;
-    file_ = path;
+    file_.require() = path;
 }
 
 void PhysicalPackage::deleteParts(const std::set<PartName>& names) {

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "vellox/foundation/Lazy.h"
 #include "vellox/opc/Compression.h"
 #include "vellox/opc/PartName.h"
 #include "vellox/opc/Streams.h"
@@ -49,7 +50,7 @@ public:
     enum class Content { Original, Bytes, File };
     Content getContent() const { return content_; }
     const std::string& getBytes() const { return bytes_; }
-    const std::wstring& getContentFile() const { return file_; }
+    const std::wstring& getContentFile() const { return file_.get(); }
 
 protected:
     /// The content that the container holds.
@@ -79,7 +80,7 @@ private:
     StandardPartInfo info_;
     Content content_ = Content::Original;
     std::string bytes_;
-    std::wstring file_;
+    vellox::Lazy<std::wstring> file_;
     Output output_{*this};
 };
 

@@ -25,11 +25,11 @@ constexpr std::size_t kFewRows = 8;
 
 } // namespace
 
-RelationshipTypes::Type RelationshipTypes::share(const std::wstring& text) {
-    Type& type = types_[text];
-    if (!type)
-        type = boost::make_shared<const std::wstring>(text);
-    return type;
+RelationshipTexts::Text RelationshipTexts::share(const std::wstring& text) {
+    Text& shared = texts_[text];
+    if (!shared)
+        shared = boost::make_shared<const std::wstring>(text);
+    return shared;
 }
 
 void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
@@ -41,10 +41,19 @@ void RelationshipTable::read(DOMLSParser& parser, InputStream& stream) {
     for (const DOMElement* row = root->getFirstElementChild(); row; row = row->getNextElementSibling()) {
         const std::wstring target = getAttribute(*row, u"Target");
         const bool isExternal = getAttribute(*row, u"TargetMode") == L"External";
-        rows_.emplace_back(getAttribute(*row, u"Id"), types_->share(getAttribute(*row, u"Type")), target,
-                           URI(isExternal ? target : resolveTarget(folder_, target)), isExternal);
+        rows_.emplace_back(getAttribute(*row, u"Id"), texts_->share(getAttribute(*row, u"Type")),
+                           URI(isExternal ? target : resolveTarget(*folder_, target)), isExternal);
+        if (!isExternal)
+            rows_.back().setSpelling(target);
         index(rows_.size() - 1);
     }
+}
+
+std::wstring RelationshipTable::spellTarget(const Relationship& row) const {
+    if (row.isExternal())
+        return row.getTargetURI().toString();
+    return row.getSpelling() ? *row.getSpelling()
+                             : makeRelativeTarget(*folder_, row.getTargetURI().toString());
 }
 
 void RelationshipTable::write(OutputStream& stream) const {
@@ -53,7 +62,7 @@ void RelationshipTable::write(OutputStream& stream) const {
     for (const Relationship& row : rows_) {
         out.append("<Relationship");
         out.appendAttribute(u"Id", XercesString(row.getID()));
-        out.appendAttribute(u"Target", XercesString(row.getTarget()));
+        out.appendAttribute(u"Target", XercesString(spellTarget(row)));
         if (row.isExternal())
             out.appendAttribute(u"TargetMode", u"External");
         out.appendAttribute(u"Type", XercesString(row.getType()));
@@ -65,21 +74,23 @@ void RelationshipTable::write(OutputStream& stream) const {
 }
 
 const Relationship* RelationshipTable::find(const std::wstring& id) const {
-    if (rowByID_.empty()) {
+    const auto& rowByID = rowByID_.get();
+    if (rowByID.empty()) {
         const auto row = std::find_if(rows_.begin(), rows_.end(),
                                       [&](const Relationship& each) { return each.getID() == id; });
         return row == rows_.end() ? nullptr : &*row;
     }
-    const auto found = rowByID_.find(id);
-    return found == rowByID_.end() ? nullptr : &rows_[found->second];
+    const auto found = rowByID.find(id);
+    return found == rowByID.end() ? nullptr : &rows_[found->second];
 }
 
 // Takes note of the rows from here on.
 void RelationshipTable::index(std::size_t firstRow) {
     if (rows_.size() <= kFewRows)
         return;
-    for (std::size_t row = rowByID_.empty() ? 0 : firstRow; row < rows_.size(); ++row)
-        rowByID_.emplace(rows_[row].getID(), row);
+    auto& rowByID = rowByID_.require();
+    for (std::size_t row = rowByID.empty() ? 0 : firstRow; row < rows_.size(); ++row)
+        rowByID.emplace(rows_[row].getID(), row);
 }
 
 std::wstring RelationshipTable::chooseID(const std::wstring& wanted) {
@@ -103,15 +114,14 @@ const Relationship& RelationshipTable::add(Relationship row) {
 
 const Relationship& RelationshipTable::addInternal(const std::wstring& type, const URI& target,
                                                    const std::wstring& id) {
-    const std::wstring name = resolveTarget(folder_, target.toString());
-    return add(
-        Relationship(chooseID(id), types_->share(type), makeRelativeTarget(folder_, name), URI(name), false));
+    return add(Relationship(chooseID(id), texts_->share(type),
+                            URI(resolveTarget(*folder_, target.toString())), false));
 }
 
 const Relationship& RelationshipTable::addExternal(const std::wstring& type, const std::wstring& target,
                                                    const std::wstring& id) {
     const std::wstring reference = makeExternalTarget(target);
-    return add(Relationship(chooseID(id), types_->share(type), reference, URI(reference), true));
+    return add(Relationship(chooseID(id), texts_->share(type), URI(reference), true));
 }
 
 void RelationshipTable::remove(const std::set<std::wstring>& ids) {
@@ -126,7 +136,7 @@ template <class Condition> void RelationshipTable::removeIf(Condition isCondemne
     const auto end = std::remove_if(rows_.begin(), rows_.end(), isCondemned);
     isChanged_ = isChanged_ || end != rows_.end();
     rows_.erase(end, rows_.end());
-    rowByID_.clear();
+    rowByID_.require().clear();
     index(0);
     nextID_ = 1;
 }

@@ -4,6 +4,7 @@
 #ifndef VELLOX_OPC_RELATIONSHIP_H
 #define VELLOX_OPC_RELATIONSHIP_H
 
+#include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 #include <map>
 #include <set>
@@ -11,31 +12,31 @@
 #include <unordered_map>
 #include <vector>
 
+#include "vellox/foundation/Lazy.h"
 #include "vellox/opc/Streams.h"
 #include "vellox/opc/Uri.h"
 #include "vellox/opc/XercesHelper.h"
 
 namespace opc {
 
-/// The types of the relationships of a package, each text once: they are long, few, and every slide has the same.
-class RelationshipTypes {
+/// What the relationships of a package have in common, each text once: types and folders are long, few, and those of
+/// every slide are the same.
+class RelationshipTexts {
 public:
-    using Type = boost::shared_ptr<const std::wstring>;
+    using Text = boost::shared_ptr<const std::wstring>;
 
-    Type share(const std::wstring& text);
+    Text share(const std::wstring& text);
 
 private:
-    std::map<std::wstring, Type> types_;
+    std::map<std::wstring, Text> texts_;
 };
 
 /// One reference. A value.
 class Relationship {
 public:
-    Relationship(std::wstring id, RelationshipTypes::Type type, std::wstring target, URI targetURI,
-                 bool isExternal)
+    Relationship(std::wstring id, RelationshipTexts::Text type, URI targetURI, bool isExternal)
         : id_(std::move(id)),
           type_(std::move(type)),
-          target_(std::move(target)),
           targetURI_(std::move(targetURI)),
           isExternal_(isExternal) {}
 
@@ -43,15 +44,19 @@ public:
     const std::wstring& getType() const { return *type_; }
     /// An absolute part name, or the target as it stands if that lies outside the package.
     const URI& getTargetURI() const { return targetURI_; }
-    /// The target as the relationship part spells it.
-    const std::wstring& getTarget() const { return target_; }
     bool isExternal() const { return isExternal_; }
+
+    /// The target of one within the package as its relationship part spells it, if that was read.
+    const RelationshipTexts::Text& getSpelling() const { return spelling_; }
+    void setSpelling(const std::wstring& target) {
+        spelling_ = boost::make_shared<const std::wstring>(target);
+    }
 
 private:
     std::wstring id_;
-    RelationshipTypes::Type type_;
-    std::wstring target_;
+    RelationshipTexts::Text type_;
     URI targetURI_;
+    RelationshipTexts::Text spelling_;
     bool isExternal_;
 };
 
@@ -59,14 +64,14 @@ private:
 class RelationshipTable {
 public:
     /// @param folder the folder of the source, from which relative targets start
-    /// @param types of the package
-    RelationshipTable(std::wstring folder, boost::shared_ptr<RelationshipTypes> types)
-        : types_(std::move(types)),
-          folder_(std::move(folder)) {}
+    /// @param texts of the package
+    RelationshipTable(const std::wstring& folder, boost::shared_ptr<RelationshipTexts> texts)
+        : texts_(std::move(texts)),
+          folder_(texts_->share(folder)) {}
     /// An empty table that counts as changed, and so takes the place of one that is stored.
     static RelationshipTable makeEmpty(const std::wstring& folder,
-                                       const boost::shared_ptr<RelationshipTypes>& types) {
-        RelationshipTable table(folder, types);
+                                       const boost::shared_ptr<RelationshipTexts>& texts) {
+        RelationshipTable table(folder, texts);
         table.isChanged_ = true;
         return table;
     }
@@ -91,14 +96,16 @@ public:
 private:
     template <class Condition> void removeIf(Condition isCondemned);
     void index(std::size_t firstRow);
+    std::wstring spellTarget(const Relationship& row) const;
     std::wstring chooseID(const std::wstring& wanted);
     const Relationship& add(Relationship row);
 
-    boost::shared_ptr<RelationshipTypes> types_;
-    std::wstring folder_;
+    boost::shared_ptr<RelationshipTexts> texts_;
+    RelationshipTexts::Text folder_;
     std::vector<Relationship> rows_;
-    std::unordered_map<std::wstring, std::size_t> rowByID_; // the first of each id; empty while rows are few
-    unsigned nextID_ = 1;                                   // no smaller number is free
+    vellox::Lazy<std::unordered_map<std::wstring, std::size_t>>
+        rowByID_;         // the first of each id; none of few rows
+    unsigned nextID_ = 1; // no smaller number is free
     bool isChanged_ = false;
 };
 

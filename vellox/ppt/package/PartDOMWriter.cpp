@@ -1,16 +1,15 @@
 #include "vellox/ppt/package/PartDOMWriter.h"
 
-#include "vellox/opc/Utf8Serializer.h"
-
 namespace vellox::ppt {
 
 PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> package) : OPCPartWriter(std::move(package)) {}
 
 PartDOMWriter::~PartDOMWriter() = default;
 
-void PartDOMWriter::writeDocument(const std::wstring& partName, xercesc::DOMDocument* document) {
+void PartDOMWriter::writeDocument(const std::wstring& partName, xercesc::DOMDocument* document,
+                                  const opc::Contents& contents) {
     markup_.truncate(0);
-    opc::Utf8Serializer::appendDocument(*document, opc::Contents(), markup_);
+    opc::Utf8Serializer::appendDocument(*document, contents, markup_);
     writeMarkup(partName, markup_.get());
 }
 

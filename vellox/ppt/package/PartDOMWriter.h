@@ -11,6 +11,7 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include "vellox/opc/MarkupBuffer.h"
+#include "vellox/opc/Utf8Serializer.h"
 #include "vellox/opc/XercesProcess.h"
 #include "vellox/ppt/package/OPCPartWriter.h"
 
@@ -26,8 +27,10 @@ public:
 
     void setWatcher(Watcher watcher) { watcher_ = std::move(watcher); }
     /// Makes a document the content of an existing part.
+    /// @param contents what stands in its elements without being nodes
     /// @throws opc::Exception
-    void writeDocument(const std::wstring& partName, xercesc::DOMDocument* document);
+    void writeDocument(const std::wstring& partName, xercesc::DOMDocument* document,
+                       const opc::Contents& contents = {});
     /// The same with the text of one.
     /// @throws opc::Exception
     void writeMarkup(const std::wstring& partName, std::string_view markup);

@@ -48,7 +48,7 @@ void copyRelationships(const opc::Part& from, opc::Part& to, const std::vector<s
         if ((ids && !std::binary_search(ids->begin(), ids->end(), id)) || !copied.insert(id).second)
             continue;
         if (row.isExternal())
-            to.createExternalRelationship(row.getType(), row.getTarget(), id);
+            to.createExternalRelationship(row.getType(), row.getTargetURI().toString(), id);
         else
             to.createInternalRelationship(row.getType(), row.getTargetURI(), id);
     }

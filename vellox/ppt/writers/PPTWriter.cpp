@@ -70,11 +70,11 @@ FontBook& PPTWriter::getFonts() {
 }
 
 bool PPTWriter::isOnNewSlide() const {
-    return currentSlide_ && !slides_.back().slide->source;
+    return currentSlide_ && !slides_.back()->source;
 }
 
 const TemplateLayout* PPTWriter::getCurrentLayout() const {
-    return currentSlide_ ? slides_.back().slide->layout.get() : nullptr;
+    return currentSlide_ ? slides_.back()->layout.get() : nullptr;
 }
 
 ChartParts& PPTWriter::getChartParts() {
@@ -114,18 +114,17 @@ void PPTWriter::write(const PPTNode& node) {
 }
 
 void PPTWriter::finish(const DocumentProperties& properties) {
-    std::vector<boost::shared_ptr<TemplateSlide>> slides;
-    for (const Written& written : slides_) {
-        written.slide->partName = written.partName;
-        slides.push_back(written.slide);
-    }
-    updateSlideList(model_->getTemplate(), slides, *partWriter_, *notes_);
+    for (const auto& slide : slides_)
+        if (slide->partName.empty())
+            slide->partName = std::move(newNames_[slide.get()]);
+    newNames_.clear();
+    updateSlideList(model_->getTemplate(), slides_, *partWriter_, *notes_);
     std::set<opc::PartName> removed;
     for (const auto& slide : model_->getSlides())
         if (!hasWritten(*slide))
             removed.insert(opc::PartName(slide->partName));
-    for (const Written& written : slides_) // two slides of a damaged template may be one part
-        removed.erase(opc::PartName(written.partName));
+    for (const auto& slide : slides_) // two slides of a damaged template may be one part
+        removed.erase(opc::PartName(slide->partName));
     removeSlides(removed, *partWriter_);
     defineTableStyles(model_->getTemplate(), tableStyleIds_, *partWriter_);
     finishPackage();
@@ -156,9 +155,9 @@ void PPTWriter::finishPackage() {
 }
 
 PPTWriter::Visit::Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide,
-                        SlideDocument& document, const std::wstring& partName)
+                        SlideDocument& document)
     : writer_(writer) {
-    writer_.slides_.push_back({slide, partName});
+    writer_.slides_.push_back(slide);
     writer_.written_.insert(slide.get());
     writer_.currentSlide_ = &document;
 }
@@ -167,8 +166,8 @@ PPTWriter::Visit::~Visit() {
     writer_.currentSlide_ = nullptr;
 }
 
-std::wstring PPTWriter::getCurrentSlidePartName() const {
-    return currentSlide_ ? slides_.back().partName : std::wstring();
+std::wstring PPTWriter::getCurrentSlidePartName() {
+    return currentSlide_ ? requirePartName(*slides_.back()) : std::wstring();
 }
 
 } // namespace vellox::ppt

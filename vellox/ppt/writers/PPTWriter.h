@@ -92,8 +92,7 @@ public:
     /// Makes a slide the current one, for as long as this lives.
     class Visit {
     public:
-        Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide, SlideDocument& document,
-              const std::wstring& partName);
+        Visit(PPTWriter& writer, const boost::shared_ptr<TemplateSlide>& slide, SlideDocument& document);
         Visit(const Visit&) = delete;
         Visit& operator=(const Visit&) = delete;
         ~Visit();
@@ -170,7 +169,7 @@ public:
     /// Whether it comes from its layout alone.
     bool isOnNewSlide() const;
     /// The name of its part; empty between slides.
-    std::wstring getCurrentSlidePartName() const;
+    std::wstring getCurrentSlidePartName();
     /// Its number in the deck, from 1.
     std::size_t getCurrentSlideNumber() const { return slides_.size(); }
     /// Whether a slide has had its turn.
@@ -186,11 +185,6 @@ private:
     void finishPackage();
     void writeProperties(const DocumentProperties& properties);
 
-    struct Written {
-        boost::shared_ptr<TemplateSlide> slide;
-        std::wstring partName;
-    };
-
     boost::shared_ptr<PresentationModel> model_;
     const PPTNodeImpl* reporter_ = nullptr;
     const DeckValues* deckValues_ = nullptr; // null if nothing is set
@@ -202,7 +196,7 @@ private:
     boost::shared_ptr<SvgPictures> svgPictures_;
     boost::shared_ptr<SlideCopies> copies_;
     boost::shared_ptr<NotesParts> notes_;
-    std::vector<Written> slides_;
+    std::vector<boost::shared_ptr<TemplateSlide>> slides_; // that have had their turn
     std::set<const TemplateSlide*> written_;
     std::set<const TemplateSlide*> planned_;
     std::map<const TemplateSlide*, std::wstring> newNames_; // of the parts of new slides

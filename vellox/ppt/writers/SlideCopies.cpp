@@ -80,7 +80,7 @@ void SlideCopies::copyRelationships(const Rows& rows, opc::Part& to) {
         if (findShare(row.getType()) == Share::Left || !ids.insert(row.getID()).second)
             continue;
         if (row.isExternal())
-            to.createExternalRelationship(row.getType(), row.getTarget(), row.getID());
+            to.createExternalRelationship(row.getType(), row.getTargetURI().toString(), row.getID());
         else
             to.createInternalRelationship(row.getType(), findTarget(row), row.getID());
     }

@@ -1,6 +1,7 @@
 #include "vellox/ppt/writers/SlideList.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/XercesString.h"
 #include "vellox/ppt/package/PackageNames.h"
 #include "vellox/ppt/writers/NotesParts.h"
 #include "vellox/ppt/writers/PPTPartWriter.h"
@@ -45,17 +46,20 @@ void updateSlideList(const ReadTemplate& source, const std::vector<boost::shared
         formerIds.push_back(slide->id);
     updateSections(*presentation.get(), formerIds, kFirstSlideId);
     notes.listMaster(*presentation.get());
-    DOMElement* list = prepareSlideList(*presentation.get());
+    // As text: nodes for each slide of a long deck would take more room than all else that is kept of it.
+    opc::Contents contents;
+    opc::MarkupBuffer& list = contents[prepareSlideList(*presentation.get())];
     unsigned int id = kFirstSlideId;
     for (const auto& slide : slides) {
-        DOMElement* element = appendElement(list, xml::kSldId);
-        setAttribute(element, xml::kId, num2str(id++));
         if (slide->relationshipId.empty())
             slide->relationshipId = partWriter.addRelationship(source.presentationPartName,
                                                                relationship::kSlide, slide->partName);
-        setAttribute(element, xml::kRId, slide->relationshipId);
+        list.append("<p:sldId");
+        list.appendAttribute(xml::kId, opc::XercesString(num2str(id++)));
+        list.appendAttribute(xml::kRId, opc::XercesString(slide->relationshipId));
+        list.append("/>");
     }
-    partWriter.writeDocument(source.presentationPartName, presentation.get());
+    partWriter.writeDocument(source.presentationPartName, presentation.get(), contents);
 }
 
 } // namespace vellox::ppt

@@ -40,7 +40,7 @@ void SlideWriter::write() {
     for (const std::wstring& uid : slide_.getDropped())
         document.removeElement(uid);
     const std::wstring partName = requirePart(*record, document);
-    const PPTWriter::Visit visit(getWriter(), record, document, partName);
+    const PPTWriter::Visit visit(getWriter(), record, document);
     const PPTNode::Children shapes = slide_.getChildren(); // what a listener adds now comes too late
     std::set<std::wstring> taken;
     reportOnSlide(slide_, shapes, getModel());
