@@ -145,7 +145,7 @@ TEST(ByteArray, CopiesAreIndependentAndReadFromTheStart) {
     EXPECT_TRUE(ByteArray() == ByteArray());
 }
 
-// One generator serves the process, and a forked one has the same memory.
+// A forked process has the same memory.
 TEST(Uuids, AForkedProcessDrawsOthers) {
     std::set<std::wstring> drawn{uuid_gen()};
     int ends[2];

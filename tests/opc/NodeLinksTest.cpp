@@ -100,6 +100,34 @@ TEST_F(NodeLinksTest, NodesCanBeAppendedAndTakenAwayAgain) {
     root.removeChild(root.getLastChild())->release();
     appendNew(root, *makeText(inside, u"f"));
     EXPECT_EQ(describe(root), u"a-(c-()d-()#textf())");
+    // The first, the last, one between others, and the only one; what has been taken out can come again.
+    const auto child = [&](int index) { return root.getChildNodes()->item(static_cast<XMLSize_t>(index)); };
+    DOMNode* const taken = child(0);
+    takeOut(root, *taken);
+    EXPECT_EQ(taken->getParentNode(), nullptr);
+    EXPECT_EQ(describe(root), u"a-(d-()#textf())");
+    appendNew(root, *taken);
+    takeOut(root, *child(1));
+    takeOut(root, *child(1));
+    EXPECT_EQ(describe(root), u"a-(d-())");
+    takeOut(root, *child(0));
+    EXPECT_EQ(describe(root), u"a-()");
+    root.appendChild(taken);
+    EXPECT_EQ(describe(root), u"a-(c-())");
+}
+
+TEST_F(NodeLinksTest, AttributesStandInTheOrderOfTheirNamesEachOnce) {
+    const DocumentScope document(XercesHelper::createDocument(u"a"));
+    auto& root = static_cast<DOMElementImpl&>(*document->getDocumentElement());
+    for (const XMLCh* name : {u"n", u"a", u"z", u"m", u"b", u"a"})
+        addAttribute(root, name, name);
+    EXPECT_EQ(describe(root), u"a-aa(#texta())bb(#textb())mm(#textm())nn(#textn())zz(#textz())()");
+    EXPECT_EQ(root.getAttributeNode(u"m")->getOwnerElement(), &root);
+    addAttribute(root, u"y", u"");
+    root.getAttributeNode(u"b")->appendChild(document->createTextNode(u"c"));
+    EXPECT_EQ(std::u16string(getValue(*root.getAttributeNode(u"z"))), u"z");
+    EXPECT_EQ(std::u16string(getValue(*root.getAttributeNode(u"y"))), u"");
+    EXPECT_EQ(std::u16string(getValue(*root.getAttributeNode(u"b"))), u"bc");
 }
 
 } // namespace

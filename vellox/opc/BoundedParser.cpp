@@ -190,8 +190,7 @@ void BoundedParser::appendElement(const XMLCh* name, const RefVectorOf<XMLAttr>&
         element->fAttributes->reserve(attributeCount);
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
         const XMLAttr& attribute = *attributes.elementAt(i);
-        element->fAttributes->setNamedItemFast(
-            makeAttribute(fDocument, attribute.getName(), attribute.getValue()));
+        AttributeLinks::put(*element, *makeAttribute(fDocument, attribute.getName(), attribute.getValue()));
     }
     appendNew(static_cast<DOMElementImpl&>(*fCurrentParent), *element);
     fCurrentParent = fCurrentNode = element;

@@ -41,21 +41,21 @@ private:
 
     DOMElementImpl& copyElement(const DOMNode& source) {
         DOMElementImpl& element = *makeElement(target_, source.getNodeName());
-        copyAttributes(*source.getAttributes(), *element.fAttributes);
+        copyAttributes(*source.getAttributes(), element);
         for (const DOMNode* child = source.getFirstChild(); child; child = child->getNextSibling())
             appendNew(element, copy(*child));
         return element;
     }
 
-    void copyAttributes(const DOMNamedNodeMap& from, DOMAttrMapImpl& to) {
+    void copyAttributes(const DOMNamedNodeMap& from, DOMElementImpl& to) {
         const XMLSize_t count = from.getLength();
         if (count > 0)
-            to.reserve(count);
+            to.fAttributes->reserve(count);
         for (XMLSize_t i = 0; i < count; ++i) {
             const DOMNode& attribute = *from.item(i);
             const DOMNode* value = attribute.getFirstChild();
-            to.setNamedItemFast(
-                makeAttribute(target_, attribute.getNodeName(), value ? value->getNodeValue() : nullptr));
+            AttributeLinks::put(to, *makeAttribute(target_, attribute.getNodeName(),
+                                                   value ? value->getNodeValue() : nullptr));
         }
     }
 

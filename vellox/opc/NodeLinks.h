@@ -11,6 +11,7 @@
 #include <xercesc/dom/impl/DOMAttrImpl.hpp>
 #include <xercesc/dom/impl/DOMDocumentImpl.hpp>
 #include <xercesc/dom/impl/DOMElementImpl.hpp>
+#include <xercesc/dom/impl/DOMNodeVector.hpp>
 #include <xercesc/dom/impl/DOMTextImpl.hpp>
 
 namespace opc {
@@ -50,6 +51,46 @@ template <class Parent> void appendNew(Parent& parent, xercesc::DOMNode& child) 
     }
 }
 
+/// Takes a child out of its element. Ranges and iterators, which nothing here has, would not hear of it.
+inline void takeOut(xercesc::DOMElementImpl& parent, xercesc::DOMNode& child) {
+    const NodeLinks links = NodeLinks::of(child);
+    xercesc::DOMNode*& first = parent.fParent.fFirstChild;
+    xercesc::DOMNode* const previous = links.aside.previousSibling; // the last one, for the first
+    xercesc::DOMNode* const next = links.aside.nextSibling;
+    if (first == &child) {
+        first = next;
+        links.up.isFirstChild(false);
+        if (next)
+            NodeLinks::of(*next).up.isFirstChild(true);
+    } else {
+        NodeLinks::of(*previous).aside.nextSibling = next;
+    }
+    if (next)
+        NodeLinks::of(*next).aside.previousSibling = previous;
+    else if (first)
+        NodeLinks::of(*first).aside.previousSibling = previous;
+    links.aside.previousSibling = links.aside.nextSibling = nullptr;
+    links.up.fOwnerNode = parent.getOwnerDocument();
+    links.up.isOwned(false);
+}
+
+/// The attributes of an element, which stand in the order of their names.
+struct AttributeLinks : xercesc::DOMAttrMapImpl {
+    /// Puts a new attribute in the place of one of its name, or among the others. There must be room for it.
+    static void put(xercesc::DOMElementImpl& element, xercesc::DOMAttrImpl& attribute) {
+        using namespace xercesc;
+        attribute.fNode.fOwnerNode = &element;
+        attribute.fNode.isOwned(true);
+        DOMNodeVector& nodes = *(element.fAttributes->*&AttributeLinks::fNodes);
+        int (DOMAttrMapImpl::*const findPlace)(const XMLCh*) const = &AttributeLinks::findNamePoint;
+        const int place = (element.fAttributes->*findPlace)(attribute.getNodeName());
+        if (place >= 0)
+            nodes.setElementAt(&attribute, static_cast<XMLSize_t>(place));
+        else
+            nodes.insertElementAt(&attribute, static_cast<XMLSize_t>(-1 - place));
+    }
+};
+
 /// @{ New nodes, without a parent. Names must be such as XML allows.
 inline xercesc::DOMElementImpl* makeElement(xercesc::DOMDocumentImpl* document, const XMLCh* name) {
     return new (document, xercesc::DOMMemoryManager::ELEMENT_OBJECT) xercesc::DOMElementImpl(document, name);
@@ -70,6 +111,14 @@ inline xercesc::DOMAttrImpl* makeAttribute(xercesc::DOMDocumentImpl* document, c
 }
 /// @}
 
+/// The value of an attribute.
+inline const XMLCh* getValue(const xercesc::DOMAttr& attribute) {
+    const xercesc::DOMNode* const text = attribute.getFirstChild();
+    const bool isAlone =
+        text && text->getNodeType() == xercesc::DOMNode::TEXT_NODE && !text->getNextSibling();
+    return isAlone ? text->getNodeValue() : attribute.getValue();
+}
+
 inline xercesc::DOMElementImpl& appendElement(xercesc::DOMElementImpl& parent, const XMLCh* name) {
     auto* const made = makeElement(static_cast<xercesc::DOMDocumentImpl*>(parent.getOwnerDocument()), name);
     appendNew(parent, *made);
@@ -80,8 +129,9 @@ inline xercesc::DOMElementImpl& appendElement(xercesc::DOMElementImpl& parent, c
 inline void addAttribute(xercesc::DOMElementImpl& element, const XMLCh* name, const XMLCh* value) {
     constexpr XMLSize_t kFirstPlaces = 4; // where there are none; they grow
     element.fAttributes->reserve(kFirstPlaces);
-    element.fAttributes->setNamedItemFast(
-        makeAttribute(static_cast<xercesc::DOMDocumentImpl*>(element.getOwnerDocument()), name, value));
+    AttributeLinks::put(
+        element,
+        *makeAttribute(static_cast<xercesc::DOMDocumentImpl*>(element.getOwnerDocument()), name, value));
 }
 
 } // namespace opc

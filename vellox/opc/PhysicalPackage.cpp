@@ -21,7 +21,8 @@ boost::shared_ptr<InputStream> PhysicalPart::openInput() const {
         return openOriginal();
     if (content_ == Content::Bytes)
         return boost::make_shared<StdIStreamAdaptor>(boost::make_shared<std::istringstream>(readBytes()));
-    return boost::make_shared<StdIStreamAdaptor>(LocalFileSystemOps().createInputStream(getContentFile(), kReadBinary));
+    return boost::make_shared<StdIStreamAdaptor>(
+        LocalFileSystemOps().createInputStream(getContentFile(), kReadBinary));
 }
 
 OutputStream& PhysicalPart::startOutput() {

@@ -1,6 +1,7 @@
 #include "vellox/ppt/template/SlidePrototype.h"
 
 #include "vellox/foundation/Conversions.h"
+#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
@@ -118,7 +119,7 @@ void removeIndentation(DOMDocument& document) {
         for (DOMNode* child = element->getFirstChild(); child;) {
             DOMNode* next = child->getNextSibling();
             if (isBlank(*child))
-                element->removeChild(child);
+                opc::takeOut(static_cast<DOMElementImpl&>(*element), *child);
             child = next;
         }
     }

@@ -40,9 +40,16 @@ void collectElements(const DOMNode& parent, const XMLCh* name, std::vector<DOMEl
     }
 }
 
+// The node itself, or the first element behind it. An element's own step to the next looks up its parent first.
+DOMElement* toElement(DOMNode* node) {
+    while (node && node->getNodeType() != DOMNode::ELEMENT_NODE)
+        node = node->getNextSibling();
+    return static_cast<DOMElement*>(node);
+}
+
 DOMElement* getFirstChildElement(const DOMNode* parent) {
     const bool isElement = parent && parent->getNodeType() == DOMNode::ELEMENT_NODE;
-    return isElement ? static_cast<const DOMElement*>(parent)->getFirstElementChild() : nullptr;
+    return isElement ? toElement(parent->getFirstChild()) : nullptr;
 }
 
 } // namespace
@@ -50,7 +57,7 @@ DOMElement* getFirstChildElement(const DOMNode* parent) {
 DOMElement* findChild(const DOMNode* parent, const XMLCh* name) {
     DOMElement* child = getFirstChildElement(parent);
     while (child && !hasName(*child, name))
-        child = child->getNextElementSibling();
+        child = toElement(child->getNextSibling());
     return child;
 }
 
@@ -72,7 +79,7 @@ DOMElement* goDownFirstChildren(DOMDocument* document, unsigned levels) {
 
 std::vector<DOMElement*> getChildElements(const DOMNode* parent) {
     std::vector<DOMElement*> children;
-    for (DOMElement* child = getFirstChildElement(parent); child; child = child->getNextElementSibling())
+    for (DOMElement* child = getFirstChildElement(parent); child; child = toElement(child->getNextSibling()))
         children.push_back(child);
     return children;
 }
@@ -90,7 +97,8 @@ std::vector<DOMElement*> getElementsByName(DOMDocument* document, const XMLCh* n
 }
 
 std::wstring getAttribute(const DOMElement* element, const XMLCh* name) {
-    return element ? opc::toWideString(element->getAttribute(name)) : std::wstring();
+    const DOMAttr* attribute = element ? element->getAttributeNode(name) : nullptr;
+    return attribute ? opc::toWideString(opc::getValue(*attribute)) : std::wstring();
 }
 
 void setAttribute(DOMElement* element, const XMLCh* name, const std::wstring& value) {
