@@ -103,6 +103,31 @@ TEST_F(ListenersTest, MayChangeStylesOfWhatIsBeingWritten) {
     EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"), (std::vector<std::string>{"000004", "000003"}));
 }
 
+// So have the runs behind one that is reported, in whose paragraph and box formats end.
+TEST_F(ListenersTest, MayChangeStylesBetweenTwoRuns) {
+    deck.setProfile(L"office");
+    TextBox box(L"Box");
+    box.setFontColor(L"#000001");
+    Paragraph paragraph = box.add(L"a\x01");
+    paragraph.setFontSize(L"10pt");
+    paragraph.append(Text(L"b"));
+    box.add(L"c");
+    Slide slide = deck.add(L"Blank");
+    slide.add(box);
+    int heard = 0;
+    action = [&](const Message&) {
+        ++heard;
+        const auto written = TextBox::cast(slide.find(L"Box").front());
+        written->setFontColor(L"#000002");
+        Paragraph::cast(written->getChildren().front())->setFontSize(L"20pt");
+    };
+    close();
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"),
+              (std::vector<std::string>{"000001", "000002", "000002"}));
+    EXPECT_EQ(valuesOf(slideXml(1), "a:rPr", "sz"), (std::vector<std::string>{"", "1000", "2000", ""}));
+}
+
 TEST_F(ListenersTest, MayLetGoOfTheDeckThatTheyHearOf) {
     const std::wstring path = folder / L"own.pptx";
     auto own = boost::make_shared<Presentation>(path);

@@ -7,18 +7,29 @@
 
 namespace vellox::ppt {
 
+namespace {
+
+unsigned long long changes = 0;
+
+} // namespace
+
 struct Formats::Own : InPieces {
     Map map;
 };
 
 Formats::Formats() = default;
-Formats::~Formats() = default;
+
+Formats::~Formats() {
+    if (own_)
+        ++changes;
+}
 
 Formats::Formats(const Formats& other) : own_(other.own_ ? std::make_unique<Own>(*other.own_) : nullptr) {}
 
 Formats& Formats::operator=(const Formats& other) {
-    if (this != &other)
-        own_ = std::move(Formats(other).own_);
+    Formats copy(other);
+    own_.swap(copy.own_); // what was here ends with the copy
+    ++changes;
     return *this;
 }
 
@@ -28,6 +39,7 @@ void Formats::appendFormat(const boost::shared_ptr<Format>& format) {
     if (!own_)
         own_ = std::make_unique<Own>();
     own_->map[format->getFormatType()] = format;
+    ++changes;
 }
 
 boost::shared_ptr<Format> Formats::getFormat(FormatType type) const {
@@ -36,13 +48,19 @@ boost::shared_ptr<Format> Formats::getFormat(FormatType type) const {
 }
 
 void Formats::unsetFormat(FormatType type) {
-    if (own_)
+    const boost::shared_ptr<Format> former = getFormat(type); // ends when all is in order
+    if (former)
         own_->map.erase(type);
+    ++changes;
 }
 
-const Formats::Map& Formats::getMap() const {
+const Formats::Map& Formats::getEntries() const {
     static const Map& none = *new const Map;
     return own_ ? own_->map : none;
+}
+
+unsigned long long Formats::countChanges() {
+    return changes;
 }
 
 } // namespace vellox::ppt

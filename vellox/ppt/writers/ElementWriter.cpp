@@ -63,12 +63,12 @@ void ElementWriter::applyFormats() {
 FormatsInForce ElementWriter::getFormatsAbove() const {
     const PPTWriter::Frame& frame = writer_.getFrame();
     const PPTNodeImpl* parent = element_.getParent();
-    const bool isOnTheWay = frame.formats && frame.element == parent;
+    const bool isOnTheWay = frame.formats && frame.element == parent && frame.formats->isCurrent();
     return isOnTheWay ? *frame.formats : FormatsInForce::at(parent, frame.table);
 }
 
 const FormatsInForce& ElementWriter::getFormatsInForce() const {
-    if (!inForce_) {
+    if (!inForce_ || !inForce_->isCurrent()) {
         inForce_ = getFormatsAbove();
         inForce_->layOver(element_.getStyle());
     }

@@ -58,7 +58,7 @@ public:
     /// The name of its part; empty without a slide.
     std::wstring getCurrentSlidePartName() const;
 
-    /// For the writer of a node that has no place in the tree: what is in force around it.
+    /// For the writer of a node that has no place in the tree: what is in force around it, while that is current.
     void setFormatsAround(const FormatsInForce& formats) { inForce_ = formats; }
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
@@ -72,7 +72,7 @@ protected:
     void applyFormats();
     /// What is in force at the element's parent.
     FormatsInForce getFormatsAbove() const;
-    /// What is in force at the element, found when it is first asked for: until then listeners may run.
+    /// What is in force at the element as styles are now: listeners may change them between two calls.
     const FormatsInForce& getFormatsInForce() const;
     /// Where the content of shapes is written. It never becomes nodes.
     opc::MarkupBuffer& getMarkup() const;

@@ -19,8 +19,8 @@ struct TableContext;
 ///
 ///     what is in force at a table --layOver(column)--layOver(row)--> at a row, in that column
 ///
-/// The formats aren't held: nobody may change a style between the making of this and its last use. Listeners
-/// can, which is why every shape begins anew.
+/// The formats aren't held. Whoever keeps this where listeners may run, who can change styles, asks whether it is
+/// current before it is used again.
 class FormatsInForce {
 public:
     /// None.
@@ -32,12 +32,15 @@ public:
     /// Null if there is none of the kind.
     const Format* find(FormatType type) const { return formats_[static_cast<std::size_t>(type)]; }
     bool isEmpty() const { return isEmpty_; }
+    /// Whether all styles are what they were.
+    bool isCurrent() const { return changes_ == Formats::countChanges(); }
     /// Formats that are nearer take the places of those of their kinds.
     void layOver(const Formats& nearer);
 
 private:
     std::array<const Format*, kFormatTypeCount> formats_{}; // by the number of the kind
     bool isEmpty_ = true;
+    unsigned long long changes_ = Formats::countChanges();
 };
 
 } // namespace vellox::ppt

@@ -20,8 +20,10 @@ void TableRowWriter::write() {
     opc::MarkupBuffer& out = getMarkup();
     out.append(R"(<a:tr h=")" + std::to_string(table.getRowHeight(row_)) + R"(">)");
     const std::size_t start = out.getLength();
-    const FormatsInForce above = getFormatsAbove();
+    FormatsInForce above = getFormatsAbove();
     const auto writeNext = [&](const auto& writeEntry) {
+        if (!above.isCurrent())
+            above = getFormatsAbove();
         FormatsInForce formats = above;
         formats.layOver(table.getColumnFormats());
         formats.layOver(row_.getStyle());
