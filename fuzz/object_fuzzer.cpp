@@ -25,6 +25,8 @@ constexpr int kDeepestAction = 4;
 
 const wchar_t* const kTexts[] = {L"",
                                  L"x",
+                                 L"a\x01"
+                                 L"b",
                                  L"Title",
                                  L"Content",
                                  L"Same",
@@ -416,21 +418,32 @@ private:
     }
 
 #ifdef VELLOX_FUZZ_DECKS
+    Presentation makeDeck(const std::wstring& path) {
+        Presentation deck(path);
+        if (drawFlag())
+            deck.setProfile(L"office"); // whose findings listeners hear of in the middle of shapes
+        return deck;
+    }
+
     void useDeck() {
         static const test::TempFolder folder;
         const auto deck = drawA<Presentation>();
         const auto slide = drawA<Slide>();
-        switch (draw(5)) {
+        switch (draw(8)) {
         case 0:
-            if (draw(8) == 0)
-                keep(Presentation(folder / L"deck.pptx"));
-            return;
+            return draw(8) == 0 ? keep(makeDeck(folder / L"deck.pptx")) : void();
         case 1:
             return deck ? keep(deck->add(drawText())) : void();
         case 2:
             return deck && slide ? keep(deck->add(drawText(), *slide)) : void();
         case 3:
             return deck ? deck->replace(drawText(), drawContent()) : void();
+        case 4:
+            return deck && slide ? keep(deck->copy(*slide)) : void();
+        case 5:
+            return deck && slide ? deck->remove(*slide) : void();
+        case 6:
+            return deck && slide ? deck->move(*slide, draw(4)) : void();
         default:
             if (deck && draw(8) == 0)
                 deck->close();

@@ -1,7 +1,7 @@
 #include "vellox/foundation/SmallPieces.h"
 
+#include <array>
 #include <boost/pool/pool.hpp>
-#include <deque>
 #include <new>
 
 namespace vellox {
@@ -34,16 +34,15 @@ private:
     std::size_t taken_ = 0;
 };
 
-// Never ends, as objects may end after all else.
+// They never end, as objects may end after all else.
 Shelf& getShelf(std::size_t size) {
-    static auto& shelves = []() -> auto& {
-        auto& made = *new std::deque<Shelf>;
-        for (std::size_t each = kStep; each <= kLargest; each += kStep)
-            made.emplace_back(each);
+    static const auto shelves = [] {
+        std::array<Shelf*, kLargest / kStep> made{};
+        for (std::size_t i = 0; i < made.size(); ++i)
+            made[i] = new Shelf((i + 1) * kStep);
         return made;
-    }
-    ();
-    return shelves[(size - 1) / kStep];
+    }();
+    return *shelves[(size - 1) / kStep];
 }
 
 // What looks for memory that is used after its end, or beyond it, is to see each piece by itself.
