@@ -46,14 +46,14 @@ Shelf& getShelf(std::size_t size) {
 }
 
 // What looks for memory that is used after its end, or beyond it, is to see each piece by itself.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kIsWatched = true;
+#ifdef VELLOX_PIECES_APART
+constexpr bool kAreApart = true;
 #else
-constexpr bool kIsWatched = false;
+constexpr bool kAreApart = false;
 #endif
 
 bool isOnShelf(std::size_t size) {
-    return !kIsWatched && size > 0 && size <= kLargest;
+    return !kAreApart && size > 0 && size <= kLargest;
 }
 
 } // namespace
