@@ -33,7 +33,7 @@ TEST(SmallPieces, KeepWhatIsWrittenToThem) {
             const std::size_t size = 1 + random() % 300;
             const auto mark = static_cast<unsigned char>(random());
             auto* const start = static_cast<unsigned char*>(takePiece(size));
-            ASSERT_EQ(reinterpret_cast<std::uintptr_t>(start) % 16, 0u);
+            ASSERT_EQ(reinterpret_cast<std::uintptr_t>(start) % alignof(void*), 0u);
             std::fill_n(start, size, mark);
             pieces.push_back({start, size, mark});
         } else {

@@ -8,7 +8,7 @@ namespace vellox {
 
 namespace {
 
-constexpr std::size_t kStep = 16, kLargest = 256;
+constexpr std::size_t kStep = alignof(void*), kLargest = 256;
 constexpr std::size_t kFirstPieces = 16, kBlockBytes = std::size_t(64) << 10;
 
 // The pieces of a size.

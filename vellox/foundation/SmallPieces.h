@@ -9,8 +9,8 @@
 namespace vellox {
 
 /// @{ A piece of memory, and back. Pieces of a size come out of blocks that hold nothing else, so that neither taking nor
-/// returning one has to look at its neighbours; the blocks are given back with the last of their pieces. Like all else,
-/// for one thread.
+/// returning one has to look at its neighbours; the blocks are given back with the last of their pieces. They are aligned
+/// for pointers, which is less than memory commonly is. Like all else, for one thread.
 void* takePiece(std::size_t size);
 void returnPiece(void* piece, std::size_t size) noexcept;
 /// @}
@@ -28,6 +28,7 @@ template <class T> struct PieceAllocator {
     PieceAllocator() = default;
     template <class U> PieceAllocator(const PieceAllocator<U>&) {}
 
+    static_assert(alignof(T) <= alignof(void*));
     T* allocate(std::size_t count) { return static_cast<T*>(takePiece(count * sizeof(T))); }
     void deallocate(T* piece, std::size_t count) noexcept { returnPiece(piece, count * sizeof(T)); }
 

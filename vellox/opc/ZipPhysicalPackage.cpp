@@ -112,11 +112,15 @@ public:
           long long index)
         : PhysicalPart(std::move(name), info),
           package_(package),
-          entryName_(std::move(entryName)),
-          index_(index) {}
+          index_(index) {
+        if (!entryName.empty())
+            entryName_.require() = std::move(entryName);
+    }
 
     /// That of a new one follows from its part's.
-    std::string getEntryName() const { return entryName_.empty() ? getName().toEntryName() : entryName_; }
+    std::string getEntryName() const {
+        return entryName_.get().empty() ? getName().toEntryName() : entryName_.get();
+    }
     /// The entry in the target as it is in its archive, still compressed.
     zip_source_t* makeSource(zip_t* target) const {
         return zip_source_zip(target, package_.archive_.get(), getIndex(), ZIP_FL_COMPRESSED, 0, -1);
@@ -157,7 +161,7 @@ protected:
 
 private:
     ZipPhysicalPackage& package_;
-    std::string entryName_;
+    vellox::Lazy<std::string> entryName_;
     long long index_;
     boost::shared_ptr<const Deflated> deflated_;
 };

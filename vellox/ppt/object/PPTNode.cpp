@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <boost/intrusive_ptr.hpp>
-#include <boost/make_shared.hpp>
 #include <utility>
 
 namespace vellox::ppt {
@@ -15,33 +14,25 @@ namespace vellox::ppt {
 // PPTNodeImpl
 
 PPTNodeImpl::~PPTNodeImpl() {
-    for (const Child& child : children_) {
-        PPTNodeImpl* node = child ? implOf<PPTNodeImpl>(*child) : nullptr;
-        if (node && node->parent_ == this)
-            node->parent_ = nullptr;
-    }
-    if (const auto& own = getMarks().ties.get().own)
-        *own = nullptr;
+    if (!family_)
+        return;
+    family_->node = nullptr;
+    const Children ended = std::exchange(family_->children, {});
+}
+
+PPTNodeImpl::Family& PPTNodeImpl::requireFamily() {
+    if (!family_)
+        family_ = new Family(this);
+    return *family_;
+}
+
+const PPTNodeImpl::Children& PPTNodeImpl::getNoChildren() {
+    static const Children& none = *new const Children;
+    return none;
 }
 
 void PPTNodeImpl::setParent(PPTNodeImpl* parent) {
-    parent_ = parent;
-    if (getMarks().ties.get().parent)
-        requireMarks().ties.require().parent.reset();
-}
-
-// Out of its parent's list, where this isn't found when the parent ends: so the parent has to be found from here.
-void PPTNodeImpl::dropOut() {
-    auto& own = parent_->requireMarks().ties.require().own;
-    if (!own)
-        own = boost::make_shared<PPTObjectImpl*>(parent_);
-    requireMarks().ties.require().parent = own;
-    parent_ = nullptr;
-}
-
-PPTNodeImpl* PPTNodeImpl::findFormerParent() const {
-    const auto& former = getMarks().ties.get().parent;
-    return former ? static_cast<PPTNodeImpl*>(*former) : nullptr;
+    parent_ = parent ? &parent->requireFamily() : nullptr;
 }
 
 const char* PPTNodeImpl::getFullyQualifiedHostTypeName() const {
@@ -66,31 +57,33 @@ void PPTNodeImpl::requireFree(const PPTNode& child) const {
 }
 
 PPTNodeImpl::Children::iterator PPTNodeImpl::findPlaceOf(const PPTNode& node) {
-    return std::find_if(children_.begin(), children_.end(),
+    return std::find_if(children().begin(), children().end(),
                         [&](const Child& child) { return child && *child == node; });
 }
 
 void PPTNodeImpl::insertChildBefore(const Child& child, const PPTNode& reference) {
     requireFree(*child);
-    children_.insert(findPlaceOf(reference), child);
+    children().insert(findPlaceOf(reference), child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
 void PPTNodeImpl::insertChildAt(const Child& child, unsigned int index) {
     requireFree(*child);
-    children_.insert(index < children_.size() ? children_.begin() + index : children_.end(), child);
+    children().insert(index < children().size() ? children().begin() + index : children().end(), child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
 void PPTNodeImpl::appendChild(const Child& child) {
     requireFree(*child);
-    children_.push_back(child);
+    children().push_back(child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
 }
 
 void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
-    const Children sources = other.children_; // listeners may change the list
-    children_.reserve(children_.size() + sources.size());
+    const Children sources = other.getChildren(); // listeners may change the list
+    if (sources.empty())
+        return;
+    children().reserve(children().size() + sources.size());
     for (const Child& source : sources)
         PPTNodeImpl::appendChild(source->clone()); // a presentation's own would open it
 }
@@ -100,35 +93,30 @@ void PPTNodeImpl::replaceChild(const PPTNode& former, const Child& child) {
     const boost::intrusive_ptr<PPTNodeImpl> kept(implOf<PPTNodeImpl>(former));
     const auto place = findPlaceOf(former);
     Child outgoing = child;
-    if (place != children_.end())
+    if (place != children().end())
         place->swap(outgoing);
     else
-        children_.push_back(child);
+        children().push_back(child);
     implOf<PPTNodeImpl>(*child)->setParent(this);
     kept->setParent(nullptr);
 }
 
 void PPTNodeImpl::moveChild(const PPTNode& child, unsigned int index) {
     const auto place = findPlaceOf(child);
-    if (place == children_.end())
+    if (place == children().end())
         return;
     const Child moved = *place;
-    children_.erase(place);
-    children_.insert(index < children_.size() ? children_.begin() + index : children_.end(), moved);
+    children().erase(place);
+    children().insert(index < children().size() ? children().begin() + index : children().end(), moved);
 }
 
 void PPTNodeImpl::setChildren(const Children& children) {
-    for (const Child& child : children_) {
-        PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
-        if (node->parent_ == this)
-            node->dropOut();
-    }
     for (const Child& child : children) {
         PPTNodeImpl* node = implOf<PPTNodeImpl>(*child);
-        if (!node->getParent() || node->getParent() == this)
+        if (!node->getParent())
             node->setParent(this);
     }
-    const Children former = std::exchange(children_, children); // ends when all is in order
+    const Children former = std::exchange(this->children(), children); // ends when all is in order
 }
 
 // PPTNode
@@ -148,7 +136,7 @@ const std::wstring& PPTNode::getName() const {
 }
 
 const PPTNode::Children& PPTNode::getChildren() const {
-    return pimpl()->getChildren();
+    return implOf<PPTNodeImpl>(*this)->requireChildren();
 }
 
 unsigned int PPTNode::getNChildren() const {

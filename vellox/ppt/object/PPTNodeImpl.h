@@ -4,7 +4,9 @@
 #ifndef VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 #define VELLOX_PPT_OBJECT_PPTNODEIMPL_H
 
+#include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
 #include <string>
 #include <type_traits>
 
@@ -23,8 +25,8 @@ struct ReportPlace;
 
 /// An ordered list of children, which are owned, and a link to the parent, which isn't.
 ///
-///     parent --children_--> facade --> child
-///     parent <--------parent_--------- child
+///     parent --children--> facade --> child
+///     parent <--------parent--------- child
 ///
 /// A child's link is set when it comes in and cleared when it is replaced or its parent ends. The one
 /// asymmetry: setChildren() doesn't clear the links of those that fall out of the list. So a node may link to a
@@ -76,8 +78,10 @@ public:
     const std::wstring& getName() const { return getMarks().name; }
     /// The same for those who may keep it, and see in it what is set later.
     const std::wstring& requireName() { return requireMarks().name; }
-    const Children& getChildren() const { return children_; }
-    PPTNodeImpl* getParent() const { return parent_ ? parent_ : findFormerParent(); }
+    const Children& getChildren() const { return family_ ? family_->children : getNoChildren(); }
+    /// The same for those who may keep it.
+    const Children& requireChildren() { return children(); }
+    PPTNodeImpl* getParent() const { return parent_ ? parent_->node : nullptr; }
     /// Takes note of a report about a node below, or about this one; see report(). Const, since it changes nothing that
     /// the node is or holds. Presentations do; other nodes forget it.
     virtual void hear(const MsgID& finding, const ReportPlace& place) const;
@@ -97,17 +101,25 @@ protected:
     }
     /// Takes the list as it is. Those in it without a parent get this one.
     void setChildren(const Children& children);
-    Children& children() { return children_; }
+    Children& children() { return requireFamily().children; }
 
 private:
     Children::iterator findPlaceOf(const PPTNode& node);
     void requireFree(const PPTNode& child) const;
-    PPTNodeImpl* findFormerParent() const;
     void setParent(PPTNodeImpl* parent);
-    void dropOut();
 
-    PPTNodeImpl* parent_ = nullptr; // one that lists this; see dropOut() for one that doesn't any more
-    Children children_;
+    /// What a node has below it, and what those know it by: it stays for as long as the node and all that link to it.
+    struct Family : InPieces, boost::intrusive_ref_counter<Family, boost::thread_unsafe_counter> {
+        explicit Family(PPTNodeImpl* head) : node(head) {}
+
+        PPTNodeImpl* node; // null once it has ended
+        Children children;
+    };
+    Family& requireFamily();
+    static const Children& getNoChildren();
+
+    boost::intrusive_ptr<Family> parent_; // that of the parent
+    boost::intrusive_ptr<Family> family_; // this one's own, from the first child on
 };
 
 /// The implementation behind a node if it is of this class or derives from it, else null. Without a dynamic cast, as decks
@@ -121,9 +133,9 @@ auto implAs(const PPTNode& node) -> decltype(void(Impl::kLevel), static_cast<Imp
 
 template <class Wanted> PPTNodeImpl::Children PPTNodeImpl::takeOut(Wanted isWanted) {
     Children taken, left;
-    for (const Child& child : children_)
+    for (const Child& child : getChildren())
         (isWanted(*child) ? taken : left).push_back(child);
-    children_.swap(left);
+    children().swap(left);
     for (const Child& child : taken)
         implOf<PPTNodeImpl>(*child)->setParent(nullptr);
     return taken;

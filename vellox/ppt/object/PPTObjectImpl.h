@@ -67,17 +67,11 @@ protected:
         std::optional<std::wstring> id; // one that was set
         std::wstring tag;
     };
-    /// How nodes find each other that have fallen out of a list: each shows where a node is until it ends.
-    struct Ties {
-        boost::shared_ptr<PPTObjectImpl*> own;    // for those that have fallen out of this one's list
-        boost::shared_ptr<PPTObjectImpl*> parent; // of the node whose list this one has fallen out of
-    };
     /// What few objects have; a deck has objects by the hundred thousand, which are as small as can be for that.
     struct Marks {
         boost::shared_ptr<PPTClientImpl> client;
         Lazy<Labels> labels;
-        std::wstring name; // nodes have these two
-        Lazy<Ties> ties;
+        std::wstring name; // of nodes
     };
 
     /// The Id of an object that wasn't given another.

@@ -23,11 +23,9 @@ SlideImpl::SlideImpl() {
 SlideImpl::SlideImpl(const boost::shared_ptr<TemplateSlide>& templateSlide)
     : NodeOf(templateSlide->name),
       templateSlide_(templateSlide) {
-    if (const auto& layout = templateSlide_->layout) {
-        layoutName_ = layout->name;
-        if (const auto master = layout->master.lock())
-            slideMasterName_ = master->name;
-    }
+    const auto& layout = templateSlide_->layout;
+    if (const auto master = layout ? layout->master.lock() : nullptr)
+        slideMasterName_ = master->name;
     isHidden_ = templateSlide_->isHidden;
     announceCreated(*this);
 }
@@ -42,13 +40,18 @@ SlideImpl::SlideImpl(const SlideImpl& other, const boost::shared_ptr<TemplateSli
       rules_(other.rules_),
       dropped_(other.dropped_),
       slideMasterName_(other.slideMasterName_),
-      layoutName_(other.layoutName_),
       templateSlide_(templateSlide) {
     announceCreated(*this);
 }
 
 SlideImpl::~SlideImpl() {
     announceDestroyed(*this);
+}
+
+const std::wstring& SlideImpl::getLayoutName() const {
+    static const std::wstring& none = *new const std::wstring;
+    const auto layout = templateSlide_ ? templateSlide_->layout.get() : nullptr;
+    return layout ? layout->name : none;
 }
 
 ChartRecord& SlideImpl::requireChart(const std::wstring& name) {
@@ -70,7 +73,7 @@ void SlideImpl::dropShape(const PPTNode& shape) {
     const auto* impl = implAs<ShapeImpl>(shape);
     const Children taken = takeOut([&](const PPTNode& child) { return child == shape; });
     if (impl && !taken.empty() && !impl->getTemplateUid().empty())
-        dropped_.push_back(impl->getTemplateUid());
+        dropped_.require().push_back(impl->getTemplateUid());
 }
 
 namespace {

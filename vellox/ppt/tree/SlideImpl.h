@@ -27,7 +27,7 @@ public:
 
     void acceptWriter(PPTWriter* writer, xercesc::DOMNode* parent) const override;
 
-    const std::wstring& getLayoutName() const { return layoutName_; }
+    const std::wstring& getLayoutName() const;
     const std::wstring& getSlideMasterName() const { return slideMasterName_; }
     const boost::shared_ptr<TemplateSlide>& getTemplateSlide() const { return templateSlide_; }
     /// Those of the presentation that the slide is for; null before it is for any.
@@ -38,7 +38,7 @@ public:
     /// Takes a shape off the slide. One of the template's is off in the file, too.
     void dropShape(const PPTNode& shape);
     /// The marks of those.
-    const std::vector<std::wstring>& getDropped() const { return dropped_; }
+    const std::vector<std::wstring>& getDropped() const { return dropped_.get(); }
     /// A slide with the same shapes under the same names, on a record.
     Child copyOn(const boost::shared_ptr<TemplateSlide>& record) const;
 
@@ -52,9 +52,8 @@ private:
     Lazy<std::map<std::wstring, ChartRecord>> charts_;
     bool isHidden_ = false;
     boost::shared_ptr<const Rules> rules_; // the slide may outlive its presentation
-    std::vector<std::wstring> dropped_;
-    std::wstring slideMasterName_;
-    std::wstring layoutName_;
+    Lazy<std::vector<std::wstring>> dropped_;
+    std::wstring slideMasterName_;                   // the master may be gone by the time it is asked for
     boost::shared_ptr<TemplateSlide> templateSlide_; // null on a bare slide
 };
 
