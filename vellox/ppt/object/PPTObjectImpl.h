@@ -6,7 +6,6 @@
 
 #include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
