@@ -1,5 +1,6 @@
 #include "vellox/foundation/SmallPieces.h"
 
+#include <algorithm>
 #include <array>
 #include <boost/pool/pool.hpp>
 #include <new>
@@ -8,7 +9,7 @@ namespace vellox {
 
 namespace {
 
-constexpr std::size_t kStep = alignof(void*), kLargest = 256;
+constexpr std::size_t kStep = std::max(alignof(void*), alignof(double)), kLargest = 256;
 constexpr std::size_t kFirstPieces = 16, kBlockBytes = std::size_t(64) << 10;
 
 // The pieces of a size.

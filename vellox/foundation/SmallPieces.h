@@ -10,7 +10,7 @@ namespace vellox {
 
 /// @{ A piece of memory, and back. Pieces of a size come out of blocks that hold nothing else, so that neither taking nor
 /// returning one has to look at its neighbours; the blocks are given back with the last of their pieces. They are aligned
-/// for pointers, which is less than memory commonly is. Like all else, for one thread.
+/// for pointers and numbers, which is less than memory commonly is. Like all else, for one thread.
 void* takePiece(std::size_t size);
 void returnPiece(void* piece, std::size_t size) noexcept;
 /// @}

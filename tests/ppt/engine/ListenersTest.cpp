@@ -1,6 +1,7 @@
 // Listeners run in the middle of things. Whatever they do there, nothing is lost and nothing dangles.
 
 #include "vellox/ppt/formats/Formats.h"
+#include "vellox/ppt/formats/ParagraphFormats.h"
 #include "vellox/ppt/object/PPTObjectImpl.h"
 #include "vellox/ppt/tree/ContentPlaceholder.h"
 #include "vellox/ppt/tree/Picture.h"
@@ -126,6 +127,76 @@ TEST_F(ListenersTest, MayChangeStylesBetweenTwoRuns) {
     EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"),
               (std::vector<std::string>{"000001", "000002", "000002"}));
     EXPECT_EQ(valuesOf(slideXml(1), "a:rPr", "sz"), (std::vector<std::string>{"", "1000", "2000", ""}));
+}
+
+// A paragraph whose own formats are being applied may get more of them, and lose those it has.
+TEST_F(ListenersTest, MayGiveFormatsToAParagraphWhoseFormatsAreApplied) {
+    deck.setProfile(L"office");
+    TextBox box(L"Box");
+    Paragraph paragraph = box.add(L"a");
+    paragraph.setSpaceBefore(L"2000pt");
+    paragraph.setSpaceAfter(L"12pt");
+    Slide slide = deck.add(L"Blank");
+    slide.add(box);
+    int heard = 0;
+    action = [&](const Message&) {
+        ++heard;
+        const auto written = TextBox::cast(slide.find(L"Box").front());
+        const auto first = Paragraph::cast(written->getChildren().front());
+        first->setBold(true);
+        first->setHAlign(L"right");
+        first->setLeftIndent(L"1cm");
+    };
+    close();
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(valuesOf(slideXml(1), "a:spcPts", "val"), (std::vector<std::string>{"158400", "1200"}));
+}
+
+TEST_F(ListenersTest, MayReplaceTheBulletOfAParagraphWhoseFormatsAreApplied) {
+    deck.setProfile(L"office");
+    TextBox box(L"Box");
+    Paragraph paragraph = box.add(L"a");
+    paragraph.setBullet(L"1)");
+    paragraph.setSpaceBefore(L"2000pt");
+    Slide slide = deck.add(L"Blank");
+    slide.add(box);
+    int heard = 0;
+    action = [&](const Message&) {
+        ++heard;
+        const auto written = TextBox::cast(slide.find(L"Box").front());
+        Paragraph::cast(written->getChildren().front())->setBullet(L"-");
+    };
+    close();
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(valuesOf(slideXml(1), "a:buAutoNum", "type"), (std::vector<std::string>{"arabicParenR"}));
+}
+
+// A text that stands for a missing value has the formats around it, even if some style somewhere has come and gone.
+TEST_F(ListenersTest, MayMakeStyledObjectsWhileTextsWithoutPlacesAreWritten) {
+    deck.setProfile(L"office");
+    Table table(1);
+    for (int i = 0; i < 2; ++i) {
+        TableRow row;
+        row.append(TableEntry());
+        table.append(row);
+    }
+    table.setHeaderRow(false);
+    Formats style;
+    style.appendFormat(boost::make_shared<SpaceBefore>(L"2000pt"));
+    style.appendFormat(boost::make_shared<FontColor>(L"#000001"));
+    table.setStyle(style);
+    table.setMissingText(L"n/a");
+    table.setName(L"Table");
+    deck.add(L"Blank").add(table);
+    int heard = 0;
+    isRepeated = true;
+    action = [&](const Message&) {
+        ++heard;
+        TextBox(L"Elsewhere").setFontColor(L"#000002");
+    };
+    close();
+    EXPECT_GE(heard, 1);
+    EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"), (std::vector<std::string>{"000001", "000001"}));
 }
 
 TEST_F(ListenersTest, MayLetGoOfTheDeckThatTheyHearOf) {

@@ -5,7 +5,7 @@
 
 namespace vellox::host {
 
-// From the system each time: a deck takes a handful, and seeding a generator of one's own would take hundreds of calls.
+// From the system each time: most decks take a handful, and to seed a generator of one's own takes hundreds of calls.
 boost::uuids::uuid drawUuid() {
     return boost::uuids::random_generator_pure()();
 }

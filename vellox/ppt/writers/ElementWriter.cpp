@@ -42,7 +42,8 @@ const Format* ElementWriter::findFormat(FormatType type) const {
 }
 
 void ElementWriter::applyFormats() {
-    const Formats::Map& own = element_.getStyle().getMap();
+    const Formats::Map own =
+        element_.getStyle().getMap(); // listeners may change it when they hear of a finding
     for (const auto& entry : own)
         if (acceptsFormat(*entry.second))
             applyFormat(*entry.second);
@@ -61,6 +62,8 @@ void ElementWriter::applyFormats() {
 // The way down begins at a shape, which finds no frame. Below, a node may stand in the list of one that it doesn't
 // link to, as the items of lists do; it is the link that counts.
 FormatsInForce ElementWriter::getFormatsAbove() const {
+    if (around_)
+        return around_->getFormatsInForce();
     const PPTWriter::Frame& frame = writer_.getFrame();
     const PPTNodeImpl* parent = element_.getParent();
     const bool isOnTheWay = frame.formats && frame.element == parent && frame.formats->isCurrent();

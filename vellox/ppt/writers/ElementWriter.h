@@ -58,7 +58,9 @@ public:
     /// The name of its part; empty without a slide.
     std::wstring getCurrentSlidePartName() const;
 
-    /// For the writer of a node that has no place in the tree: what is in force around it, while that is current.
+    /// For the writer of a node that has no place in the tree: that of the element around it.
+    void setAround(const ElementWriter& around) { around_ = &around; }
+    /// For the writer of one that stands in for another: what is in force there, while that is current.
     void setFormatsAround(const FormatsInForce& formats) { inForce_ = formats; }
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
@@ -100,6 +102,7 @@ private:
     const ElementImpl& element_;
     PPTWriter& writer_;
     xercesc::DOMNode* parentNode_;
+    const ElementWriter* around_ = nullptr; // null for a node in the tree
     mutable std::optional<FormatsInForce> inForce_;
 };
 

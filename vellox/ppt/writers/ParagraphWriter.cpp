@@ -202,7 +202,7 @@ void ParagraphWriter::writeValue() const {
 void ParagraphWriter::writeRun(const boost::shared_ptr<PPTNode>& run) const {
     const PPTWriter::FrameScope scope(getWriter(), makeRunFrame());
     TextWriter writer(*implOf<TextImpl>(*run), getWriter(), getParentNode());
-    writer.setFormatsAround(getFormatsInForce());
+    writer.setAround(*this);
     writer.write();
 }
 
@@ -219,7 +219,7 @@ const ElementWriter::FormatTypes& ParagraphWriter::inheritedFormatTypes() const 
 }
 
 void ParagraphWriter::setBullet(const std::vector<BulletForm>& forms) {
-    bullet_ = &forms[std::min<std::size_t>(getLevel(), forms.size() - 1)];
+    bullet_ = forms[std::min<std::size_t>(getLevel(), forms.size() - 1)];
 }
 
 void ParagraphWriter::setSpacing(const XMLCh* name, const Dimension& spacing) {

@@ -4,6 +4,7 @@
 #ifndef VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
 #define VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
 
+#include "vellox/ppt/formats/BulletForms.h"
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
 #include "vellox/ppt/xml/PropertyElement.h"
@@ -58,7 +59,7 @@ private:
 
     const ParagraphImpl& paragraph_;
     PropertyElement pPr_;
-    const BulletForm* bullet_ = nullptr;
+    std::optional<BulletForm> bullet_;
     bool isRightToLeft_ = false;
     bool isArranged_ = true;    // whether the children are in the sequence of the schema
     const ParagraphLook* look_; // of the one in whose stead it comes; null if there is none

@@ -70,7 +70,7 @@ void TableEntryWriter::writeMissing(const PPTWriter::Frame& frame) const {
     const PPTNodeImpl::Child paragraph = Paragraph(*table_->values.missing).makeInterface();
     const PPTWriter::FrameScope scope(getWriter(), frame);
     ParagraphWriter writer(*implOf<ParagraphImpl>(*paragraph), getWriter(), getParentNode());
-    writer.setFormatsAround(getFormatsInForce());
+    writer.setAround(*this);
     writer.write();
 }
 
@@ -173,7 +173,7 @@ void TableEntryWriter::applyToTexts(DOMElement* body) const {
         if (!hasName(*child, xml::kAP))
             continue;
         ParagraphWriter writer(*implOf<ParagraphImpl>(*paragraph), getWriter(), getParentNode());
-        writer.setFormatsAround(getFormatsInForce());
+        writer.setAround(*this);
         writer.applyTo(child);
         for (DOMElement* run : getChildElements(child)) {
             if (hasName(*run, xml::kAEndParaRPr))
@@ -187,7 +187,7 @@ void TableEntryWriter::applyToTexts(DOMElement* body) const {
 void TableEntryWriter::applyToText(DOMElement* properties) const {
     const PPTNodeImpl::Child run = Text().makeInterface();
     TextWriter writer(*implOf<TextImpl>(*run), getWriter(), getParentNode());
-    writer.setFormatsAround(getFormatsInForce());
+    writer.setAround(*this);
     writer.applyTo(properties);
 }
 
