@@ -42,8 +42,8 @@ void checkNoLinkBelow(const fs::path& folder, const fs::path& file) {
 
 class FileSystemPhysicalPackage::File : public PhysicalPart {
 public:
-    File(PartName name, StandardPartInfo info, fs::path path)
-        : PhysicalPart(std::move(name), info),
+    File(const PartName& name, StandardPartInfo info, fs::path path)
+        : PhysicalPart(name, info),
           path_(std::move(path)) {}
 
     void save(const fs::path& folder) const {

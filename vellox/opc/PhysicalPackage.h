@@ -30,7 +30,7 @@ struct StandardPartInfo {
 /// One entry of a container: what it holds, and what it is to hold once the container is saved.
 class PhysicalPart {
 public:
-    PhysicalPart(PartName name, StandardPartInfo info) : name_(std::move(name)), info_(info) {}
+    PhysicalPart(const PartName& name, StandardPartInfo info) : name_(name), info_(info) {}
     virtual ~PhysicalPart();
 
     const PartName& getName() const { return name_; }

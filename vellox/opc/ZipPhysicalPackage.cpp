@@ -108,9 +108,9 @@ class ZipPhysicalPackage::Entry : public PhysicalPart {
 public:
     static constexpr long long kNew = -1;
 
-    Entry(ZipPhysicalPackage& package, PartName name, StandardPartInfo info, std::string entryName,
+    Entry(ZipPhysicalPackage& package, const PartName& name, StandardPartInfo info, std::string entryName,
           long long index)
-        : PhysicalPart(std::move(name), info),
+        : PhysicalPart(name, info),
           package_(package),
           index_(index) {
         if (!entryName.empty())

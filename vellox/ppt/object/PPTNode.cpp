@@ -80,7 +80,8 @@ void PPTNodeImpl::appendChild(const Child& child) {
 }
 
 void PPTNodeImpl::appendClones(const PPTNodeImpl& other) {
-    const Children sources = other.getChildren(); // listeners may change the list
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): listeners may change the list
+    const Children sources = other.getChildren();
     if (sources.empty())
         return;
     children().reserve(children().size() + sources.size());

@@ -42,8 +42,8 @@ const Format* ElementWriter::findFormat(FormatType type) const {
 }
 
 void ElementWriter::applyFormats() {
-    const Formats::Map own =
-        element_.getStyle().getMap(); // listeners may change it when they hear of a finding
+    // A copy: listeners that hear of a finding may change the element's own.
+    const Formats::Map own = element_.getStyle().getMap();
     for (const auto& entry : own)
         if (acceptsFormat(*entry.second))
             applyFormat(*entry.second);
