@@ -66,7 +66,9 @@ FormatsInForce ElementWriter::getFormatsAbove() const {
         return around_->getFormatsInForce();
     const PPTWriter::Frame& frame = writer_.getFrame();
     const PPTNodeImpl* parent = element_.getParent();
-    const bool isOnTheWay = frame.formats && frame.element == parent && frame.formats->isCurrent();
+    // A writer may stand in for a child of its element, as that of a blank cell does for a row.
+    const bool isAt = frame.element == parent || frame.element == &element_;
+    const bool isOnTheWay = frame.formats && isAt && frame.formats->isCurrent();
     return isOnTheWay ? *frame.formats : FormatsInForce::at(parent, frame.table);
 }
 

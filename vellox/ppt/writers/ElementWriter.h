@@ -60,8 +60,6 @@ public:
 
     /// For the writer of a node that has no place in the tree: that of the element around it.
     void setAround(const ElementWriter& around) { around_ = &around; }
-    /// For the writer of one that stands in for another: what is in force there, while that is current.
-    void setFormatsAround(const FormatsInForce& formats) { inForce_ = formats; }
 
     /// A new element of the slide's document, attached to nothing; null without a slide.
     xercesc::DOMElement* createElement(const XMLCh* name) const;

@@ -33,18 +33,17 @@ void TableRowWriter::write() {
         frame.table = &table;
         frame.markup = &out;
         const PPTWriter::FrameScope scope(getWriter(), frame);
-        writeEntry(formats);
+        writeEntry();
         table.nextEntry();
     };
     const PPTNode::Children& entries = row_.getChildren();
     for (std::size_t i = 0; i < entries.size(); ++i) { // a listener that hears of a finding may change them
         const auto entry = entries[i];
-        writeNext([&](const FormatsInForce&) { entry->acceptWriter(&getWriter(), getParentNode()); });
+        writeNext([&] { entry->acceptWriter(&getWriter(), getParentNode()); });
     }
     while (table.col < table.colCount && getRules().fillsRows())
-        writeNext([&](const FormatsInForce& formats) {
+        writeNext([&] {
             TableEntryWriter blank(row_, getWriter(), getParentNode());
-            blank.setFormatsAround(formats);
             blank.writeBlank();
         });
     out.closeElement("a:tr", start);
