@@ -12,22 +12,23 @@ namespace {
 constexpr wchar_t kDefaultValue[] = L"0px";
 constexpr wchar_t kDefaultColWidth[] = L"0.25in";
 
+Dimension requireLength(const std::wstring& text, BaseDimensionImpl::Shares shares,
+                        const std::wstring& named) {
+    if (!Dimension::isValid(text))
+        raise(ppt_error::invalidPropertyValue(named));
+    const Dimension length(text);
+    if (shares == BaseDimensionImpl::Shares::Refused && length.isShare())
+        raise(ppt_error::invalidPropertyValue(named));
+    return length;
+}
+
 } // namespace
 
 // BaseDimensionImpl
 
 BaseDimensionImpl::BaseDimensionImpl(const std::wstring& value, Shares shares)
     : shares_(shares),
-      dimension_(requireLength(value, shares)) {}
-
-Dimension BaseDimensionImpl::requireLength(const std::wstring& value, Shares shares) {
-    if (!Dimension::isValid(value))
-        raise(ppt_error::invalidPropertyValue(value));
-    const Dimension length(value);
-    if (shares == Shares::Refused && length.isShare())
-        raise(ppt_error::invalidPropertyValue(value));
-    return length;
-}
+      dimension_(requireLength(value, shares, value)) {}
 
 const char* BaseDimensionImpl::getFullyQualifiedHostTypeName() const {
     return "vellox.ppt.BaseDimension";
@@ -39,14 +40,12 @@ boost::shared_ptr<Format> BaseDimensionImpl::makeInterface() {
 
 void BaseDimensionImpl::setValue(const std::wstring& value) {
     // Made first and assigned then: a text that is valid and still no length, "-", must change nothing.
-    dimension_ = requireLength(value, shares_);
+    dimension_ = requireLength(value, shares_, value);
 }
 
 Dimension requireExtent(const std::wstring& text, const std::wstring& named) {
-    if (!Dimension::isValid(text))
-        raise(ppt_error::invalidPropertyValue(named));
-    const Dimension extent(text);
-    if (extent.isShare() || extent.getEMUNumber() < 0)
+    const Dimension extent = requireLength(text, BaseDimensionImpl::Shares::Refused, named);
+    if (extent.getEMUNumber() < 0)
         raise(ppt_error::invalidPropertyValue(named));
     return extent;
 }

@@ -27,8 +27,6 @@ public:
     void setValue(const std::wstring& value);
 
 private:
-    static Dimension requireLength(const std::wstring& value, Shares shares);
-
     Shares shares_;
     Dimension dimension_;
 };
