@@ -1,7 +1,6 @@
 #include "vellox/ppt/template/SlidePrototype.h"
 
 #include "vellox/foundation/Conversions.h"
-#include "vellox/opc/NodeLinks.h"
 #include "vellox/opc/XercesString.h"
 #include "vellox/ppt/rules/Rules.h"
 #include "vellox/ppt/template/ShapeReader.h"
@@ -119,7 +118,7 @@ void removeIndentation(DOMDocument& document) {
         for (DOMNode* child = element->getFirstChild(); child;) {
             DOMNode* next = child->getNextSibling();
             if (isBlank(*child))
-                opc::takeOut(static_cast<DOMElementImpl&>(*element), *child);
+                removeNode(child);
             child = next;
         }
     }

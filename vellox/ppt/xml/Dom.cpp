@@ -153,8 +153,11 @@ void ensureParagraph(DOMElement* element) {
 }
 
 void removeNode(DOMNode* node) {
-    if (node->getParentNode())
-        node->getParentNode()->removeChild(node);
+    DOMNode* parent = node->getParentNode();
+    if (parent && parent->getNodeType() == DOMNode::ELEMENT_NODE)
+        opc::takeOut(static_cast<DOMElementImpl&>(*parent), *node);
+    else if (parent)
+        parent->removeChild(node);
 }
 
 void declarePrefixes(DOMElement* root) {
