@@ -31,6 +31,10 @@ public:
     virtual void applyToTextBox(BaseTextBoxWriter& writer) const;
 };
 
+/// How often any set of formats in this process has been changed or has ended. What was found in sets counts for as long
+/// as this stays the same.
+unsigned long long countFormatChanges();
+
 } // namespace vellox::ppt
 
 #endif

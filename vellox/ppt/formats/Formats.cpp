@@ -1,7 +1,7 @@
 #include "vellox/ppt/formats/Formats.h"
 
 #include "vellox/foundation/SmallPieces.h"
-#include "vellox/ppt/formats/Format.h"
+#include "vellox/ppt/formats/FormatImpl.h"
 
 #include <utility>
 
@@ -59,7 +59,7 @@ const Formats::Map& Formats::getEntries() const {
     return own_ ? own_->map : none;
 }
 
-unsigned long long Formats::countChanges() {
+unsigned long long countFormatChanges() {
     return changes;
 }
 

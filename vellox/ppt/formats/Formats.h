@@ -38,10 +38,6 @@ public:
     /// The same. Programs built against release 1.0.0 expect another class of map by the other name.
     const Map& getEntries() const;
 
-    /// How often any set of this process has been changed or has ended. What was found in sets counts for as long as
-    /// this stays the same.
-    static unsigned long long countChanges();
-
 private:
     // Made with the first format: most elements of a deck never have one.
     struct Own;

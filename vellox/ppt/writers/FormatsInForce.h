@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 
+#include "vellox/ppt/formats/FormatImpl.h"
 #include "vellox/ppt/formats/Formats.h"
 
 namespace vellox::ppt {
@@ -33,14 +34,14 @@ public:
     const Format* find(FormatType type) const { return formats_[static_cast<std::size_t>(type)]; }
     bool isEmpty() const { return isEmpty_; }
     /// Whether all styles are what they were.
-    bool isCurrent() const { return changes_ == Formats::countChanges(); }
+    bool isCurrent() const { return changes_ == countFormatChanges(); }
     /// Formats that are nearer take the places of those of their kinds.
     void layOver(const Formats& nearer);
 
 private:
     std::array<const Format*, kFormatTypeCount> formats_{}; // by the number of the kind
     bool isEmpty_ = true;
-    unsigned long long changes_ = Formats::countChanges();
+    unsigned long long changes_ = countFormatChanges();
 };
 
 } // namespace vellox::ppt

@@ -4,6 +4,8 @@
 #ifndef VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
 #define VELLOX_PPT_WRITERS_PARAGRAPHWRITER_H
 
+#include <optional>
+
 #include "vellox/ppt/formats/BulletForms.h"
 #include "vellox/ppt/formats/SpellingTable.h"
 #include "vellox/ppt/writers/ElementWriter.h"
