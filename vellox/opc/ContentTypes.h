@@ -61,7 +61,7 @@ public:
     bool isChanged() const { return isChanged_; }
 
 private:
-    /// The types of which are of types_.
+    /// @{ What the list says, with a type that is one of types_.
     struct Default {
         std::wstring extension;
         const std::wstring* type;
@@ -70,6 +70,7 @@ private:
         PartName name;
         const std::wstring* type;
     };
+    /// @}
 
     void setDefault(const std::wstring& extension, const std::wstring& type);
     void setOverride(const PartName& name, const std::wstring& type);

@@ -74,7 +74,8 @@ inline void takeOut(xercesc::DOMElementImpl& parent, xercesc::DOMNode& child) {
     links.up.isOwned(false);
 }
 
-/// The attributes of an element, which stand in the order of their names.
+/// The attributes of an element, which stand in the order of their names. Derived from Xerces' class for its protected
+/// members, and never made.
 struct AttributeLinks : xercesc::DOMAttrMapImpl {
     /// Puts a new attribute in the place of one of its name, or among the others. There must be room for it.
     static void put(xercesc::DOMElementImpl& element, xercesc::DOMAttrImpl& attribute) {

@@ -102,7 +102,7 @@ PartName PartName::getRelationshipPartName() const {
     Text part(*text_);
     part.name.insert(part.name.rfind(L'/') + 1, L"_rels/").append(L".rels");
     part.key.insert(part.key.rfind('/') + 1, "_rels/").append(".rels");
-    return PartName(part);
+    return PartName(std::move(part));
 }
 
 URI PartName::toURI() const {

@@ -7,6 +7,7 @@
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 #include <string>
+#include <utility>
 
 #include "vellox/opc/Uri.h"
 
@@ -49,7 +50,7 @@ private:
         std::string key;
     };
 
-    explicit PartName(const Text& text) : text_(boost::make_shared<const Text>(text)) {}
+    explicit PartName(Text text) : text_(boost::make_shared<const Text>(std::move(text))) {}
     static Text makeText(const std::wstring& name);
 
     boost::shared_ptr<const Text> text_;

@@ -136,7 +136,7 @@ template <class Condition> void RelationshipTable::removeIf(Condition isCondemne
     const auto end = std::remove_if(rows_.begin(), rows_.end(), isCondemned);
     isChanged_ = isChanged_ || end != rows_.end();
     rows_.erase(end, rows_.end());
-    rowByID_.require().clear();
+    rowByID_ = {};
     index(0);
     nextID_ = 1;
 }
