@@ -41,6 +41,21 @@ protected:
     static void hearOfLives(bool value) {
         MessageDispatcher::getTheDispatcher().getMessageFilter().setDebugMessagesPass(value);
     }
+    /// Writes a box with the profile office, whose findings are heard in the middle of shapes; the listener changes what is
+    /// written. Says whether it heard of one.
+    template <class Change> bool writeHearing(const TextBox& box, Change change) {
+        deck.setProfile(L"office");
+        Slide slide = deck.add(L"Blank");
+        slide.add(box);
+        int heard = 0;
+        action = [&](const Message&) {
+            ++heard;
+            const auto written = TextBox::cast(slide.find(L"Box").front());
+            change(*written, *Paragraph::cast(written->getChildren().front()));
+        };
+        close();
+        return heard == 1;
+    }
     /// A slide with a table that is reported when it is written, and another shape behind that.
     Slide addReportedTable() {
         Slide slide = deck.add(L"Blank");
@@ -106,24 +121,16 @@ TEST_F(ListenersTest, MayChangeStylesOfWhatIsBeingWritten) {
 
 // So have the runs behind one that is reported, in whose paragraph and box formats end.
 TEST_F(ListenersTest, MayChangeStylesBetweenTwoRuns) {
-    deck.setProfile(L"office");
     TextBox box(L"Box");
     box.setFontColor(L"#000001");
     Paragraph paragraph = box.add(L"a\x01");
     paragraph.setFontSize(L"10pt");
     paragraph.append(Text(L"b"));
     box.add(L"c");
-    Slide slide = deck.add(L"Blank");
-    slide.add(box);
-    int heard = 0;
-    action = [&](const Message&) {
-        ++heard;
-        const auto written = TextBox::cast(slide.find(L"Box").front());
-        written->setFontColor(L"#000002");
-        Paragraph::cast(written->getChildren().front())->setFontSize(L"20pt");
-    };
-    close();
-    EXPECT_EQ(heard, 1);
+    EXPECT_TRUE(writeHearing(box, [](TextBox& written, Paragraph& first) {
+        written.setFontColor(L"#000002");
+        first.setFontSize(L"20pt");
+    }));
     EXPECT_EQ(valuesOf(slideXml(1), "a:srgbClr", "val"),
               (std::vector<std::string>{"000001", "000002", "000002"}));
     EXPECT_EQ(valuesOf(slideXml(1), "a:rPr", "sz"), (std::vector<std::string>{"", "1000", "2000", ""}));
@@ -131,43 +138,24 @@ TEST_F(ListenersTest, MayChangeStylesBetweenTwoRuns) {
 
 // A paragraph whose own formats are being applied may get more of them, and lose those it has.
 TEST_F(ListenersTest, MayGiveFormatsToAParagraphWhoseFormatsAreApplied) {
-    deck.setProfile(L"office");
     TextBox box(L"Box");
     Paragraph paragraph = box.add(L"a");
     paragraph.setSpaceBefore(L"2000pt");
     paragraph.setSpaceAfter(L"12pt");
-    Slide slide = deck.add(L"Blank");
-    slide.add(box);
-    int heard = 0;
-    action = [&](const Message&) {
-        ++heard;
-        const auto written = TextBox::cast(slide.find(L"Box").front());
-        const auto first = Paragraph::cast(written->getChildren().front());
-        first->setBold(true);
-        first->setHAlign(L"right");
-        first->setLeftIndent(L"1cm");
-    };
-    close();
-    EXPECT_EQ(heard, 1);
+    EXPECT_TRUE(writeHearing(box, [](TextBox&, Paragraph& first) {
+        first.setBold(true);
+        first.setHAlign(L"right");
+        first.setLeftIndent(L"1cm");
+    }));
     EXPECT_EQ(valuesOf(slideXml(1), "a:spcPts", "val"), (std::vector<std::string>{"158400", "1200"}));
 }
 
 TEST_F(ListenersTest, MayReplaceTheBulletOfAParagraphWhoseFormatsAreApplied) {
-    deck.setProfile(L"office");
     TextBox box(L"Box");
     Paragraph paragraph = box.add(L"a");
     paragraph.setBullet(L"1)");
     paragraph.setSpaceBefore(L"2000pt");
-    Slide slide = deck.add(L"Blank");
-    slide.add(box);
-    int heard = 0;
-    action = [&](const Message&) {
-        ++heard;
-        const auto written = TextBox::cast(slide.find(L"Box").front());
-        Paragraph::cast(written->getChildren().front())->setBullet(L"-");
-    };
-    close();
-    EXPECT_EQ(heard, 1);
+    EXPECT_TRUE(writeHearing(box, [](TextBox&, Paragraph& first) { first.setBullet(L"-"); }));
     EXPECT_EQ(valuesOf(slideXml(1), "a:buAutoNum", "type"), (std::vector<std::string>{"arabicParenR"}));
 }
 

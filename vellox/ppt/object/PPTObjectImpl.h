@@ -92,8 +92,8 @@ private:
 struct ObjectAccess {
     static PPTObjectImpl* getImpl(const PPTObject& handle) { return handle.impl_; }
     static PPTObject makeHandle(PPTObjectImpl* impl) { return PPTObject(impl); }
-    /// A new facade around an implementation. Facade and count of holders are one piece of memory,
-    /// as a deck has them by the hundred thousand.
+    /// A new facade around an implementation. Facade and count of holders are one piece of memory, as a deck has them by
+    /// the hundred thousand.
     template <class Facade, class Impl> static boost::shared_ptr<Facade> makeFacade(Impl* impl) {
         boost::shared_ptr<Facade> piece(static_cast<Facade*>(nullptr), Kept<Facade>{Facade(impl)},
                                         PieceAllocator<Facade>());
